@@ -1,0 +1,10 @@
+# One interface target carries what every target of the project is compiled with.
+add_library(quillmere_options INTERFACE)
+target_compile_options(quillmere_options INTERFACE
+    -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor -Wold-style-cast
+    -Woverloaded-virtual -Wimplicit-fallthrough -Werror)
+if(QUILLMERE_SANITIZE)
+    target_compile_options(quillmere_options INTERFACE
+        -fsanitize=${QUILLMERE_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_link_options(quillmere_options INTERFACE -fsanitize=${QUILLMERE_SANITIZE})
+endif()

@@ -1,0 +1,51 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace quillmere {
+
+/// A picture of an area and its display copy.
+struct ImageEntry {
+    std::string displayFile; ///< name of the BMP shown on the surface
+    std::string displayDir;
+    std::string sourceFile; ///< the picture's name as the deck's `src` writes it
+    std::string sourceDir;
+    std::int32_t pictureHeightPx = 0; ///< the picture's own size, from its header
+    std::int32_t pictureWidthPx = 0;
+    std::int32_t heightPx = 0; ///< the size used in the card
+    std::int32_t widthPx = 0;
+    std::string alignment;
+    bool hasLayout = false; ///< `align`, `height`, `width` are written to the deck
+};
+
+/// One card of a deck. A directory ends in its separator; a path is directory followed by name.
+struct DeckRecord {
+    std::vector<ImageEntry> images = std::vector<ImageEntry>(2); ///< the last one is a spare
+    std::string designFile;
+    std::string designDir;
+    std::string wmlFile; ///< of record 0 only: the deck as generated
+    std::string wmlDir;
+    std::string deckFile; ///< the person's own file
+    std::string deckDir;
+    std::string spareDesignFile; ///< allocated and deleted with the area, never read or written
+    std::string spareDesignDir;
+    std::string pristineFile; ///< of record 0 only: the deck as opened
+    std::string pristineDir;
+    std::int16_t imageCursor = 0; ///< index in `images` that the image dialog works on
+    bool inUse = false;
+    std::int16_t surfaceKind = 0; ///< 0 or 1: which device table sets the page of the areas
+    std::vector<std::string> history = std::vector<std::string>(1); ///< at most 16, newest last
+};
+
+/// The records of a deck: one for each area and a spare one at the end.
+using Deck = std::vector<DeckRecord>;
+
+/// Number of areas: all records but the spare one.
+[[nodiscard]] inline std::size_t areaCount(const Deck& deck)
+{
+    return deck.empty() ? 0 : deck.size() - 1;
+}
+
+} // namespace quillmere

@@ -1,0 +1,15 @@
+#pragma once
+
+#include "document/session.h"
+
+#include <cstddef>
+#include <string>
+
+namespace quillmere {
+
+/// Turns WML 1.1 into design HTML, in place. Pictures are registered with the area `areaIndex`.
+/// Returns whether a card tag became a card marker. Throws InvalidArgument for a value without its
+/// closing quote, TypeMismatch for a size that is no number, Overflow.
+bool WmlToDesign(std::string& text, std::size_t areaIndex, DocumentSession& session);
+
+} // namespace quillmere
