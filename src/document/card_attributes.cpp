@@ -73,14 +73,16 @@ namespace {
         return valueOf(text, key, at, end);
     }
 
-    std::string quoted(std::string_view key, std::string_view value)
+    /// ` key="value"`, to be put into a marker.
+    std::string attribute(std::string_view key, std::string_view value)
     {
-        return std::string(key).append("\"").append(value).append("\"");
+        return std::string(" ").append(key).append("\"").append(value).append("\"");
     }
 
     bool bearsName(std::string_view text, std::string_view name)
     {
-        return findIgnoringCase(text, lowerCase(quoted("name=", name))) != npos;
+        const auto key = std::string("name=\"").append(lowerCase(name)).append("\"");
+        return findIgnoringCase(text, key) != npos;
     }
 
     std::string unusedJumpName(std::string_view text, std::string_view wanted)
@@ -98,7 +100,7 @@ namespace {
         if (const auto old = valueInDo(text, at, key))
             text.replace(old->begin, old->end - old->begin, value);
         else
-            text.insert(at + kAcceptDo.size(), " " + quoted(key, value) + " ");
+            text.insert(at + kAcceptDo.size(), attribute(key, value).append(" "));
     }
 
     void changeJump(std::string& text, std::size_t at, const Jump& jump)
@@ -114,10 +116,11 @@ namespace {
         const auto card = findIgnoringCase(text, "<!--card");
         const auto end = card == npos ? npos : text.find('>', card);
         if (end == npos) return;
-        text.insert(end + 1,
-            "<!--do type=\"accept\" " + quoted("label=", jump.label) + " "
-                + quoted("name=", jump.name) + "--><!--go " + quoted("href=", jump.target)
-                + "/--><!--/do-->");
+        std::string block = "<!--do type=\"accept\"";
+        block.append(attribute("label=", jump.label)).append(attribute("name=", jump.name));
+        block.append("--><!--go").append(attribute("href=", jump.target));
+        block.append("/--><!--/do-->");
+        text.insert(end + 1, block);
     }
 
 } // namespace
@@ -144,7 +147,7 @@ void SetCardAttributes(
             changed.drop(marker->title->begin, marker->title->end);
             changed.insert(marker->title->end, title);
         } else {
-            changed.insert(marker->id.end + 1, quoted(" title=", title));
+            changed.insert(marker->id.end + 1, attribute("title=", title));
         }
     }
     WriteDesignText(session, areaIndex, changed.take());

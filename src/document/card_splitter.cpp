@@ -60,7 +60,7 @@ bool CardSplitter::takeHead(std::string& head)
     // npos is the greatest offset, so that comparisons hold for what is missing, too.
     const bool isWhole = card < cardEnd && secondCard() >= cardEnd;
     if (!isWhole) {
-        if (rest().size() + kCorrectedHead.size() > kMaxTextLength) throw Overflow();
+        requireAddressableLength(rest().size() + kCorrectedHead.size());
         head = kCorrectedHead;
         return true;
     }

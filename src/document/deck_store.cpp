@@ -13,6 +13,7 @@
 #include "document/paths.h"
 #include "document/radio_buttons.h"
 #include "document/wml_layout.h"
+#include "document/word_ids.h"
 
 #include <algorithm>
 #include <utility>
@@ -25,7 +26,6 @@ namespace {
           "<!DOCTYPE wml PUBLIC \"-//WAPFORUM//DTD WML 1.1//EN\""
           " \"http://www.wapforum.org/DTD/wml_1.1.xml\">"
           "<wml>";
-    constexpr int kJumpLabelWord = 136;
     constexpr std::ptrdiff_t kHistoryLength = 16;
 
     std::string newAreaId(std::size_t areaIndex)
@@ -40,11 +40,12 @@ namespace {
         area.designFile = session.workFiles.createFile(kWorkFilePrefix, kDesignFileSuffix);
         area.designDir = session.workFiles.directory();
         const int kind = session.deck.front().surfaceKind;
-        session.workFiles.write(area.designDir + area.designFile,
-            "<!--card id=\"" + newAreaId(areaIndex)
-                + "\" title=\"Nicht festgelegt\" newcontext=\"true\"-->\r\n"
-                + designPageLines(session, kind, PageSection::Head)
-                + designPageLines(session, kind, PageSection::Tail));
+        std::string page = "<!--card id=\"";
+        page.append(newAreaId(areaIndex));
+        page.append("\" title=\"Nicht festgelegt\" newcontext=\"true\"-->\r\n");
+        page += designPageLines(session, kind, PageSection::Head);
+        page += designPageLines(session, kind, PageSection::Tail);
+        session.workFiles.write(area.designDir + area.designFile, std::move(page));
     }
 
     void startDeck(
@@ -120,7 +121,7 @@ void AddArea(DocumentSession& session, bool isFirst, const std::string& deckFile
     const auto index = appendArea(session);
     if (!GetJump(session, index - 1).target.empty()) return;
     SetJump(session, index - 1,
-        {{}, session.words.GetWord(kJumpLabelWord), "#" + newAreaId(index)});
+        {{}, session.words.GetWord(word::kJumpLabel), std::string("#").append(newAreaId(index))});
 }
 
 void WriteDeck(DocumentSession& session)
