@@ -3,6 +3,7 @@
 #include "literal/cleaning.h"
 #include "literal/conversions.h"
 #include "literal/corrections.h"
+#include "literal/radio_buttons.h"
 
 #include <gtest/gtest.h>
 
@@ -227,6 +228,27 @@ TEST(LiteralExamples, DesignToWml)
             R"(<card id="A" title="B">x</card>)"},
     });
     EXPECT_THROW((void)kWml(R"(<a href="x>)"), std::runtime_error);
+}
+
+TEST(LiteralExamples, RadioButtons)
+{
+    const std::string options = R"(<!--option onpick="a\b"-->1<!--/option-->)"
+                                R"(<!--option onpick=#x value="1"-->2<!--/option-->)"
+                                R"(<!--option-->3<!--/option-->)";
+    const std::string buttons
+        = R"~(<!--option onpick="a\b"--><input type=radio name="TempName1" )~"
+          R"~(onclick="javascript:navigate('a/b')">1<!--/option-->)~"
+          R"~(<!--option onpick=#x value="1"--><input type=radio name="TempName2" )~"
+          R"~(onclick="javascript:navigate('#x')">2<!--/option-->)~"
+          R"~(<!--option--><input type=radio name="TempName3">3<!--/option-->)~";
+    constexpr auto kDelete = applied<DeleteAllTemporaeryRadioButtons>;
+    expectAll({
+        {"insert", applied<InsertTemporaeryRadioButtons>, options, buttons},
+        {"delete", kDelete, buttons, options},
+        {"several in one", kDelete, "<!--option--><INPUT><input>a<!--/option--><input>",
+            "<!--option-->a<!--/option--><input>"},
+        {"no end", kDelete, "<!--option--><input>a", "<!--option--><input>a"},
+    });
 }
 
 } // namespace
