@@ -1,0 +1,110 @@
+// Holds the slow versions, which judge the fast ones, against examples.
+
+#include "literal/corrections.h"
+
+#include <gtest/gtest.h>
+
+namespace quillmere::literal {
+namespace {
+
+struct Example {
+    const char* name;
+    std::string (*apply)(std::string);
+    std::string before;
+    std::string after;
+};
+
+void expectAll(std::initializer_list<Example> examples)
+{
+    for (const Example& example : examples) {
+        SCOPED_TRACE(example.name);
+        EXPECT_EQ(example.apply(example.before), example.after) << example.before;
+    }
+}
+
+/// Makes a function of an operation that works in place.
+template <void (*operation)(std::string&)> std::string applied(std::string text)
+{
+    operation(text);
+    return text;
+}
+
+std::string doBlockApart(std::string text)
+{
+    const std::string block = TakeDoBlock(text);
+    return block + "|" + text;
+}
+
+std::string imagesWrapped(std::string text)
+{
+    WrapInParagraph(text, "<img", "</img");
+    return text;
+}
+
+std::string boldSplit(std::string text)
+{
+    SplitAtParagraphs(text, "<b>", "</b>");
+    return text;
+}
+
+/// The text and the pristine text stand on the two sides of a bar.
+std::string whitespaceRestored(std::string text)
+{
+    const std::size_t bar = text.find('|');
+    const std::string pristine = text.substr(bar + 1);
+    text.resize(bar);
+    RestoreWhitespace(text, pristine);
+    return text;
+}
+
+TEST(LiteralExamples, Formats)
+{
+    constexpr auto kNesting = applied<RepairNesting>;
+    constexpr auto kSelect = applied<RepairFormatAroundSelect>;
+    constexpr auto kOverlap = applied<RepairFormatNesting>;
+    expectAll({
+        {"end alone", kNesting, "</u>text", "text"},
+        {"beginning alone", kNesting, "<i>a<i>b", "ab"},
+        {"nested beginning", kNesting, "<i>a<i>b</i>", "<i>ab</i>"},
+        {"b is none of the pairs", kNesting, "<b>x", "<b>x"},
+        {"around a list", kSelect, "<b><select>..</select></b>", "<select>..</select>"},
+        {"in a list", kSelect, "<select><b>1</b><b>2</b></select>", "<select>12</select>"},
+        {"into a list", kSelect, "<u>a<select>1</u></select>", "a<select>1</select>"},
+        {"beside a list", kSelect, "<u>a</u><select></select>", "<u>a</u><select></select>"},
+        {"ends behind", kOverlap, "<b>1<i>2</b>3</i>", "<b>1<i>2</i></b>3"},
+        {"begins ahead", kOverlap, "<i>1<big>2</i>3</big>", "<i>1<big>2</big></i>3"},
+    });
+}
+
+TEST(LiteralExamples, Paragraphs)
+{
+    constexpr auto kRepair = applied<RepairParagraphs>;
+    expectAll({
+        {"text ahead", kRepair, "<card id=\"a\">x<p>y</p></card>",
+            "<card id=\"a\"><p>x<p>y</p></card>"},
+        {"signs ahead", kRepair, "<card>...<p>y</p></card>", "<card>...<p>y</p></card>"},
+        {"text behind", kRepair, "<card><p>y</p>x</card>", "<card><p>y</p>x</card>"},
+        {"doubled end", kRepair, "<p>a</p>b</p><p></p>", "<p>a</p>b<p></p>"},
+        {"outside", imagesWrapped, "<p>a</p><img></img>", "<p>a</p><p><img></img></p>"},
+        {"inside", imagesWrapped, "<p><img></img></p>", "<p><img></img></p>"},
+        {"across", boldSplit, "<p><b>1</p><p>2</b></p>", "<p><b>1</b></p><p><b>2</b></p>"},
+        {"without text", boldSplit, "<b> <i></i></b>x", " <i></i>x"},
+    });
+}
+
+TEST(LiteralExamples, Layout)
+{
+    constexpr auto kBreak = applied<BreakWmlLines>;
+    expectAll({
+        {"do block", doBlockApart, "<do a>1</do> <do b>2</do><p></p></card>",
+            "<do a>1</do> <do b>2</do>|<p></p></card>"},
+        {"no end ahead of the card's", doBlockApart, "<do><p></card></do>", "|<do><p></card></do>"},
+        {"break, no indent", kBreak, "<wml><card id=\"a\">", "\r\n<wml>\r\n<card id=\"a\">"},
+        {"in the line", kBreak, "<wml>a<i>b</i></wml>", "\r\n<wml>a<i>b</i>\r\n</wml>"},
+        {"gaps come back", whitespaceRestored, "<a><p>x</p></a>|<a>\n\n<p> y </p>\n</a>",
+            "<a>\n\n<p> x </p>\n</a>"},
+    });
+}
+
+} // namespace
+} // namespace quillmere::literal
