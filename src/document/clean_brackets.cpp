@@ -16,10 +16,11 @@ namespace {
         for (auto end = text.find(opposite); end != npos; end = text.find(opposite, begin)) {
             const auto piece = std::string_view(text).substr(begin, end - begin);
             const auto first = piece.find(bracket);
-            if (first != npos) rewriter.drop(begin + first, begin + piece.rfind(bracket));
+            const bool doubled = first != npos && piece.find(bracket, first + 1) != npos;
+            if (doubled) rewriter.drop(begin + first, begin + piece.rfind(bracket));
             begin = end + 1;
         }
-        text = rewriter.take();
+        if (rewriter.position() > 0) text = rewriter.take();
     }
 
 } // namespace

@@ -4,7 +4,6 @@
 #include "document/clean_paragraphs.h"
 
 #include <algorithm>
-#include <optional>
 
 namespace quillmere {
 namespace {
@@ -36,6 +35,7 @@ namespace {
         ParagraphRun(EditedText& text, std::size_t first)
             : text_(text)
             , first_(first)
+            , firstEnd_(text.tagEnd(first))
         {
         }
 
@@ -52,27 +52,39 @@ namespace {
             if (next == npos || text_.find(kParagraphEnd, first_ + 1) < next) return false;
             const auto nextEnd = text_.tagEnd(next);
             if (nextEnd == npos) return false;
-            if (!isAligned(text_, next, nextEnd)) {
-                text_.cut(next, nextEnd);
-            } else if (next < text_.tagEnd(first_)) { // "<p <p align=center>" is the second tag
-                text_.cut(first_, next);
-            } else {
-                replacement_ = text_.copy(next, nextEnd);
-                text_.cut(next, nextEnd);
-                if (replacement_.find('<', 1) != npos) settle();
+            const bool aligned = isAligned(text_, next, nextEnd);
+            if (next < firstEnd_) {
+                mergeInner(next, nextEnd, aligned);
+                return true;
             }
+            if (aligned) replacement_ = text_.copy(next, nextEnd);
+            text_.cut(next, nextEnd);
+            if (aligned && replacement_.find('<', 1) != npos) settle();
             return true;
+        }
+
+        // In "<p <p align=center>" the inner tag is the second one.
+        void mergeInner(std::size_t inner, std::size_t innerEnd, bool aligned)
+        {
+            if (aligned) {
+                text_.cut(first_, inner);
+            } else {
+                text_.cut(inner, innerEnd);
+            }
+            firstEnd_ = text_.tagEnd(first_);
         }
 
         void settle()
         {
             if (replacement_.empty()) return;
-            text_.replace(first_, text_.tagEnd(first_), replacement_);
+            text_.replace(first_, firstEnd_, replacement_);
+            firstEnd_ = first_ + replacement_.size();
             replacement_.clear();
         }
 
         EditedText& text_;
         std::size_t first_;
+        std::size_t firstEnd_;
         std::string replacement_; // empty: the first tag stays
     };
 
@@ -81,8 +93,9 @@ namespace {
     {
         for (auto end = text.rfind('<'); end != npos && end > 0;) {
             const auto tag = text.rfind('<', end - 1);
-            const auto behindTag = text.find('>', tag == npos ? 0 : tag);
-            if (behindTag < end && text.find_first_not_of(' ', behindTag + 1) < end) return end;
+            const auto piece = text.substr(0, end).substr(tag == npos ? 0 : tag);
+            const auto tagEnd = piece.find('>');
+            if (tagEnd != npos && piece.find_first_not_of(' ', tagEnd + 1) != npos) return end;
             end = tag;
         }
         return 0;
@@ -102,13 +115,10 @@ namespace {
         return behind;
     }
 
-    // Melts the paragraph at `next` into the one at `first` and returns where to go on.
-    std::optional<std::size_t> melt(EditedText& text, std::size_t first, std::size_t next)
+    // Melts the second of two plain paragraphs into the first. Their tags reach from `first` and
+    // `next` to `nextEnd`. Returns where the walk goes on.
+    std::size_t melt(EditedText& text, std::size_t first, std::size_t next, std::size_t nextEnd)
     {
-        const auto nextEnd = text.tagEnd(next);
-        if (nextEnd == npos) return std::nullopt;
-        if (isAligned(text, first, text.tagEnd(first)) || isAligned(text, next, nextEnd))
-            return next;
         text.cut(next, nextEnd);
         // The walk steps back by what was dropped, although nothing ahead of it has moved. So in
         // "</p><p><p class="a">" the end ahead of the first paragraph is the one that goes.
@@ -116,7 +126,7 @@ namespace {
         const auto end = text.find(kParagraphEnd, back == 0 ? 0 : back - 1);
         const auto length = end == npos ? 0 : text.cutTag(end);
         if (length > 0) back -= std::min(back, length - 1);
-        return text.find(kParagraph, back);
+        return back;
     }
 
 } // namespace
@@ -155,9 +165,13 @@ void mergePlainParagraphs(EditedText& text)
 {
     for (auto first = text.find(kParagraph); first != npos;) {
         const auto next = text.find(kParagraph, first + 1);
-        const auto resumed = next == npos ? std::nullopt : melt(text, first, next);
-        if (!resumed) return;
-        first = *resumed;
+        const auto nextEnd = next == npos ? npos : text.tagEnd(next);
+        if (nextEnd == npos) return;
+        if (isAligned(text, first, text.tagEnd(first)) || isAligned(text, next, nextEnd)) {
+            first = next;
+        } else {
+            first = text.find(kParagraph, melt(text, first, next, nextEnd));
+        }
     }
 }
 

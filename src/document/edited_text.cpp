@@ -12,6 +12,7 @@ namespace quillmere {
 namespace {
 
     constexpr std::size_t kSmallestGap = 256;
+    constexpr std::size_t kBackwardStep = 512; // read forward, which is faster
 
     bool isSmallLetter(char character)
     {
@@ -42,11 +43,15 @@ std::string EditedText::copy(std::size_t begin, std::size_t end) const
 
 std::size_t EditedText::find(std::string_view key, std::size_t from, std::size_t limit)
 {
-    if (from > size()) return npos;
+    if (from > size() || from >= limit) return npos;
     Search& known = remembered(key);
     if (from < known.from) {
-        const auto nearer = findFrom(key, from, known.from);
-        if (nearer != npos) known = { key, from, nearer, true };
+        const auto nearEnd = std::min(limit, known.from);
+        const auto nearer = findFrom(key, from, nearEnd);
+        if (nearer != npos || nearEnd < known.from) {
+            keepLonger(known, { key, from, std::min(nearer, nearEnd), nearer != npos });
+            return nearer;
+        }
         known.from = from;
     } else if (from > known.to) {
         known = { key, from, from, false };
@@ -61,8 +66,13 @@ std::size_t EditedText::find(std::string_view key, std::size_t from, std::size_t
 
 std::size_t EditedText::findLast(std::string_view key, std::size_t before) const
 {
-    for (auto at = std::min(before, size()); at-- > 0;) {
-        if (standsHere(key, at)) return at;
+    for (auto end = std::min(before, size()); end > 0;) {
+        const auto begin = end - std::min(end, kBackwardStep);
+        auto last = npos;
+        for (auto at = findFrom(key, begin, end); at != npos; at = findFrom(key, at + 1, end))
+            last = at;
+        if (last != npos) return last;
+        end = begin;
     }
     return npos;
 }
@@ -97,6 +107,12 @@ std::string EditedText::take() &&
     buffer_.erase(gapBegin_, gapEnd_ - gapBegin_);
     gapEnd_ = gapBegin_;
     return std::move(buffer_);
+}
+
+// Of two pieces of knowledge that do not touch the longer one would cost more to find again.
+void EditedText::keepLonger(Search& known, const Search& other)
+{
+    if (other.to - other.from > known.to - known.from) known = other;
 }
 
 EditedText::Search& EditedText::remembered(std::string_view key)
@@ -188,10 +204,11 @@ void EditedText::adjust(Search& search, const Change& change) const
         search.found = false;
     } else {
         const auto again = std::max(std::min(search.from, change.begin), untouched);
-        const bool formed = findFrom(search.key, again, change.newEnd) != npos;
-        // A key formed here stands ahead of the known answer; the farther one is asked for next.
-        search.from = formed ? change.newEnd : std::min(search.from, again);
+        const auto formed = findFrom(search.key, again, change.newEnd);
+        const auto from = std::min(search.from, again);
+        search.from = formed == npos ? from : change.newEnd;
         search.to = moved(search.to);
+        if (formed != npos) keepLonger(search, { search.key, from, formed, true });
     }
 }
 

@@ -61,6 +61,7 @@ private:
         std::size_t newEnd;
     };
 
+    static void keepLonger(Search& known, const Search& other);
     [[nodiscard]] Search& remembered(std::string_view key);
     [[nodiscard]] std::size_t findFrom(
         std::string_view key, std::size_t begin, std::size_t limit) const;
