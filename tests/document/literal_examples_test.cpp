@@ -1,8 +1,11 @@
 // Holds the slow versions, which judge the fast ones, against examples.
 
+#include "literal/cleaning.h"
 #include "literal/corrections.h"
 
 #include <gtest/gtest.h>
+
+#include <stdexcept>
 
 namespace quillmere::literal {
 namespace {
@@ -103,6 +106,66 @@ TEST(LiteralExamples, Layout)
         {"in the line", kBreak, "<wml>a<i>b</i></wml>", "\r\n<wml>a<i>b</i>\r\n</wml>"},
         {"gaps come back", whitespaceRestored, "<a><p>x</p></a>|<a>\n\n<p> y </p>\n</a>",
             "<a>\n\n<p> x </p>\n</a>"},
+    });
+}
+
+/// The pass whose name begins with `number`.
+template <char tens, char ones> std::string pass(std::string text)
+{
+    const std::string number{tens, ones};
+    for (const Pass& pass : cleanPasses())
+        if (std::string_view(pass.name).substr(0, 2) == number) return pass.apply(text);
+    return "no such pass";
+}
+
+TEST(LiteralExamples, PassesOfTheCleaning)
+{
+    constexpr auto kPairs = pass<'3', ' '>;
+    constexpr auto kRuns = pass<'1', '0'>;
+    expectAll({
+        {"do without go", pass<'1', ' '>, "a<!--do x--><!--/do-->b", "ab"},
+        {"orphan end", pass<'2', ' '>, "<!--/option--><!--option-->", "<!--option-->"},
+        {"lone option", kPairs, "<!--option--><input>a<b>",
+            "<!--option--><input>a<!--/option--><b>"},
+        {"option ends late", kPairs, "<!--option-->1<!--option-->2<!--/option--><!--/select-->",
+            "<!--option-->1<!--/option--><!--option-->2<!--/option--><!--/select-->"},
+        {"doubled end", kPairs, "<!--option-->1<!--/option-->2<!--/option-->",
+            "<!--option-->1<!--/option-->2"},
+        {"do block last", pass<'7', ' '>, "a<!--do--><!--/do-->b",
+            "ab<!--do--><!--/do--><!--/card-->"},
+        {"empty paragraph", pass<'8', ' '>, "<P>&nbsp;</P>x", "<br/>x"},
+        {"cells", pass<'9', ' '>, "<table><tr><td><P>a</P></td></tr> x <tr></tr>y</table>",
+            "<table><tr><td>a<br/></td></tr><tr></tr></table>"},
+        {"table without end", pass<'9', ' '>, "<table><tr></tr>x<table>",
+            "<table><tr></tr></table>x<table>"},
+        {"run", kRuns, "<p>1<p>2<p>3</p>", "<p>123</p>"},
+        {"aligned run", kRuns, "<p>1<p align=right>2</p>", "<p align=right>12</p>"},
+        {"no end", kRuns, "<p>1</p><p>2", "<p>1</p>2"},
+        {"behind the last text", pass<'1', '1'>, "<p>1</p><p></p><br><!--/card-->",
+            "<p>1<!--/card-->"},
+        {"merge", pass<'1', '2'>, "<p>1</p><p>2</p><p>3</p><p align=left>4</p>",
+            "<p>123</p><p align=left>4</p>"},
+        {"ends", pass<'1', '3'>, "<p>1</p>2</p><p></p>", "<p>12</p><p></p>"},
+        {"break outside", pass<'1', '7'>, "<br><p><br></p><br>", "<p><br></p>"},
+        {"doubled brackets", pass<'2', '2'>, "<<p>>x", "<p>>x"},
+    });
+    EXPECT_THROW((void)kPairs("<!--option--><!--option--><!--/option-->"), std::runtime_error);
+}
+
+TEST(LiteralExamples, WholeCleaning)
+{
+    constexpr auto kClean = applied<CleanDesignHtml>;
+    expectAll({
+        {"text only", kClean, "<BODY>Hello</BODY>", "<BODY><p>Hello</BODY></p><!--/card-->"},
+        {"text and do", kClean, "<BODY>Hi<!--do x--><!--go--><!--/go--><!--/do--></BODY>",
+            "<BODY><p>Hi</BODY></p><!--do x--><!--go--><!--/go--><!--/do--><!--/card-->"},
+        {"empty", kClean, "<BODY></BODY>", "<BODY></BODY><p></p><!--/card-->"},
+        {"option alone", kClean, "<p>x</p><!--option value=\"1\"-->a<p>y</p>",
+            "<p>x<!--select--><!--option value=\"1\"-->a<!--/option--><!--/select-->y</p>"
+            "<!--/card-->"},
+        {"letters", kClean, "<p>M\xFCller, caf\xE9</p>", "<p>Mueller, caf</p><!--/card-->"},
+        {"empty paragraph", kClean, "<p>x</p><P>&nbsp;</P>", "<p>x</p><!--/card-->"},
+        {"blanks", kClean, "<p>a  b </p>", "<p>a  b</p><!--/card-->"},
     });
 }
 
