@@ -1,6 +1,6 @@
-// Cutting the character behind the first of two brackets, again and again until no second one is
-// left, cuts all from there through the last. In "<b<i>" the text between goes as well; this is
-// wanted. Held by clean_passes_test.cpp.
+// One character goes for each bracket that is followed by another of its kind, and the walk goes on
+// with what follows. So "<<p>" becomes "<p>", but "<<<p>" only "<<p>", and "<b<i>" loses its "b";
+// this is wanted. Held by clean_passes_test.cpp.
 
 #include "document/clean_brackets.h"
 
@@ -9,26 +9,27 @@
 namespace quillmere {
 namespace {
 
-    void mergeBrackets(std::string& text, char bracket, char opposite)
+    void thinOut(std::string& text, char bracket, char opposite)
     {
         Rewriter rewriter(text);
-        std::size_t begin = 0;
-        for (auto end = text.find(opposite); end != npos; end = text.find(opposite, begin)) {
-            const auto piece = std::string_view(text).substr(begin, end - begin);
-            const auto first = piece.find(bracket);
-            const bool doubled = first != npos && piece.find(bracket, first + 1) != npos;
-            if (doubled) rewriter.drop(begin + first, begin + piece.rfind(bracket));
-            begin = end + 1;
+        auto closed = text.find(opposite);
+        auto at = text.find(bracket);
+        while (at != npos && closed != npos) {
+            if (closed < at) closed = text.find(opposite, at);
+            const auto next = text.find(bracket, at + 1);
+            const bool doubled = next < closed && closed != npos;
+            if (doubled) rewriter.drop(at + 1, at + 2);
+            at = doubled && next == at + 1 ? text.find(bracket, at + 2) : next;
         }
         if (rewriter.position() > 0) text = rewriter.take();
     }
 
 } // namespace
 
-void mergeDoubledBrackets(std::string& text)
+void thinOutBrackets(std::string& text)
 {
-    mergeBrackets(text, '<', '>');
-    mergeBrackets(text, '>', '<');
+    thinOut(text, '<', '>');
+    thinOut(text, '>', '<');
 }
 
 } // namespace quillmere

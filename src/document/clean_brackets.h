@@ -4,8 +4,8 @@
 
 namespace quillmere {
 
-/// Leaves one '<' ahead of each '>', and one '>' ahead of each '<', cutting what stands between
-/// the first and the last of them.
-void mergeDoubledBrackets(std::string& text);
+/// Cuts the character behind each '<' that another '<' follows ahead of the next '>'; then the same
+/// for '>' ahead of '<'.
+void thinOutBrackets(std::string& text);
 
 } // namespace quillmere

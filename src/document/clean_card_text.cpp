@@ -4,6 +4,7 @@
 #include "document/clean_paragraphs.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace quillmere {
 namespace {
@@ -17,38 +18,32 @@ namespace {
     constexpr std::string_view kNewParagraph = "<p>";
     constexpr std::string_view kNewParagraphEnd = "</p>";
 
-    struct Pair {
+    struct TagPair {
         std::string_view begin;
         std::string_view end;
     };
-    constexpr Pair kWithOwnText[] = { { "<table", "</table" }, { "<!--select", "<!--/select" } };
+    // Tables and lists keep their text to themselves; of the rest only the tags are no text.
+    constexpr TagPair kWithoutLooseText[]
+        = { { "<table", "</table" }, { "<!--select", "<!--/select" }, { "<", ">" } };
 
-    // Behind a table or list that begins at `tag`; `tag` where neither does.
-    std::size_t skipTableOrList(EditedText& text, std::size_t tag)
+    void cutElements(EditedText& text, const TagPair& pair)
     {
-        for (const auto& [begin, end] : kWithOwnText) {
-            if (text.find(begin, tag, tag + 1) == tag) return text.find(end, tag);
+        for (auto at = text.find(pair.begin); at != npos; at = text.find(pair.begin, at)) {
+            const auto end = text.find(pair.end, at);
+            const auto behind = end == npos ? npos : text.tagEnd(end);
+            if (behind == npos) return;
+            text.cut(at, behind);
         }
-        return tag;
     }
 
-    bool hasOnlyBlanks(const EditedText& text, std::size_t begin, std::size_t end)
+    bool hasLooseText(std::string content)
     {
-        for (auto at = begin; at < end; ++at) {
-            if (text[at] != ' ') return false;
-        }
-        return true;
-    }
-
-    bool hasLooseText(EditedText& text, std::size_t begin, std::size_t end)
-    {
-        for (auto at = begin; at < end;) {
-            const auto tag = std::min(text.find("<", at), end);
-            if (!hasOnlyBlanks(text, at, tag)) return true;
-            if (tag == end) return false;
-            at = text.tagEnd(skipTableOrList(text, tag));
-        }
-        return false;
+        EditedText text(std::move(content));
+        for (const auto& pair : kWithoutLooseText)
+            cutElements(text, pair);
+        const auto rest = std::move(text).take();
+        return std::ranges::any_of(
+            rest, [](char character) { return static_cast<unsigned char>(character) > ' '; });
     }
 
     // Where the content of the area begins: behind the body's tag or, without one, the card's.
@@ -81,7 +76,7 @@ void ensureParagraph(EditedText& text)
     if (cardEnd == npos || text.find(kParagraph) != npos) return;
     const auto begin = contentBegin(text);
     const auto end = std::min(text.find(kDo, begin), text.find(kCardEnd, begin));
-    if (end != npos && hasLooseText(text, begin, end)) {
+    if (end != npos && hasLooseText(text.copy(begin, end))) {
         text.insert(end, kNewParagraphEnd);
         text.insert(begin, kNewParagraph);
     } else {

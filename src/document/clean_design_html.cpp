@@ -86,7 +86,7 @@ namespace {
         { "formats of one paragraph", splitFormats },
         { "format nesting", RepairFormatNesting },
         { "doubled paragraph ends again", edit<dropDoubledParagraphEnds> },
-        { "doubled brackets", mergeDoubledBrackets },
+        { "doubled brackets", thinOutBrackets },
     };
 
 } // namespace

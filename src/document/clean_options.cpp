@@ -19,12 +19,16 @@ namespace {
     constexpr std::string_view kNewOptionEnd = "<!--/option-->";
 
     // A lone option ends ahead of the next tag, but a radio button belongs to its text.
-    std::size_t endOfLoneOption(EditedText& text, std::size_t option)
+    void endLoneOption(EditedText& text, std::size_t option)
     {
-        auto at = text.find("<", option + 1);
-        while (at != npos && text.find(kRadioButton, at, at + 1) == at)
-            at = text.find("<", at + 1);
-        return std::min(at, text.size());
+        auto behind = text.tagEnd(option);
+        if (behind == npos) return;
+        auto tag = text.find("<", behind);
+        while (tag != npos && text.find(kRadioButton, tag, tag + 1) == tag) {
+            behind = text.tagEnd(tag);
+            tag = behind == npos ? npos : text.find("<", behind);
+        }
+        text.insert(std::min(tag, text.size()), kNewOptionEnd);
     }
 
     void completeOption(EditedText& text, std::size_t option)
@@ -36,9 +40,10 @@ namespace {
         if (end != npos) {
             if (listEnd == npos) throw InvalidArgument();
             text.insert(std::min(next, listEnd), kNewOptionEnd);
+        } else if (next == npos && listEnd != npos) {
+            text.insert(listEnd, kNewOptionEnd);
         } else if (next == npos) {
-            const bool inList = listEnd != npos;
-            text.insert(inList ? listEnd : endOfLoneOption(text, option), kNewOptionEnd);
+            endLoneOption(text, option);
         }
         // An option without any end behind it that another one follows stays as it is, as the
         // first one of "<!--option-->a<!--option-->b<!--/select-->" does.
