@@ -4,6 +4,7 @@
 
 #include "document/radio_buttons.h"
 
+#include "document/edited_text.h"
 #include "document/limits.h"
 #include "document/text_search.h"
 
@@ -16,21 +17,24 @@ namespace {
 
     constexpr std::string_view kOption = "<!--option";
     constexpr std::string_view kOptionEnd = "<!--/option";
+    constexpr std::string_view kInput = "<input";
 
-    /// What an option marker without its ">" leads to. A value in quotes that holds a ">" is none:
-    /// the button would end at it, and its rest would stay as text.
+    /// What an option marker, without its ">", leads to. A value in quotes that holds a ">" is none:
+    /// the button would end at it, and its rest would stay as text. Of `onpick=#a--` without quotes
+    /// the dashes of the marker's end are part of the target.
     std::string_view targetOf(std::string_view marker)
     {
         constexpr std::string_view kKey = "onpick=";
-        constexpr std::string_view kMarkerEnd = "--";
-        const auto key = findIgnoringCase(marker, kKey);
-        if (key == npos) return {};
-        auto value = marker.substr(key + kKey.size());
-        if (value.starts_with('"')) {
-            const auto close = value.find('"', 1);
-            return close == npos ? std::string_view {} : value.substr(1, close - 1);
+        constexpr std::string_view kQuotedKey = "onpick=\"";
+        const auto quoted = findIgnoringCase(marker, kQuotedKey);
+        if (quoted != npos) {
+            const auto value = marker.substr(quoted + kQuotedKey.size());
+            const auto close = value.find('"');
+            return close == npos ? std::string_view {} : value.substr(0, close);
         }
-        if (value.ends_with(kMarkerEnd)) value.remove_suffix(kMarkerEnd.size());
+        const auto plain = findIgnoringCase(marker, kKey);
+        if (plain == npos) return {};
+        const auto value = marker.substr(plain + kKey.size());
         return value.substr(0, value.find(' '));
     }
 
@@ -45,18 +49,13 @@ namespace {
         return tag + '>';
     }
 
-    /// Drops the inputs that begin between `from` and `to`.
-    void dropInputs(
-        Rewriter& result, std::string_view source, std::size_t from, std::size_t to)
+    /// Cuts the first input between the option marker and its end; false where there is none.
+    bool cutInput(EditedText& text, std::size_t option)
     {
-        const auto searched = source.substr(0, to);
-        auto input = findIgnoringCase(searched, "<input", from);
-        while (input != npos) {
-            const auto end = source.find('>', input);
-            if (end == npos) return;
-            result.drop(input, end + 1);
-            input = findIgnoringCase(searched, "<input", end + 1);
-        }
+        const auto end = text.find(kOptionEnd, option);
+        if (end == npos) return false;
+        const auto input = text.find(kInput, option, end);
+        return input < end && text.cutTag(input) != 0;
     }
 
 } // namespace
@@ -83,16 +82,13 @@ void InsertTemporaeryRadioButtons(std::string& text)
 
 void DeleteAllTemporaeryRadioButtons(std::string& text)
 {
-    const std::string_view source = text;
-    Rewriter result(source);
-    auto option = findIgnoringCase(source, kOption);
-    while (option != npos) {
-        const auto close = findIgnoringCase(source, kOptionEnd, option);
-        if (close == npos) break;
-        dropInputs(result, source, option, close);
-        option = findIgnoringCase(source, kOption, std::max(close, result.position()));
+    if (findIgnoringCase(text, kOption) == npos) return;
+    EditedText edited(std::move(text));
+    for (auto option = edited.find(kOption); option != npos;
+         option = edited.find(kOption, option + 1)) {
+        while (cutInput(edited, option)) { }
     }
-    text = result.take();
+    text = std::move(edited).take();
 }
 
 } // namespace quillmere
