@@ -70,7 +70,7 @@ void InsertTemporaeryRadioButtons(std::string& text)
         const auto end = source.find('>', option);
         if (end == npos) break;
         result.insert(end + 1, button(++number, targetOf(source.substr(option, end - option))));
-        const auto close = findIgnoringCase(source, kOptionEnd, option);
+        const auto close = findIgnoringCase(source, kOptionEnd, end);
         const auto closed = close == npos ? npos : source.find('>', close);
         if (closed == npos) break;
         option = findIgnoringCase(source, kOption, closed);
