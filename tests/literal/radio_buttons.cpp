@@ -36,9 +36,10 @@ void InsertTemporaeryRadioButtons(std::string& text)
     for (auto o = find(text, "<!--option"); o != npos; o = find(text, "<!--option", o)) {
         const std::size_t end = text.find('>', o);
         if (end == npos) return;
-        text.insert(end + 1, button(++number, targetOf(text.substr(o, end + 1 - o))));
-        // Reading: without a further end of an option the walk ends behind the button.
-        o = text.find('>', find(text, "<!--/option", o));
+        const std::string placed = button(++number, targetOf(text.substr(o, end + 1 - o)));
+        text.insert(end + 1, placed);
+        // Reading: the option's end is looked for behind its button; without one the walk ends.
+        o = text.find('>', find(text, "<!--/option", end + 1 + placed.size()));
     }
 }
 
