@@ -8,6 +8,7 @@
 #include <chrono>
 #include <functional>
 #include <string>
+#include <vector>
 
 namespace quillmere {
 namespace {
@@ -36,19 +37,19 @@ void expectFast(const char* name, const std::function<void()>& convert)
 
 TEST(Conversions, TakeNoLongerForTagsThatAreKept)
 {
-    const std::string closedFarAway = std::string(kLength / 2, 'x') + "\">";
+    const std::string closedFarAway = std::string(kLength / 2, 'x') + R"(">)";
     struct Row {
         const char* name;
         std::string text;
     };
-    const Row rows[] = {
+    const std::vector<Row> rows{
         {"openings, never an end", repeated("<")},
         {"openings, one end", repeated("<") + ">"},
         {"links", repeated("<a") + ">"},
         {"links without closing quote",
-            repeated("<a", kLength / 2) + "href=\"" + repeated("x", kLength / 2) + ">"},
-        {"a picture's name far away", repeated("<img ", kLength / 2) + "src=\"" + closedFarAway},
-        {"refused pictures", repeated("<img src=\"a.gif\" ") + ">"},
+            repeated("<a", kLength / 2) + R"(href=")" + repeated("x", kLength / 2) + ">"},
+        {"a picture's name far away", repeated("<img ", kLength / 2) + R"(src=")" + closedFarAway},
+        {"refused pictures", repeated(R"(<img src="a.gif" )") + ">"},
         {"do elements", repeated("<do type") + ">"},
         {"do markers", repeated("<!--do type") + ">"},
         {"tables", repeated("<table ") + ">"},
@@ -73,13 +74,13 @@ TEST(Conversions, LookUpPicturesWithoutWalkingThem)
         const auto name = "Bmp" + std::to_string(area) + ".bmp";
         open.session.deck[area].images.assign(
             20, ImageEntry{name, "/t/", name, "", 0, 0, 0, 0, "", false});
-        text += "<img src=\"/t/" + name + "\">";
+        text += R"(<img src="/t/)" + name + R"(">)";
     }
     expectFast("one area", [&] { DesignToWml(text, open.session); });
     DisplayCopyIndex pictures(open.session.deck);
     expectFast("many areas", [&] {
         for (std::size_t area = 0; area < 400; ++area) {
-            std::string own = "<img src=\"/t/Bmp" + std::to_string(area) + ".bmp\">";
+            std::string own = R"(<img src="/t/Bmp)" + std::to_string(area) + R"(.bmp">)";
             DesignToWml(own, open.session, pictures);
         }
     });
