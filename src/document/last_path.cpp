@@ -35,8 +35,8 @@ std::string GetLastPath(
     return personsFolder(places);
 }
 
-void SetLastPath(std::string_view path, std::string_view valueName, SettingsStore& settings,
-    PathStyle style)
+void SetLastPath(
+    std::string_view path, std::string_view valueName, SettingsStore& settings, PathStyle style)
 {
     settings.WriteSetting(valueName, withoutSeparator(path, style));
 }
