@@ -1,9 +1,9 @@
-// One list of fields serves both directions of a record. Held by form_table_test.cpp.
+// The layout of a record stands once, for both directions. Held by form_table_test.cpp.
 
 #include "app/form_table.h"
 
-#include "app/binary_fields.h"
 #include "app/resource_text.h"
+#include "document/record_fields.h"
 #include "document/windows1252.h"
 
 #include <algorithm>
@@ -13,92 +13,154 @@ namespace quillmere {
 
 namespace {
 
-template <typename Entry> struct TextField {
-    std::string Entry::*member;
-    std::size_t width;
+constexpr std::size_t kFormIdWidth = 50;
+constexpr std::size_t kControlIdWidth = 100;
+constexpr std::size_t kTextWidth = 500;
+constexpr std::size_t kLongWidth = 1000;
+constexpr std::size_t kShortWidth = 255;
+
+struct FormRecord {
+    static constexpr std::size_t kSize = kFormRecordSize;
+    TextField<kFormIdWidth> id;
+    TextField<kLongWidth> caption;
+    TextField<kShortWidth> img;
+    TextField<kLongWidth> rem;
+    std::int16_t skip = 0;
+    static void eachField(auto& record, auto&& field)
+    {
+        field(0, record.id);
+        field(50, record.caption);
+        field(1050, record.img);
+        field(1305, record.rem);
+        field(2305, record.skip);
+    }
 };
 
-constexpr std::size_t kIdWidth = 50;
-
-// Skip stands behind these.
-constexpr TextField<FormEntry> kFormFields[] = {
-    {&FormEntry::Id, kIdWidth},
-    {&FormEntry::Caption, 1000},
-    {&FormEntry::Img, 255},
-    {&FormEntry::Rem, 1000},
+struct ControlRecord {
+    static constexpr std::size_t kSize = kControlRecordSize;
+    TextField<kFormIdWidth> formId;
+    std::int16_t formSkip = 0;
+    TextField<kControlIdWidth> id;
+    TextField<kTextWidth> text;
+    std::int16_t index = 0;
+    TextField<kShortWidth> list;
+    TextField<kShortWidth> prefix;
+    TextField<kShortWidth> img;
+    TextField<kShortWidth> tooltip;
+    static void eachField(auto& record, auto&& field)
+    {
+        field(0, record.formId);
+        field(50, record.formSkip);
+        field(52, record.id);
+        field(152, record.text);
+        field(652, record.index);
+        field(654, record.list);
+        field(909, record.prefix);
+        field(1164, record.img);
+        field(1419, record.tooltip);
+    }
 };
 
-// FormId and FormSkip stand ahead of these, Index behind the first two.
-constexpr TextField<ControlEntry> kControlFields[] = {
-    {&ControlEntry::Id, 100},
-    {&ControlEntry::Text, 500},
-    {&ControlEntry::List, 255},
-    {&ControlEntry::Prefix, 255},
-    {&ControlEntry::Img, 255},
-    {&ControlEntry::Tooltip, 255},
-};
-
-constexpr std::size_t kFieldsAheadOfIndex = 2;
-
-template <typename Entry> struct Attribute {
-    std::string_view name;
-    TextField<Entry> field;
-};
-
-constexpr Attribute<FormEntry> kFormAttributes[] = {
-    {"id=", kFormFields[0]},
-    {"caption=", kFormFields[1]},
-    {"img=", kFormFields[2]},
-    {"rem=", kFormFields[3]},
-};
-
-constexpr Attribute<ControlEntry> kControlAttributes[] = {
-    {"id=", kControlFields[0]},
-    {"list=", kControlFields[2]},
-    {"prefix=", kControlFields[3]},
-    {"img=", kControlFields[4]},
-    {"tooltip=", kControlFields[5]},
-};
-
-template <typename Entry, std::size_t N>
-void readAttributes(Entry& entry, std::string_view tag, const Attribute<Entry> (&attributes)[N])
+/// Calls `pair` with each field of a record and its counterpart in an entry.
+void eachPair(auto& record, auto& entry, auto&& pair) requires requires
 {
-    for (const auto& [name, field] : attributes)
-        entry.*field.member = fieldText(resourceAttribute(tag, name), field.width);
+    entry.Caption;
+}
+{
+    pair(record.id, entry.Id);
+    pair(record.caption, entry.Caption);
+    pair(record.img, entry.Img);
+    pair(record.rem, entry.Rem);
+    pair(record.skip, entry.Skip);
+}
+
+void eachPair(auto& record, auto& entry, auto&& pair) requires requires
+{
+    entry.FormId;
+}
+{
+    pair(record.formId, entry.FormId);
+    pair(record.formSkip, entry.FormSkip);
+    pair(record.id, entry.Id);
+    pair(record.text, entry.Text);
+    pair(record.index, entry.Index);
+    pair(record.list, entry.List);
+    pair(record.prefix, entry.Prefix);
+    pair(record.img, entry.Img);
+    pair(record.tooltip, entry.Tooltip);
+}
+
+struct FromRecord {
+    void operator()(std::int16_t field, std::int16_t& member) const { member = field; }
+    template <std::size_t Length>
+    void operator()(const TextField<Length>& field, std::string& member) const
+    {
+        member = field.text();
+    }
+};
+
+struct IntoRecord {
+    void operator()(std::int16_t& field, std::int16_t member) const { field = member; }
+    template <std::size_t Length>
+    void operator()(TextField<Length>& field, const std::string& member) const
+    {
+        field.set(member);
+    }
+};
+
+template <typename Record, typename Entry> std::vector<Entry> entriesFrom(std::string_view bytes)
+{
+    std::vector<Entry> entries;
+    for (; bytes.size() >= Record::kSize; bytes.remove_prefix(Record::kSize)) {
+        Record record;
+        Record::eachField(record, RecordReader(bytes));
+        eachPair(record, entries.emplace_back(), FromRecord());
+    }
+    return entries;
+}
+
+template <typename Record, typename Entry> std::string bytesOf(const std::vector<Entry>& entries)
+{
+    std::string bytes;
+    bytes.reserve(entries.size() * Record::kSize);
+    for (const auto& entry : entries) {
+        Record record;
+        eachPair(record, entry, IntoRecord());
+        appendRecord(bytes, record);
+    }
+    return bytes;
 }
 
 ControlEntry controlFromText(const ResourceEntry& source, const FormEntry& form)
 {
+    const auto field = [&](std::string_view name, std::size_t width) {
+        return fieldText(resourceAttribute(source.tag, name), width);
+    };
     ControlEntry control;
-    readAttributes(control, source.tag, kControlAttributes);
     control.FormId = form.Id;
     control.FormSkip = form.Skip;
+    control.Id = field("id=", kControlIdWidth);
+    control.Text = fieldText(source.content, kTextWidth);
     control.Index = shortNumber(resourceAttribute(source.tag, "index=")).value_or(kNoArrayIndex);
-    control.Text = fieldText(source.content, kControlFields[1].width);
+    control.List = field("list=", kShortWidth);
+    control.Prefix = field("prefix=", kShortWidth);
+    control.Img = field("img=", kShortWidth);
+    control.Tooltip = field("tooltip=", kShortWidth);
     return control;
 }
 
-FormEntry formFromRecord(std::string_view bytes)
+FormEntry formFromTag(std::string_view tag)
 {
-    FieldReader record(bytes);
+    const auto field = [&](std::string_view name, std::size_t width) {
+        return fieldText(resourceAttribute(tag, name), width);
+    };
     FormEntry form;
-    for (const auto& field : kFormFields)
-        form.*field.member = record.text(field.width);
-    form.Skip = record.number();
+    form.Id = field("id=", kFormIdWidth);
+    form.Caption = field("caption=", kLongWidth);
+    form.Img = field("img=", kShortWidth);
+    form.Rem = field("rem=", kLongWidth);
+    form.Skip = shortNumber(resourceAttribute(tag, "skip=")).value_or(0);
     return form;
-}
-
-ControlEntry controlFromRecord(std::string_view bytes)
-{
-    FieldReader record(bytes);
-    ControlEntry control;
-    control.FormId = record.text(kIdWidth);
-    control.FormSkip = record.number();
-    for (std::size_t i = 0; i < std::size(kControlFields); ++i) {
-        if (i == kFieldsAheadOfIndex) control.Index = record.number();
-        control.*kControlFields[i].member = record.text(kControlFields[i].width);
-    }
-    return control;
 }
 
 } // namespace
@@ -109,53 +171,28 @@ FormTable formsFromText(std::string_view text)
     const std::string joined = withoutLineBreaks(text);
     ResourceEntries forms(joined, "<form", "</form");
     while (const auto source = forms.next()) {
-        FormEntry form;
-        readAttributes(form, source->tag, kFormAttributes);
-        form.Skip = shortNumber(resourceAttribute(source->tag, "skip=")).value_or(0);
+        const auto& form = table.forms.emplace_back(formFromTag(source->tag));
         ResourceEntries controls(source->content, "<control", "</control");
         while (const auto control = controls.next())
             table.controls.push_back(controlFromText(*control, form));
-        table.forms.push_back(std::move(form));
     }
     return table;
 }
 
 FormTable formsFromRecords(std::string_view formRecords, std::string_view controlRecords)
 {
-    FormTable table;
-    for (; formRecords.size() >= kFormRecordSize; formRecords.remove_prefix(kFormRecordSize))
-        table.forms.push_back(formFromRecord(formRecords));
-    for (; controlRecords.size() >= kControlRecordSize;
-         controlRecords.remove_prefix(kControlRecordSize))
-        table.controls.push_back(controlFromRecord(controlRecords));
-    return table;
+    return {entriesFrom<FormRecord, FormEntry>(formRecords),
+        entriesFrom<ControlRecord, ControlEntry>(controlRecords)};
 }
 
 std::string recordsOfForms(const FormTable& table)
 {
-    std::string bytes;
-    FieldWriter record(bytes);
-    for (const auto& form : table.forms) {
-        for (const auto& field : kFormFields)
-            record.text(form.*field.member, field.width);
-        record.number(form.Skip);
-    }
-    return bytes;
+    return bytesOf<FormRecord>(table.forms);
 }
 
 std::string recordsOfControls(const FormTable& table)
 {
-    std::string bytes;
-    FieldWriter record(bytes);
-    for (const auto& control : table.controls) {
-        record.text(control.FormId, kIdWidth);
-        record.number(control.FormSkip);
-        for (std::size_t i = 0; i < std::size(kControlFields); ++i) {
-            if (i == kFieldsAheadOfIndex) record.number(control.Index);
-            record.text(control.*kControlFields[i].member, kControlFields[i].width);
-        }
-    }
-    return bytes;
+    return bytesOf<ControlRecord>(table.controls);
 }
 
 const FormEntry* findForm(const FormTable& table, std::string_view name, std::int16_t variant)

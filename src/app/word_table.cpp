@@ -3,9 +3,10 @@
 
 #include "app/word_table.h"
 
-#include "app/binary_fields.h"
 #include "app/resource_text.h"
+#include "document/record_fields.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace quillmere {
@@ -18,6 +19,21 @@ constexpr std::size_t kRemWidth = 1000;
 constexpr std::size_t kMaxArguments = 10;
 constexpr std::string_view kGap = "<?>";
 constexpr std::string_view kLineBreak = "<br>";
+
+struct WordRecord {
+    static constexpr std::size_t kSize = kWordRecordSize;
+    std::int16_t id = 0;
+    TextField<kTextWidth> text;
+    TextField<kGroupWidth> group;
+    TextField<kRemWidth> rem;
+    static void eachField(auto& record, auto&& field)
+    {
+        field(0, record.id);
+        field(2, record.text);
+        field(1002, record.group);
+        field(1252, record.rem);
+    }
+};
 
 // An id has 16 bits, so a table is at most 32768 entries however large the file is.
 void store(WordTable& table, std::int16_t id, WordEntry entry)
@@ -57,13 +73,11 @@ WordTable wordsFromRecords(std::string_view bytes)
 {
     WordTable table;
     for (; bytes.size() >= kWordRecordSize; bytes.remove_prefix(kWordRecordSize)) {
-        FieldReader record(bytes.substr(0, kWordRecordSize));
-        const auto id = record.number();
-        WordEntry entry;
-        entry.text = record.text(kTextWidth);
-        entry.group = record.text(kGroupWidth);
-        entry.rem = record.text(kRemWidth);
-        store(table, id, std::move(entry));
+        WordRecord record;
+        WordRecord::eachField(record, RecordReader(bytes));
+        store(table, record.id,
+            {std::string(record.text.text()), std::string(record.group.text()),
+                std::string(record.rem.text())});
     }
     return table;
 }
@@ -72,12 +86,13 @@ std::string recordsOfWords(const WordTable& table)
 {
     std::string bytes;
     bytes.reserve(table.size() * kWordRecordSize);
-    FieldWriter record(bytes);
     for (std::size_t id = 0; id < table.size(); ++id) {
-        record.number(static_cast<std::int16_t>(id));
-        record.text(table[id].text, kTextWidth);
-        record.text(table[id].group, kGroupWidth);
-        record.text(table[id].rem, kRemWidth);
+        WordRecord record;
+        record.id = static_cast<std::int16_t>(id);
+        record.text.set(table[id].text);
+        record.group.set(table[id].group);
+        record.rem.set(table[id].rem);
+        appendRecord(bytes, record);
     }
     return bytes;
 }
