@@ -5,6 +5,7 @@
 #include "document/well_formedness.h"
 
 #include "document/character_references.h"
+#include "document/markup_cursor.h"
 #include "document/windows1252.h"
 
 #include <algorithm>
@@ -17,6 +18,41 @@ namespace {
 using Kind = MarkupToken::Kind;
 using Form = DecodedCharacter::Form;
 constexpr auto kNowhere = std::string_view::npos;
+
+bool passWord(MarkupCursor& in, std::string_view word)
+{
+    in.skipSpace();
+    if (!in.text.substr(in.at).starts_with(word)) return false;
+    in.at += word.size();
+    return true;
+}
+
+bool passLiteral(MarkupCursor& in)
+{
+    if (!isMarkupSpace(in.peek())) return false;
+    in.skipSpace();
+    const char quote = in.peek();
+    const auto end = in.text.find(quote, std::min(in.at + 1, in.text.size()));
+    if ((quote != '"' && quote != '\'') || end == kNowhere) return false;
+    in.at = end + 1;
+    return true;
+}
+
+/// What stands between "<!DOCTYPE" and '>': a name, where its file lies, declarations in brackets.
+bool isDoctype(std::string_view content)
+{
+    MarkupCursor in(content);
+    if (!isMarkupSpace(in.peek())) return false;
+    in.skipSpace();
+    if (in.takeName().empty()) return false;
+    if (passWord(in, "PUBLIC") ? !passLiteral(in) || !passLiteral(in)
+                               : passWord(in, "SYSTEM") && !passLiteral(in))
+        return false;
+    in.skipSpace();
+    const auto rest = content.substr(in.at);
+    const auto last = rest.find_last_not_of(" \t\r\n");
+    return last == kNowhere || (rest.front() == '[' && rest[last] == ']');
+}
 
 class StructureCheck {
 public:
@@ -125,8 +161,8 @@ private:
 
     void checkDoctype(const MarkupToken& token)
     {
-        const bool named = std::any_of(token.content.begin(), token.content.end(), beginsName);
-        if (doctypeSeen_ || rootSeen_ || !named) note(MarkupFault::BadDoctype, token.begin);
+        if (doctypeSeen_ || rootSeen_ || !isDoctype(token.content))
+            note(MarkupFault::BadDoctype, token.begin);
         doctypeSeen_ = true;
     }
 
@@ -172,7 +208,7 @@ std::optional<MarkupFaultAt> firstFault(std::string_view text, const MarkupDocum
     for (const auto& other : {document.firstFault, characterFault(text, document)}) {
         if (other
             && (!first || first->fault == MarkupFault::UnendedElement
-                || other->offset < first->offset))
+                || other->offset <= first->offset))
             first = other;
     }
     return first;
