@@ -1,6 +1,6 @@
 // Both decks are read as sequences of items that are matched; what has no match is lost or added,
 // and what has one is compared. Words without a match in the same gap of the sequences are one
-// change if they are as many or have the same letters. Held by deck_changes_test.cpp.
+// change if they are as many or much alike. Held by deck_changes_test.cpp.
 
 #include "document/deck_changes.h"
 
@@ -40,6 +40,14 @@ Subject subjectOf(DeckItem::Kind kind)
 
 using Words = std::vector<std::size_t>;
 
+/// Whether two texts have half of their characters in common, in the same order.
+bool areAlike(std::string_view before, std::string_view after)
+{
+    const std::vector<int> left(before.begin(), before.end());
+    const std::vector<int> right(after.begin(), after.end());
+    return matchSequences(left, right).size() * 2 >= std::max(left.size(), right.size());
+}
+
 class ChangeLister {
 public:
     ChangeLister(const DeckSide& read, const DeckSide& written, const DeckMatch& match)
@@ -68,6 +76,7 @@ public:
 private:
     void listGap(MatchedPair from, MatchedPair to)
     {
+        const auto begin = static_cast<std::ptrdiff_t>(changes_.size());
         Words lost;
         Words added;
         for (auto i = from.left; i < to.left; ++i) {
@@ -81,6 +90,14 @@ private:
             if (match_.read[j] == kNoItem && !collect(written_, j, added)) listAdded(j);
         }
         compareWords(lost, added);
+        std::stable_sort(changes_.begin() + begin, changes_.end(), standsAhead);
+    }
+
+    /// By their places in what was read, and then what was added.
+    static bool standsAhead(const DeckChange& left, const DeckChange& right)
+    {
+        if (!left.readAt || !right.readAt) return left.readAt && !right.readAt;
+        return *left.readAt < *right.readAt;
     }
 
     static bool collect(const DeckSide& side, std::size_t at, Words& words)
@@ -135,8 +152,7 @@ private:
         const auto before = read_.words(lost);
         const auto after = written_.words(added);
         if (before == after) return; // only tags between the letters have changed
-        const bool sameLetters = read_.words(lost, false) == written_.words(added, false);
-        if (!lost.empty() && (lost.size() == added.size() || sameLetters)) {
+        if (!lost.empty() && (lost.size() == added.size() || areAlike(before, after))) {
             changes_.push_back(
                 {Kind::Changed, Subject::Words, read_.element(lost.front()), {}, before, after,
                     lost.size(), read_.place(lost.front()), written_.place(added.front())});

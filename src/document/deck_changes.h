@@ -35,7 +35,7 @@ struct DeckFault {
 };
 
 struct DeckChangesReport {
-    /// In the order of the deck.
+    /// In the order of the deck; between two places that have not changed, what was there first.
     std::vector<DeckChange> changes;
     /// Nothing where the written text is a well-formed XML 1.0 document.
     std::optional<DeckFault> fault;

@@ -29,11 +29,11 @@ std::string DeckSide::text(std::size_t at) const
     return isTag(item(at)) ? std::string(deck.source(item(at))) : withReferences(item(at).name);
 }
 
-std::string DeckSide::words(const std::vector<std::size_t>& items, bool blanks) const
+std::string DeckSide::words(const std::vector<std::size_t>& items) const
 {
     std::string text;
     for (const auto at : items) {
-        if (!text.empty() && blanks && !item(at).joined) text += ' ';
+        if (!text.empty() && !item(at).joined) text += ' ';
         text += item(at).name;
     }
     return withReferences(std::move(text));

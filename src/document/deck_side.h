@@ -28,9 +28,8 @@ struct DeckSide {
     [[nodiscard]] std::string element(std::size_t at) const;
     /// The tag as it is written; the text of anything else.
     [[nodiscard]] std::string text(std::size_t at) const;
-    /// Words with blanks where white space stands between them, or without any.
-    [[nodiscard]] std::string words(
-        const std::vector<std::size_t>& items, bool blanks = true) const;
+    /// Words with blanks where white space stands between them.
+    [[nodiscard]] std::string words(const std::vector<std::size_t>& items) const;
     /// The attributes of a start in the order of their lower-case names.
     [[nodiscard]] std::vector<MarkupAttribute> attributes(std::size_t start) const;
 };

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <compare>
 #include <cstddef>
 #include <string_view>
 #include <vector>
@@ -10,7 +11,7 @@ namespace quillmere {
 struct TextPlace {
     std::size_t line = 1;
     std::size_t column = 1;
-    friend bool operator==(const TextPlace&, const TextPlace&) = default;
+    friend auto operator<=>(const TextPlace&, const TextPlace&) = default;
 };
 
 /// Turns offsets of one text into places. A line ends at CR LF, LF or CR.

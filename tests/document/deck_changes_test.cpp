@@ -1,6 +1,13 @@
+#include "document/deck_change_counts.h"
 #include "document/deck_changes.h"
+#include "support/deck_generator.h"
+#include "support/small_random.h"
 
 #include <gtest/gtest.h>
+
+#include <chrono>
+#include <map>
+#include <regex>
 
 namespace quillmere {
 namespace {
@@ -75,6 +82,84 @@ TEST(DeckChanges, ToldWithTheirPlaces)
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
         EXPECT_EQ(changesOf(row.read, row.written), row.changes);
+    }
+}
+
+/// How many start tags of each name a deck has, counted with an expression.
+std::map<std::string, long> startsOf(const std::string& deck)
+{
+    static const std::regex kStart("<([a-z]+)[^>]*>");
+    std::map<std::string, long> starts;
+    for (std::sregex_iterator at(deck.begin(), deck.end(), kStart), end; at != end; ++at)
+        ++starts[(*at)[1]];
+    return starts;
+}
+
+/// Cuts out some whole tags and words.
+std::string thinnedOut(const std::string& deck, test::SmallRandom& random)
+{
+    static const std::regex kPart("<[a-z/][^>]*>|[^<> \n]+");
+    std::string result;
+    auto copied = deck.begin();
+    for (std::sregex_iterator at(deck.begin(), deck.end(), kPart), end; at != end; ++at) {
+        if (!random.chance(0.05)) continue;
+        result.append(copied, (*at)[0].first);
+        copied = (*at)[0].second;
+    }
+    return result.append(copied, deck.end());
+}
+
+TEST(DeckChanges, NumbersOfElementsAddUp)
+{
+    for (std::uint64_t seed = 0; seed < 200; ++seed) {
+        SCOPED_TRACE("seed " + std::to_string(seed));
+        test::SmallRandom random(seed);
+        const auto read = test::generateDeck(seed);
+        const auto written = thinnedOut(read, random);
+        auto balance = startsOf(read);
+        for (const auto& [name, count] : startsOf(written))
+            balance[name] -= count;
+        for (const auto& count : countChanges(DeckChanges(read, written))) {
+            ASSERT_EQ(count.subject == DeckChange::Subject::Element ? count.added : 0U, 0U);
+            if (count.subject == DeckChange::Subject::Element)
+                balance[count.name] -= static_cast<long>(count.lost);
+        }
+        for (const auto& [name, left] : balance)
+            EXPECT_EQ(left, 0) << name;
+    }
+}
+
+TEST(DeckChanges, NothingChangesBetweenADeckAndItself)
+{
+    for (std::uint64_t seed = 0; seed < 100; ++seed) {
+        const auto deck = test::generateDeck(seed, {.targetBytes = 800, .brokenness = 0.2});
+        ASSERT_EQ(changesOf(deck, deck), "") << "seed " << seed;
+    }
+    const auto report = DeckChanges("<p>x", "<p>\n<b>x</p>");
+    ASSERT_TRUE(report.fault);
+    EXPECT_EQ(report.fault->writtenAt, (TextPlace{2, 5}));
+    EXPECT_FALSE(report.wellFormed());
+}
+
+TEST(DeckChanges, HostileShapesTakeLittleTime)
+{
+    const auto times = [](std::string_view part, int count) {
+        std::string text;
+        for (int i = 0; i < count; ++i)
+            text += part;
+        return text;
+    };
+    const std::string shapes[] = {times("<", 30000), times("<a", 15000), times("<b></b>", 4300),
+        times("<a b=\"", 5000), times("<a b='>", 4300), times("<!--", 7500),
+        times("<!DOCTYPE [", 2700), times("<![CDATA[", 3300), times("&a", 15000),
+        times("x </p>", 5000), times("<card>y ", 3700), test::generateDeck(1, {30000})};
+    for (const auto& read : shapes) {
+        for (const auto& written : shapes) {
+            const auto begin = std::chrono::steady_clock::now();
+            EXPECT_FALSE(DeckChanges(read, written).changes.empty() && &read != &written);
+            EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(1))
+                << read.substr(0, 10) << written.substr(0, 10);
+        }
     }
 }
 
