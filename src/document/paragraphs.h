@@ -3,18 +3,23 @@
 #include <string>
 #include <string_view>
 
+// Repairs of paragraphs in the text of one area. Any tag that begins like a paragraph's counts as
+// one, "<prev/>" as well. Searches ignore case; all work in place and throw Overflow, with the text
+// unchanged, where it is or gets longer than positions can tell.
+
 namespace quillmere {
 
 /// Gives text ahead of the first and behind the last paragraph of an area's WML its tags, and
-/// removes doubled ends. In place.
+/// removes doubled ends.
 void RepairParagraphs(std::string& text);
 
 /// Puts a paragraph around each element of the pair, such as "<img" with "</img", that stands
-/// outside of one. In place.
+/// outside of one. An element without its end stays as it is.
 void WrapInParagraph(std::string& text, std::string_view openTag, std::string_view closeTag);
 
 /// Gives each paragraph its own pair where a format crosses paragraphs, and removes pairs without
-/// text. In place.
+/// text: "<p><b>x</p><p>y</b></p>" becomes "<p><b>x</b></p><p><b>y</b></p>". The tags are given
+/// whole, such as "<b>" with "</b>". A picture is no text.
 void SplitAtParagraphs(std::string& text, std::string_view openTag, std::string_view closeTag);
 
 } // namespace quillmere

@@ -37,7 +37,10 @@ std::size_t findIgnoringCase(std::string_view text, std::string_view key, std::s
 
 std::size_t findLastIgnoringCase(std::string_view text, std::string_view key, std::size_t before)
 {
+    const bool isTag = key.starts_with('<');
     for (auto at = std::min(before, text.size()); at-- > 0;) {
+        if (isTag) at = text.rfind('<', at);
+        if (at == npos) break;
         if (standsAt(text, at, key)) return at;
     }
     return npos;

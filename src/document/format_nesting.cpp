@@ -1,0 +1,215 @@
+// RepairOnePair reads the tags of the pair from left to right and cuts as it goes; what a cut joins
+// is read again. RepairOverlap plans all its moves on the tags' offsets and makes them in one
+// rewriting; only where a moved tag could leave a new one behind does it move one at a time.
+// Held by format_nesting_test.cpp, which repairs with plain searches.
+
+#include "document/format_nesting.h"
+
+#include "document/limits.h"
+#include "document/overlap_plan.h"
+#include "document/tag_places.h"
+#include "document/text_cutter.h"
+#include "document/text_edits.h"
+#include "document/text_search.h"
+
+#include <algorithm>
+#include <array>
+
+namespace quillmere {
+namespace {
+
+constexpr TagPair kNestedPairs[] = {
+    // "<b>" and "<em>" are left out on purpose
+    {"<strong>", "</strong>"},
+    {"<i>", "</i>"},
+    {"<u>", "</u>"},
+    {"<big>", "</big>"},
+    {"<small>", "</small>"},
+};
+
+class PairRepair {
+public:
+    PairRepair(std::string& text, const TagPair& pair)
+        : text_(text)
+        , pair_(pair)
+        , lastClose_(findLastIgnoringCase(text, pair.close))
+        , cutter_(text)
+    {
+    }
+
+    void run()
+    {
+        for (auto at = text_.find('<'); at != npos; at = text_.find('<', resumeAt_)) {
+            resumeAt_ = at + 1;
+            if (standsAt(text_, at, pair_.open))
+                readOpen(at);
+            else if (standsAt(text_, at, pair_.close))
+                readClose(at);
+        }
+    }
+
+private:
+    enum class State { AheadOfAll, Outside, Inside, NoCloseLeft };
+
+    void readOpen(std::size_t at)
+    {
+        const bool closes = lastClose_ != npos && lastClose_ > at;
+        if (state_ == State::Inside || state_ == State::NoCloseLeft) {
+            cut(at, pair_.open);
+        } else if (closes) {
+            keepThrough(at + pair_.open.size());
+            state_ = State::Inside;
+        } else {
+            keepThrough(at);
+            cut(at, pair_.open);
+            state_ = State::NoCloseLeft;
+        }
+    }
+
+    void readClose(std::size_t at)
+    {
+        if (state_ == State::AheadOfAll)
+            cut(at, pair_.close);
+        else if (state_ == State::Inside)
+            state_ = State::Outside;
+    }
+
+    void keepThrough(std::size_t offset)
+    {
+        cutter_.keepTo(offset);
+        floor_ = cutter_.kept();
+        resumeAt_ = offset;
+    }
+
+    void cut(std::size_t at, std::string_view tag)
+    {
+        cutter_.keepTo(at);
+        cutter_.dropTo(at + tag.size());
+        cutter_.takeBack(std::max(pair_.open.size(), pair_.close.size()) - 1, floor_);
+        resumeAt_ = cutter_.position();
+    }
+
+    std::string& text_;
+    TagPair pair_;
+    std::size_t lastClose_;
+    TextCutter cutter_;
+    State state_ = State::AheadOfAll;
+    std::size_t floor_ = 0; // a tag that a cut joins counts from this kept character on
+    std::size_t resumeAt_ = 0;
+};
+
+/// The five formats that may overlap, in the order in which they are held against each other.
+constexpr std::array<TagPair, 5> kOverlappingPairs{{
+    {"<big>", "</big>"},
+    {"<small>", "</small>"},
+    {"<i>", "</i>"},
+    {"<b>", "</b>"},
+    {"<u>", "</u>"},
+}};
+
+class OverlapRepair {
+public:
+    OverlapRepair(std::string& text, const TagPair& a, const TagPair& b)
+        : text_(text)
+        , a_(a)
+        , b_(b)
+    {
+    }
+
+    /// Whether something moved. The tags are those of the text.
+    bool run(const OverlapTags& tags)
+    {
+        if (tags.openA.empty() || tags.closeA.empty() || tags.closeB.empty()) return false;
+        const auto moves = planOverlapMoves(tags);
+        if (moves.empty()) return false;
+        const std::array cut{a_.close, b_.close};
+        const std::array others{a_.open, b_.open};
+        if (cutsCanJoin(text_, cut, others))
+            moveOneByOne();
+        else
+            apply(moves);
+        return true;
+    }
+
+private:
+    void apply(std::span<const TagMove> moves)
+    {
+        TextEdits edits;
+        for (const TagMove& move : moves) {
+            const std::string_view tag = move.isA ? a_.close : b_.close;
+            edits.insert(move.target, tag);
+            edits.drop(move.source, move.source + tag.size());
+        }
+        edits.applyTo(text_);
+    }
+
+    void moveOneByOne()
+    {
+        const std::array keys{a_.open, a_.close, b_.open, b_.close};
+        for (std::size_t resumeAt = 0;;) {
+            const auto places = tagPlaces(text_, keys);
+            std::span<const std::size_t> openA = places[0];
+            while (!openA.empty() && openA.front() < resumeAt)
+                openA = openA.subspan(1);
+            const auto moves = planOverlapMoves({openA, places[1], places[2], places[3]});
+            if (moves.empty()) return;
+            const auto first = std::min_element(moves.begin(), moves.end(),
+                [](const TagMove& x, const TagMove& y) { return x.begunAt < y.begunAt; });
+            apply({&*first, 1});
+            resumeAt = first->begunAt + 1;
+        }
+    }
+
+    std::string& text_;
+    TagPair a_;
+    TagPair b_;
+};
+
+std::vector<Places> overlappingPlaces(std::string_view text)
+{
+    std::vector<std::string_view> keys;
+    for (const TagPair& pair : kOverlappingPairs)
+        keys.insert(keys.end(), {pair.open, pair.close});
+    return tagPlaces(text, keys);
+}
+
+} // namespace
+
+void RepairOnePair(std::string& text, std::string_view openTag, std::string_view closeTag)
+{
+    requireAddressable(text);
+    PairRepair(text, {openTag, closeTag}).run();
+}
+
+void RepairNesting(std::string& text)
+{
+    for (const TagPair& pair : kNestedPairs)
+        RepairOnePair(text, pair.open, pair.close);
+}
+
+void RepairOverlap(std::string& text, std::string_view openA, std::string_view closeA,
+    std::string_view openB, std::string_view closeB)
+{
+    requireAddressable(text);
+    if (findIgnoringCase(openB, openA) != npos) return;
+    const std::array keys{openA, closeA, openB, closeB};
+    const auto places = tagPlaces(text, keys);
+    OverlapRepair(text, {openA, closeA}, {openB, closeB})
+        .run({places[0], places[1], places[2], places[3]});
+}
+
+void RepairFormatNesting(std::string& text)
+{
+    requireAddressable(text);
+    auto places = overlappingPlaces(text);
+    for (std::size_t a = 0; a < kOverlappingPairs.size(); ++a) {
+        for (std::size_t b = 0; b < kOverlappingPairs.size(); ++b) {
+            if (a == b) continue;
+            OverlapRepair repair(text, kOverlappingPairs[a], kOverlappingPairs[b]);
+            if (repair.run({places[2 * a], places[2 * a + 1], places[2 * b], places[2 * b + 1]}))
+                places = overlappingPlaces(text);
+        }
+    }
+}
+
+} // namespace quillmere
