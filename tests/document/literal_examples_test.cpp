@@ -1,8 +1,14 @@
 // Holds the slow versions, which judge the fast ones, against examples.
 
+#include "literal/cleaning.h"
+#include "literal/conversions.h"
 #include "literal/corrections.h"
+#include "literal/radio_buttons.h"
 
 #include <gtest/gtest.h>
+
+#include <stdexcept>
+#include <utility>
 
 namespace quillmere::literal {
 namespace {
@@ -103,6 +109,146 @@ TEST(LiteralExamples, Layout)
         {"in the line", kBreak, "<wml>a<i>b</i></wml>", "\r\n<wml>a<i>b</i>\r\n</wml>"},
         {"gaps come back", whitespaceRestored, "<a><p>x</p></a>|<a>\n\n<p> y </p>\n</a>",
             "<a>\n\n<p> x </p>\n</a>"},
+    });
+}
+
+/// The pass whose name begins with `number`.
+template <char tens, char ones> std::string pass(std::string text)
+{
+    const std::string number{tens, ones};
+    for (const Pass& pass : cleanPasses())
+        if (std::string_view(pass.name).substr(0, 2) == number) return pass.apply(std::move(text));
+    return "no such pass";
+}
+
+TEST(LiteralExamples, PassesOfTheCleaning)
+{
+    constexpr auto kPairs = pass<'3', ' '>;
+    constexpr auto kRuns = pass<'1', '0'>;
+    expectAll({
+        {"do without go", pass<'1', ' '>, "a<!--do x--><!--/do-->b", "ab"},
+        {"orphan end", pass<'2', ' '>, "<!--/option--><!--option-->", "<!--option-->"},
+        {"lone option", kPairs, "<!--option--><input>a<b>",
+            "<!--option--><input>a<!--/option--><b>"},
+        {"option ends late", kPairs, "<!--option-->1<!--option-->2<!--/option--><!--/select-->",
+            "<!--option-->1<!--/option--><!--option-->2<!--/option--><!--/select-->"},
+        {"doubled end", kPairs, "<!--option-->1<!--/option-->2<!--/option-->",
+            "<!--option-->1<!--/option-->2"},
+        {"do block last", pass<'7', ' '>, "a<!--do--><!--/do-->b",
+            "ab<!--do--><!--/do--><!--/card-->"},
+        {"empty paragraph", pass<'8', ' '>, "<P>&nbsp;</P>x", "<br/>x"},
+        {"cells", pass<'9', ' '>, "<table><tr><td><P>a</P></td></tr> x <tr></tr>y</table>",
+            "<table><tr><td>a<br/></td></tr><tr></tr></table>"},
+        {"table without end", pass<'9', ' '>, "<table><tr></tr>x<table>",
+            "<table><tr></tr></table>x<table>"},
+        {"run", kRuns, "<p>1<p>2<p>3</p>", "<p>123</p>"},
+        {"aligned run", kRuns, "<p>1<p align=right>2</p>", "<p align=right>12</p>"},
+        {"no end", kRuns, "<p>1</p><p>2", "<p>1</p>2"},
+        {"behind the last text", pass<'1', '1'>, "<p>1</p><p></p><br><!--/card-->",
+            "<p>1<!--/card-->"},
+        {"merge", pass<'1', '2'>, "<p>1</p><p>2</p><p>3</p><p align=left>4</p>",
+            "<p>123</p><p align=left>4</p>"},
+        {"ends", pass<'1', '3'>, "<p>1</p>2</p><p></p>", "<p>12</p><p></p>"},
+        {"break outside", pass<'1', '7'>, "<br><p><br></p><br>", "<p><br></p>"},
+        {"doubled brackets", pass<'2', '2'>, "<<p>>x", "<p>>x"},
+    });
+    EXPECT_THROW((void)kPairs("<!--option--><!--option--><!--/option-->"), std::runtime_error);
+}
+
+TEST(LiteralExamples, WholeCleaning)
+{
+    constexpr auto kClean = applied<CleanDesignHtml>;
+    expectAll({
+        {"text only", kClean, "<BODY>Hello</BODY>", "<BODY><p>Hello</BODY></p><!--/card-->"},
+        {"text and do", kClean, "<BODY>Hi<!--do x--><!--go--><!--/go--><!--/do--></BODY>",
+            "<BODY><p>Hi</BODY></p><!--do x--><!--go--><!--/go--><!--/do--><!--/card-->"},
+        {"empty", kClean, "<BODY></BODY>", "<BODY></BODY><p></p><!--/card-->"},
+        {"option alone", kClean, "<p>x</p><!--option value=\"1\"-->a<p>y</p>",
+            "<p>x<!--select--><!--option value=\"1\"-->a<!--/option--><!--/select-->y</p>"
+            "<!--/card-->"},
+        {"letters", kClean, "<p>M\xFCller, caf\xE9</p>", "<p>Mueller, caf</p><!--/card-->"},
+        {"empty paragraph", kClean, "<p>x</p><P>&nbsp;</P>", "<p>x</p><!--/card-->"},
+        {"blanks", kClean, "<p>a  b </p>", "<p>a  b</p><!--/card-->"},
+    });
+}
+
+std::string designOf(std::string text)
+{
+    WmlToDesign(text);
+    return text;
+}
+
+TEST(LiteralExamples, WmlToDesign)
+{
+    expectAll({
+        {"mode is lost", designOf, R"(<p mode="nowrap" align="center">)", R"(<p align="center">)"},
+        {"left anywhere", designOf, R"(<p id="leftside">)", R"(<p align="left">)"},
+        {"do without label", designOf, R"(<do type="prev">)", R"(<do type="prev">)"},
+        {"do", designOf, R"(<DO Type="ACCEPT" label="Weiter">)",
+            R"(<!--do type="accept" label="Weiter"-->)"},
+        {"go alone", designOf, R"(<go href="#a"/>)", R"(<!--go href="#a"/-->)"},
+        {"go", designOf, R"(<go href="#A"></go>)", R"(<!--go href="#A"--><!--/go-->)"},
+        {"list", designOf, R"(<select name="x"><option onpick="#A">1</OPTION></select>)",
+            R"(<!--select--><!--option onpick="#A"-->1<!--/option--><!--/select-->)"},
+        {"unknown", designOf, R"(a<input name="x"/>b<td align="right">c</td>)", "abc</td>"},
+        {"prev", designOf, "<prev/>", "<p>"},
+        {"table", designOf, R"(<table COLUMNS="2">)", R"(<table columns="2" border="1">)"},
+        {"title", designOf, R"(<table title="Ab" columns="2">)",
+            R"(<table title="Ab" columns="2" border="1">)"},
+        {"link", designOf, R"(<a title="t" href="#A">x</a><a href="#>)",
+            R"(<a href="#A">x</a><a href="#>)"},
+        {"card", designOf, R"(<card id="A" title="B">)", R"(<!--card id="A" title="B"-->)"},
+        {"card, id late", designOf, R"(<card title="a" id="x">)", ""},
+        {"card, two blanks", designOf, R"(<card  id="x">)", ""},
+        {"stray", designOf, "> x ><b>", "> x ><b>"},
+        {"image", designOf, R"(<img src="a.wbmp" alt="x"/></img>)",
+            R"(<img src="a.wbmp" alt="x"/>)"},
+    });
+    std::string card = R"(<card id="x">)";
+    EXPECT_TRUE(WmlToDesign(card));
+    EXPECT_FALSE(WmlToDesign(card));
+    EXPECT_THROW((void)designOf(R"(<do type="a" label="x>)"), std::runtime_error);
+}
+
+TEST(LiteralExamples, DesignToWml)
+{
+    constexpr auto kWml = applied<DesignToWml>;
+    expectAll({
+        {"em", kWml, "<EM>x</EM>", "<i>x</i>"},
+        {"table", kWml, "<TABLE align=center columns=2 title=Ab border=1>",
+            R"(<table title="Ab" align="center" columns="2">)"},
+        {"no title", kWml, "<TABLE border=1>", "<TABLE border=1>"},
+        {"link", kWml, "<A href=#X>x</A>", R"(<a href="#X">x</a>)"},
+        {"go", kWml, R"(<!--go href="#x"/-->)", R"(<go href="#x"/>)"},
+        {"do", kWml, R"(<!--do type="A" label="B"--><!--/do-->)",
+            R"(<do type="a" label="B"></do>)"},
+        {"do without label", kWml, R"(<!--do type="a"-->)", R"(<!--do type="a"-->)"},
+        {"unknown", kWml, "<FONT size=2>a</FONT><!-- b -->", "a"},
+        {"image", kWml, R"(<IMG src="C:\T\Bmp0.bmp" vspace=3>)", "</img>"},
+        {"card", kWml, R"(<!--card id="A" title="B"-->x<!--/card-->)",
+            R"(<card id="A" title="B">x</card>)"},
+    });
+    EXPECT_THROW((void)kWml(R"(<a href="x>)"), std::runtime_error);
+}
+
+TEST(LiteralExamples, RadioButtons)
+{
+    const std::string options = R"(<!--option onpick="a\b"-->1<!--/option-->)"
+                                R"(<!--option onpick=#x value="1"-->2<!--/option-->)"
+                                R"(<!--option-->3<!--/option-->)";
+    const std::string buttons
+        = R"~(<!--option onpick="a\b"--><input type=radio name="TempName1" )~"
+          R"~(onclick="javascript:navigate('a/b')">1<!--/option-->)~"
+          R"~(<!--option onpick=#x value="1"--><input type=radio name="TempName2" )~"
+          R"~(onclick="javascript:navigate('#x')">2<!--/option-->)~"
+          R"~(<!--option--><input type=radio name="TempName3">3<!--/option-->)~";
+    constexpr auto kDelete = applied<DeleteAllTemporaeryRadioButtons>;
+    expectAll({
+        {"insert", applied<InsertTemporaeryRadioButtons>, options, buttons},
+        {"delete", kDelete, buttons, options},
+        {"several in one", kDelete, "<!--option--><INPUT><input>a<!--/option--><input>",
+            "<!--option-->a<!--/option--><input>"},
+        {"no end", kDelete, "<!--option--><input>a", "<!--option--><input>a"},
     });
 }
 

@@ -1,0 +1,220 @@
+// The text lies in one buffer with a gap where the last change was, so that neighbouring changes
+// move little. What a search has read is kept across a change: the places ahead of it stay, those
+// behind it move along, and only the places whose text touches the change are looked at again.
+// Held by edited_text_test.cpp.
+
+#include "document/edited_text.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace quillmere {
+namespace {
+
+    constexpr std::size_t kSmallestGap = 256;
+    constexpr std::size_t kBackwardStep = 512; // read forward, which is faster
+
+    bool isSmallLetter(char character)
+    {
+        return character >= 'a' && character <= 'z';
+    }
+
+    // `wanted` is lower case; setting bit 5 turns exactly the capital of a letter into it.
+    bool sameIgnoringCase(char character, char wanted)
+    {
+        return character == wanted || (isSmallLetter(wanted) && (character | 0x20) == wanted);
+    }
+
+} // namespace
+
+EditedText::EditedText(std::string&& text)
+    : buffer_(std::move(text))
+{
+}
+
+std::string EditedText::copy(std::size_t begin, std::size_t end) const
+{
+    std::string piece;
+    piece.reserve(end - begin);
+    for (auto at = begin; at < end; ++at)
+        piece += (*this)[at];
+    return piece;
+}
+
+std::size_t EditedText::find(std::string_view key, std::size_t from, std::size_t limit)
+{
+    if (from > size() || from >= limit) return npos;
+    Search& known = remembered(key);
+    if (from < known.from) {
+        const auto nearEnd = std::min(limit, known.from);
+        const auto nearer = findFrom(key, from, nearEnd);
+        if (nearer != npos || nearEnd < known.from) {
+            keepLonger(known, { key, from, std::min(nearer, nearEnd), nearer != npos });
+            return nearer;
+        }
+        known.from = from;
+    } else if (from > known.to) {
+        known = { key, from, from, false };
+    }
+    if (!known.found && known.to < std::min(limit, size())) {
+        const auto at = findFrom(key, known.to, limit);
+        known.found = at != npos;
+        known.to = known.found ? at : std::min(limit, size());
+    }
+    return known.found ? known.to : npos;
+}
+
+std::size_t EditedText::findLast(std::string_view key, std::size_t before) const
+{
+    for (auto end = std::min(before, size()); end > 0;) {
+        const auto begin = end - std::min(end, kBackwardStep);
+        auto last = npos;
+        for (auto at = findFrom(key, begin, end); at != npos; at = findFrom(key, at + 1, end))
+            last = at;
+        if (last != npos) return last;
+        end = begin;
+    }
+    return npos;
+}
+
+std::size_t EditedText::tagEnd(std::size_t begin)
+{
+    const auto at = find(">", begin);
+    return at == npos ? npos : at + 1;
+}
+
+void EditedText::replace(std::size_t begin, std::size_t end, std::string_view piece)
+{
+    moveGap(begin);
+    gapEnd_ += end - begin;
+    if (gapEnd_ - gapBegin_ < piece.size()) growGap(piece.size());
+    piece.copy(buffer_.data() + gapBegin_, piece.size());
+    gapBegin_ += piece.size();
+    for (std::size_t i = 0; i < std::min(searchCount_, searches_.size()); ++i)
+        adjust(searches_[i], { begin, end, begin + piece.size() });
+}
+
+std::size_t EditedText::cutTag(std::size_t begin)
+{
+    const auto end = tagEnd(begin);
+    if (end == npos) return 0;
+    cut(begin, end);
+    return end - begin;
+}
+
+void EditedText::cutEveryTag(std::string_view key, std::size_t from)
+{
+    for (auto at = find(key, from); at != npos && cutTag(at) > 0; at = find(key, from)) { }
+}
+
+std::string EditedText::take() &&
+{
+    buffer_.erase(gapBegin_, gapEnd_ - gapBegin_);
+    gapEnd_ = gapBegin_;
+    return std::move(buffer_);
+}
+
+// Of two pieces of knowledge that do not touch the longer one would cost more to find again.
+void EditedText::keepLonger(Search& known, const Search& other)
+{
+    if (other.to - other.from > known.to - known.from) known = other;
+}
+
+EditedText::Search& EditedText::remembered(std::string_view key)
+{
+    for (std::size_t i = 0; i < std::min(searchCount_, searches_.size()); ++i) {
+        if (searches_[i].key == key) return searches_[i];
+    }
+    Search& fresh = searches_[searchCount_++ % searches_.size()];
+    fresh = { key, 0, 0, false };
+    return fresh;
+}
+
+std::size_t EditedText::findFrom(
+    std::string_view key, std::size_t begin, std::size_t limit) const
+{
+    for (auto at = begin;; ++at) {
+        at = findCharacter(key.front(), at, limit);
+        if (at == npos || standsHere(key, at)) return at;
+    }
+}
+
+std::size_t EditedText::findCharacter(char character, std::size_t begin, std::size_t limit) const
+{
+    const auto end = std::min(limit, size());
+    if (isSmallLetter(character)) {
+        for (auto at = begin; at < end; ++at) {
+            if (sameIgnoringCase((*this)[at], character)) return at;
+        }
+        return npos;
+    }
+    const auto gap = gapEnd_ - gapBegin_;
+    if (begin < gapBegin_) {
+        const std::string_view ahead(buffer_.data(), std::min(end, gapBegin_));
+        const auto at = ahead.find(character, begin);
+        if (at != npos) return at;
+    }
+    const auto behind = std::max(begin, gapBegin_);
+    if (behind >= end) return npos;
+    const auto at = std::string_view(buffer_.data(), end + gap).find(character, behind + gap);
+    return at == npos ? npos : at - gap;
+}
+
+bool EditedText::standsHere(std::string_view key, std::size_t offset) const
+{
+    if (size() - offset < key.size()) return false;
+    for (std::size_t i = 0; i < key.size(); ++i) {
+        if (!sameIgnoringCase((*this)[offset + i], key[i])) return false;
+    }
+    return true;
+}
+
+void EditedText::moveGap(std::size_t offset)
+{
+    char* const text = buffer_.data();
+    if (gapBegin_ == gapEnd_) {
+        gapBegin_ = gapEnd_ = offset;
+    } else if (offset < gapBegin_) {
+        std::move_backward(text + offset, text + gapBegin_, text + gapEnd_);
+        gapEnd_ -= gapBegin_ - offset;
+        gapBegin_ = offset;
+    } else if (offset > gapBegin_) {
+        const auto length = offset - gapBegin_;
+        std::move(text + gapEnd_, text + gapEnd_ + length, text + gapBegin_);
+        gapBegin_ += length;
+        gapEnd_ += length;
+    }
+}
+
+void EditedText::growGap(std::size_t atLeast)
+{
+    const auto more = std::max({ atLeast, kSmallestGap, buffer_.size() / 4 });
+    buffer_.insert(gapEnd_, more, ' ');
+    gapEnd_ += more;
+}
+
+void EditedText::adjust(Search& search, const Change& change) const
+{
+    // Places ahead of this one have their whole text ahead of the change.
+    const auto reach = search.key.size() - 1;
+    const auto untouched = change.begin > reach ? change.begin - reach : 0;
+    if (search.found ? search.to < untouched : search.to <= untouched) return;
+    const auto moved = [&change](std::size_t at) { return at - change.oldEnd + change.newEnd; };
+    if (search.from >= change.oldEnd) {
+        search.from = moved(search.from);
+        search.to = moved(search.to);
+    } else if (search.to < change.oldEnd) {
+        search.from = std::min(search.from, change.begin);
+        search.to = std::max(search.from, std::min(search.to, untouched));
+        search.found = false;
+    } else {
+        const auto again = std::max(std::min(search.from, change.begin), untouched);
+        const auto formed = findFrom(search.key, again, change.newEnd);
+        const auto from = std::min(search.from, again);
+        search.from = formed == npos ? from : change.newEnd;
+        search.to = moved(search.to);
+        if (formed != npos) keepLonger(search, { search.key, from, formed, true });
+    }
+}
+
+} // namespace quillmere
