@@ -1,4 +1,6 @@
-int main()
+#include "cli/command_line.h"
+
+int main(int count, char** values)
 {
-    return 0;
+    return static_cast<int>(quillmere::cli::runCommandLine(count, values));
 }

@@ -6,7 +6,8 @@
 #include <string>
 #include <string_view>
 
-// A card's id and title and its jump, which stand in the markers of its design work file.
+// A card's id and title and its jump, which stand in the markers of its design work file. Values
+// are taken as they stand between double quotes; what a value may hold is the dialogs' business.
 
 namespace quillmere {
 
@@ -22,12 +23,24 @@ struct Jump {
     std::string target; ///< "#" and a card id, or a URL
 };
 
+/// The attributes in the first line of the design work file that has a card marker.
 [[nodiscard]] CardAttributes GetCardAttributes(DocumentSession& session, std::size_t areaIndex);
+
+/// Sets id and title; a title that the marker lost is put in behind the id. An area without a card
+/// marker stays as it is.
 void SetCardAttributes(
     DocumentSession& session, std::size_t areaIndex, std::string_view id, std::string_view title);
+
+/// The first do marker of type accept, as written.
 [[nodiscard]] Jump GetJump(DocumentSession& session, std::size_t areaIndex);
-/// Sets the jump of an area. An empty name means "Sprung", with a number where that is taken.
+
+/// Sets the jump of an area, and makes it behind the card marker where there is none. A do marker
+/// without a go gets none. An empty name means "Sprung"; a name that the area uses already, be it
+/// for this jump, gives way to the first of Sprung0, Sprung1, ... that it does not.
 void SetJump(DocumentSession& session, std::size_t areaIndex, const Jump& jump);
+
+/// Whether something in the area bears the name, in any case: loading lower-cases names of do
+/// elements, so that "Sprung" comes back as "sprung".
 [[nodiscard]] bool JumpNameInUse(
     DocumentSession& session, std::size_t areaIndex, std::string_view name);
 

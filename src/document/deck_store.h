@@ -1,8 +1,10 @@
 #pragma once
 
+#include "document/design_page.h"
 #include "document/session.h"
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -20,30 +22,23 @@ struct DeckLocation {
 };
 
 /// Adds an area at the end, or starts a new deck with its first one, and links the area ahead of
-/// it forward.
+/// it forward. A deck that was open before goes with its work files. Throws FileFailure.
 void AddArea(DocumentSession& session, bool isFirst, const std::string& deckFile = {},
     const std::string& deckDir = {});
 
 /// Replaces the session's deck by the one at `location`: one area for each card, each with its
-/// design work file. Any text gives at least one area.
+/// design work file. Any text gives at least one area. The old deck's work files are removed but
+/// for its pristine copy, which the new deck takes over.
 /// Throws FileFailure, and RuntimeFailure for a deck that is too long or cannot be converted; the
 /// session's deck is then as it was.
 void LoadDeck(DocumentSession& session, const DeckLocation& location, std::int16_t surfaceKind = 0);
 
 /// Generates the deck out of its areas and writes it to the WML work file of record 0.
-/// Throws like LoadDeck; the file is then as it was.
+/// Throws like LoadDeck, and InvalidArgument where no deck is open; the file is then as it was.
 void WriteDeck(DocumentSession& session);
 
 /// Waits for the surface and has it save the area's design work file.
 void SaveSurface(DocumentSession& session, std::size_t areaIndex);
-
-enum class PageSection { Head = 1, Tail = 2 };
-inline constexpr int kHeadLineCount = 5; ///< headLineCount: head lines of a design work file
-inline constexpr int kTailLineCount = 3; ///< tailLineCount
-
-/// Line `index`, from 1, of a design work file's frame; "" for any other index.
-[[nodiscard]] std::string DesignPageLine(
-    DocumentSession& session, int surfaceKind, PageSection section, int index);
 
 /// Puts a state at the end of the area's list, of which the last 16 are kept. A negative index
 /// means the current area.

@@ -1,18 +1,41 @@
 #pragma once
 
+#include <cstddef>
+#include <limits>
 #include <string>
 #include <string_view>
 
+// What the core asks of the file system. Paths are the system's own bytes. Failures are FileFailure,
+// which names the file and the reason. `files_posix.cpp` is the one for POSIX systems.
+
 namespace quillmere {
 
-/// The bytes of a file. Throws FileFailure for what is missing, a directory or unreadable.
-[[nodiscard]] std::string readFile(const std::string& path);
+inline constexpr std::size_t kAnyFileSize = std::numeric_limits<std::size_t>::max();
 
+/// The bytes of a file. Throws FileFailure for what is missing, a directory or unreadable, and
+/// Overflow for more than `maxBytes`, which are never read.
+[[nodiscard]] std::string readFile(const std::string& path, std::size_t maxBytes = kAnyFileSize);
+
+/// Whether there is something at `path`, behind links, that is no directory.
 [[nodiscard]] bool fileExists(const std::string& path);
 
 /// Replaces a file of the person by `bytes`, or makes it: written beside it, checked to be whole,
-/// flushed to disk and renamed over it, then the directory is flushed. Mode and owner are kept and a
-/// symbolic link is followed. Throws FileFailure; the old file is then as it was.
+/// flushed to disk and renamed over it, then the directory is flushed. A symbolic link is followed;
+/// the mode is kept, and the owner where the system lets us. A device or pipe is written as it is.
+/// Throws FileFailure; the old file is then as it was.
 void replaceFile(const std::string& path, std::string_view bytes);
+
+// The work files of a run, in a directory that belongs to it alone.
+
+/// Makes a directory of mode 0700 with a name of its own below `parent` and returns its path, with
+/// its separator. `parent` has its separator.
+[[nodiscard]] std::string makePrivateDirectory(const std::string& parent);
+/// Makes an empty file of mode 0600. False where the name is taken, be it by a dangling link.
+[[nodiscard]] bool createWorkFile(const std::string& path);
+/// Replaces or makes a file without following a link and without waiting for the disk. Throws
+/// FileFailure; the old file is then as it was.
+void replaceWorkFile(const std::string& path, std::string_view bytes);
+/// Removes a file where it exists; one that cannot be removed stays.
+void removeFile(const std::string& path);
 
 } // namespace quillmere

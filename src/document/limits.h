@@ -10,10 +10,16 @@ namespace quillmere {
 /// Positions in document text are 16 bits signed.
 inline constexpr std::size_t kMaxTextLength = 32767;
 
-/// Throws Overflow where `text` is longer than positions can tell.
+/// Throws Overflow where a text of `length` characters is longer than positions can tell.
+inline void requireAddressableLength(std::size_t length)
+{
+    if (length > kMaxTextLength) throw Overflow();
+}
+
+/// The same for a text.
 inline void requireAddressable(std::string_view text)
 {
-    if (text.size() > kMaxTextLength) throw Overflow();
+    requireAddressableLength(text.size());
 }
 
 } // namespace quillmere

@@ -5,6 +5,7 @@
 #include "document/paragraphs.h"
 
 #include "document/limits.h"
+#include "document/text_cutter.h"
 #include "document/text_edits.h"
 #include "document/text_search.h"
 
@@ -178,7 +179,70 @@ void dropPairsWithoutText(std::string& text, std::string_view open, std::string_
     edits.applyTo(text);
 }
 
+/// The codes 48 to 90, with small letters as capitals: the signs between digits and letters count
+/// as well, so that any tag does.
+bool holdsText(std::string_view text)
+{
+    return std::any_of(text.begin(), text.end(),
+        [](char c) { return (c >= '0' && c <= 'Z') || (c >= 'a' && c <= 'z'); });
+}
+
+/// "<card>x<p>" becomes "<card><p>x<p>".
+void beginFirstParagraph(std::string& text)
+{
+    const auto card = findIgnoringCase(text, "<card");
+    const auto tagEnd = card == npos ? npos : text.find('>', card);
+    const auto first = tagEnd == npos ? npos : findIgnoringCase(text, kBegin, tagEnd);
+    if (first == npos) return;
+    if (holdsText(std::string_view(text).substr(tagEnd, first - tagEnd).substr(1)))
+        text.insert(tagEnd + 1, "<p>");
+}
+
+/// "</p>x</card>" becomes "</p>x</p></card>", an end that is doubled until the doubled ones go.
+void endLastParagraph(std::string& text)
+{
+    const auto last = findLastIgnoringCase(text, kEnd);
+    const auto tagEnd = last == npos ? npos : text.find('>', last);
+    const auto card = findIgnoringCase(text, "</card");
+    if (tagEnd == npos || card == npos || card < tagEnd) return;
+    if (holdsText(std::string_view(text).substr(tagEnd, card - tagEnd).substr(1)))
+        text.insert(card, "</p>");
+}
+
+/// Deletes the ends of paragraphs between which none begins, but for the first one.
+void dropDoubledEnds(std::string& text)
+{
+    TextCutter cutter(text);
+    bool ended = false;
+    auto resumeAt = npos;
+    for (auto at = text.find('<'); at != npos; at = text.find('<', resumeAt)) {
+        resumeAt = at + 1;
+        if (standsAt(text, at, kBegin)) ended = false;
+        if (!standsAt(text, at, kEnd)) continue;
+        if (ended) {
+            const auto tagEnd = text.find('>', at);
+            if (tagEnd == npos) return;
+            cutter.keepTo(at);
+            cutter.dropTo(tagEnd + 1);
+            cutter.takeBack(kEnd.size() - 1, 0); // "<" and "/p>" around it are an end now
+            resumeAt = cutter.position();
+        }
+        ended = true;
+    }
+}
+
 } // namespace
+
+void RepairParagraphs(std::string& text)
+{
+    requireAddressable(text);
+    std::string result = text;
+    beginFirstParagraph(result);
+    endLastParagraph(result);
+    requireAddressable(result);
+    dropDoubledEnds(result);
+    text = std::move(result);
+}
 
 void WrapInParagraph(std::string& text, std::string_view openTag, std::string_view closeTag)
 {

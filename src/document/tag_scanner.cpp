@@ -22,7 +22,7 @@ std::optional<Tag> TagScanner::next()
     if (nextEnd_ != npos && nextEnd_ <= begin) nextEnd_ = text_.find('>', begin + 1);
     if (nextEnd_ == npos) return std::nullopt;
     position_ = nextEnd_ + 1;
-    return Tag {begin, nextEnd_ + 1};
+    return Tag{begin, nextEnd_ + 1};
 }
 
 void TagScanner::resumeAt(std::size_t offset)

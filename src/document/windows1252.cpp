@@ -11,10 +11,10 @@ namespace quillmere {
 
 namespace {
 
-constexpr std::array<char16_t, 32> kCodePointsFrom128 = {0x20AC, 0x81, 0x201A, 0x0192, 0x201E,
-    0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160, 0x2039, 0x0152, 0x8D, 0x017D, 0x8F, 0x90,
-    0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014, 0x02DC, 0x2122, 0x0161, 0x203A, 0x0153,
-    0x9D, 0x017E, 0x0178};
+constexpr std::array<char16_t, 32> kCodePointsFrom128
+    = {0x20AC, 0x81, 0x201A, 0x0192, 0x201E, 0x2026, 0x2020, 0x2021, 0x02C6, 0x2030, 0x0160, 0x2039,
+        0x0152, 0x8D, 0x017D, 0x8F, 0x90, 0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
+        0x02DC, 0x2122, 0x0161, 0x203A, 0x0153, 0x9D, 0x017E, 0x0178};
 
 unsigned char code(char character)
 {
@@ -24,7 +24,8 @@ unsigned char code(char character)
 std::optional<char> fromCodePoint(char32_t point)
 {
     if (point < 0x80 || (point >= 0xA0 && point <= 0xFF)) return static_cast<char>(point);
-    const auto* const found = std::find(kCodePointsFrom128.begin(), kCodePointsFrom128.end(), point);
+    const auto* const found
+        = std::find(kCodePointsFrom128.begin(), kCodePointsFrom128.end(), point);
     if (found == kCodePointsFrom128.end()) return std::nullopt;
     return static_cast<char>(0x80 + (found - kCodePointsFrom128.begin()));
 }
@@ -34,7 +35,7 @@ struct Decoded {
     std::size_t length = 0; // in bytes; 0: no UTF-8
 };
 
-constexpr char32_t kSmallestOfLength[] = {0, 0, 0x80, 0x800, 0x10000};
+constexpr std::array<char32_t, 5> kSmallestOfLength = {0, 0, 0x80, 0x800, 0x10000};
 
 Decoded decodeUtf8(std::string_view bytes, std::size_t at)
 {
@@ -84,7 +85,7 @@ bool isUtf8(std::string_view bytes)
 }
 
 constexpr auto kLower = [] {
-    std::array<char, 256> table {};
+    std::array<char, 256> table{};
     for (unsigned i = 0; i < 256; ++i) {
         unsigned lower = i;
         if ((i >= 'A' && i <= 'Z') || (i >= 0xC0 && i <= 0xDE && i != 0xD7)) lower = i + 32;

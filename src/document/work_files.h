@@ -5,6 +5,11 @@
 
 namespace quillmere {
 
+// Names of work files: Wml0.htm, ... for areas; Wml0.wml, ... for generated decks and pristine copies.
+inline constexpr std::string_view kWorkFilePrefix = "Wml";
+inline constexpr std::string_view kDesignFileSuffix = ".htm";
+inline constexpr std::string_view kWmlFileSuffix = ".wml";
+
 /// Where the work files of a session lie: design work files, generated decks, display copies.
 /// Paths are directory followed by name. Failures are FileFailure; a counter of names beyond
 /// 32767 is Overflow.

@@ -1,11 +1,14 @@
 // Holds the slow versions, which judge the fast ones, against examples.
 
 #include "literal/cleaning.h"
+#include "literal/conversions.h"
 #include "literal/corrections.h"
+#include "literal/radio_buttons.h"
 
 #include <gtest/gtest.h>
 
 #include <stdexcept>
+#include <utility>
 
 namespace quillmere::literal {
 namespace {
@@ -114,7 +117,7 @@ template <char tens, char ones> std::string pass(std::string text)
 {
     const std::string number{tens, ones};
     for (const Pass& pass : cleanPasses())
-        if (std::string_view(pass.name).substr(0, 2) == number) return pass.apply(text);
+        if (std::string_view(pass.name).substr(0, 2) == number) return pass.apply(std::move(text));
     return "no such pass";
 }
 
@@ -166,6 +169,86 @@ TEST(LiteralExamples, WholeCleaning)
         {"letters", kClean, "<p>M\xFCller, caf\xE9</p>", "<p>Mueller, caf</p><!--/card-->"},
         {"empty paragraph", kClean, "<p>x</p><P>&nbsp;</P>", "<p>x</p><!--/card-->"},
         {"blanks", kClean, "<p>a  b </p>", "<p>a  b</p><!--/card-->"},
+    });
+}
+
+std::string designOf(std::string text)
+{
+    WmlToDesign(text);
+    return text;
+}
+
+TEST(LiteralExamples, WmlToDesign)
+{
+    expectAll({
+        {"mode is lost", designOf, R"(<p mode="nowrap" align="center">)", R"(<p align="center">)"},
+        {"left anywhere", designOf, R"(<p id="leftside">)", R"(<p align="left">)"},
+        {"do without label", designOf, R"(<do type="prev">)", R"(<do type="prev">)"},
+        {"do", designOf, R"(<DO Type="ACCEPT" label="Weiter">)",
+            R"(<!--do type="accept" label="Weiter"-->)"},
+        {"go alone", designOf, R"(<go href="#a"/>)", R"(<!--go href="#a"/-->)"},
+        {"go", designOf, R"(<go href="#A"></go>)", R"(<!--go href="#A"--><!--/go-->)"},
+        {"list", designOf, R"(<select name="x"><option onpick="#A">1</OPTION></select>)",
+            R"(<!--select--><!--option onpick="#A"-->1<!--/option--><!--/select-->)"},
+        {"unknown", designOf, R"(a<input name="x"/>b<td align="right">c</td>)", "abc</td>"},
+        {"prev", designOf, "<prev/>", "<p>"},
+        {"table", designOf, R"(<table COLUMNS="2">)", R"(<table columns="2" border="1">)"},
+        {"title", designOf, R"(<table title="Ab" columns="2">)",
+            R"(<table title="Ab" columns="2" border="1">)"},
+        {"link", designOf, R"(<a title="t" href="#A">x</a><a href="#>)",
+            R"(<a href="#A">x</a><a href="#>)"},
+        {"card", designOf, R"(<card id="A" title="B">)", R"(<!--card id="A" title="B"-->)"},
+        {"card, id late", designOf, R"(<card title="a" id="x">)", ""},
+        {"card, two blanks", designOf, R"(<card  id="x">)", ""},
+        {"stray", designOf, "> x ><b>", "> x ><b>"},
+        {"image", designOf, R"(<img src="a.wbmp" alt="x"/></img>)",
+            R"(<img src="a.wbmp" alt="x"/>)"},
+    });
+    std::string card = R"(<card id="x">)";
+    EXPECT_TRUE(WmlToDesign(card));
+    EXPECT_FALSE(WmlToDesign(card));
+    EXPECT_THROW((void)designOf(R"(<do type="a" label="x>)"), std::runtime_error);
+}
+
+TEST(LiteralExamples, DesignToWml)
+{
+    constexpr auto kWml = applied<DesignToWml>;
+    expectAll({
+        {"em", kWml, "<EM>x</EM>", "<i>x</i>"},
+        {"table", kWml, "<TABLE align=center columns=2 title=Ab border=1>",
+            R"(<table title="Ab" align="center" columns="2">)"},
+        {"no title", kWml, "<TABLE border=1>", "<TABLE border=1>"},
+        {"link", kWml, "<A href=#X>x</A>", R"(<a href="#X">x</a>)"},
+        {"go", kWml, R"(<!--go href="#x"/-->)", R"(<go href="#x"/>)"},
+        {"do", kWml, R"(<!--do type="A" label="B"--><!--/do-->)",
+            R"(<do type="a" label="B"></do>)"},
+        {"do without label", kWml, R"(<!--do type="a"-->)", R"(<!--do type="a"-->)"},
+        {"unknown", kWml, "<FONT size=2>a</FONT><!-- b -->", "a"},
+        {"image", kWml, R"(<IMG src="C:\T\Bmp0.bmp" vspace=3>)", "</img>"},
+        {"card", kWml, R"(<!--card id="A" title="B"-->x<!--/card-->)",
+            R"(<card id="A" title="B">x</card>)"},
+    });
+    EXPECT_THROW((void)kWml(R"(<a href="x>)"), std::runtime_error);
+}
+
+TEST(LiteralExamples, RadioButtons)
+{
+    const std::string options = R"(<!--option onpick="a\b"-->1<!--/option-->)"
+                                R"(<!--option onpick=#x value="1"-->2<!--/option-->)"
+                                R"(<!--option-->3<!--/option-->)";
+    const std::string buttons
+        = R"~(<!--option onpick="a\b"--><input type=radio name="TempName1" )~"
+          R"~(onclick="javascript:navigate('a/b')">1<!--/option-->)~"
+          R"~(<!--option onpick=#x value="1"--><input type=radio name="TempName2" )~"
+          R"~(onclick="javascript:navigate('#x')">2<!--/option-->)~"
+          R"~(<!--option--><input type=radio name="TempName3">3<!--/option-->)~";
+    constexpr auto kDelete = applied<DeleteAllTemporaeryRadioButtons>;
+    expectAll({
+        {"insert", applied<InsertTemporaeryRadioButtons>, options, buttons},
+        {"delete", kDelete, buttons, options},
+        {"several in one", kDelete, "<!--option--><INPUT><input>a<!--/option--><input>",
+            "<!--option-->a<!--/option--><input>"},
+        {"no end", kDelete, "<!--option--><input>a", "<!--option--><input>a"},
     });
 }
 

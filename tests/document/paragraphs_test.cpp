@@ -32,6 +32,28 @@ void expectSplitAgrees(const std::string& text)
     expectAgreement(SplitAtParagraphs, literal::SplitAtParagraphs, "<b>", "</b>", text);
 }
 
+void expectRepairAgrees(const std::string& text)
+{
+    std::string fast = text;
+    std::string slow = text;
+    RepairParagraphs(fast);
+    literal::RepairParagraphs(slow);
+    ASSERT_EQ(fast, slow) << text;
+}
+
+TEST(RepairParagraphs, AgreesWithPlainSearches)
+{
+    constexpr std::array<std::string_view, 7> kFew{"<card>", "</card", "<p>", "</p", ">", "<", "+"};
+    test::forEachSequence(kFew, 6, expectRepairAgrees);
+    constexpr std::array<std::string_view, 11> kPieces{
+        "</P>", "<p>", "</p", "<", "</", "/p>", "p", "x", ".", "<card a>", "</card>"};
+    for (std::uint32_t seed = 0; seed < 3000; ++seed) {
+        SCOPED_TRACE(seed);
+        expectRepairAgrees(test::randomSoup(seed, kPieces, 40));
+        expectRepairAgrees("<card>" + test::randomSoup(seed, std::span(kPieces).first(9), 20));
+    }
+}
+
 TEST(WrapInParagraph, AgreesWithPlainSearches)
 {
     constexpr std::array<std::string_view, 6> kFew{"<a", "</A", ">", "<p>", "</p>", "x"};

@@ -4,6 +4,7 @@
 #include "literal/search.h"
 
 #include <algorithm>
+#include <array>
 #include <stdexcept>
 #include <utility>
 
@@ -325,7 +326,7 @@ std::string doubledBrackets(std::string text)
     return text;
 }
 
-constexpr Pass kPasses[] = {
+constexpr auto kPasses = std::to_array<Pass>({
     {"1 first do block", firstDoBlock},
     {"2 orphan option ends", orphanOptionEnds},
     {"3 option pairs", optionPairs},
@@ -348,7 +349,7 @@ constexpr Pass kPasses[] = {
     {"20 format nesting", formatNesting},
     {"21 paragraph ends again", paragraphEnds},
     {"22 doubled brackets", doubledBrackets},
-};
+});
 
 bool isBlank(const std::string& text)
 {

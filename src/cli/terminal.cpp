@@ -1,0 +1,106 @@
+// The C library knows the terminal's encoding and converts into it. Held by tests/cli.
+
+#include "cli/terminal.h"
+
+#include "document/failure.h"
+
+#include <array>
+#include <cstdio>
+#include <iconv.h>
+#include <langinfo.h>
+#include <clocale>
+
+namespace quillmere::cli {
+
+namespace {
+
+class Converter {
+public:
+    explicit Converter(const std::string& encoding)
+        : handle_(iconv_open((encoding + "//TRANSLIT").c_str(), "UTF-8"))
+    {
+    }
+    Converter(const Converter&) = delete;
+    Converter& operator=(const Converter&) = delete;
+    Converter(Converter&&) = delete;
+    Converter& operator=(Converter&&) = delete;
+    ~Converter()
+    {
+        if (usable()) iconv_close(handle_);
+    }
+
+    // A character that the encoding has not at all ends the conversion; the text stays UTF-8 then.
+    [[nodiscard]] std::string convert(std::string_view utf8) const
+    {
+        std::string source(utf8);
+        std::string result(source.size() * 4 + 16, '\0');
+        char* from = source.data();
+        char* to = result.data();
+        std::size_t fromLeft = source.size();
+        std::size_t toLeft = result.size();
+        if (!usable() || iconv(handle_, &from, &fromLeft, &to, &toLeft) == kFailed) return source;
+        result.resize(result.size() - toLeft);
+        return result;
+    }
+
+private:
+    static constexpr std::size_t kFailed = static_cast<std::size_t>(-1);
+    [[nodiscard]] bool usable() const { return handle_ != iconv_t(-1); } // NOLINT: its own idiom
+    iconv_t handle_;
+};
+
+// Without a locale the encoding is unknown; UTF-8 is what terminals have today.
+std::string terminalEncoding()
+{
+    (void)std::setlocale(LC_CTYPE, "");
+    const std::string encoding = nl_langinfo(CODESET);
+    return encoding == "ANSI_X3.4-1968" ? "UTF-8" : encoding;
+}
+
+std::string inTerminalEncoding(std::string_view utf8)
+{
+    static const std::string encoding = terminalEncoding();
+    return encoding == "UTF-8" ? std::string(utf8) : Converter(encoding).convert(utf8);
+}
+
+void write(std::FILE* stream, std::string_view bytes)
+{
+    if (std::fwrite(bytes.data(), 1, bytes.size(), stream) == bytes.size()) return;
+    throw FileFailure("Die Standardausgabe nimmt nichts mehr an.");
+}
+
+} // namespace
+
+void print(std::string_view utf8)
+{
+    write(stdout, inTerminalEncoding(utf8));
+}
+
+void printBytes(std::string_view bytes)
+{
+    write(stdout, bytes);
+}
+
+void complain(std::string_view utf8)
+{
+    const std::string line = inTerminalEncoding("quillmere-cli: " + std::string(utf8) + "\n");
+    (void)std::fwrite(line.data(), 1, line.size(), stderr); // nowhere is left to tell a failure
+}
+
+std::string readStandardInput()
+{
+    std::string result;
+    std::array<char, 16384> part {};
+    while (const auto count = std::fread(part.data(), 1, part.size(), stdin))
+        result.append(part.data(), count);
+    if (std::ferror(stdin) != 0) throw FileFailure("Die Standardeingabe ist nicht zu lesen.");
+    return result;
+}
+
+void finishOutput()
+{
+    if (std::fflush(stdout) != 0)
+        throw FileFailure("Die Standardausgabe nimmt nichts mehr an.");
+}
+
+} // namespace quillmere::cli

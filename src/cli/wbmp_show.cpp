@@ -1,0 +1,18 @@
+#include "cli/commands.h"
+#include "document/design_page.h"
+#include "document/files.h"
+#include "imageconv/wbmp_display_copies.h"
+
+namespace quillmere::cli {
+
+ExitStatus runWbmpShow(const Arguments& arguments)
+{
+    if (arguments.operands.size() != 1) throw BadArguments {"„wbmp-show“ braucht genau ein Bild."};
+    if (!arguments.output) throw BadArguments {"Es fehlt -o DATEI."};
+    const WbmpPicture picture
+        = ReadWbmpFile(arguments.operands.front(), OutputRules(arguments.standardOutput));
+    replaceFile(*arguments.output, drawPicture(picture, kDefaultPageColour));
+    return ExitStatus::Done;
+}
+
+} // namespace quillmere::cli

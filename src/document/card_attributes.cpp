@@ -1,0 +1,185 @@
+// Plain searches from marker to key to quotes. A key without a value in quotes counts as missing.
+// Held by card_attributes_test.cpp.
+
+#include "document/card_attributes.h"
+
+#include "document/design_text.h"
+#include "document/text_search.h"
+#include "document/windows1252.h"
+
+#include <optional>
+
+namespace quillmere {
+namespace {
+
+    constexpr std::string_view kCardId = "card id=";
+    constexpr std::string_view kTitle = "title=";
+    constexpr std::string_view kAcceptDo = "do type=\"accept\"";
+    constexpr std::string_view kDefaultName = "Sprung";
+
+    /// The place of a value, without its quotes.
+    struct Value {
+        std::size_t begin = 0;
+        std::size_t end = 0;
+        [[nodiscard]] std::string in(std::string_view text) const
+        {
+            return std::string(text.substr(begin, end - begin));
+        }
+    };
+
+    /// The value of the first `key` (lower case) from `from` on, if its first quote lies ahead of
+    /// `limit`. Its last quote may lie behind: a value may hold a '>'.
+    std::optional<Value> valueOf(
+        std::string_view text, std::string_view key, std::size_t from, std::size_t limit)
+    {
+        const auto at = findIgnoringCase(text.substr(0, limit), key, from);
+        if (at == npos) return std::nullopt;
+        const auto open = text.find('"', at + key.size());
+        if (open == npos || open >= limit) return std::nullopt;
+        const auto close = text.find('"', open + 1);
+        if (close == npos) return std::nullopt;
+        return Value {open + 1, close};
+    }
+
+    struct CardMarker {
+        Value id;
+        std::optional<Value> title;
+    };
+
+    std::optional<CardMarker> cardMarkerIn(std::string_view text)
+    {
+        const auto at = findIgnoringCase(text, kCardId);
+        if (at == npos) return std::nullopt;
+        const auto end = text.find('>', at);
+        if (end == npos) return std::nullopt;
+        const auto id = valueOf(text, kCardId, at, end);
+        if (!id) return std::nullopt;
+        return CardMarker {*id, valueOf(text, kTitle, id->end, end)};
+    }
+
+    std::optional<std::string_view> lineWithCard(std::string_view text)
+    {
+        LineReader lines(text);
+        auto line = lines.next();
+        while (line && findIgnoringCase(*line, kCardId) == npos) line = lines.next();
+        return line;
+    }
+
+    /// A value inside the accept do that begins at `at`; without an end nothing lies inside of it.
+    std::optional<Value> valueInDo(std::string_view text, std::size_t at, std::string_view key)
+    {
+        const auto end = findIgnoringCase(text, "<!--/do", at);
+        if (end == npos) return std::nullopt;
+        return valueOf(text, key, at, end);
+    }
+
+    /// ` key="value"`, to be put into a marker.
+    std::string attribute(std::string_view key, std::string_view value)
+    {
+        return std::string(" ").append(key).append("\"").append(value).append("\"");
+    }
+
+    bool bearsName(std::string_view text, std::string_view name)
+    {
+        const auto key = std::string("name=\"").append(lowerCase(name)).append("\"");
+        return findIgnoringCase(text, key) != npos;
+    }
+
+    std::string unusedJumpName(std::string_view text, std::string_view wanted)
+    {
+        std::string name(wanted.empty() ? kDefaultName : wanted);
+        for (int i = 0; bearsName(text, name); ++i)
+            name = std::string(kDefaultName) + std::to_string(i);
+        return name;
+    }
+
+    /// Sets an attribute of the accept do at `at`; a missing one is put in behind the type.
+    void setDoAttribute(
+        std::string& text, std::size_t at, std::string_view key, std::string_view value)
+    {
+        if (const auto old = valueInDo(text, at, key))
+            text.replace(old->begin, old->end - old->begin, value);
+        else
+            text.insert(at + kAcceptDo.size(), attribute(key, value).append(" "));
+    }
+
+    void changeJump(std::string& text, std::size_t at, const Jump& jump)
+    {
+        setDoAttribute(text, at, "label=", jump.label);
+        setDoAttribute(text, at, "name=", jump.name);
+        if (const auto old = valueInDo(text, at, "go href="))
+            text.replace(old->begin, old->end - old->begin, jump.target);
+    }
+
+    void insertJump(std::string& text, const Jump& jump)
+    {
+        const auto card = findIgnoringCase(text, "<!--card");
+        const auto end = card == npos ? npos : text.find('>', card);
+        if (end == npos) return;
+        std::string block = "<!--do type=\"accept\"";
+        block.append(attribute("label=", jump.label)).append(attribute("name=", jump.name));
+        block.append("--><!--go").append(attribute("href=", jump.target));
+        block.append("/--><!--/do-->");
+        text.insert(end + 1, block);
+    }
+
+} // namespace
+
+CardAttributes GetCardAttributes(DocumentSession& session, std::size_t areaIndex)
+{
+    const auto& area = areaRecord(session, areaIndex);
+    const auto text = session.workFiles.read(area.designDir + area.designFile);
+    const auto line = lineWithCard(text);
+    const auto marker = line ? cardMarkerIn(*line) : std::nullopt;
+    if (!marker) return {};
+    return {marker->id.in(*line), marker->title ? marker->title->in(*line) : std::string()};
+}
+
+void SetCardAttributes(
+    DocumentSession& session, std::size_t areaIndex, std::string_view id, std::string_view title)
+{
+    const auto text = ReadDesignText(session, areaIndex);
+    Rewriter changed(text);
+    if (const auto marker = cardMarkerIn(text)) {
+        changed.drop(marker->id.begin, marker->id.end);
+        changed.insert(marker->id.end, id);
+        if (marker->title) {
+            changed.drop(marker->title->begin, marker->title->end);
+            changed.insert(marker->title->end, title);
+        } else {
+            changed.insert(marker->id.end + 1, attribute("title=", title));
+        }
+    }
+    WriteDesignText(session, areaIndex, changed.take());
+}
+
+Jump GetJump(DocumentSession& session, std::size_t areaIndex)
+{
+    const auto text = ReadDesignText(session, areaIndex);
+    const auto at = findIgnoringCase(text, kAcceptDo);
+    if (at == npos) return {};
+    const auto valueOrEmpty = [&](std::string_view key) {
+        const auto value = valueInDo(text, at, key);
+        return value ? value->in(text) : std::string();
+    };
+    return {valueOrEmpty("name="), valueOrEmpty("label="), valueOrEmpty("go href=")};
+}
+
+void SetJump(DocumentSession& session, std::size_t areaIndex, const Jump& jump)
+{
+    auto text = ReadDesignText(session, areaIndex);
+    const Jump named {unusedJumpName(text, jump.name), jump.label, jump.target};
+    const auto at = findIgnoringCase(text, kAcceptDo);
+    if (at != npos)
+        changeJump(text, at, named);
+    else
+        insertJump(text, named);
+    WriteDesignText(session, areaIndex, text);
+}
+
+bool JumpNameInUse(DocumentSession& session, std::size_t areaIndex, std::string_view name)
+{
+    return bearsName(ReadDesignText(session, areaIndex), name);
+}
+
+} // namespace quillmere

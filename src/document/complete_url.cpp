@@ -1,0 +1,41 @@
+// Held by complete_url_test.cpp.
+
+#include "document/complete_url.h"
+
+#include "document/text_search.h"
+#include "document/windows1252.h"
+#include "document/word_ids.h"
+
+#include <array>
+#include <optional>
+
+namespace quillmere {
+
+namespace {
+
+// A name without any of these is a card's or a word, and no address.
+bool looksLikeAddress(std::string_view text)
+{
+    return text.find_first_of("\\/") != npos || text.find(".wml") != npos;
+}
+
+std::optional<std::string> offerFor(std::string_view address)
+{
+    if (standsAt(address, 0, "http:")) return std::nullopt;
+    if (standsAt(address, 0, "www.")) return "http://" + std::string(address);
+    if (!looksLikeAddress(address)) return std::nullopt;
+    return "http://www." + std::string(address);
+}
+
+} // namespace
+
+std::string CompleteUrl(std::string_view text, Prompter& prompter)
+{
+    const auto offer = offerFor(trimBlanks(text));
+    if (!offer) return std::string(text);
+    const std::array gaps{*offer};
+    return prompter.ask(word::kCompleteUrl, gaps, MessageIcon::Question) ? *offer
+                                                                         : std::string(text);
+}
+
+} // namespace quillmere

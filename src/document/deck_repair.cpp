@@ -1,0 +1,34 @@
+// The text stands as the pristine copy and as the generated deck, so that no deck file is needed.
+
+#include "document/deck_repair.h"
+
+#include "document/deck_store.h"
+
+namespace quillmere {
+
+namespace {
+
+std::string putIntoWorkFile(WorkFiles& files, const std::string& text)
+{
+    std::string name = files.createFile("Wml", ".wml");
+    files.write(files.directory() + name, text);
+    return name;
+}
+
+} // namespace
+
+std::string repairedDeck(
+    DocumentSession& session, const std::string& text, const std::string& deckDir)
+{
+    const std::string directory = session.workFiles.directory();
+    Deck opened(2);
+    opened.front().pristineFile = putIntoWorkFile(session.workFiles, text);
+    opened.front().pristineDir = directory;
+    const std::string workFile = putIntoWorkFile(session.workFiles, text);
+    session.deck = std::move(opened);
+    LoadDeck(session, {{}, deckDir, workFile, directory});
+    WriteDeck(session);
+    return session.workFiles.read(directory + workFile);
+}
+
+} // namespace quillmere

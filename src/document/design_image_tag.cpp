@@ -1,0 +1,86 @@
+// A picture that stands in several areas is rebuilt for each of them, and the last one counts, as
+// its name and its size may differ there. Held by design_image_tag_test.cpp.
+
+#include "document/design_image_tag.h"
+
+#include "document/failure.h"
+#include "document/text_search.h"
+
+#include <array>
+
+namespace quillmere {
+
+namespace {
+
+constexpr std::string_view kSrc = "src=\"";
+constexpr std::string_view kAlt = "alt=\"";
+constexpr std::string_view kAlign = "align=\"";
+constexpr std::string_view kHeight = "height=\"";
+constexpr std::string_view kWidth = "width=\"";
+constexpr std::array<std::string_view, 2> kSpaces{"vspace=\"", "hspace=\""};
+
+/// The size behind `name` in a style such as "height: 20px"; nullopt where the name is missing.
+std::optional<std::int32_t> pixelsBehind(std::string_view tag, std::string_view name)
+{
+    const auto at = tag.find(name);
+    if (at == npos) return std::nullopt;
+    const auto begin = at + name.size();
+    const auto unit = tag.find("px", begin);
+    if (unit == npos) throw InvalidArgument();
+    return wholeNumber(tag.substr(begin, unit - begin));
+}
+
+} // namespace
+
+DesignImageTags::DesignImageTags(
+    const CasedText& text, DisplayCopyIndex& index, PictureEdits& edits, const OutputRules& rules)
+    : text_(text)
+    , index_(index)
+    , edits_(edits)
+    , keepsAlternativeTextCase_(rules.keepsAlternativeTextCase())
+    , src_(text.lower, kSrc)
+{
+}
+
+Replacement DesignImageTags::wmlTag(const Tag& tag)
+{
+    const auto src = src_.quoted(tag);
+    if (!src) return std::nullopt;
+    std::string result;
+    for (const auto& place : index_.find(src->in(text_.lower)))
+        result = tagFor(tag, edits_.at(place));
+    for (const auto key : kSpaces) {
+        const auto space = AttributeReader(text_.lower, key).quotedOrBare(tag);
+        if (!space || result.empty()) continue;
+        appendAttribute(result, key, space->in(text_.lower));
+    }
+    if (!result.empty()) result += '>';
+    return result += "</img>";
+}
+
+/// The tag without its '>'.
+std::string DesignImageTags::tagFor(const Tag& tag, ImageEntry& entry)
+{
+    std::string result("<img");
+    appendAttribute(result, kSrc, entry.sourceFile);
+    // The words come out in lower case, unless the standard rules hold.
+    const auto words = keepsAlternativeTextCase_ ? text_.source : text_.lower;
+    const auto alt = AttributeReader(text_.lower, kAlt).quotedOrBare(tag);
+    if (alt) appendAttribute(result, kAlt, alt->in(words));
+    readSize(tag, entry);
+    if (entry.hasLayout) {
+        appendAttribute(result, kAlign, entry.alignment);
+        appendAttribute(result, kHeight, std::to_string(entry.heightPx));
+        appendAttribute(result, kWidth, std::to_string(entry.widthPx));
+    }
+    return result;
+}
+
+void DesignImageTags::readSize(const Tag& tag, ImageEntry& entry) const
+{
+    const auto lower = tag.in(text_.lower);
+    if (const auto height = pixelsBehind(lower, "height:")) entry.heightPx = *height;
+    if (const auto width = pixelsBehind(lower, "width:")) entry.widthPx = *width;
+}
+
+} // namespace quillmere

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "document/output_rules.h"
+#include "document/picture_entries.h"
+#include "document/tag_attributes.h"
+#include "document/tag_translation.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace quillmere {
+
+/// Turns the surface's image tags of one text back into those of WML. The picture's name comes from
+/// its entry; the size that the surface shows goes into the entry, and from there into the tag
+/// where the entry says so. Text, index and edits must outlive the object.
+class DesignImageTags {
+public:
+    DesignImageTags(const CasedText& text, DisplayCopyIndex& index, PictureEdits& edits,
+        const OutputRules& rules);
+    /// The tag of WML; a lone "</img>" for a picture that no area has, nullopt for a tag without
+    /// `src="`. Throws InvalidArgument and TypeMismatch.
+    [[nodiscard]] Replacement wmlTag(const Tag& tag);
+
+private:
+    [[nodiscard]] std::string tagFor(const Tag& tag, ImageEntry& entry);
+    void readSize(const Tag& tag, ImageEntry& entry) const;
+
+    CasedText text_;
+    DisplayCopyIndex& index_;
+    PictureEdits& edits_;
+    bool keepsAlternativeTextCase_;
+    AttributeReader src_;
+};
+
+} // namespace quillmere

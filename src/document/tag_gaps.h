@@ -1,0 +1,70 @@
+#pragma once
+
+#include "document/text_search.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <string_view>
+#include <vector>
+
+// The gaps between the tags of a laid out text. White space is every character with a code
+// below 33.
+
+namespace quillmere {
+
+/// The white space at both ends of a gap. Where the gap holds nothing else, all is `lead`.
+struct GapSpace {
+    std::string_view lead;
+    std::string_view trail;
+};
+
+/// Tells the gap ahead of one '<' after the other: what stands between it and the last '>'.
+/// The text must outlive the walk.
+class GapWalk {
+public:
+    explicit GapWalk(std::string_view text)
+        : text_(text)
+        , tagEnds_(text, ">")
+    {
+    }
+
+    /// Goes to the gap ahead of the '<' at `tag`, which does not go back.
+    void goAheadOf(std::size_t tag);
+    /// Whether a '>' stands ahead, so that there is a gap.
+    [[nodiscard]] bool exists() const { return begin_ != 0; }
+    [[nodiscard]] std::size_t begin() const { return begin_; }
+    /// Where the leading white space ends.
+    [[nodiscard]] std::size_t leadEnd() const { return leadEnd_; }
+    /// Where the trailing white space begins that is not leading as well.
+    [[nodiscard]] std::size_t trailBegin() const;
+    [[nodiscard]] GapSpace space() const;
+
+private:
+    std::string_view text_;
+    ForwardFinder tagEnds_;
+    std::size_t tag_ = 0;
+    std::size_t begin_ = 0;
+    std::size_t leadEnd_ = 0;
+};
+
+/// By how many of its first characters a tag is known, its '<' being one of them.
+inline constexpr std::size_t kTagKeyLength = 3;
+
+/// Walks the tags of a text that match given keys, each one behind the one before it.
+/// The text must outlive the walk.
+class PristineWalk {
+public:
+    explicit PristineWalk(std::string_view text);
+    /// Goes to the next tag that begins with `key`, ignoring case: the first three characters of a
+    /// tag, or "<>". Returns the white space ahead of it; nullopt where there is no such tag, which
+    /// leaves the walk where it is, or no gap ahead of the tag.
+    [[nodiscard]] std::optional<GapSpace> goTo(std::string_view key);
+
+private:
+    std::vector<std::uint64_t> tags_; // key and offset of all '<', in rising order
+    std::size_t from_ = 0;
+    GapWalk gaps_;
+};
+
+} // namespace quillmere

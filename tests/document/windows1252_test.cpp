@@ -1,0 +1,86 @@
+#include "document/windows1252.h"
+
+#include <gtest/gtest.h>
+
+#include <vector>
+
+namespace quillmere {
+namespace {
+
+std::string allCharacters()
+{
+    std::string result;
+    for (int code = 0; code < 256; ++code)
+        result += static_cast<char>(code);
+    return result;
+}
+
+TEST(Windows1252, EveryCharacterComesBackFromUtf8)
+{
+    EXPECT_EQ(fromUtf8(toUtf8(allCharacters())), allCharacters());
+    EXPECT_EQ(toUtf8("\x80\x93\xE4\xFF"), "\u20AC\u201C\u00E4\u00FF");
+    EXPECT_EQ(toCodePoint('\x81'), 0x81U); // left open by the code table
+}
+
+TEST(Windows1252, ReadsUtf8)
+{
+    struct Row {
+        const char* name;
+        std::string utf8;
+        std::string wanted;
+    };
+    const std::vector<Row> rows{
+        {"letters", "a\u00E4\u20AC", "a\xE4\x80"},
+        {"not in the code table", "\u2212\U0001F600\u0085", "&#8722;&#128512;&#133;"},
+        {"largest of each length", "\u07FF\uFFFD\U0010FFFF", "&#2047;&#65533;&#1114111;"},
+        {"cut at the end", "\xE2\x82", "\xE2\x82"},
+        {"cut ahead of a letter", "\xC3x", "\xC3x"},
+        {"a byte that only goes on", "\xA4", "\xA4"},
+        {"longer than needed", "\xC0\xBC\xE0\x80\xBC\xF0\x80\x80\xBC",
+            "\xC0\xBC\xE0\x80\xBC\xF0\x80\x80\xBC"},
+        {"half of a pair", "\xED\xA0\x80", "\xED\xA0\x80"},
+        {"beyond Unicode", "\xF4\x90\x80\x80\xF5", "\xF4\x90\x80\x80\xF5"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        EXPECT_EQ(fromUtf8(row.utf8), row.wanted);
+    }
+}
+
+TEST(Windows1252, DeckBytesDecideTheirEncoding)
+{
+    EXPECT_EQ(textFromDeckBytes("\xEF\xBB\xBF<wml>\u00E4"), "<wml>\xE4");
+    EXPECT_EQ(textFromDeckBytes("\xEF\xBB\xBF"), "");
+    EXPECT_EQ(textFromDeckBytes("<wml>\u00E4"), "<wml>\xE4");
+    EXPECT_EQ(textFromDeckBytes("<wml>\xE4 \u00E4"), "<wml>\xE4 \u00E4"); // not valid as a whole
+    EXPECT_EQ(
+        textFromDeckBytes("<?xml encoding=\"UTF-8\"?>\xE4"), "<?xml encoding=\"UTF-8\"?>\xE4");
+}
+
+/// Small letters as their Unicode numbers tell them, without a table of the code page.
+char32_t lowerOf(char32_t point)
+{
+    if (point == 0x178) return 0xFF;
+    const bool latin
+        = (point >= 'A' && point <= 'Z') || (point >= 0xC0 && point <= 0xDE && point != 0xD7);
+    if (latin) return point + 0x20;
+    return point == 0x160 || point == 0x152 || point == 0x17D ? point + 1 : point;
+}
+
+TEST(Windows1252, LowersLettersWithAccents)
+{
+    for (const char character : allCharacters())
+        EXPECT_EQ(toCodePoint(lowerCase(character)), lowerOf(toCodePoint(character)));
+    EXPECT_TRUE(equalIgnoringCase("\xC4pfel\x8A", "\xE4PFEL\x9A"));
+    EXPECT_FALSE(equalIgnoringCase("ab", "abc"));
+}
+
+TEST(Windows1252, TrimsBlanksOnly)
+{
+    EXPECT_EQ(trimBlanks("  a b\t "), "a b\t");
+    EXPECT_EQ(trimBlanks("   "), "");
+    EXPECT_EQ(trimBlanks(""), "");
+}
+
+} // namespace
+} // namespace quillmere

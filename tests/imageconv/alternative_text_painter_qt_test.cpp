@@ -1,0 +1,94 @@
+#include "imageconv/alternative_text_painter_qt.h"
+
+#include "imageconv/wbmp_display_copies.h"
+
+#include <QByteArray>
+#include <QGuiApplication>
+#include <QImage>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+
+namespace quillmere {
+namespace {
+
+class AlternativeText : public testing::Test {
+protected:
+    static void SetUpTestSuite()
+    {
+        static int count = 1;
+        static char name[] = "imageconv_test";
+        static char* arguments[] = {name, nullptr};
+        static const QGuiApplication application(count, arguments);
+    }
+    QtAlternativeTextPainter painter{QFont("Sans Serif", 9)};
+};
+
+std::size_t pixelsOf(const TextCoverage& text, int atLeast)
+{
+    return std::size_t(std::count_if(text.pixels.begin(), text.pixels.end(),
+        [&](char pixel) { return int(static_cast<unsigned char>(pixel)) >= atLeast; }));
+}
+
+TEST_F(AlternativeText, IsDrawnWholeWithAMargin)
+{
+    const auto text = painter.paint("Sehr langer ...");
+    ASSERT_EQ(text.pixels.size(), std::size_t(text.widthPx) * std::size_t(text.heightPx));
+    EXPECT_GT(text.widthPx, 60);
+    EXPECT_GT(text.heightPx, 10);
+    EXPECT_GT(pixelsOf(text, 200), 60U) << "stems are crisp";
+    const auto row = [&](int y) {
+        return text.pixels.substr(
+            std::size_t(y) * std::size_t(text.widthPx), std::size_t(text.widthPx));
+    };
+    const std::string ground(std::size_t(text.widthPx), '\0');
+    EXPECT_EQ(row(0), ground);
+    EXPECT_EQ(row(text.heightPx - 1), ground);
+    for (int y = 0; y < text.heightPx; ++y) {
+        EXPECT_EQ(row(y).front(), '\0');
+        EXPECT_EQ(row(y).back(), '\0');
+    }
+}
+
+TEST_F(AlternativeText, KnowsTheLettersOfWindows1252)
+{
+    const auto letter = painter.paint("a");
+    const auto umlaut = painter.paint("\xE4");
+    EXPECT_EQ(umlaut.widthPx, letter.widthPx);
+    EXPECT_GT(pixelsOf(umlaut, 100), pixelsOf(letter, 100)) << "the dots";
+    const auto blank = painter.paint(" ");
+    EXPECT_EQ(pixelsOf(blank, 1), 0U);
+    EXPECT_GT(blank.widthPx, 0);
+}
+
+QImage imageOf(const std::string& bmp)
+{
+    return QImage::fromData(QByteArray(bmp.data(), qsizetype(bmp.size())), "BMP");
+}
+
+TEST_F(AlternativeText, DisplayCopiesOpenInAnotherReader)
+{
+    WbmpDisplayCopies copies(OutputRules(), painter);
+    const auto text = imageOf(copies.draw("fehlt.wbmp", "Logo", 0x00247F07).bmp);
+    ASSERT_FALSE(text.isNull());
+    EXPECT_EQ(text.pixelColor(0, 0), QColor(0x07, 0x7F, 0x24));
+    int darkest = 255;
+    for (int y = 0; y < text.height(); ++y)
+        for (int x = 0; x < text.width(); ++x)
+            darkest = std::min(darkest, text.pixelColor(x, y).green());
+    EXPECT_LT(darkest, 40);
+
+    const WbmpPicture picture{{11, 2}, {"\xAA\xA0\x00\x20", 4}};
+    const auto drawn = imageOf(drawPicture(picture, 0x00247F07));
+    ASSERT_EQ(drawn.size(), QSize(11, 2));
+    for (int y = 0; y < 2; ++y) {
+        for (int x = 0; x < 11; ++x) {
+            const QColor wanted = picture.isSet(x, y) ? QColor(0x07, 0x7F, 0x24) : QColor(64, 0, 0);
+            EXPECT_EQ(drawn.pixelColor(x, y), wanted) << x << " " << y;
+        }
+    }
+}
+
+} // namespace
+} // namespace quillmere

@@ -1,0 +1,81 @@
+#include "upload/profiles.h"
+
+#include "document/failure.h"
+#include "support/random_bytes.h"
+#include "support/scratch_folder.h"
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+namespace quillmere {
+namespace {
+
+std::filesystem::perms modeOf(const std::string& path)
+{
+    return std::filesystem::status(path).permissions();
+}
+
+constexpr auto kOwnerOnly = std::filesystem::perms(0600);
+
+TEST(Profiles, KeepEveryByteOfAnyFile)
+{
+    const auto bytes = test::randomBytes(4 * ProfileRecord::kSize, 7);
+    const auto profiles = readProfiles(bytes + std::string(ProfileRecord::kSize - 1, 'x'));
+    ASSERT_EQ(profiles.size(), 5U);
+    EXPECT_EQ(profileBytes(profiles), bytes);
+    EXPECT_EQ(profiles[4].profileName.text(), "");
+}
+
+TEST(Profiles, HaveTheirMembersAtTheirOffsets)
+{
+    std::vector<ProfileRecord> profiles(2);
+    auto& profile = profiles.front();
+    profile.profileName.set("Büro");
+    profile.url.set("ftp.example.org");
+    profile.accessType = 3;
+    profile.proxyServer.set("proxy");
+    profile.port = 2121;
+    profile.savePassword = ProfileRecord::kPasswordSaved;
+    const auto bytes = profileBytes(profiles);
+    ASSERT_EQ(bytes.size(), ProfileRecord::kSize);
+    EXPECT_EQ(bytes.substr(0, 3), "B\xC3\xBC");
+    EXPECT_EQ(bytes.substr(300, 600), std::string(600, ' '));
+    EXPECT_EQ(bytes.substr(900, 16), "ftp.example.org ");
+    EXPECT_EQ(bytes.substr(1500, 9), std::string("\x03\0\0\0proxy", 9));
+    EXPECT_EQ(bytes.substr(1804), std::string("\x49\x08\0\0\xFF\xFF", 6));
+}
+
+TEST(Profiles, AreSavedForTheirOwnerOnly)
+{
+    const test::ScratchFolder folder;
+    const auto path = folder.path() + "Connect/Connect.ini";
+    EXPECT_EQ(loadProfiles(path).size(), 1U);
+
+    std::vector<ProfileRecord> profiles(3);
+    profiles[1].password.set("geheim");
+    saveProfiles(path, profiles);
+    EXPECT_EQ(modeOf(path), kOwnerOnly);
+    EXPECT_EQ(loadProfiles(path).at(1).password.text(), "geheim");
+
+    std::filesystem::permissions(path, std::filesystem::perms(0644));
+    saveProfiles(path, profiles);
+    EXPECT_EQ(modeOf(path), kOwnerOnly);
+
+    saveProfiles(path, std::vector<ProfileRecord>(1));
+    EXPECT_FALSE(folder.has("Connect/Connect.ini"));
+}
+
+TEST(Profiles, AFileThatCannotBeWrittenIsAFailure)
+{
+    const test::ScratchFolder folder;
+    folder.put("file", "");
+    EXPECT_THROW(saveProfiles(folder.path() + "file/Connect.ini", std::vector<ProfileRecord>(2)),
+        FileFailure);
+    std::filesystem::create_directory(folder.path() + "directory");
+    EXPECT_THROW(
+        saveProfiles(folder.path() + "directory", std::vector<ProfileRecord>(2)), FileFailure);
+}
+
+} // namespace
+} // namespace quillmere
