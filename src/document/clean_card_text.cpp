@@ -75,8 +75,8 @@ void ensureParagraph(EditedText& text)
     const auto cardEnd = text.find(kCardEnd);
     if (cardEnd == npos || text.find(kParagraph) != npos) return;
     const auto begin = contentBegin(text);
-    const auto end = std::min(text.find(kDo, begin), text.find(kCardEnd, begin));
-    if (end != npos && hasLooseText(text.copy(begin, end))) {
+    const auto end = std::min(text.find(kDo, begin), cardEnd);
+    if (begin <= end && hasLooseText(text.copy(begin, end))) {
         text.insert(end, kNewParagraphEnd);
         text.insert(begin, kNewParagraph);
     } else {

@@ -49,19 +49,12 @@ namespace {
         // first one of "<!--option-->a<!--option-->b<!--/select-->" does.
     }
 
-    void dropAll(EditedText& text, std::string_view key, std::size_t from)
-    {
-        for (auto at = text.find(key, from); at != npos; at = text.find(key, at)) {
-            if (text.cutTag(at) == 0) return;
-        }
-    }
-
 } // namespace
 
 void dropEarlyOptionEnds(EditedText& text)
 {
-    for (auto at = text.find(kOptionEnd); at != npos; at = text.find(kOptionEnd, at)) {
-        if (text.find(kOption) < at || text.cutTag(at) == 0) return;
+    for (auto at = text.find(kOptionEnd); at < text.find(kOption); at = text.find(kOptionEnd)) {
+        if (text.cutTag(at) == 0) return;
     }
 }
 
@@ -74,7 +67,7 @@ void completeOptions(EditedText& text)
     }
     if (last == npos) return;
     const auto itsEnd = text.find(kOptionEnd, last + 1);
-    if (itsEnd != npos) dropAll(text, kOptionEnd, itsEnd + 1);
+    if (itsEnd != npos) text.cutEveryTag(kOptionEnd, itsEnd + 1);
 }
 
 void openSelect(EditedText& text)
@@ -93,8 +86,8 @@ void closeSelect(EditedText& text)
 void dropEmptySelects(EditedText& text)
 {
     if (text.find(kSelect) == npos || text.find(kOption) != npos) return;
-    dropAll(text, kSelect, 0);
-    dropAll(text, kSelectEnd, 0);
+    text.cutEveryTag(kSelect);
+    text.cutEveryTag(kSelectEnd);
 }
 
 } // namespace quillmere

@@ -20,13 +20,6 @@ namespace {
         return at != npos && at + kAlign.size() <= end;
     }
 
-    void dropAll(EditedText& text, std::string_view key, std::size_t from)
-    {
-        for (auto at = text.find(key, from); at != npos; at = text.find(key, at)) {
-            if (text.cutTag(at) == 0) return;
-        }
-    }
-
     // Drops the paragraph begins that follow the one at `first` with no end between. The tag that
     // takes the first one's place is put there when the run is through, so that a long run does
     // not go back for each of its tags.
@@ -157,7 +150,7 @@ void dropTrailingParagraphs(std::string& text)
     const auto from = behind == 0 ? 0 : behind - 1;
     EditedText edited(std::move(text));
     for (const auto key : { kParagraph, kParagraphEnd, kBreak })
-        dropAll(edited, key, from);
+        edited.cutEveryTag(key, from);
     text = std::move(edited).take();
 }
 

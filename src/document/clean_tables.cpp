@@ -76,7 +76,7 @@ namespace {
                 const auto behind = text_.tagEnd(at);
                 if (behind >= end_) continue;
                 const auto next = std::min(findInside(kRow, behind), end_);
-                text_.cut(behind, next);
+                text_.cut(behind, std::min(next, text_.size())); // the end may be told too far
                 shorten(next - behind);
             }
         }

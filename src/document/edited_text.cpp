@@ -102,6 +102,11 @@ std::size_t EditedText::cutTag(std::size_t begin)
     return end - begin;
 }
 
+void EditedText::cutEveryTag(std::string_view key, std::size_t from)
+{
+    for (auto at = find(key, from); at != npos && cutTag(at) > 0; at = find(key, from)) { }
+}
+
 std::string EditedText::take() &&
 {
     buffer_.erase(gapBegin_, gapEnd_ - gapBegin_);

@@ -24,7 +24,7 @@ TEST(TextSearch, ForwardFinderAgreesWithPlainSearchFromAnyPlace)
 {
     const std::string text = "<p<<p>x</p><P";
     ForwardFinder finder(text, "<p");
-    for (const std::size_t from : std::vector<std::size_t> {0, 1, 2, 3, 4, 12, 11, 0, 13, 14, 2})
+    for (const std::size_t from : std::vector<std::size_t>{0, 1, 2, 3, 4, 12, 11, 0, 13, 14, 2})
         EXPECT_EQ(finder.next(from), findIgnoringCase(text, "<p", from)) << from;
 }
 
