@@ -68,8 +68,6 @@ private:
     [[nodiscard]] Search& remembered(std::string_view key);
     [[nodiscard]] std::size_t findFrom(
         std::string_view key, std::size_t begin, std::size_t limit) const;
-    [[nodiscard]] std::size_t findCharacter(
-        char character, std::size_t begin, std::size_t limit) const;
     [[nodiscard]] bool standsHere(std::string_view key, std::size_t offset) const;
     void moveGap(std::size_t offset);
     void growGap(std::size_t atLeast);
