@@ -39,6 +39,9 @@ struct DeckChangesReport {
     std::vector<DeckChange> changes;
     /// Nothing where the written text is a well-formed XML 1.0 document.
     std::optional<DeckFault> fault;
+    /// Whether a further repair of the written deck leaves it as it is. DeckChanges cannot know
+    /// it; who repairs sets it.
+    std::optional<bool> stable;
 
     [[nodiscard]] bool wellFormed() const { return !fault; }
 };

@@ -1,8 +1,8 @@
-// Each text crosses from Windows-1252 into UTF-8 as it becomes a JSON string. Held by
-// deck_changes_report_test.cpp.
+// Texts stay Windows-1252 until the object is whole. Held by deck_changes_report_test.cpp.
+
+#include "document/deck_changes_json.h"
 
 #include "document/deck_change_counts.h"
-#include "document/deck_changes_report.h"
 #include "document/markup_fault_texts.h"
 #include "document/windows1252.h"
 
@@ -24,12 +24,7 @@ template <typename Enum> std::size_t row(Enum value)
     return static_cast<std::size_t>(value);
 }
 
-std::string_view jsonBool(bool value)
-{
-    return value ? "true" : "false";
-}
-
-/// A JSON string of UTF-8 text.
+/// A JSON string; `text` is Windows-1252, the result as well, so that it crosses with the rest.
 std::string jsonString(std::string_view text)
 {
     constexpr std::string_view kDigits = "0123456789abcdef";
@@ -62,11 +57,11 @@ std::string jsonChange(const DeckChange& change)
     std::string json = "{";
     addMember(json, "kind", jsonString(kKinds[row(change.kind)]));
     addMember(json, "subject", jsonString(kSubjects[row(change.subject)]));
-    addMember(json, "element", jsonString(toUtf8(change.element)));
+    addMember(json, "element", jsonString(change.element));
     if (change.subject == Subject::Attribute)
-        addMember(json, "attribute", jsonString(toUtf8(change.attribute)));
-    if (change.kind != Kind::Added) addMember(json, "before", jsonString(toUtf8(change.before)));
-    if (change.kind != Kind::Lost) addMember(json, "after", jsonString(toUtf8(change.after)));
+        addMember(json, "attribute", jsonString(change.attribute));
+    if (change.kind != Kind::Added) addMember(json, "before", jsonString(change.before));
+    if (change.kind != Kind::Lost) addMember(json, "after", jsonString(change.after));
     addMember(json, "count", std::to_string(change.count));
     if (change.readAt) addMember(json, "readAt", jsonPlace(*change.readAt));
     if (change.writtenAt) addMember(json, "writtenAt", jsonPlace(*change.writtenAt));
@@ -77,7 +72,7 @@ std::string jsonCount(const DeckChangeCount& count)
 {
     std::string json = "{";
     addMember(json, "subject", jsonString(kSubjects[row(count.subject)]));
-    addMember(json, "name", jsonString(toUtf8(count.name)));
+    addMember(json, "name", jsonString(count.name));
     const auto values = std::array{count.lost, count.added, count.changed, count.moved};
     for (std::size_t i = 0; i < values.size(); ++i)
         addMember(json, kKinds[i], std::to_string(values[i]));
@@ -87,7 +82,7 @@ std::string jsonCount(const DeckChangeCount& count)
 std::string jsonFault(const DeckFault& fault)
 {
     std::string json = "{";
-    addMember(json, "reason", jsonString(toUtf8(describeFault(fault.fault, fault.name))));
+    addMember(json, "reason", jsonString(describeFault(fault.fault, fault.name)));
     addMember(json, "line", std::to_string(fault.writtenAt.line));
     addMember(json, "column", std::to_string(fault.writtenAt.column));
     return json + '}';
@@ -103,17 +98,16 @@ template <typename Items, typename Print> std::string jsonList(const Items& item
 
 } // namespace
 
-std::string jsonReport(const DeckReport& report)
+std::string jsonReport(const DeckChangesReport& report, std::string_view deckName)
 {
-    const auto& changes = report.changes;
     std::string json = "{";
-    addMember(json, "deck", jsonString(report.deckName));
-    addMember(json, "wellFormed", jsonBool(changes.wellFormed()));
-    addMember(json, "fault", changes.fault ? jsonFault(*changes.fault) : "null");
-    addMember(json, "changesAgain", report.changesAgain ? jsonBool(*report.changesAgain) : "null");
-    addMember(json, "summary", jsonList(countChanges(changes), jsonCount));
-    addMember(json, "changes", jsonList(changes.changes, jsonChange));
-    return json + '}';
+    addMember(json, "deck", jsonString(deckName));
+    addMember(json, "wellFormed", report.wellFormed() ? "true" : "false");
+    addMember(json, "fault", report.fault ? jsonFault(*report.fault) : "null");
+    addMember(json, "stable", report.stable ? (*report.stable ? "true" : "false") : "null");
+    addMember(json, "summary", jsonList(countChanges(report), jsonCount));
+    addMember(json, "changes", jsonList(report.changes, jsonChange));
+    return toUtf8(json + '}');
 }
 
 } // namespace quillmere

@@ -138,16 +138,15 @@ std::string tableText(const std::vector<DeckChangeCount>& counts)
     return table + '\n';
 }
 
-std::string verdictText(const DeckReport& report)
+std::string verdictText(const DeckChangesReport& report)
 {
-    const auto& fault = report.changes.fault;
-    std::string text = fault
-        ? "Das Ergebnis ist nicht wohlgeformt: " + describeFault(fault->fault, fault->name) + " ("
-            + placeText(fault->writtenAt) + " des Ergebnisses).\n"
-        : std::string("Das Ergebnis ist wohlgeformt.\n");
-    if (report.changesAgain)
-        text += german(*report.changesAgain ? "Eine weitere Korrektur ändert es noch einmal.\n"
-                                            : "Eine weitere Korrektur ändert daran nichts.\n");
+    std::string text = report.fault ? "Das Ergebnis ist nicht wohlgeformt: "
+            + describeFault(report.fault->fault, report.fault->name) + " ("
+            + placeText(report.fault->writtenAt) + " des Ergebnisses).\n"
+                                    : std::string("Das Ergebnis ist wohlgeformt.\n");
+    if (report.stable)
+        text += german(*report.stable ? "Eine weitere Korrektur ändert daran nichts.\n"
+                                      : "Eine weitere Korrektur ändert es noch einmal.\n");
     return text;
 }
 
@@ -159,15 +158,14 @@ std::string describeChange(const DeckChange& change)
         german(kKinds[row(change.kind)]) + ": " + changeText(change) + placesText(change));
 }
 
-std::string textReport(const DeckReport& report)
+std::string textReport(const DeckChangesReport& report, std::string_view deckName)
 {
-    const auto& changes = report.changes.changes;
-    std::string text;
-    for (const auto& change : changes)
+    std::string text = std::string(deckName) + '\n';
+    for (const auto& change : report.changes)
         text += "  " + describeChange(change) + '\n';
-    if (changes.empty()) text += german("  Nichts verloren, nichts hinzugekommen.\n");
-    if (!changes.empty()) text += '\n' + tableText(countChanges(report.changes)) + '\n';
-    return report.deckName + '\n' + toUtf8(text + verdictText(report));
+    if (report.changes.empty()) text += german("  Nichts verloren, nichts hinzugekommen.\n");
+    if (!report.changes.empty()) text += '\n' + tableText(countChanges(report)) + '\n';
+    return toUtf8(text + verdictText(report));
 }
 
 } // namespace quillmere

@@ -1,4 +1,5 @@
 #include "document/deck_change_counts.h"
+#include "document/deck_changes_json.h"
 #include "document/deck_changes_report.h"
 #include "document/markup_fault_texts.h"
 
@@ -18,7 +19,9 @@ constexpr std::string_view kWritten = "<wml><card id=\"a\">\n<p>Fuer <i>alle</i>
 
 TEST(DeckChangesReport, TellsEachChangeTheTableAndTheVerdict)
 {
-    EXPECT_EQ(textReport({"Müller.wml", DeckChanges(kRead, kWritten), true}), R"(Müller.wml
+    auto report = DeckChanges(kRead, kWritten);
+    report.stable = false;
+    EXPECT_EQ(textReport(report, "M\xFCller.wml"), R"(Müller.wml
   Verloren: <do type="prev" name="x"> (Zeile 2, Spalte 1)
   Verloren: <prev/> (Zeile 3, Spalte 11)
   Verloren: Attribut mode="nowrap" von <p> (Zeile 4, Spalte 4)
@@ -58,16 +61,16 @@ TEST(DeckChangesReport, SaysWhereNothingHasChanged)
         "  Nichts verloren, nichts hinzugekommen.\n"
         "Das Ergebnis ist wohlgeformt.\n"
         "Eine weitere Korrektur ändert daran nichts.\n");
-    EXPECT_EQ(jsonReport(report),
-        R"({"deck": "a\"b\\\u000a.wml", "wellFormed": true, "fault": null, "changesAgain": false, )"
+    EXPECT_EQ(jsonReport(report, "a\"b\\\n.wml"),
+        R"({"deck": "a\"b\\\u000a.wml", "wellFormed": true, "fault": null, "stable": true, )"
         R"("summary": [], "changes": []})");
 }
 
 TEST(DeckChangesReport, IsWholeAsJson)
 {
-    EXPECT_EQ(jsonReport({"d", DeckChanges("<p a='\xFC'>1 <b/></p>", "<p a='ue'><b/>1</p><"), {}}),
+    EXPECT_EQ(jsonReport(DeckChanges("<p a='\xFC'>1 <b/></p>", "<p a='ue'><b/>1</p><"), "d"),
         R"({"deck": "d", "wellFormed": false, "fault": {"reason": "Ein „<“ beginnt kein Tag", )"
-        R"("line": 1, "column": 20}, "changesAgain": null, "summary": [
+        R"("line": 1, "column": 20}, "stable": null, "summary": [
   {"subject": "attribute", "name": "p a", "lost": 0, "added": 0, "changed": 1, "moved": 0},
   {"subject": "words", "name": "", "lost": 0, "added": 1, "changed": 0, "moved": 1}], "changes": [
   {"kind": "changed", "subject": "attribute", "element": "p", "attribute": "a", "before": "ü", "after": "ue", "count": 1, "readAt": [1, 4], "writtenAt": [1, 4]},
