@@ -9,20 +9,20 @@
 namespace quillmere {
 namespace {
 
-    void thinOut(std::string& text, char bracket, char opposite)
-    {
-        Rewriter rewriter(text);
-        auto closed = text.find(opposite);
-        auto at = text.find(bracket);
-        while (at != npos && closed != npos) {
-            if (closed < at) closed = text.find(opposite, at);
-            const auto next = text.find(bracket, at + 1);
-            const bool doubled = next < closed && closed != npos;
-            if (doubled) rewriter.drop(at + 1, at + 2);
-            at = doubled && next == at + 1 ? text.find(bracket, at + 2) : next;
-        }
-        if (rewriter.position() > 0) text = rewriter.take();
+void thinOut(std::string& text, char bracket, char opposite)
+{
+    Rewriter rewriter(text);
+    auto closed = text.find(opposite);
+    auto at = text.find(bracket);
+    while (at != npos && closed != npos) {
+        if (closed < at) closed = text.find(opposite, at);
+        const auto next = text.find(bracket, at + 1);
+        const bool doubled = next < closed && closed != npos;
+        if (doubled) rewriter.drop(at + 1, at + 2);
+        at = doubled && next == at + 1 ? text.find(bracket, at + 2) : next;
     }
+    if (rewriter.position() > 0) text = rewriter.take();
+}
 
 } // namespace
 

@@ -9,53 +9,53 @@
 namespace quillmere {
 namespace {
 
-    constexpr std::string_view kCard = "<!--card";
-    constexpr std::string_view kCardEnd = "<!--/card";
-    constexpr std::string_view kBody = "<body";
-    constexpr std::string_view kDo = "<!--do";
-    constexpr std::string_view kParagraph = "<p";
-    constexpr std::string_view kParagraphEnd = "</p";
-    constexpr std::string_view kNewParagraph = "<p>";
-    constexpr std::string_view kNewParagraphEnd = "</p>";
+constexpr std::string_view kCard = "<!--card";
+constexpr std::string_view kCardEnd = "<!--/card";
+constexpr std::string_view kBody = "<body";
+constexpr std::string_view kDo = "<!--do";
+constexpr std::string_view kParagraph = "<p";
+constexpr std::string_view kParagraphEnd = "</p";
+constexpr std::string_view kNewParagraph = "<p>";
+constexpr std::string_view kNewParagraphEnd = "</p>";
 
-    struct TagPair {
-        std::string_view begin;
-        std::string_view end;
-    };
-    // Tables and lists keep their text to themselves; of the rest only the tags are no text.
-    constexpr TagPair kWithoutLooseText[]
-        = { { "<table", "</table" }, { "<!--select", "<!--/select" }, { "<", ">" } };
+struct TagPair {
+    std::string_view begin;
+    std::string_view end;
+};
+// Tables and lists keep their text to themselves; of the rest only the tags are no text.
+constexpr TagPair kWithoutLooseText[]
+    = {{"<table", "</table"}, {"<!--select", "<!--/select"}, {"<", ">"}};
 
-    void cutElements(EditedText& text, const TagPair& pair)
-    {
-        for (auto at = text.find(pair.begin); at != npos; at = text.find(pair.begin, at)) {
-            const auto end = text.find(pair.end, at);
-            const auto behind = end == npos ? npos : text.tagEnd(end);
-            if (behind == npos) return;
-            text.cut(at, behind);
-        }
+void cutElements(EditedText& text, const TagPair& pair)
+{
+    for (auto at = text.find(pair.begin); at != npos; at = text.find(pair.begin, at)) {
+        const auto end = text.find(pair.end, at);
+        const auto behind = end == npos ? npos : text.tagEnd(end);
+        if (behind == npos) return;
+        text.cut(at, behind);
     }
+}
 
-    bool hasLooseText(std::string content)
-    {
-        EditedText text(std::move(content));
-        for (const auto& pair : kWithoutLooseText)
-            cutElements(text, pair);
-        const auto rest = std::move(text).take();
-        return std::ranges::any_of(
-            rest, [](char character) { return static_cast<unsigned char>(character) > ' '; });
-    }
+bool hasLooseText(std::string content)
+{
+    EditedText text(std::move(content));
+    for (const auto& pair : kWithoutLooseText)
+        cutElements(text, pair);
+    const auto rest = std::move(text).take();
+    return std::ranges::any_of(
+        rest, [](char character) { return static_cast<unsigned char>(character) > ' '; });
+}
 
-    // Where the content of the area begins: behind the body's tag or, without one, the card's.
-    std::size_t contentBegin(EditedText& text)
-    {
-        for (const auto key : { kBody, kCard }) {
-            const auto at = text.find(key);
-            const auto behind = at == npos ? npos : text.tagEnd(at);
-            if (behind != npos) return behind;
-        }
-        return 0;
+// Where the content of the area begins: behind the body's tag or, without one, the card's.
+std::size_t contentBegin(EditedText& text)
+{
+    for (const auto key : {kBody, kCard}) {
+        const auto at = text.find(key);
+        const auto behind = at == npos ? npos : text.tagEnd(at);
+        if (behind != npos) return behind;
     }
+    return 0;
+}
 
 } // namespace
 
@@ -75,8 +75,8 @@ void ensureParagraph(EditedText& text)
     const auto cardEnd = text.find(kCardEnd);
     if (cardEnd == npos || text.find(kParagraph) != npos) return;
     const auto begin = contentBegin(text);
-    const auto end = std::min(text.find(kDo, begin), text.find(kCardEnd, begin));
-    if (end != npos && hasLooseText(text.copy(begin, end))) {
+    const auto end = std::min(text.find(kDo, begin), cardEnd);
+    if (begin <= end && hasLooseText(text.copy(begin, end))) {
         text.insert(end, kNewParagraphEnd);
         text.insert(begin, kNewParagraph);
     } else {

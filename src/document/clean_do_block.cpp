@@ -7,15 +7,15 @@
 namespace quillmere {
 namespace {
 
-    constexpr std::string_view kDo = "<!--do";
-    constexpr std::string_view kDoEnd = "<!--/do";
-    constexpr std::string_view kGo = "<!--go";
+constexpr std::string_view kDo = "<!--do";
+constexpr std::string_view kDoEnd = "<!--/do";
+constexpr std::string_view kGo = "<!--go";
 
-    void cutThroughTag(EditedText& text, std::size_t begin, std::size_t lastTag)
-    {
-        const auto end = text.tagEnd(lastTag);
-        if (end != npos) text.cut(begin, end);
-    }
+void cutThroughTag(EditedText& text, std::size_t begin, std::size_t lastTag)
+{
+    const auto end = text.tagEnd(lastTag);
+    if (end != npos) text.cut(begin, end);
+}
 
 } // namespace
 

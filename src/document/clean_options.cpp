@@ -10,58 +10,51 @@
 namespace quillmere {
 namespace {
 
-    constexpr std::string_view kOption = "<!--option";
-    constexpr std::string_view kOptionEnd = "<!--/option";
-    constexpr std::string_view kSelect = "<!--select";
-    constexpr std::string_view kSelectEnd = "<!--/select";
-    constexpr std::string_view kRadioButton = "<input";
+constexpr std::string_view kOption = "<!--option";
+constexpr std::string_view kOptionEnd = "<!--/option";
+constexpr std::string_view kSelect = "<!--select";
+constexpr std::string_view kSelectEnd = "<!--/select";
+constexpr std::string_view kRadioButton = "<input";
 
-    constexpr std::string_view kNewOptionEnd = "<!--/option-->";
+constexpr std::string_view kNewOptionEnd = "<!--/option-->";
 
-    // A lone option ends ahead of the next tag, but a radio button belongs to its text.
-    void endLoneOption(EditedText& text, std::size_t option)
-    {
-        auto behind = text.tagEnd(option);
-        if (behind == npos) return;
-        auto tag = text.find("<", behind);
-        while (tag != npos && text.find(kRadioButton, tag, tag + 1) == tag) {
-            behind = text.tagEnd(tag);
-            tag = behind == npos ? npos : text.find("<", behind);
-        }
-        text.insert(std::min(tag, text.size()), kNewOptionEnd);
+// A lone option ends ahead of the next tag, but a radio button belongs to its text.
+void endLoneOption(EditedText& text, std::size_t option)
+{
+    auto behind = text.tagEnd(option);
+    if (behind == npos) return;
+    auto tag = text.find("<", behind);
+    while (tag != npos && text.find(kRadioButton, tag, tag + 1) == tag) {
+        behind = text.tagEnd(tag);
+        tag = behind == npos ? npos : text.find("<", behind);
     }
+    text.insert(std::min(tag, text.size()), kNewOptionEnd);
+}
 
-    void completeOption(EditedText& text, std::size_t option)
-    {
-        const auto end = text.find(kOptionEnd, option + 1);
-        const auto next = text.find(kOption, option + 1);
-        const auto listEnd = text.find(kSelectEnd, option + 1);
-        if (end < next) return;
-        if (end != npos) {
-            if (listEnd == npos) throw InvalidArgument();
-            text.insert(std::min(next, listEnd), kNewOptionEnd);
-        } else if (next == npos && listEnd != npos) {
-            text.insert(listEnd, kNewOptionEnd);
-        } else if (next == npos) {
-            endLoneOption(text, option);
-        }
-        // An option without any end behind it that another one follows stays as it is, as the
-        // first one of "<!--option-->a<!--option-->b<!--/select-->" does.
+void completeOption(EditedText& text, std::size_t option)
+{
+    const auto end = text.find(kOptionEnd, option + 1);
+    const auto next = text.find(kOption, option + 1);
+    const auto listEnd = text.find(kSelectEnd, option + 1);
+    if (end < next) return;
+    if (end != npos) {
+        if (listEnd == npos) throw InvalidArgument();
+        text.insert(std::min(next, listEnd), kNewOptionEnd);
+    } else if (next == npos && listEnd != npos) {
+        text.insert(listEnd, kNewOptionEnd);
+    } else if (next == npos) {
+        endLoneOption(text, option);
     }
-
-    void dropAll(EditedText& text, std::string_view key, std::size_t from)
-    {
-        for (auto at = text.find(key, from); at != npos; at = text.find(key, at)) {
-            if (text.cutTag(at) == 0) return;
-        }
-    }
+    // An option without any end behind it that another one follows stays as it is, as the
+    // first one of "<!--option-->a<!--option-->b<!--/select-->" does.
+}
 
 } // namespace
 
 void dropEarlyOptionEnds(EditedText& text)
 {
-    for (auto at = text.find(kOptionEnd); at != npos; at = text.find(kOptionEnd, at)) {
-        if (text.find(kOption) < at || text.cutTag(at) == 0) return;
+    for (auto at = text.find(kOptionEnd); at < text.find(kOption); at = text.find(kOptionEnd)) {
+        if (text.cutTag(at) == 0) return;
     }
 }
 
@@ -74,7 +67,7 @@ void completeOptions(EditedText& text)
     }
     if (last == npos) return;
     const auto itsEnd = text.find(kOptionEnd, last + 1);
-    if (itsEnd != npos) dropAll(text, kOptionEnd, itsEnd + 1);
+    if (itsEnd != npos) text.cutEveryTag(kOptionEnd, itsEnd + 1);
 }
 
 void openSelect(EditedText& text)
@@ -93,8 +86,8 @@ void closeSelect(EditedText& text)
 void dropEmptySelects(EditedText& text)
 {
     if (text.find(kSelect) == npos || text.find(kOption) != npos) return;
-    dropAll(text, kSelect, 0);
-    dropAll(text, kSelectEnd, 0);
+    text.cutEveryTag(kSelect);
+    text.cutEveryTag(kSelectEnd);
 }
 
 } // namespace quillmere

@@ -10,92 +10,90 @@
 namespace quillmere {
 namespace {
 
-    constexpr std::string_view kTable = "<table";
-    constexpr std::string_view kTableEnd = "</table";
-    constexpr std::string_view kRow = "<tr";
-    constexpr std::string_view kRowEnd = "</tr";
-    constexpr std::string_view kParagraph = "<p";
-    constexpr std::string_view kParagraphEnd = "</p";
-    constexpr std::string_view kBreak = "<br/>";
+constexpr std::string_view kTable = "<table";
+constexpr std::string_view kTableEnd = "</table";
+constexpr std::string_view kRow = "<tr";
+constexpr std::string_view kRowEnd = "</tr";
+constexpr std::string_view kParagraph = "<p";
+constexpr std::string_view kParagraphEnd = "</p";
+constexpr std::string_view kBreak = "<br/>";
 
-    // Works on one table whose content reaches from `begin` to `end`.
-    class TableSettler {
-    public:
-        explicit TableSettler(EditedText& text)
-            : text_(text)
-        {
-        }
-
-        void settle(std::size_t begin, std::size_t end)
-        {
-            end_ = end;
-            dropParagraphs(begin);
-            breakAtParagraphEnds(begin);
-            // Tables in a table share its end; their rows have been looked at with the outer ones.
-            if (end_ == settledEnd_) return;
-            joinRows(begin);
-            settledEnd_ = text_.find(kTableEnd, begin) == end_ ? end_ : npos;
-        }
-
-    private:
-        [[nodiscard]] std::size_t findInside(std::string_view key, std::size_t from)
-        {
-            const auto at = text_.find(key, from);
-            return at < end_ ? at : npos;
-        }
-
-        void shorten(std::size_t length) { end_ -= std::min(length, end_); }
-
-        void dropParagraphs(std::size_t begin)
-        {
-            for (auto at = findInside(kParagraph, begin); at != npos;
-                 at = findInside(kParagraph, at)) {
-                const auto length = text_.cutTag(at);
-                if (length == 0) return;
-                shorten(length);
-                settledEnd_ = npos;
-            }
-        }
-
-        void breakAtParagraphEnds(std::size_t begin)
-        {
-            for (auto at = findInside(kParagraphEnd, begin); at != npos;
-                 at = findInside(kParagraphEnd, at)) {
-                const auto tagEnd = text_.tagEnd(at);
-                if (tagEnd == npos) return;
-                text_.replace(at, tagEnd, kBreak);
-                ++end_;
-                settledEnd_ = npos;
-            }
-        }
-
-        void joinRows(std::size_t begin)
-        {
-            for (auto at = findInside(kRowEnd, begin); at != npos;
-                 at = findInside(kRowEnd, at + 1)) {
-                const auto behind = text_.tagEnd(at);
-                if (behind >= end_) continue;
-                const auto next = std::min(findInside(kRow, behind), end_);
-                text_.cut(behind, next);
-                shorten(next - behind);
-            }
-        }
-
-        EditedText& text_;
-        std::size_t end_ = 0;
-        std::size_t settledEnd_ = npos;
-    };
-
-    void closeAtLastRow(EditedText& text, std::size_t table)
+// Works on one table whose content reaches from `begin` to `end`.
+class TableSettler {
+public:
+    explicit TableSettler(EditedText& text)
+        : text_(text)
     {
-        const auto limit = text.find(kTable, table + 1);
-        auto last = npos;
-        for (auto row = text.find(kRowEnd, table); row < limit; row = text.find(kRowEnd, row + 1))
-            last = row;
-        if (last == npos) return;
-        const auto behind = text.tagEnd(last);
-        if (behind != npos) text.insert(behind, "</table>");
     }
+
+    void settle(std::size_t begin, std::size_t end)
+    {
+        end_ = end;
+        dropParagraphs(begin);
+        breakAtParagraphEnds(begin);
+        // Tables in a table share its end; their rows have been looked at with the outer ones.
+        if (end_ == settledEnd_) return;
+        joinRows(begin);
+        settledEnd_ = text_.find(kTableEnd, begin) == end_ ? end_ : npos;
+    }
+
+private:
+    [[nodiscard]] std::size_t findInside(std::string_view key, std::size_t from)
+    {
+        const auto at = text_.find(key, from);
+        return at < end_ ? at : npos;
+    }
+
+    void shorten(std::size_t length) { end_ -= std::min(length, end_); }
+
+    void dropParagraphs(std::size_t begin)
+    {
+        for (auto at = findInside(kParagraph, begin); at != npos; at = findInside(kParagraph, at)) {
+            const auto length = text_.cutTag(at);
+            if (length == 0) return;
+            shorten(length);
+            settledEnd_ = npos;
+        }
+    }
+
+    void breakAtParagraphEnds(std::size_t begin)
+    {
+        for (auto at = findInside(kParagraphEnd, begin); at != npos;
+             at = findInside(kParagraphEnd, at)) {
+            const auto tagEnd = text_.tagEnd(at);
+            if (tagEnd == npos) return;
+            text_.replace(at, tagEnd, kBreak);
+            ++end_;
+            settledEnd_ = npos;
+        }
+    }
+
+    void joinRows(std::size_t begin)
+    {
+        for (auto at = findInside(kRowEnd, begin); at != npos; at = findInside(kRowEnd, at + 1)) {
+            const auto behind = text_.tagEnd(at);
+            if (behind >= end_) continue;
+            const auto next = std::min(findInside(kRow, behind), end_);
+            text_.cut(behind, std::min(next, text_.size())); // the end may be told too far
+            shorten(next - behind);
+        }
+    }
+
+    EditedText& text_;
+    std::size_t end_ = 0;
+    std::size_t settledEnd_ = npos;
+};
+
+void closeAtLastRow(EditedText& text, std::size_t table)
+{
+    const auto limit = text.find(kTable, table + 1);
+    auto last = npos;
+    for (auto row = text.find(kRowEnd, table); row < limit; row = text.find(kRowEnd, row + 1))
+        last = row;
+    if (last == npos) return;
+    const auto behind = text.tagEnd(last);
+    if (behind != npos) text.insert(behind, "</table>");
+}
 
 } // namespace
 

@@ -33,7 +33,7 @@ std::string CompleteUrl(std::string_view text, Prompter& prompter)
 {
     const auto offer = offerFor(trimBlanks(text));
     if (!offer) return std::string(text);
-    const std::array gaps {*offer};
+    const std::array gaps{*offer};
     return prompter.ask(word::kCompleteUrl, gaps, MessageIcon::Question) ? *offer
                                                                          : std::string(text);
 }

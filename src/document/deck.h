@@ -1,5 +1,7 @@
 #pragma once
 
+#include "document/image_index.h"
+
 #include <cstdint>
 #include <string>
 #include <vector>
@@ -37,6 +39,7 @@ struct DeckRecord {
     bool inUse = false;
     std::int16_t surfaceKind = 0; ///< 0 or 1: which device table sets the page of the areas
     std::vector<std::string> history = std::vector<std::string>(1); ///< at most 16, newest last
+    ImageIndex imageIndex; ///< finds the entries of `images`
 };
 
 /// The records of a deck: one for each area and a spare one at the end.

@@ -18,7 +18,6 @@ constexpr std::array<std::string_view, kHeadLineCount> kHeadLines{
     "<HTML>", "<HEAD>", "</HEAD>", "", "<P>"};
 constexpr std::array<std::string_view, kTailLineCount> kTailLines{"</P>", "</BODY>", "</HTML>"};
 
-constexpr std::int32_t kDefaultColour = 2391815;
 constexpr double kDefaultFontTwips = 180;
 constexpr double kTwipsPerPoint = 20;
 constexpr std::string_view kDefaultFamily = "Arial";
@@ -55,7 +54,8 @@ std::string bodyLine(const DocumentSession& session, int surfaceKind)
 {
     auto* const device = deviceOf(session, surfaceKind);
     if (device == nullptr)
-        return bodyLine(kDefaultColour, kDefaultFontTwips, session.twipsPerPixel, kDefaultFamily);
+        return bodyLine(
+            kDefaultPageColour, kDefaultFontTwips, session.twipsPerPixel, kDefaultFamily);
     const std::string family(trimBlanks(device->fontFamily));
     device->fontFamily = family;
     device->fontFamily.resize(kFamilyFieldLength, ' ');

@@ -5,25 +5,16 @@
 
 #include "document/edited_text.h"
 
+#include "document/windows1252.h"
+
 #include <algorithm>
 #include <utility>
 
 namespace quillmere {
 namespace {
 
-    constexpr std::size_t kSmallestGap = 256;
-    constexpr std::size_t kBackwardStep = 512; // read forward, which is faster
-
-    bool isSmallLetter(char character)
-    {
-        return character >= 'a' && character <= 'z';
-    }
-
-    // `wanted` is lower case; setting bit 5 turns exactly the capital of a letter into it.
-    bool sameIgnoringCase(char character, char wanted)
-    {
-        return character == wanted || (isSmallLetter(wanted) && (character | 0x20) == wanted);
-    }
+constexpr std::size_t kSmallestGap = 256;
+constexpr std::size_t kBackwardStep = 512; // read forward, which is faster
 
 } // namespace
 
@@ -49,12 +40,12 @@ std::size_t EditedText::find(std::string_view key, std::size_t from, std::size_t
         const auto nearEnd = std::min(limit, known.from);
         const auto nearer = findFrom(key, from, nearEnd);
         if (nearer != npos || nearEnd < known.from) {
-            keepLonger(known, { key, from, std::min(nearer, nearEnd), nearer != npos });
+            keepLonger(known, {key, from, std::min(nearer, nearEnd), nearer != npos});
             return nearer;
         }
         known.from = from;
     } else if (from > known.to) {
-        known = { key, from, from, false };
+        known = {key, from, from, false};
     }
     if (!known.found && known.to < std::min(limit, size())) {
         const auto at = findFrom(key, known.to, limit);
@@ -91,7 +82,7 @@ void EditedText::replace(std::size_t begin, std::size_t end, std::string_view pi
     piece.copy(buffer_.data() + gapBegin_, piece.size());
     gapBegin_ += piece.size();
     for (std::size_t i = 0; i < std::min(searchCount_, searches_.size()); ++i)
-        adjust(searches_[i], { begin, end, begin + piece.size() });
+        adjust(searches_[i], {begin, end, begin + piece.size()});
 }
 
 std::size_t EditedText::cutTag(std::size_t begin)
@@ -100,6 +91,11 @@ std::size_t EditedText::cutTag(std::size_t begin)
     if (end == npos) return 0;
     cut(begin, end);
     return end - begin;
+}
+
+void EditedText::cutEveryTag(std::string_view key, std::size_t from)
+{
+    for (auto at = find(key, from); at != npos && cutTag(at) > 0; at = find(key, from)) { }
 }
 
 std::string EditedText::take() &&
@@ -121,47 +117,37 @@ EditedText::Search& EditedText::remembered(std::string_view key)
         if (searches_[i].key == key) return searches_[i];
     }
     Search& fresh = searches_[searchCount_++ % searches_.size()];
-    fresh = { key, 0, 0, false };
+    fresh = {key, 0, 0, false};
     return fresh;
 }
 
-std::size_t EditedText::findFrom(
-    std::string_view key, std::size_t begin, std::size_t limit) const
-{
-    for (auto at = begin;; ++at) {
-        at = findCharacter(key.front(), at, limit);
-        if (at == npos || standsHere(key, at)) return at;
-    }
-}
-
-std::size_t EditedText::findCharacter(char character, std::size_t begin, std::size_t limit) const
+std::size_t EditedText::findFrom(std::string_view key, std::size_t begin, std::size_t limit) const
 {
     const auto end = std::min(limit, size());
-    if (isSmallLetter(character)) {
-        for (auto at = begin; at < end; ++at) {
-            if (sameIgnoringCase((*this)[at], character)) return at;
+    const auto reach = key.size() - 1;
+    const std::string_view buffer(buffer_);
+    if (begin < gapBegin_) {
+        const auto ahead = buffer.substr(0, std::min(gapBegin_, end + reach));
+        const auto at = findIgnoringCase(ahead, key, begin);
+        if (at != npos) return at;
+        const auto across = std::max(begin, gapBegin_ - std::min(gapBegin_, reach));
+        for (auto place = across; place < std::min(gapBegin_, end); ++place) {
+            if (standsHere(key, place)) return place;
         }
-        return npos;
     }
     const auto gap = gapEnd_ - gapBegin_;
-    if (begin < gapBegin_) {
-        const std::string_view ahead(buffer_.data(), std::min(end, gapBegin_));
-        const auto at = ahead.find(character, begin);
-        if (at != npos) return at;
-    }
-    const auto behind = std::max(begin, gapBegin_);
-    if (behind >= end) return npos;
-    const auto at = std::string_view(buffer_.data(), end + gap).find(character, behind + gap);
+    const auto behind = buffer.substr(0, end + gap + reach);
+    const auto at = findIgnoringCase(behind, key, std::max(begin, gapBegin_) + gap);
     return at == npos ? npos : at - gap;
 }
 
 bool EditedText::standsHere(std::string_view key, std::size_t offset) const
 {
     if (size() - offset < key.size()) return false;
-    for (std::size_t i = 0; i < key.size(); ++i) {
-        if (!sameIgnoringCase((*this)[offset + i], key[i])) return false;
-    }
-    return true;
+    std::size_t i = 0;
+    while (i < key.size() && lowerCase((*this)[offset + i]) == key[i])
+        ++i;
+    return i == key.size();
 }
 
 void EditedText::moveGap(std::size_t offset)
@@ -183,7 +169,7 @@ void EditedText::moveGap(std::size_t offset)
 
 void EditedText::growGap(std::size_t atLeast)
 {
-    const auto more = std::max({ atLeast, kSmallestGap, buffer_.size() / 4 });
+    const auto more = std::max({atLeast, kSmallestGap, buffer_.size() / 4});
     buffer_.insert(gapEnd_, more, ' ');
     gapEnd_ += more;
 }
@@ -208,7 +194,7 @@ void EditedText::adjust(Search& search, const Change& change) const
         const auto from = std::min(search.from, again);
         search.from = formed == npos ? from : change.newEnd;
         search.to = moved(search.to);
-        if (formed != npos) keepLonger(search, { search.key, from, formed, true });
+        if (formed != npos) keepLonger(search, {search.key, from, formed, true});
     }
 }
 

@@ -41,6 +41,9 @@ public:
     /// Cuts from `begin` through the first '>' there. Returns the length of what was cut, 0 where
     /// there is no '>'.
     std::size_t cutTag(std::size_t begin);
+    /// Cuts every tag that begins with `key` at or behind `from`, those included that come about
+    /// by the cutting.
+    void cutEveryTag(std::string_view key, std::size_t from = 0);
 
     /// Gives the text away.
     [[nodiscard]] std::string take() &&;
@@ -65,8 +68,6 @@ private:
     [[nodiscard]] Search& remembered(std::string_view key);
     [[nodiscard]] std::size_t findFrom(
         std::string_view key, std::size_t begin, std::size_t limit) const;
-    [[nodiscard]] std::size_t findCharacter(
-        char character, std::size_t begin, std::size_t limit) const;
     [[nodiscard]] bool standsHere(std::string_view key, std::size_t offset) const;
     void moveGap(std::size_t offset);
     void growGap(std::size_t atLeast);

@@ -18,6 +18,7 @@ constexpr std::array kReasons{
     Reason{std::errc::permission_denied, "der Zugriff ist verweigert"},
     Reason{std::errc::operation_not_permitted, "der Zugriff ist verweigert"},
     Reason{std::errc::is_a_directory, "es ist ein Ordner"},
+    Reason{std::errc::file_exists, "es gibt schon eine Datei mit diesem Namen"},
     Reason{std::errc::not_a_directory, "ein Teil des Pfades ist kein Ordner"},
     Reason{std::errc::no_space_on_device, "der Datenträger ist voll"},
     Reason{std::errc::file_too_large, "die Datei wird zu groß"},
@@ -52,6 +53,12 @@ FileFailure cannotRead(const std::string& path, std::error_code reason)
 FileFailure cannotWrite(const std::string& path, std::error_code reason)
 {
     return failureOf(path, "geschrieben", reason);
+}
+
+FileFailure cannotMakeDirectory(const std::string& path, std::error_code reason)
+{
+    return FileFailure(
+        "Der Ordner „" + path + "“ kann nicht angelegt werden: " + describe(reason) + ".");
 }
 
 } // namespace quillmere

@@ -13,4 +13,7 @@ namespace quillmere {
 /// The failure to write or make `path`, which is then as it was.
 [[nodiscard]] FileFailure cannotWrite(const std::string& path, std::error_code reason);
 
+/// The failure to make the directory `path`.
+[[nodiscard]] FileFailure cannotMakeDirectory(const std::string& path, std::error_code reason);
+
 } // namespace quillmere

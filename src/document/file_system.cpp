@@ -3,47 +3,20 @@
 
 #include "document/file_system.h"
 
-#include "document/failure.h"
+#include "document/file_failures.h"
+#include "document/files.h"
 
 #include <algorithm>
 #include <filesystem>
-#include <string_view>
 #include <system_error>
 
 namespace quillmere {
 
 namespace fs = std::filesystem;
 
-namespace {
-
-struct Reason {
-    std::errc code;
-    std::string_view text;
-};
-
-constexpr Reason kReasons[] = {
-    {std::errc::permission_denied, "keine Berechtigung"},
-    {std::errc::read_only_file_system, "schreibgeschützt"},
-    {std::errc::no_space_on_device, "kein Platz mehr"},
-    {std::errc::file_exists, "eine Datei trägt diesen Namen"},
-    {std::errc::not_a_directory, "ein Teil des Pfades ist eine Datei"},
-    {std::errc::no_such_file_or_directory, "das übergeordnete Verzeichnis fehlt"},
-    {std::errc::filename_too_long, "der Name ist zu lang"},
-};
-
-std::string reasonOf(const std::error_code& error)
-{
-    for (const auto& reason : kReasons)
-        if (error == reason.code) return std::string(reason.text);
-    return error.message();
-}
-
-} // namespace
-
 bool DiskFileSystem::fileExists(const std::string& path) const
 {
-    std::error_code ignored;
-    return fs::is_regular_file(path, ignored);
+    return quillmere::fileExists(path);
 }
 
 bool DiskFileSystem::directoryExists(const std::string& path) const
@@ -56,8 +29,8 @@ void DiskFileSystem::makeDirectory(const std::string& path)
 {
     std::error_code error;
     if (fs::create_directory(path, error) || directoryExists(path)) return;
-    throw FileFailure(
-        "Das Verzeichnis „" + path + "“ konnte nicht angelegt werden (" + reasonOf(error) + ").");
+    if (!error) error = std::make_error_code(std::errc::file_exists);
+    throw cannotMakeDirectory(path, error);
 }
 
 std::vector<std::string> DiskFileSystem::directoriesIn(const std::string& path) const

@@ -9,10 +9,10 @@ namespace quillmere {
 namespace {
 
 // The directory of the open deck; empty where none is open.
-std::string openDeckDirectory(const DocumentSession& session)
+std::string openDeckDirectory(const Deck& deck)
 {
-    const bool isOpen = !session.deck.empty() && session.deck.front().inUse;
-    return isOpen ? session.deck.front().deckDir : std::string();
+    const bool isOpen = !deck.empty() && deck.front().inUse;
+    return isOpen ? deck.front().deckDir : std::string();
 }
 
 std::string personsFolder(const FolderPlaces& places)
@@ -25,30 +25,29 @@ std::string personsFolder(const FolderPlaces& places)
 
 } // namespace
 
-std::string GetLastPath(
-    std::string_view valueName, const DocumentSession& session, const FolderPlaces& places)
+std::string GetLastPath(std::string_view valueName, const SettingsStore& settings, const Deck& deck,
+    const FolderPlaces& places)
 {
-    const auto kept = session.settings.ReadSetting(valueName);
+    const auto kept = settings.ReadSetting(valueName);
     if (!kept.empty()) return withoutSeparator(kept, places.style);
-    const auto deckDirectory = openDeckDirectory(session);
+    const auto deckDirectory = openDeckDirectory(deck);
     if (!deckDirectory.empty()) return withoutSeparator(deckDirectory, places.style);
     return personsFolder(places);
 }
 
-void SetLastPath(std::string_view path, std::string_view valueName, SettingsStore& settings,
-    PathStyle style)
+void SetLastPath(
+    std::string_view path, std::string_view valueName, SettingsStore& settings, PathStyle style)
 {
     settings.WriteSetting(valueName, withoutSeparator(path, style));
 }
 
 bool HasIndexPage(
-    const std::string& directory, const DocumentSession& session, const FileSystem& files)
+    const std::string& directory, const Deck& deck, const FileSystem& files, PathStyle style)
 {
-    const auto looked = directory.empty() ? openDeckDirectory(session) : directory;
+    std::string looked = directory.empty() ? openDeckDirectory(deck) : directory;
     if (looked.empty()) return false;
-    const bool ends = looked.ends_with('/') || looked.ends_with('\\');
-    return files.fileExists(looked + (ends ? "" : std::string(1, separator(kNativePathStyle)))
-        + std::string(kIndexPage));
+    if (!looked.ends_with(separator(style))) looked += separator(style);
+    return files.fileExists(looked.append(kIndexPage));
 }
 
 } // namespace quillmere

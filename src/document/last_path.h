@@ -1,9 +1,10 @@
 #pragma once
 
+#include "document/deck.h"
 #include "document/drives.h"
 #include "document/file_system.h"
 #include "document/paths.h"
-#include "document/session.h"
+#include "document/settings_store.h"
 
 #include <string>
 #include <string_view>
@@ -24,8 +25,8 @@ struct FolderPlaces {
 
 /// The folder kept in the setting `valueName`; without one the open deck's directory; without a
 /// deck the person's own folder ("Eigene Dateien") or the root where it should lie.
-[[nodiscard]] std::string GetLastPath(
-    std::string_view valueName, const DocumentSession& session, const FolderPlaces& places);
+[[nodiscard]] std::string GetLastPath(std::string_view valueName, const SettingsStore& settings,
+    const Deck& deck, const FolderPlaces& places);
 
 /// Keeps a folder in the setting `valueName`.
 void SetLastPath(std::string_view path, std::string_view valueName, SettingsStore& settings,
@@ -33,7 +34,7 @@ void SetLastPath(std::string_view path, std::string_view valueName, SettingsStor
 
 /// Whether the directory holds the start page. An empty directory means the open deck's, and false
 /// where none is open.
-[[nodiscard]] bool HasIndexPage(
-    const std::string& directory, const DocumentSession& session, const FileSystem& files);
+[[nodiscard]] bool HasIndexPage(const std::string& directory, const Deck& deck,
+    const FileSystem& files, PathStyle style = kNativePathStyle);
 
 } // namespace quillmere

@@ -96,7 +96,7 @@ MountTable::MountTable(std::string_view table, RemovableTest isRemovable, std::s
     : isRemovable_(std::move(isRemovable))
     , home_(withSeparator(std::move(home)))
 {
-    std::istringstream lines {std::string(table)};
+    std::istringstream lines{std::string(table)};
     for (std::string line; std::getline(lines, line);) {
         std::istringstream fields(line);
         std::string device;

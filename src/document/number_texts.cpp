@@ -21,9 +21,8 @@ bool isNumeric(std::string_view text)
 {
     text = trimBlanks(text);
     if (text.starts_with('-') || text.starts_with('+')) text.remove_prefix(1);
-    const auto fits = [](char character) {
-        return isDigit(character) || character == '.' || character == ',';
-    };
+    const auto fits
+        = [](char character) { return isDigit(character) || character == '.' || character == ','; };
     return std::any_of(text.begin(), text.end(), isDigit)
         && std::all_of(text.begin(), text.end(), fits)
         && std::count(text.begin(), text.end(), ',') <= 1;

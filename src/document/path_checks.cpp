@@ -22,10 +22,14 @@ constexpr int kOtherHighCode = 255; // any code of code page 850 that no rule le
 int codeInPage850(char character)
 {
     switch (static_cast<unsigned char>(character)) {
-    case 0xFC: return kUUmlaut;
-    case 0xE4: return kAUmlaut;
-    case 0xF6: return kOUmlaut;
-    default: break;
+    case 0xFC:
+        return kUUmlaut;
+    case 0xE4:
+        return kAUmlaut;
+    case 0xF6:
+        return kOUmlaut;
+    default:
+        break;
     }
     const int code = static_cast<unsigned char>(character);
     return code < 128 ? code : kOtherHighCode;

@@ -2,7 +2,6 @@
 
 #include "document/deck.h"
 
-#include <compare>
 #include <cstddef>
 #include <map>
 #include <string>
@@ -18,7 +17,10 @@ namespace quillmere {
 struct PicturePlace {
     std::size_t area = 0;
     std::size_t entry = 0;
-    auto operator<=>(const PicturePlace&) const = default;
+    [[nodiscard]] bool operator<(const PicturePlace& other) const
+    {
+        return area != other.area ? area < other.area : entry < other.entry;
+    }
 };
 
 /// Finds the entries of a deck by the path of their display copy, ignoring case. It reads the deck

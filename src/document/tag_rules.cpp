@@ -30,7 +30,9 @@ void RuleFinder::readOpenings(const Tag& tag)
     std::size_t best = rules_.size();
     for (auto at = tag.end; at-- > tag.begin;) {
         if (text_[at] != '<') continue;
-        best = std::min(best, ruleAt(at));
+        const auto rule = ruleAt(at);
+        if (!openings_.empty() && rule >= best) continue; // the opening behind tells the same
+        best = std::min(best, rule);
         openings_.push_back({at, best});
     }
 }
@@ -38,7 +40,10 @@ void RuleFinder::readOpenings(const Tag& tag)
 std::size_t RuleFinder::ruleAt(std::size_t offset) const
 {
     const auto rest = text_.substr(offset); // a key that ends in '>' ends where its tag ends
-    const auto matches = [rest](const TagRule& rule) { return rest.starts_with(rule.key); };
+    const auto second = rest.size() > 1 ? rest[1] : '\0';
+    const auto matches = [rest, second](const TagRule& rule) {
+        return rule.key[1] == second && rest.starts_with(rule.key);
+    };
     const auto found = std::find_if(rules_.begin(), rules_.end(), matches);
     return static_cast<std::size_t>(found - rules_.begin());
 }

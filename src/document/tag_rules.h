@@ -23,7 +23,7 @@ enum class TagAction {
 };
 
 /// One line of a conversion's decision table. The rule takes each tag that contains `key`, which
-/// begins with '<' and is lower case, anywhere and in any case.
+/// begins with '<', has a second character and is lower case, anywhere and in any case.
 struct TagRule {
     std::string_view key;
     TagAction action = TagAction::Drop;
@@ -49,7 +49,7 @@ private:
 
     std::string_view text_;
     std::span<const TagRule> rules_;
-    std::vector<Opening> openings_; // of the last tag, from its end to its begin
+    std::vector<Opening> openings_; // of the last tag, from its end on, where the rule changes
     std::size_t tagEnd_ = 0;
 };
 

@@ -12,45 +12,48 @@
 namespace quillmere {
 namespace {
 
-    struct Letter {
-        char letter; // Windows-1252
-        std::string_view plain;
-    };
-    constexpr Letter kLetters[] = { { '\xC4', "Ae" }, { '\xD6', "Oe" }, { '\xDC', "Ue" },
-        { '\xE4', "ae" }, { '\xF6', "oe" }, { '\xFC', "ue" }, { '\xDF', "ss" } };
+struct Letter {
+    char letter; // Windows-1252
+    std::string_view plain;
+};
+constexpr Letter kLetters[] = {{'\xC4', "Ae"}, {'\xD6', "Oe"}, {'\xDC', "Ue"}, {'\xE4', "ae"},
+    {'\xF6', "oe"}, {'\xFC', "ue"}, {'\xDF', "ss"}};
 
-    bool isPlain(char character)
-    {
-        return static_cast<unsigned char>(character) < 127;
-    }
+bool isPlain(char character)
+{
+    return static_cast<unsigned char>(character) < 127;
+}
 
-    void appendPlain(std::string& result, char character)
-    {
-        const auto* const found = std::ranges::find(kLetters, character, &Letter::letter);
-        result += found == std::end(kLetters) ? " " : found->plain;
-    }
+void appendPlain(std::string& result, char character)
+{
+    const auto* const found = std::ranges::find(kLetters, character, &Letter::letter);
+    result += found == std::end(kLetters) ? " " : found->plain;
+}
 
-    void appendReference(std::string& result, char character)
-    {
-        const auto point = static_cast<std::uint32_t>(toCodePoint(character));
-        result.append("&#").append(std::to_string(point)).append(";");
-    }
+void appendReference(std::string& result, char character)
+{
+    const auto point = static_cast<std::uint32_t>(toCodePoint(character));
+    result.append("&#").append(std::to_string(point)).append(";");
+}
 
 } // namespace
 
 void TransliterateGerman(std::string& text, const OutputRules& rules)
 {
     requireAddressable(text);
-    if (std::ranges::all_of(text, isPlain)) return;
+    const auto nextSpecial
+        = [&text](auto from) { return std::find_if_not(from, text.cend(), isPlain); };
+    auto special = nextSpecial(text.cbegin());
+    if (special == text.cend()) return;
     const auto append = rules.writesCharacterReferences() ? appendReference : appendPlain;
     std::string result;
     result.reserve(text.size() + text.size() / 8);
-    for (const char character : text) {
-        if (isPlain(character)) {
-            result += character;
-        } else {
-            append(result, character);
-        }
+    for (auto plain = text.cbegin(); plain != text.cend();) {
+        result.append(plain, special);
+        plain = special;
+        for (; plain != text.cend() && !isPlain(*plain); ++plain)
+            append(result, *plain);
+        special = nextSpecial(plain);
     }
     requireAddressable(result);
     text = std::move(result);

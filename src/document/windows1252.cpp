@@ -35,7 +35,7 @@ struct Decoded {
     std::size_t length = 0; // in bytes; 0: no UTF-8
 };
 
-constexpr char32_t kSmallestOfLength[] = {0, 0, 0x80, 0x800, 0x10000};
+constexpr std::array<char32_t, 5> kSmallestOfLength = {0, 0, 0x80, 0x800, 0x10000};
 
 Decoded decodeUtf8(std::string_view bytes, std::size_t at)
 {

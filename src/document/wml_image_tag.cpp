@@ -78,7 +78,7 @@ std::string WmlImageTags::tagFor(const Tag& tag, const std::string& displayPath)
     return result += "></img>";
 }
 
-std::optional<std::string_view> WmlImageTags::lowerValue(const Tag& tag, std::string_view key)
+std::optional<std::string_view> WmlImageTags::lowerValue(const Tag& tag, std::string_view key) const
 {
     const auto value = AttributeReader(text_.lower, key).quoted(tag);
     if (!value) return std::nullopt;

@@ -30,7 +30,8 @@ private:
     void addAlignment(std::string& result, const Tag& tag, ImageEntry& entry);
     void addSize(std::string& result, const Tag& tag, ImageEntry& entry);
     void addSpaces(std::string& result, const Tag& tag, ImageEntry& entry);
-    [[nodiscard]] std::optional<std::string_view> lowerValue(const Tag& tag, std::string_view key);
+    [[nodiscard]] std::optional<std::string_view> lowerValue(
+        const Tag& tag, std::string_view key) const;
 
     CasedText text_;
     std::size_t areaIndex_;

@@ -1,9 +1,7 @@
 #pragma once
 
-#include <array>
-
-// The numbers of the texts that are built at run time, and how many gaps "<?>" each text has. The
-// texts themselves stand in data/Skins/ResWords.ini with a remark on where each is used.
+// The numbers of the texts that are built at run time. The texts stand in data/Skins/ResWords.ini,
+// each with a remark on where it is used. A text without a note here has no gap "<?>".
 
 namespace quillmere {
 

@@ -16,90 +16,89 @@
 namespace quillmere {
 namespace {
 
-    const OutputRules kUsual(false);
+const OutputRules kUsual(false);
 
-    using Apply = std::function<void(std::string&)>;
+using Apply = std::function<void(std::string&)>;
 
-    // A pass and what judges it: the same, step by step with searches over the whole text.
-    struct Judged {
-        std::string name;
-        Apply fast;
-        Apply slow;
-    };
+// A pass and what judges it: the same, step by step with searches over the whole text.
+struct Judged {
+    std::string name;
+    Apply fast;
+    Apply slow;
+};
 
-    std::vector<Judged> judgedPasses()
-    {
-        std::vector<Judged> all;
-        const auto slow = literal::cleanPasses();
-        for (const auto& pass : cleanPasses()) {
-            const auto judge = slow[all.size()].apply;
-            all.push_back({ std::string(pass.name), pass.apply,
-                [judge](std::string& text) { text = judge(std::move(text)); } });
-        }
-        all.push_back({ "transliteration",
-            [](std::string& text) { TransliterateGerman(text, kUsual); },
-            literal::TransliterateGerman });
-        all.push_back({ "blank text", cutBlankText, literal::cutBlankGaps });
-        all.push_back({ "blanks", cutBlanksAheadOfTags, literal::cutBlanksAheadOfTags });
-        all.push_back({ "all", [](std::string& text) { CleanDesignHtml(text, kUsual); },
-            literal::CleanDesignHtml });
-        return all;
+std::vector<Judged> judgedPasses()
+{
+    std::vector<Judged> all;
+    const auto slow = literal::cleanPasses();
+    for (const auto& pass : cleanPasses()) {
+        const auto judge = slow[all.size()].apply;
+        all.push_back({std::string(pass.name), pass.apply,
+            [judge](std::string& text) { text = judge(std::move(text)); }});
     }
+    all.push_back({"transliteration", [](std::string& text) { TransliterateGerman(text, kUsual); },
+        literal::TransliterateGerman});
+    all.push_back({"blank text", cutBlankText, literal::cutBlankGaps});
+    all.push_back({"blanks", cutBlanksAheadOfTags, literal::cutBlanksAheadOfTags});
+    all.push_back({"all", [](std::string& text) { CleanDesignHtml(text, kUsual); },
+        literal::CleanDesignHtml});
+    return all;
+}
 
-    // nullopt: it cannot be done.
-    std::optional<std::string> applied(const Apply& apply, std::string text)
-    {
-        try {
-            apply(text);
-        } catch (const RuntimeFailure&) {
-            return std::nullopt;
-        } catch (const std::runtime_error&) {
-            return std::nullopt;
-        }
-        return text;
+// nullopt: it cannot be done.
+std::optional<std::string> applied(const Apply& apply, std::string text)
+{
+    try {
+        apply(text);
+    } catch (const RuntimeFailure&) {
+        return std::nullopt;
+    } catch (const std::runtime_error&) {
+        return std::nullopt;
     }
+    return text;
+}
 
-    void expectAgreement(const std::vector<Judged>& passes, const std::string& text)
-    {
-        for (const auto& pass : passes)
-            ASSERT_EQ(applied(pass.fast, text), applied(pass.slow, text)) << pass.name << text;
+void expectAgreement(const std::vector<Judged>& passes, const std::string& text)
+{
+    for (const auto& pass : passes)
+        ASSERT_EQ(applied(pass.fast, text), applied(pass.slow, text)) << pass.name << text;
+}
+
+// Each alphabet holds what a few passes act on, whole and in pieces.
+const std::vector<std::vector<std::string_view>> kAlphabets = {
+    {"<p>", "</p>", "<P align=\"left\">", "x", "<br/>", "<!--/card-->"},
+    {"<p", "</p", "<", ">", " ", "x", "p"},
+    {"<!--do-->", "<!--/do-->", "<!--go/-->", "x", "<!--do", "<p>", ">"},
+    {"<!--option-->", "<!--/OPTION-->", "<!--/select-->", "x", "<!--select-->", "<input>"},
+    {"<!--option", "<!--/option", "-->", "<", "<!--/select", "<!--o", "ption"},
+    {"<table>", "</TABLE>", "<tr>", "</tr>", "<p>", "</p >", "x"},
+    {"<table", "</table", ">", "</tr", "<tr", "</p", "<p"},
+    {"<p>&nbsp;", "</p>", "<p class=\"a\">", "x", "<b>", "</b>", "</p x>"},
+    {" ", "\r\n", "<", ">", "x", "\t", "\xE4"},
+    {"<body>", "<!--card-->", "<!--do-->", "x", " ", "<table>", "</table>"},
+};
+
+TEST(CleanPasses, AgreeWithRepeatedSearchesOnAllShortTexts)
+{
+    const auto passes = judgedPasses();
+    for (const auto& tokens : kAlphabets)
+        test::forEachSequence(
+            tokens, 4, [&](const std::string& text) { expectAgreement(passes, text); });
+}
+
+TEST(CleanPasses, AgreeWithRepeatedSearchesOnRandomTexts)
+{
+    const auto passes = judgedPasses();
+    std::vector<std::string_view> all = {"<i>", "</i>", "<u>", "</u>", "<img>", "</img>", "<a>",
+        "</a>", "<strong>", "</strong>", "&nbsp", "\xFF"};
+    for (const auto& tokens : kAlphabets)
+        all.insert(all.end(), tokens.begin(), tokens.end());
+    for (std::uint32_t seed = 0; seed < 300; ++seed) {
+        SCOPED_TRACE(seed);
+        const auto& tokens = seed % 2 == 0 ? all : kAlphabets[seed / 2 % kAlphabets.size()];
+        expectAgreement(passes, test::randomSoup(seed, tokens, 1 + seed % 60));
     }
-
-    // Each alphabet holds what a few passes act on, whole and in pieces.
-    const std::vector<std::vector<std::string_view>> kAlphabets = {
-        { "<p>", "</p>", "<P align=\"left\">", "x", "<br/>", "<!--/card-->" },
-        { "<p", "</p", "<", ">", " ", "x", "p" },
-        { "<!--do-->", "<!--/do-->", "<!--go/-->", "x", "<!--do", "<p>", ">" },
-        { "<!--option-->", "<!--/OPTION-->", "<!--/select-->", "x", "<!--select-->", "<input>" },
-        { "<!--option", "<!--/option", "-->", "<", "<!--/select", "<!--o", "ption" },
-        { "<table>", "</TABLE>", "<tr>", "</tr>", "<p>", "</p >", "x" },
-        { "<table", "</table", ">", "</tr", "<tr", "</p", "<p" },
-        { "<p>&nbsp;", "</p>", "<p class=\"a\">", "x", "<b>", "</b>", "</p x>" },
-        { " ", "\r\n", "<", ">", "x", "\t", "\xE4" },
-        { "<body>", "<!--card-->", "<!--do-->", "x", " ", "<table>", "</table>" },
-    };
-
-    TEST(CleanPasses, AgreeWithRepeatedSearchesOnAllShortTexts)
-    {
-        const auto passes = judgedPasses();
-        for (const auto& tokens : kAlphabets)
-            test::forEachSequence(
-                tokens, 4, [&](const std::string& text) { expectAgreement(passes, text); });
-    }
-
-    TEST(CleanPasses, AgreeWithRepeatedSearchesOnRandomTexts)
-    {
-        const auto passes = judgedPasses();
-        std::vector<std::string_view> all = { "<i>", "</i>", "<u>", "</u>", "<img>", "</img>",
-            "<a>", "</a>", "<strong>", "</strong>", "&nbsp", "\xFF" };
-        for (const auto& tokens : kAlphabets)
-            all.insert(all.end(), tokens.begin(), tokens.end());
-        for (std::uint32_t seed = 0; seed < 300; ++seed) {
-            SCOPED_TRACE(seed);
-            const auto& tokens = seed % 2 == 0 ? all : kAlphabets[seed / 2 % kAlphabets.size()];
-            expectAgreement(passes, test::randomSoup(seed, tokens, 1 + seed % 60));
-        }
-    }
+}
 
 } // namespace
 } // namespace quillmere

@@ -27,7 +27,8 @@ protected:
     /// Two areas; the second one holds Bmp0.bmp under another name and with layout.
     DesignImageTagsTest()
     {
-        session().deck[0].images = {entry("Bmp0.bmp", "A/b.wbmp"), entry("Bmp1.bmp", "c.wbmp"), {}};
+        session().deck[0].images = {entry("Bmp0.bmp", "A/b.wbmp"), entry("Bmp1.bmp", "c.wbmp"),
+            entry("Bmp1.bmp", "second.wbmp"), {}};
         session().deck[1].images = {entry("Bmp0.bmp", "last.wbmp"), {}};
         session().deck[1].images[0].hasLayout = true;
         session().deck[2].images = {entry("Bmp2.bmp", "spare.wbmp"), {}};
@@ -50,30 +51,30 @@ TEST_F(DesignImageTagsTest, GivesThePictureItsNameBack)
         std::string wanted;
     };
     const std::vector<Row> rows{
-        {"<IMG SRC=\"/t/bmp1.BMP\">", "<img src=\"c.wbmp\"></img>"},
-        {"<img src=\"/t/bmp1.bmp\" alt=\"Ein Bild\"></img>",
-            "<img src=\"c.wbmp\" alt=\"ein bild\"></img>"},
-        {"<img src=\"/t/bmp1.bmp\" hspace=2 vspace=\"1\" align=left>",
-            "<img src=\"c.wbmp\" vspace=\"1\" hspace=\"2\"></img>"},
-        {"<img src=\"/t/bmp0.bmp\" alt=X>",
-            "<img src=\"last.wbmp\" alt=\"x\" align=\"top\" height=\"7\" width=\"5\"></img>"},
-        {"<img src=\"/t/bmp2.bmp\"><img src=\"\">", "</img></img>"}, // in the spare record
+        {R"(<IMG SRC="/t/bmp1.BMP">)", R"(<img src="c.wbmp"></img>)"},
+        {R"(<img src="/t/bmp1.bmp" alt="Ein Bild"></img>)",
+            R"(<img src="c.wbmp" alt="ein bild"></img>)"},
+        {R"(<img src="/t/bmp1.bmp" hspace=2 vspace="1" align=left>)",
+            R"(<img src="c.wbmp" vspace="1" hspace="2"></img>)"},
+        {R"(<img src="/t/bmp0.bmp" alt=X>)",
+            R"(<img src="last.wbmp" alt="x" align="top" height="7" width="5"></img>)"},
+        {R"(<img src="/t/bmp2.bmp"><img src="">)", "</img></img>"}, // in the spare record
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.design);
         EXPECT_EQ(wml(row.design), row.wanted);
     }
     session().output = OutputRules(true);
-    EXPECT_EQ(wml("<img src=\"/t/bmp1.bmp\" ALT=\"Ein Bild\">"),
-        "<img src=\"c.wbmp\" alt=\"Ein Bild\"></img>");
+    EXPECT_EQ(wml(R"(<img src="/t/bmp1.bmp" ALT="Ein Bild">)"),
+        R"(<img src="c.wbmp" alt="Ein Bild"></img>)");
 }
 
 TEST_F(DesignImageTagsTest, KeepsTheSizeThatTheSurfaceShows)
 {
-    EXPECT_EQ(wml("<IMG src=\"/t/Bmp0.bmp\" style=\"HEIGHT: 20px; WIDTH: 30px\"><IMG "
-                  "src=\"/t/bmp0.bmp\">"),
-        "<img src=\"last.wbmp\" align=\"top\" height=\"20\" width=\"30\"></img>"
-        "<img src=\"last.wbmp\" align=\"top\" height=\"20\" width=\"30\"></img>");
+    EXPECT_EQ(wml(R"(<IMG src="/t/Bmp0.bmp" style="HEIGHT: 20px; WIDTH: 30px"><IMG )"
+                  R"(src="/t/bmp0.bmp">)"),
+        R"(<img src="last.wbmp" align="top" height="20" width="30"></img>)"
+        R"(<img src="last.wbmp" align="top" height="20" width="30"></img>)");
     for (std::size_t area = 0; area < 2; ++area) {
         EXPECT_EQ(session().deck[area].images[0].heightPx, 20);
         EXPECT_EQ(session().deck[area].images[0].widthPx, 30);
@@ -82,11 +83,11 @@ TEST_F(DesignImageTagsTest, KeepsTheSizeThatTheSurfaceShows)
 
 TEST_F(DesignImageTagsTest, LeavesTheEntriesWhereItFails)
 {
-    const std::string sized = "<img src=\"/t/bmp0.bmp\" style=\"height: 20px\">";
+    const std::string sized = R"(<img src="/t/bmp0.bmp" style="height: 20px">)";
     EXPECT_THROW(
-        wml(sized + "<img src=\"/t/bmp1.bmp\" style=\"height: 2em; width: 3px\">"), TypeMismatch);
-    EXPECT_THROW(wml(sized + "<img src=\"/t/bmp1.bmp\" style=\"height: 2\">"), InvalidArgument);
-    EXPECT_THROW(wml(sized + "<img src=\"/t/bmp1.bmp\" alt=\"x>"), InvalidArgument);
+        wml(sized + R"(<img src="/t/bmp1.bmp" style="height: 2em; width: 3px">)"), TypeMismatch);
+    EXPECT_THROW(wml(sized + R"(<img src="/t/bmp1.bmp" style="height: 2">)"), InvalidArgument);
+    EXPECT_THROW(wml(sized + R"(<img src="/t/bmp1.bmp" alt="x>)"), InvalidArgument);
     EXPECT_EQ(session().deck[0].images[0].heightPx, 7);
 }
 

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <stdexcept>
+#include <utility>
 
 namespace quillmere::literal {
 namespace {
@@ -116,7 +117,7 @@ template <char tens, char ones> std::string pass(std::string text)
 {
     const std::string number{tens, ones};
     for (const Pass& pass : cleanPasses())
-        if (std::string_view(pass.name).substr(0, 2) == number) return pass.apply(text);
+        if (std::string_view(pass.name).substr(0, 2) == number) return pass.apply(std::move(text));
     return "no such pass";
 }
 

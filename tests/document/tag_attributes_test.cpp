@@ -10,7 +10,7 @@
 namespace quillmere {
 namespace {
 
-constexpr std::string_view kKey = "alt=\"";
+constexpr std::string_view kKey = R"(alt=")";
 using Reading = std::optional<TextRange> (AttributeReader::*)(const Tag&);
 
 /// The value as it is read out of `text`, which is one tag; "-" for none, "!" for the failure.
@@ -36,15 +36,15 @@ TEST(AttributeReader, ReadsQuotedAndBareValues)
     };
     const std::vector<Row> rows{
         {"<a>", "-", "-", "-", "-"},
-        {"<a alt=\"x y\" b>", "x y", "x y", "x y", "x y"},
-        {"<a alt=\"\">", "", "", "", ""},
-        {"<a alt=\"x>", "!", "-", "!", "!"},
+        {R"(<a alt="x y" b>)", "x y", "x y", "x y", "x y"},
+        {R"(<a alt="">)", "", "", "", ""},
+        {R"(<a alt="x>)", "!", "-", "!", "!"},
         {"<a alt=x y>", "-", "-", "x", "!"},
         {"<a alt=x/>", "-", "-", "x/", "!"},
         {"<a alt=>", "-", "-", "", "!"},
-        {"<a alt='x' b=\"y\">", "-", "-", "'x'", "x' b="},
-        {"<a alt=x salt=\"y\">", "y", "y", "y", " salt="},
-        {"<a ALT=\"x\">", "-", "-", "-", "-"},
+        {R"(<a alt='x' b="y">)", "-", "-", "'x'", "x' b="},
+        {R"(<a alt=x salt="y">)", "y", "y", "y", " salt="},
+        {R"(<a ALT="x">)", "-", "-", "-", "-"},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.tag);
@@ -57,7 +57,7 @@ TEST(AttributeReader, ReadsQuotedAndBareValues)
 
 TEST(AttributeReader, AgreesWithAFreshOneOnTagsWithOneEnd)
 {
-    const std::string text = "<a alt=\"1\" <a b=\"2\" <a alt=\"3\"> alt=\"4\"<a><a alt=\"5\">";
+    const std::string text = R"(<a alt="1" <a b="2" <a alt="3"> alt="4"<a><a alt="5">)";
     AttributeReader kept(text, kKey);
     TagScanner tags(text);
     while (const auto tag = tags.next()) {

@@ -9,7 +9,7 @@
 namespace quillmere {
 namespace {
 
-constexpr std::array kRules = std::to_array<TagRule>({{"<b>"}, {"<br"}, {"</b"}, {"<"}});
+constexpr std::array kRules = std::to_array<TagRule>({{"<b>"}, {"<br"}, {"</b"}, {"<x"}});
 
 const TagRule* firstContained(std::string_view tag, std::span<const TagRule> rules)
 {

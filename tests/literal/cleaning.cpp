@@ -4,6 +4,7 @@
 #include "literal/search.h"
 
 #include <algorithm>
+#include <array>
 #include <stdexcept>
 #include <utility>
 
@@ -124,11 +125,11 @@ void cleanTable(std::string& text, std::size_t t, std::size_t e)
 {
     for (auto p = find(text, "<p", t); p < e; p = find(text, "<p", p)) {
         const std::size_t length = deleteTag(text, p);
-        if (length == 0) return; // no '>' is left
+        if (length == 0) break; // no '>' is left
         e -= std::min(e, length); // a tag may end behind the table's end
     }
     for (auto p = find(text, "</p", t); p < e; p = find(text, "</p", p)) {
-        if (deleteTag(text, p) == 0) return;
+        if (deleteTag(text, p) == 0) break; // rows ahead of it may be complete
         text.insert(p, "<br/>");
         e += 1; // always, even where the tag was not "</p>"
     }
@@ -325,7 +326,7 @@ std::string doubledBrackets(std::string text)
     return text;
 }
 
-constexpr Pass kPasses[] = {
+constexpr auto kPasses = std::to_array<Pass>({
     {"1 first do block", firstDoBlock},
     {"2 orphan option ends", orphanOptionEnds},
     {"3 option pairs", optionPairs},
@@ -348,7 +349,7 @@ constexpr Pass kPasses[] = {
     {"20 format nesting", formatNesting},
     {"21 paragraph ends again", paragraphEnds},
     {"22 doubled brackets", doubledBrackets},
-};
+});
 
 bool isBlank(const std::string& text)
 {

@@ -2,6 +2,7 @@
 
 #include "literal/search.h"
 
+#include <array>
 #include <span>
 #include <stdexcept>
 
@@ -175,8 +176,8 @@ std::string imageToWml(const Source& source)
     return result + "</img>";
 }
 
-constexpr Row kToDesign[] = {{"<p", "", paragraph}, {"</p>", "</p>"}, {"<b>", "<b>"},
-    {"</b>", "</b>"}, {"<big", "<big>"}, {"</big", "</big>"}, {"<small", "<small>"},
+constexpr auto kToDesign = std::to_array<Row>({{"<p", "", paragraph}, {"</p>", "</p>"},
+    {"<b>", "<b>"}, {"</b>", "</b>"}, {"<big", "<big>"}, {"</big", "</big>"}, {"<small", "<small>"},
     {"</small", "</small>"}, {"<strong", "<strong>"}, {"</strong", "</strong>"}, {"<em", "<em>"},
     {"</em", "</em>"}, {"<i>", "<i>"}, {"</i>", "</i>"}, {"<u>", "<u>"}, {"</u>", "</u>"},
     {"<br", "<br/>"}, {"</br>", " "}, {"<table", "", tableToDesign}, {"<do type", "", doToDesign},
@@ -184,19 +185,19 @@ constexpr Row kToDesign[] = {{"<p", "", paragraph}, {"</p>", "</p>"}, {"<b>", "<
     {"</td>", "</td>"}, {"</do", "<!--/do-->"}, {"<go", "", wrapSource}, {"</go", "<!--/go-->"},
     {"<a", "", linkToDesign}, {"</a>", "</a>"}, {"<img", "", imageToDesign}, {"</img>", " "},
     {"<option", "", wrapSource}, {"</option", "", wrapLower}, {"<select", "<!--select-->"},
-    {"</select", "<!--/select-->"}, {"<wml>", " "}, {"</wml>", " "}};
+    {"</select", "<!--/select-->"}, {"<wml>", " "}, {"</wml>", " "}});
 
-constexpr Row kToWml[] = {{"<p", "", paragraph}, {"</p>", "</p>"}, {"<b>", "<b>"}, {"</b>", "</b>"},
-    {"<big", "<big>"}, {"</big", "</big>"}, {"<small", "<small>"}, {"</small", "</small>"},
-    {"<strong", "<strong>"}, {"</strong", "</strong>"}, {"<em", "<i>"}, {"</em", "</i>"},
-    {"<i>", "<i>"}, {"</i>", "</i>"}, {"<u>", "<u>"}, {"</u>", "</u>"}, {"<br", "<br/>"},
-    {"</br>", " "}, {"<table", "", tableToWml}, {"</table>", "</table>"}, {"<tr>", "<tr>"},
-    {"</tr>", "</tr>"}, {"<td>", "<td>"}, {"</td>", "</td>"}, {"<!--do type", "", doToWml},
-    {"<!--/do", "</do>"}, {"<!--go", "", unwrapSource}, {"<!--/go", "</go>"}, {"<a", "", linkToWml},
-    {"</a", "</a>"}, {"<img", "", imageToWml}, {"</img>", " "}, {"<!--option", "", unwrapSource},
-    {"<!--/option", "", unwrapLower}, {"<!--select", "<select>"}, {"<!--/select", "</select>"},
-    {"<html>", " "}, {"</html>", " "}, {"<!--card", "", unwrapSource},
-    {"<!--/card", "", unwrapLower}};
+constexpr auto kToWml = std::to_array<Row>({{"<p", "", paragraph}, {"</p>", "</p>"}, {"<b>", "<b>"},
+    {"</b>", "</b>"}, {"<big", "<big>"}, {"</big", "</big>"}, {"<small", "<small>"},
+    {"</small", "</small>"}, {"<strong", "<strong>"}, {"</strong", "</strong>"}, {"<em", "<i>"},
+    {"</em", "</i>"}, {"<i>", "<i>"}, {"</i>", "</i>"}, {"<u>", "<u>"}, {"</u>", "</u>"},
+    {"<br", "<br/>"}, {"</br>", " "}, {"<table", "", tableToWml}, {"</table>", "</table>"},
+    {"<tr>", "<tr>"}, {"</tr>", "</tr>"}, {"<td>", "<td>"}, {"</td>", "</td>"},
+    {"<!--do type", "", doToWml}, {"<!--/do", "</do>"}, {"<!--go", "", unwrapSource},
+    {"<!--/go", "</go>"}, {"<a", "", linkToWml}, {"</a", "</a>"}, {"<img", "", imageToWml},
+    {"</img>", " "}, {"<!--option", "", unwrapSource}, {"<!--/option", "", unwrapLower},
+    {"<!--select", "<select>"}, {"<!--/select", "</select>"}, {"<html>", " "}, {"</html>", " "},
+    {"<!--card", "", unwrapSource}, {"<!--/card", "", unwrapLower}});
 
 /// The replacement by the first row that matches; `otherwise` where none does.
 template <class Otherwise>

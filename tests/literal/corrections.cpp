@@ -237,7 +237,7 @@ std::string TakeDoBlock(std::string& text)
     if (last == npos || last < begin) return "";
     const std::size_t end = text.find('>', last);
     if (end >= card) return "";
-    const std::string block = text.substr(begin, end + 1 - begin);
+    std::string block = text.substr(begin, end + 1 - begin);
     text.erase(begin, block.size());
     return block;
 }

@@ -19,7 +19,7 @@ std::string MapWorkFiles::createFile(std::string_view prefix, std::string_view s
 
 bool MapWorkFiles::exists(const std::string& path) const
 {
-    return files_.count(path) != 0;
+    return files_.contains(path);
 }
 
 std::string MapWorkFiles::read(const std::string& path) const

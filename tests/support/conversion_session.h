@@ -36,12 +36,16 @@ public:
 
 class NobodyThere : public Prompter {
 public:
-    [[nodiscard]] bool ask(int, std::span<const std::string>, MessageIcon) override
+    [[nodiscard]] bool ask(
+        int /*word*/, std::span<const std::string> /*gaps*/, MessageIcon /*icon*/) override
     {
         throw unexpected();
     }
-    void show(int, std::span<const std::string>, MessageIcon) override { throw unexpected(); }
-    [[nodiscard]] bool showNote(Note) override { throw unexpected(); }
+    void show(int /*word*/, std::span<const std::string> /*gaps*/, MessageIcon /*icon*/) override
+    {
+        throw unexpected();
+    }
+    [[nodiscard]] bool showNote(Note /*note*/) override { throw unexpected(); }
 
 private:
     static std::logic_error unexpected() { return std::logic_error("nobody expected a question"); }
@@ -49,13 +53,14 @@ private:
 
 class NoSettings : public SettingsStore {
 public:
-    [[nodiscard]] std::string ReadSetting(std::string_view) const override { return {}; }
-    void WriteSetting(std::string_view, std::string_view) override { }
+    [[nodiscard]] std::string ReadSetting(std::string_view /*name*/) const override { return {}; }
+    void WriteSetting(std::string_view /*name*/, std::string_view /*value*/) override { }
 };
 
 class NoWords : public Words {
 public:
-    [[nodiscard]] std::string GetWord(int, std::initializer_list<std::string_view>) const override
+    [[nodiscard]] std::string GetWord(
+        int /*id*/, std::initializer_list<std::string_view> /*arguments*/) const override
     {
         return {};
     }

@@ -1,0 +1,48 @@
+// Held by word_resources_test.cpp, on files in a directory of its own.
+
+#include "app/word_resources.h"
+
+#include "document/failure.h"
+#include "document/files.h"
+
+#include <vector>
+
+namespace quillmere {
+
+namespace {
+
+constexpr const char* kCompiledFile = "ResWords.res";
+constexpr const char* kTextFile = "ResWords.ini";
+
+} // namespace
+
+void WordResources::LoadWordResources(const SettingsStore& settings)
+{
+    const auto skins = settings.ReadSetting("Skins");
+    if (skins.empty()) return;
+    if (fileExists(skins + kCompiledFile)) {
+        table_ = wordsFromRecords(readFile(skins + kCompiledFile));
+        return;
+    }
+    if (!fileExists(skins + kTextFile)) return;
+    table_ = wordsFromText(readFile(skins + kTextFile));
+    try {
+        WriteWordResources(settings);
+    } catch (const FileFailure&) { // NOLINT(bugprone-empty-catch)
+        // a directory without write access: the text file is read again next time
+    }
+}
+
+void WordResources::WriteWordResources(const SettingsStore& settings) const
+{
+    const auto skins = settings.ReadSetting("Skins");
+    if (skins.empty() || table_.empty()) return;
+    replaceFile(skins + kCompiledFile, recordsOfWords(table_));
+}
+
+std::string WordResources::GetWord(int id, std::initializer_list<std::string_view> arguments) const
+{
+    return filledWord(table_, id, std::vector<std::string_view>(arguments));
+}
+
+} // namespace quillmere

@@ -1,0 +1,90 @@
+#include "app/resource_text.h"
+#include "app/word_ids.h"
+#include "app/word_table.h"
+#include "document/files.h"
+#include "document/path_checks.h"
+#include "document/windows1252.h"
+
+#include <gtest/gtest.h>
+
+#include <map>
+#include <set>
+
+namespace quillmere {
+namespace {
+
+constexpr const char* kFile = QUILLMERE_SOURCE_DIR "/data/Skins/ResWords.ini";
+
+const WordTable& shipped()
+{
+    static const WordTable table = wordsFromText(readFile(kFile));
+    return table;
+}
+
+std::multiset<int> idsOfTheFile()
+{
+    std::multiset<int> ids;
+    const auto text = withoutLineBreaks(readFile(kFile));
+    ResourceEntries entries(text, "<word", "</word");
+    while (const auto entry = entries.next())
+        ids.insert(shortNumber(resourceAttribute(entry->tag, "id=")).value_or(-1));
+    return ids;
+}
+
+std::size_t countOf(std::string_view text, std::string_view part)
+{
+    std::size_t count = 0;
+    for (auto at = text.find(part); at != npos; at = text.find(part, at + part.size()))
+        ++count;
+    return count;
+}
+
+TEST(ShippedWords, HaveJustTheNumbersThatTheProgramAsksFor)
+{
+    std::multiset<int> asked;
+    for (const auto& use : kWordIds)
+        asked.insert(use.id);
+    EXPECT_EQ(asked, idsOfTheFile()); // none twice in either, as they would differ
+    EXPECT_EQ(std::set<int>(asked.begin(), asked.end()).size(), asked.size());
+}
+
+TEST(ShippedWords, FitTheirUse)
+{
+    for (const auto& use : kWordIds) {
+        SCOPED_TRACE(use.id);
+        const auto& word = shipped().at(static_cast<std::size_t>(use.id));
+        EXPECT_FALSE(word.text.empty() || word.group.empty() || word.rem.empty());
+        EXPECT_LT(word.text.size(), 1000U); // not cut
+        EXPECT_EQ(countOf(word.text, "<?>"), static_cast<std::size_t>(use.gaps));
+        const auto markers = countOf(word.text, "<?>") + countOf(word.text, "<br>");
+        EXPECT_EQ(countOf(word.text, "<"), markers);
+        EXPECT_EQ(countOf(word.text, ">"), markers);
+        EXPECT_EQ(word.text.find("  "), npos);
+        EXPECT_EQ(fromUtf8(toUtf8(word.text)), word.text);
+    }
+}
+
+// A file in UTF-8 would show as pairs such as "Ã¼"; the codes below have no character.
+TEST(ShippedWords, AreWindows1252)
+{
+    const auto bytes = readFile(kFile);
+    EXPECT_EQ(bytes.find_first_of("\x81\x8d\x8f\x90\x9d\xc3\xe2"), npos);
+    EXPECT_NE(bytes.find(fromUtf8("ü")), npos);
+    EXPECT_NE(bytes.find(fromUtf8("„")), npos);
+}
+
+TEST(ShippedWords, WorkWhereTheyAreParts)
+{
+    const auto textOf = [](int id) { return toUtf8(filledWord(shipped(), id, {"1", "30"})); };
+    EXPECT_EQ(textOf(word::kNumberRange), "Bitte geben Sie eine Zahl von 1 bis 30 ein.");
+    EXPECT_EQ(textOf(word::kSizeLimits), "(1 bis 30)");
+    EXPECT_EQ(textOf(word::kAreaCaption) + " 1" + textOf(word::kAreaCaptionEnd) + " Titel",
+        "Bereich 1: Titel");
+    EXPECT_EQ(textOf(word::kWmlFilter) + "(*.wml)|*.wml", "WML-Dateien\u00a0(*.wml)|*.wml");
+    EXPECT_TRUE(CheckFileName(filledWord(shipped(), word::kNewFolderName, {})));
+    // What the button says tells the two states of the connection apart.
+    EXPECT_EQ(textOf(word::kDisconnect).find("Verbinden"), npos);
+}
+
+} // namespace
+} // namespace quillmere

@@ -1,0 +1,167 @@
+#include "document/deck_change_counts.h"
+#include "document/deck_changes.h"
+#include "support/deck_generator.h"
+#include "support/small_random.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <map>
+#include <regex>
+
+namespace quillmere {
+namespace {
+
+/// A short form of a change: kind, what it concerns, texts, place in what was read and written.
+std::string shortForm(const DeckChange& change)
+{
+    constexpr char kKinds[] = {'-', '+', '~', '>'};
+    std::string form(1, kKinds[static_cast<int>(change.kind)]);
+    if (change.subject == DeckChange::Subject::Attribute)
+        form += change.element + '.' + change.attribute + ' ';
+    form += change.before;
+    if (!change.after.empty() && change.after != change.before) form += "=>" + change.after;
+    for (const auto& place : {change.readAt, change.writtenAt}) {
+        if (place) form += ' ' + std::to_string(place->line) + ':' + std::to_string(place->column);
+    }
+    return form;
+}
+
+std::string changesOf(std::string_view read, std::string_view written)
+{
+    std::string all;
+    for (const auto& change : DeckChanges(read, written).changes)
+        all += (all.empty() ? "" : " | ") + shortForm(change);
+    return all;
+}
+
+struct Row {
+    const char* name;
+    const char* read;
+    const char* written;
+    const char* changes;
+};
+
+TEST(DeckChanges, ToldWithTheirPlaces)
+{
+    const Row rows[] = {
+        {"the same", "<p>a b</p>", "<p>a b</p>", ""},
+        {"spelling of markup", "<P class='x' id=\"1\">a&#228;<BR></BR><img src='i'></img></p>",
+            "<p id=\"1\" class=\"x\">a\xE4<br/><img src=\"i\"/></p>", ""},
+        {"white space", "<p>\r\n a\tb </p>", "<p>a b</p>", ""},
+        {"kept references stay apart", "<p>&amp;amp; &#8722; &vdata; </p>",
+            "<p>&amp; &amp;#8722; &amp;vdata;</p>",
+            "~&amp; &#8722; &vdata;=>& &#8722; &vdata; 1:4 1:4"},
+        {"element with its end and words", "<p>a<fieldset>b</fieldset>c</p>", "<p>abc</p>",
+            "-<fieldset> 1:5"},
+        {"one of many", "<p><do type='x'></do></p>\n<p>a</p><do type='a'/><p>b</p>",
+            "<p></p><p>a</p><do type='a'/><p>b</p>", "-<do type='x'> 1:4"},
+        {"attributes", "<p><img src='a' alt='Ab' vspace='1'/></p>",
+            "<p><img src='a' alt='ab' align='top'></img></p>",
+            "+img.align =>top 1:26 | ~img.alt Ab=>ab 1:17 1:17 | -img.vspace 1 1:26"},
+        {"the right one of two", "<p><img src='a'/><img src='b'/></p>", "<p><img src='b'/></p>",
+            "-<img src='a'/> 1:4"},
+        {"words", "<p>a b c</p><p>d</p>", "<p>a c</p><p>d e f</p>", "-b 1:6 | +=>e f 1:16"},
+        {"changed words", "<p>f\xFCr M\xFCller da</p>", "<p>fuer Mueller da</p>",
+            "~f\xFCr M\xFCller=>fuer Mueller 1:4 1:4"},
+        {"grown together", "<p>eins\nzwei</p>", "<p>einszwei</p>", "~eins zwei=>einszwei 1:4 1:4"},
+        {"words across tags", "<p>Te<b>xt</b></p>", "<p>Text</p>", "-<b> 1:6"},
+        {"missing end", "<p>a<p>b", "<p>a</p><p>b</p>", "+=></p> 1:5 | +=></p> 1:13"},
+        {"stray end", "<p>a</b></p>", "<p>a</p>", "-</b> 1:5"},
+        {"overlap mended", "<b>x<i>y</b></i>", "<b>x<i>y</i></b>", "></b> 1:9 1:13"},
+        {"moved as a whole", "<card id='a'><do><go href='#b'/></do><p>a b</p></card>",
+            "<card id='a'><p>a b</p><do><go href='#b'/></do></card>", "><do> 1:14 1:24"},
+        {"not moved to another card", "<card id='a'><do/>x</card><card id='b'>y</card>",
+            "<card id='a'>x</card><card id='b'><do/>y</card>", "-<do/> 1:14 | +=><do/> 1:35"},
+        {"comments and the like", "<?php x?><!DOCTYPE a><!-- c --><p><![CDATA[1 <2]]></p>",
+            "<!DOCTYPE b><p>1 2</p>",
+            "-php x 1:1 | -a 1:10 | -c 1:22 | +=>b 1:1 | ~<2=>2 1:46 1:18"},
+        {"end of another of the name", "<p><b>x</b> <b>y</b></p>", "<p><b>x y</b></p>",
+            "-<b> 1:13"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        EXPECT_EQ(changesOf(row.read, row.written), row.changes);
+    }
+}
+
+/// How many start tags of each name a deck has, counted with an expression.
+std::map<std::string, long> startsOf(const std::string& deck)
+{
+    static const std::regex kStart("<([a-z]+)[^>]*>");
+    std::map<std::string, long> starts;
+    for (std::sregex_iterator at(deck.begin(), deck.end(), kStart), end; at != end; ++at)
+        ++starts[(*at)[1]];
+    return starts;
+}
+
+/// Cuts out some whole tags and words.
+std::string thinnedOut(const std::string& deck, test::SmallRandom& random)
+{
+    static const std::regex kPart("<[a-z/][^>]*>|[^<> \n]+");
+    std::string result;
+    auto copied = deck.begin();
+    for (std::sregex_iterator at(deck.begin(), deck.end(), kPart), end; at != end; ++at) {
+        if (!random.chance(0.05)) continue;
+        result.append(copied, (*at)[0].first);
+        copied = (*at)[0].second;
+    }
+    return result.append(copied, deck.end());
+}
+
+TEST(DeckChanges, NumbersOfElementsAddUp)
+{
+    for (std::uint64_t seed = 0; seed < 200; ++seed) {
+        SCOPED_TRACE("seed " + std::to_string(seed));
+        test::SmallRandom random(seed);
+        const auto read = test::generateDeck(seed);
+        const auto written = thinnedOut(read, random);
+        auto balance = startsOf(read);
+        for (const auto& [name, count] : startsOf(written))
+            balance[name] -= count;
+        for (const auto& count : countChanges(DeckChanges(read, written))) {
+            ASSERT_EQ(count.subject == DeckChange::Subject::Element ? count.added : 0U, 0U);
+            if (count.subject == DeckChange::Subject::Element)
+                balance[count.name] -= static_cast<long>(count.lost);
+        }
+        for (const auto& [name, left] : balance)
+            EXPECT_EQ(left, 0) << name;
+    }
+}
+
+TEST(DeckChanges, NothingChangesBetweenADeckAndItself)
+{
+    for (std::uint64_t seed = 0; seed < 100; ++seed) {
+        const auto deck = test::generateDeck(seed, {.targetBytes = 800, .brokenness = 0.2});
+        ASSERT_EQ(changesOf(deck, deck), "") << "seed " << seed;
+    }
+    const auto report = DeckChanges("<p>x", "<p>\n<b>x</p>");
+    ASSERT_TRUE(report.fault);
+    EXPECT_EQ(report.fault->writtenAt, (TextPlace{2, 5}));
+    EXPECT_FALSE(report.wellFormed());
+}
+
+TEST(DeckChanges, HostileShapesTakeLittleTime)
+{
+    const auto times = [](std::string_view part, int count) {
+        std::string text;
+        for (int i = 0; i < count; ++i)
+            text += part;
+        return text;
+    };
+    const std::string shapes[] = {times("<", 30000), times("<a", 15000), times("<b></b>", 4300),
+        times("<a b=\"", 5000), times("<a b='>", 4300), times("<!--", 7500),
+        times("<!DOCTYPE [", 2700), times("<![CDATA[", 3300), times("&a", 15000),
+        times("x </p>", 5000), times("<card>y ", 3700), test::generateDeck(1, {30000})};
+    for (const auto& read : shapes) {
+        for (const auto& written : shapes) {
+            const auto begin = std::chrono::steady_clock::now();
+            EXPECT_FALSE(DeckChanges(read, written).changes.empty() && &read != &written);
+            EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::seconds(1))
+                << read.substr(0, 10) << written.substr(0, 10);
+        }
+    }
+}
+
+} // namespace
+} // namespace quillmere

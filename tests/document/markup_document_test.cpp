@@ -1,0 +1,155 @@
+#include "document/character_references.h"
+#include "document/markup_document.h"
+#include "document/text_place.h"
+#include "document/well_formedness.h"
+#include "support/deck_generator.h"
+#include "support/small_random.h"
+
+#include <gtest/gtest.h>
+
+namespace quillmere {
+namespace {
+
+/// The tokens in a form that shows their parts: S(name a=v), E, X for an empty tag, T, C, D, I, !.
+std::string tokensOf(std::string_view text)
+{
+    constexpr char kKinds[] = {'S', 'X', 'E', 'T', 'C', 'D', 'I', '!'};
+    const auto document = readMarkup(text);
+    std::string all;
+    for (const auto& token : document.tokens) {
+        all += kKinds[static_cast<int>(token.kind)];
+        all.append("(").append(token.name).append(token.content);
+        for (const auto& attribute : document.attributesOf(token))
+            all.append(" ").append(attribute.name).append("=").append(attribute.value);
+        all += ')';
+    }
+    return all;
+}
+
+TEST(MarkupDocument, ReadsTokensOfWholeAndBrokenMarkup)
+{
+    const struct {
+        const char* text;
+        const char* tokens;
+    } rows[] = {
+        {"<?xml version='1.0'?><!DOCTYPE a [<!ENTITY b \"]>\">]><a/>",
+            "I(xml version='1.0')!( a [<!ENTITY b \"]>\">])X(a)"},
+        {"<a b = \"1>2\" c='\"'>x</a >", "S(a b=1>2 c=\")T(x)E(a)"},
+        {"<!-- a > b --><![CDATA[<a>]]>", "C( a > b )D(<a>)"},
+        {"1 < 2 <b>", "T(1 < 2 )S(b)"},
+        {"<a href=#x/><a href=#y z>", "X(a href=#x)S(a href=#y z=)"},
+        {"<a href=\"#x>b</a> <i c='d'>", "S(a href=#x)T(b)E(a)T( )S(i c=d)"},
+        {"<a href=\"a<b\">", "S(a href=a<b)"},
+        {"<a <a <b>", "S(a)S(a)S(b)"},
+        {"x</>y</ b><", "T(x)E()T(y)E( b=)T(<)"},
+        {"<!-- a <b>c<![CDATA[ d <?e", "C( a <b)T(c)D( d <?e)"},
+        {"<a b=\"", "S(a b=)"},
+    };
+    for (const auto& row : rows)
+        EXPECT_EQ(tokensOf(row.text), row.tokens) << row.text;
+}
+
+TEST(MarkupDocument, TokensCoverAnyText)
+{
+    for (std::uint64_t seed = 0; seed < 300; ++seed) {
+        const auto text = test::generateDeck(seed, {.targetBytes = 600, .brokenness = 0.3});
+        std::size_t end = 0;
+        for (const auto& token : readMarkup(text).tokens) {
+            ASSERT_EQ(token.begin, end) << "seed " << seed;
+            end = token.end;
+        }
+        ASSERT_EQ(end, text.size()) << "seed " << seed;
+    }
+}
+
+TEST(MarkupDocument, CharactersOfReferences)
+{
+    EXPECT_EQ(decodeReferences("&lt;&#65;&#x42;&#228;&#x20AC;&nbsp;"), "<AB\xE4\x80\xA0");
+    EXPECT_EQ(decodeReferences("&amp;lt; & &; &#; &#x110000; &#1; a&b"),
+        "&lt; & &; &#; &#x110000; &#1; a&b");
+    EXPECT_EQ(decodeReferences("&#8722;&vdata;"), "\x01#8722;\x01vdata;");
+}
+
+TEST(TextPlaces, CountLinesOfAllEndings)
+{
+    const std::string_view text = "a\r\nb\nc\rd\n\re";
+    const TextPlaces places(text);
+    const auto at = [&](char c) { return places.at(text.find(c)); };
+    EXPECT_EQ(at('a'), (TextPlace{1, 1}));
+    EXPECT_EQ(at('\n'), (TextPlace{1, 3}));
+    EXPECT_EQ(at('b'), (TextPlace{2, 1}));
+    EXPECT_EQ(at('c'), (TextPlace{3, 1}));
+    EXPECT_EQ(at('d'), (TextPlace{4, 1}));
+    EXPECT_EQ(at('e'), (TextPlace{6, 1}));
+    EXPECT_EQ(places.at(text.size()), (TextPlace{6, 2}));
+}
+
+struct FaultRow {
+    MarkupFault fault;
+    std::size_t offset;
+    std::string name;
+    const char* text;
+};
+
+TEST(WellFormedness, FirstFaultAndItsPlace)
+{
+    const FaultRow rows[] = {
+        {MarkupFault::StrayLess, 5, "", "<a>1 < 2</a>"},
+        {MarkupFault::UnendedTag, 3, "b", "<a><b <i/></a>"},
+        {MarkupFault::BadTag, 3, "", "<a></>"},
+        {MarkupFault::BadTag, 0, "a", "<a =''></a>"},
+        {MarkupFault::MissingBlank, 8, "a", "<a b='1'c='2'/>"},
+        {MarkupFault::MissingValue, 3, "b", "<a b/>"},
+        {MarkupFault::UnquotedValue, 3, "b", "<a b=1/>"},
+        {MarkupFault::UnendedValue, 3, "b", "<a b=\"1><c/></a>"},
+        {MarkupFault::LessInValue, 3, "b", "<a b='<'/>"},
+        {MarkupFault::DoubleAttribute, 0, "c", "<a c='' b='' c=''/>"},
+        {MarkupFault::UnendedComment, 3, "", "<a><!-- > </a>"},
+        {MarkupFault::DashesInComment, 3, "", "<a><!-- a -- b --></a>"},
+        {MarkupFault::DashesInComment, 3, "", "<a><!-- a ---></a>"},
+        {MarkupFault::UnendedSection, 3, "", "<a><![CDATA[x]></a>"},
+        {MarkupFault::UnendedInstruction, 3, "", "<a><? x?></a>"},
+        {MarkupFault::BadDeclaration, 1, "", " <?xml version='1.0'?><a/>"},
+        {MarkupFault::BadDoctype, 4, "", "<a/><!DOCTYPE a>"},
+        {MarkupFault::BadDoctype, 0, "", "<!DOCTYPE a PUBLIC 'x'><a/>"},
+        {MarkupFault::BadDoctype, 0, "", "<!DOCTYPE a SYSTEM 'x' 'y'><a/>"},
+        {MarkupFault::BadDoctype, 0, "", "<!doctype a><a/>"},
+        {MarkupFault::BadCharacter, 3, "", "<a>\x02</a>"},
+        {MarkupFault::CharacterBeyondEncoding, 3, "", "<a>\xE4</a>"},
+        {MarkupFault::BadReference, 3, "", "<a>&b c</a>"},
+        {MarkupFault::BadReference, 6, "", "<a b='&'/>"},
+        {MarkupFault::UnknownEntity, 3, "nbsp", "<a>&nbsp;</a>"},
+        {MarkupFault::SectionEndInText, 4, "", "<a>x]]></a>"},
+        {MarkupFault::TextOutsideRoot, 5, "", "<a/> x"},
+        {MarkupFault::SecondRoot, 4, "b", "<a/><b/>"},
+        {MarkupFault::NoRoot, 10, "", "<!-- a -->"},
+        {MarkupFault::NoRoot, 0, "", ""},
+        {MarkupFault::WrongEnd, 7, "b", "<b><i>x</b></i>"},
+        {MarkupFault::WrongEnd, 7, "a", "<a></a></a>"},
+        {MarkupFault::WrongEnd, 3, "A", "<a></A>"},
+        {MarkupFault::UnendedElement, 3, "b", "<a><b>"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.text);
+        const auto fault = firstFault(row.text, readMarkup(row.text));
+        ASSERT_TRUE(fault);
+        EXPECT_EQ(static_cast<int>(fault->fault), static_cast<int>(row.fault));
+        EXPECT_EQ(fault->offset, row.offset);
+        EXPECT_EQ(fault->name, row.name);
+    }
+}
+
+TEST(WellFormedness, WholeDocumentsHaveNone)
+{
+    for (const std::string_view text :
+        {"<?xml version=\"1.0\" encoding=\"iso-8859-1\"?><!-- a - b --><a>\xE4&#228;&lt;</a>\r\n",
+            "<!DOCTYPE a SYSTEM \"b\" [ <!ENTITY c 'd'> ] >\n<a>&c;&nbsp;<?d?></a><?e f?>"})
+        EXPECT_FALSE(firstFault(text, readMarkup(text))) << text;
+    for (std::uint64_t seed = 0; seed < 50; ++seed) {
+        const auto text = test::generateDeck(seed);
+        ASSERT_FALSE(firstFault(text, readMarkup(text))) << "seed " << seed;
+    }
+}
+
+} // namespace
+} // namespace quillmere

@@ -1,0 +1,207 @@
+#include "support/deck_generator.h"
+
+#include "support/small_random.h"
+
+#include <initializer_list>
+#include <span>
+#include <utility>
+
+namespace quillmere::test {
+
+namespace {
+
+using namespace std::string_view_literals;
+
+constexpr std::string_view kProlog = "<?xml version=\"1.0\"{E}?>\n"
+                                     "<!DOCTYPE wml PUBLIC \"-//WAPFORUM//DTD WML 1.1//EN\""
+                                     " \"http://www.wapforum.org/DTD/wml_1.1.xml\">\n<wml>\n";
+
+constexpr std::string_view kPlainWords[] = {"Abfahrt", "um", "18.30", "Gleis", "und", "der", "Film",
+    "Karten", "ab", "7,50", "Wetter", "heute", "sonnig", "bis", "22", "Grad", "Preis", "Angebot",
+    "Bestellung", "Uhr", "nach", "Hamburg", "im", "Kino", "&amp;", "Tor", "2:1", "Nachrichten"};
+constexpr std::string_view kAccentWords[] = {"K\xF6ln", "f\xFCr", "t\xE4glich", "\xD6lpreis",
+    "h\xF6ren", "M\xFCnchen", "\xC4nderung", "\xDCrdingen", "Ma\xDFstab", "caf\xE9", "10\x80"};
+constexpr std::string_view kFormats[] = {"b", "i", "u", "big", "small", "strong", "em"};
+constexpr std::string_view kAligns[]
+    = {"", " align=\"left\"", " align=\"center\"", " align=\"right\""};
+constexpr std::string_view kStray[] = {"<", ">", "</b>", "</p>", "<p>", "</select>", "</i>", "<<",
+    "</option>", "</td>", "<b>", "<!-- ", "&", "</a>", "<br"};
+
+class Generator {
+public:
+    Generator(std::uint64_t seed, const DeckOptions& options)
+        : random_(seed)
+        , options_(options)
+    {
+    }
+
+    std::string run()
+    {
+        deck_ = kProlog;
+        const auto encoding = deck_.find("{E}");
+        deck_.replace(encoding, 3, options_.eightBit ? " encoding=\"windows-1252\""sv : ""sv);
+        for (int number = 1; number == 1 || deck_.size() + 80 < options_.targetBytes; ++number)
+            addCard(number);
+        deck_ += "</wml>\n";
+        if (fault() && random_.chance(0.5)) deck_.resize(random_.below(deck_.size()));
+        return std::move(deck_);
+    }
+
+private:
+    bool fault() { return options_.brokenness > 0 && random_.chance(options_.brokenness); }
+
+    std::string_view pick(std::span<const std::string_view> rows)
+    {
+        return rows[random_.below(rows.size())];
+    }
+
+    void addWords(std::size_t most)
+    {
+        for (auto count = 1 + random_.below(most); count > 0; --count) {
+            const bool accent = options_.eightBit && random_.chance(0.2);
+            deck_ += accent ? pick(kAccentWords) : pick(kPlainWords);
+            if (fault()) deck_ += pick(kStray);
+            deck_ += random_.chance(0.1) ? '\n' : ' ';
+        }
+    }
+
+    void open(std::initializer_list<std::string_view> tag)
+    {
+        std::string text = "<";
+        for (const auto part : tag)
+            text += part;
+        text += '>';
+        const auto quote = text.find('"');
+        if (quote != std::string::npos && fault()) { // unquoted, or without its closing quote
+            text.erase(quote, random_.chance(0.7) ? 1 : 0);
+            if (random_.chance(0.7)) text.erase(text.find('"'), 1);
+        }
+        if (!fault()) deck_ += text;
+    }
+
+    void close(std::string_view name)
+    {
+        if (!fault()) deck_.append("</").append(name).append(">");
+        if (fault()) deck_ += pick(kStray);
+    }
+
+    void addCard(int number)
+    {
+        const auto name = std::to_string(number);
+        open({"card id=\"k", name, "\" title=\"Karte ", name, "\" newcontext=\"true\""});
+        deck_ += '\n';
+        const auto end = deck_.size() + 150 + random_.below(700);
+        while (deck_.size() < end && deck_.size() + 60 < options_.targetBytes)
+            addParagraph();
+        if (random_.chance(0.7)) addDo(number + 1);
+        close("card");
+        deck_ += '\n';
+    }
+
+    void addDo(int target)
+    {
+        open({"do type=\"accept\" label=\"Weiter\" name=\"Sprung\""});
+        if (!fault()) deck_.append("<go href=\"#k").append(std::to_string(target)).append("\"/>");
+        close("do");
+        deck_ += '\n';
+    }
+
+    void addParagraph()
+    {
+        open({"p", pick(kAligns)});
+        for (auto parts = 1 + random_.below(4); parts > 0; --parts)
+            addPart();
+        close("p");
+        deck_ += '\n';
+    }
+
+    void addPart()
+    {
+        switch (random_.below(9)) {
+        case 0:
+            return addTable();
+        case 1:
+            return addSelect();
+        case 2:
+            return addLink();
+        case 3:
+            return addPicture();
+        case 4:
+            deck_ += "<br/>";
+            return;
+        case 5:
+        case 6:
+            return addFormat();
+        default:
+            return addWords(12);
+        }
+    }
+
+    void addFormat()
+    {
+        const auto outer = pick(kFormats);
+        const auto inner = pick(kFormats);
+        const bool nested = outer != inner && random_.chance(0.3);
+        const bool overlaps = nested && fault();
+        open({outer});
+        addWords(4);
+        if (nested) open({inner});
+        if (nested) addWords(3);
+        if (nested) close(overlaps ? outer : inner);
+        close(overlaps ? inner : outer);
+        deck_ += ' ';
+    }
+
+    void addLink()
+    {
+        open({"a href=\"#k", std::to_string(1 + random_.below(9)), "\""});
+        addWords(3);
+        close("a");
+    }
+
+    void addPicture()
+    {
+        const auto number = std::to_string(random_.below(4));
+        open({"img src=\"", options_.pictures, number, ".wbmp\" alt=\"Bild ", number, "\"/"});
+    }
+
+    void addSelect()
+    {
+        open({"select name=\"wahl\""});
+        for (auto count = 1 + random_.below(5); count > 0; --count) {
+            open({"option value=\"", std::to_string(count), "\""});
+            addWords(2);
+            close("option");
+        }
+        close("select");
+    }
+
+    void addTable()
+    {
+        const auto columns = 1 + random_.below(3);
+        open({"table title=\"Plan\" columns=\"", std::to_string(columns), "\""});
+        for (auto rows = 1 + random_.below(4); rows > 0; --rows) {
+            open({"tr"});
+            for (std::size_t column = 0; column < columns; ++column) {
+                open({"td"});
+                addWords(2);
+                close("td");
+            }
+            close("tr");
+        }
+        close("table");
+    }
+
+    SmallRandom random_;
+    const DeckOptions& options_;
+    std::string deck_;
+};
+
+} // namespace
+
+std::string generateDeck(std::uint64_t seed, const DeckOptions& options)
+{
+    return Generator(seed, options).run();
+}
+
+} // namespace quillmere::test
