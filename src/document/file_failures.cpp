@@ -39,8 +39,9 @@ std::string describe(std::error_code reason)
 
 FileFailure failureOf(const std::string& path, std::string_view action, std::error_code reason)
 {
-    return FileFailure("Die Datei „" + path + "“ kann nicht " + std::string(action)
-        + " werden: " + describe(reason) + ". Es wurde nichts geändert.");
+    const auto text = "Die Datei „" + path + "“ kann nicht " + std::string(action)
+        + " werden: " + describe(reason) + ". Es wurde nichts geändert.";
+    return FileFailure{text};
 }
 
 } // namespace
@@ -57,8 +58,9 @@ FileFailure cannotWrite(const std::string& path, std::error_code reason)
 
 FileFailure cannotMakeDirectory(const std::string& path, std::error_code reason)
 {
-    return FileFailure(
-        "Der Ordner „" + path + "“ kann nicht angelegt werden: " + describe(reason) + ".");
+    const auto text
+        = "Der Ordner „" + path + "“ kann nicht angelegt werden: " + describe(reason) + ".";
+    return FileFailure{text};
 }
 
 } // namespace quillmere

@@ -66,7 +66,7 @@ void writeToDevice(const std::string& path, std::string_view bytes)
 // The new file stands already: a directory that cannot be flushed is no failure any more.
 void flushDirectory(const std::string& directory)
 {
-    PosixFile opened(directory, O_RDONLY | O_DIRECTORY);
+    const PosixFile opened(directory, O_RDONLY | O_DIRECTORY);
     if (opened.isOpen()) static_cast<void>(opened.flush());
 }
 
@@ -88,7 +88,7 @@ void replaceTarget(
 
 std::string readFile(const std::string& path, std::size_t maxBytes)
 {
-    PosixFile file(path, O_RDONLY);
+    const PosixFile file(path, O_RDONLY);
     std::string bytes;
     if (!file.isOpen() || !file.readInto(bytes, maxBytes)) throw cannotRead(path, lastError());
     if (bytes.size() > maxBytes) throw Overflow();

@@ -26,7 +26,7 @@ PosixFile::~PosixFile()
     if (isOpen()) ::close(number_);
 }
 
-bool PosixFile::write(std::string_view bytes)
+bool PosixFile::write(std::string_view bytes) const
 {
     while (!bytes.empty()) {
         const auto taken = ::write(number_, bytes.data(), bytes.size());
@@ -38,7 +38,7 @@ bool PosixFile::write(std::string_view bytes)
     return true;
 }
 
-bool PosixFile::flush()
+bool PosixFile::flush() const
 {
     return ::fsync(number_) == 0;
 }
@@ -48,7 +48,7 @@ bool PosixFile::close()
     return ::close(std::exchange(number_, -1)) == 0;
 }
 
-bool PosixFile::readInto(std::string& bytes, std::size_t maxBytes)
+bool PosixFile::readInto(std::string& bytes, std::size_t maxBytes) const
 {
     constexpr std::size_t kChunk = 4096; // for what does not know its size, such as a pipe
     struct stat status { };

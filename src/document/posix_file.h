@@ -28,11 +28,11 @@ public:
     [[nodiscard]] int number() const { return number_; }
 
     // Each of these is false with the reason in lastError() where the system refuses.
-    [[nodiscard]] bool write(std::string_view bytes);
-    [[nodiscard]] bool flush();
+    [[nodiscard]] bool write(std::string_view bytes) const;
+    [[nodiscard]] bool flush() const;
     [[nodiscard]] bool close();
     /// Reads until the end of the file or until `bytes` holds more than `maxBytes`.
-    [[nodiscard]] bool readInto(std::string& bytes, std::size_t maxBytes);
+    [[nodiscard]] bool readInto(std::string& bytes, std::size_t maxBytes) const;
 
 private:
     int number_;

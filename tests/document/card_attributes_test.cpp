@@ -20,15 +20,15 @@ TEST(CardAttributes, AreReadFromTheLineOfTheMarker)
     };
     const Row rows[] = {
         {"usual", "\r\n<!--card id=\"a\" title=\"b c\" newcontext=\"true\"-->\r\nx", "a", "b c"},
-        {"any case", "<!--CARD ID=\"A\" TITLE=\"B\"-->", "A", "B"},
-        {"no title", "<!--card id=\"a\"--><table title=\"t\">", "a", ""},
+        {"any case", R"(<!--CARD ID="A" TITLE="B"-->)", "A", "B"},
+        {"no title", R"(<!--card id="a"--><table title="t">)", "a", ""},
         {"only the first marker", "<!--card id=\"a\"-->\r\n<!--card id=\"b\" title=\"t\"-->", "a",
             ""},
-        {"title ahead of the id", "<!--card title=\"t\" card id=\"a\"-->", "a", ""},
+        {"title ahead of the id", R"(<!--card title="t" card id="a"-->)", "a", ""},
         {"no quotes", "<!--card id=a title=\"t\"-->", "t", ""},
         {"quotes behind the marker only", "<!--card id=a-->\"x\"", "", ""},
-        {"cut off", "<!--card id=\"a\" title=\"t\"", "", ""},
-        {"value with a bracket", "<!--card id=\"a>b\" title=\"t\"-->", "a>b", ""},
+        {"cut off", R"(<!--card id="a" title="t")", "", ""},
+        {"value with a bracket", R"(<!--card id="a>b" title="t"-->)", "a>b", ""},
         {"none", "<p>card</p>", "", ""},
     };
     StoreSession store;
@@ -50,9 +50,9 @@ TEST(CardAttributes, AreSetInThePlaceOfTheOldOnes)
     };
     const Row rows[] = {
         {"both", "<!--card id=\"lang\" title=\"alt\" x=\"y\"-->\r\n<p>",
-            "<!--card id=\"i\" title=\"t u\" x=\"y\"--><p>"},
-        {"lost title", "<!--card id=\"a\" x=\"y\"--><table title=\"t\">",
-            "<!--card id=\"i\" title=\"t u\" x=\"y\"--><table title=\"t\">"},
+            R"(<!--card id="i" title="t u" x="y"--><p>)"},
+        {"lost title", R"(<!--card id="a" x="y"--><table title="t">)",
+            R"(<!--card id="i" title="t u" x="y"--><table title="t">)"},
         {"no marker", "<p>x</p>\r\n", "<p>x</p>"},
         {"no value", "<!--card id=a-->\"x\"", "<!--card id=a-->\"x\""},
     };
@@ -73,21 +73,19 @@ TEST(Jumps, AreReadFromTheFirstAcceptDo)
         Jump jump;
     };
     const Row rows[] = {
-        {"usual",
-            "<!--do type=\"accept\" label=\"l\" name=\"n\"--><!--go href=\"#b\"/--><!--/do-->",
+        {"usual", R"(<!--do type="accept" label="l" name="n"--><!--go href="#b"/--><!--/do-->)",
             {"n", "l", "#b"}},
-        {"another type", "<!--do type=\"prev\" label=\"l\"--><!--go href=\"#b\"--><!--/do-->", {}},
+        {"another type", R"(<!--do type="prev" label="l"--><!--go href="#b"--><!--/do-->)", {}},
         {"any case and order",
-            "<!--DO TYPE=\"Accept\" NAME=\"n\" LABEL=\"l\"--><!--GO HREF=\"#b\"--><!--/DO-->",
+            R"(<!--DO TYPE="Accept" NAME="n" LABEL="l"--><!--GO HREF="#b"--><!--/DO-->)",
             {"n", "l", "#b"}},
         {"nothing behind the end counts",
-            "<!--do type=\"accept\"--><!--/do--> label=\"l\" name=\"n\" <!--go href=\"#b\"/-->",
-            {}},
+            R"(<!--do type="accept"--><!--/do--> label="l" name="n" <!--go href="#b"/-->)", {}},
         {"a type accept behind another",
             "<!--do type=\"prev\" label=\"p\"--><!--/do--><!--do type=\"accept\" label=\"l\"-->"
             "<!--/do-->",
             {"", "l", ""}},
-        {"without end", "<!--do type=\"accept\" label=\"l\"-->", {}},
+        {"without end", R"(<!--do type="accept" label="l"-->)", {}},
     };
     StoreSession store;
     for (const auto& row : rows) {
@@ -112,7 +110,7 @@ TEST(Jumps, AreSetInTheirMarkersOrMadeBehindTheCard)
         {"new", "<!--card id=\"a\"-->\r\n<p>", {"", "l", "#b"},
             "<!--card id=\"a\"--><!--do type=\"accept\" label=\"l\" name=\"Sprung\"-->"
             "<!--go href=\"#b\"/--><!--/do--><p>"},
-        {"new beside another do", "<!--card id=\"a\"--><!--do type=\"prev\" name=\"Sprung\"-->",
+        {"new beside another do", R"(<!--card id="a"--><!--do type="prev" name="Sprung"-->)",
             {"", "l", "#b"},
             "<!--card id=\"a\"--><!--do type=\"accept\" label=\"l\" name=\"Sprung0\"-->"
             "<!--go href=\"#b\"/--><!--/do--><!--do type=\"prev\" name=\"Sprung\"-->"},
@@ -123,14 +121,13 @@ TEST(Jumps, AreSetInTheirMarkersOrMadeBehindTheCard)
             {"n", "l", "#b"},
             "<!--do type=\"accept\" label=\"l\" name=\"n\"--><!--go href=\"#b\"--><!--/go-->"
             "<!--/do--><!--go href=\"#y\"-->"},
-        {"missing parts", "<!--do type=\"accept\" x=\"y\"--><!--/do-->", {"n", "l", "#b"},
-            "<!--do type=\"accept\" name=\"n\"  label=\"l\"  x=\"y\"--><!--/do-->"},
-        {"its own name counts as taken", "<!--do type=\"accept\" name=\"sprung\"--><!--/do-->",
-            {"Sprung", "l", ""},
-            "<!--do type=\"accept\" label=\"l\"  name=\"Sprung0\"--><!--/do-->"},
-        {"numbers without gap",
-            "<!--do type=\"accept\" name=\"Sprung\" name=\"Sprung0\"--><!--/do-->", {"", "l", ""},
-            "<!--do type=\"accept\" label=\"l\"  name=\"Sprung1\" name=\"Sprung0\"--><!--/do-->"},
+        {"missing parts", R"(<!--do type="accept" x="y"--><!--/do-->)", {"n", "l", "#b"},
+            R"(<!--do type="accept" name="n"  label="l"  x="y"--><!--/do-->)"},
+        {"its own name counts as taken", R"(<!--do type="accept" name="sprung"--><!--/do-->)",
+            {"Sprung", "l", ""}, R"(<!--do type="accept" label="l"  name="Sprung0"--><!--/do-->)"},
+        {"numbers without gap", R"(<!--do type="accept" name="Sprung" name="Sprung0"--><!--/do-->)",
+            {"", "l", ""},
+            R"(<!--do type="accept" label="l"  name="Sprung1" name="Sprung0"--><!--/do-->)"},
     };
     StoreSession store;
     for (const auto& row : rows) {
@@ -144,7 +141,7 @@ TEST(Jumps, AreSetInTheirMarkersOrMadeBehindTheCard)
 TEST(Jumps, NamesAreLookedForInAnyCase)
 {
     StoreSession store;
-    store.giveArea("<!--do type=\"accept\" name=\"sprung\"-->");
+    store.giveArea(R"(<!--do type="accept" name="sprung"-->)");
     EXPECT_TRUE(JumpNameInUse(store.session, 0, "Sprung"));
     EXPECT_FALSE(JumpNameInUse(store.session, 0, "Spr"));
     EXPECT_FALSE(JumpNameInUse(store.session, 0, "Sprung0"));

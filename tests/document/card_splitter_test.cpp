@@ -114,11 +114,11 @@ TEST(CardSplitter, SplitsAndCorrects)
     };
     const Row rows[] = {
         {"two cards",
-            "<wml><card id=\"a\"><do type=\"x\">d</do><p>1</p></card><card id=\"b\">2</card></wml>",
+            R"(<wml><card id="a"><do type="x">d</do><p>1</p></card><card id="b">2</card></wml>)",
             "<wml><card id=\"a\">|<do type=\"x\">d</do>|<p>1</p>\n<card id=\"b\">||2\n"},
         {"no card", "nur Text", kCorrected + "||nur Text\n"},
         {"nothing", "", kCorrected + "||\n"},
-        {"no end between two", "<card id=\"a\">1<card id=\"b\">2",
+        {"no end between two", R"(<card id="a">1<card id="b">2)",
             kCorrected + "||<card id=\"a\">1\n<card id=\"b\">||2\n"},
         {"no end at all", "<card id=\"a\">1", "<card id=\"a\">||1\n"},
         {"a head that is cut off", "<card>1</card><card id", "<card>||1\n||\n"},

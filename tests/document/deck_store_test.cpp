@@ -100,9 +100,9 @@ TEST(LoadDeck, AFailureLeavesTheOpenDeck)
     const test::ScratchFolder folder;
     folder.put("lang.wml", std::string(32768, 'x'));
     folder.put("zitat.wml",
-        "<card id=\"a\"><p><img src=\"a.wbmp\"/></p></card><card id=\"b\"><img src=\"b></card>");
+        R"(<card id="a"><p><img src="a.wbmp"/></p></card><card id="b"><img src="b></card>)");
     StoreSession store;
-    store.load("<card id=\"a\"><p>alt<img src=\"b.wbmp\"/></p></card>");
+    store.load(R"(<card id="a"><p>alt<img src="b.wbmp"/></p></card>)");
     const auto names = namesOf(store.workFiles);
     const auto design = store.design(0);
     for (const std::string name : {"lang.wml", "zitat.wml", "fehlt.wml", ""}) {
@@ -113,7 +113,7 @@ TEST(LoadDeck, AFailureLeavesTheOpenDeck)
         EXPECT_EQ(store.session.deck.front().deckFile, "deck.wml");
         EXPECT_EQ(store.design(0), design);
     }
-    store.workFiles.write("neu.wml", "<card id=\"a\"><do type=\"x\" label=\"y></do></card>");
+    store.workFiles.write("neu.wml", R"(<card id="a"><do type="x" label="y></do></card>)");
     EXPECT_THROW(LoadDeck(store.session, {"d", "/nowhere/", "neu.wml", ""}), InvalidArgument);
     EXPECT_TRUE(store.workFiles.exists("neu.wml"));
 }
@@ -121,7 +121,7 @@ TEST(LoadDeck, AFailureLeavesTheOpenDeck)
 TEST(LoadDeck, ClearsUpBehindTheDeckItReplaces)
 {
     StoreSession store;
-    store.load("<card id=\"a\"><p><img src=\"b.wbmp\"/></p></card><card id=\"b\">2</card>");
+    store.load(R"(<card id="a"><p><img src="b.wbmp"/></p></card><card id="b">2</card>)");
     const auto pristine = store.session.deck.front().pristineFile;
     store.workFiles.write(pristine, "wie geladen");
     store.load("<card id=\"c\">3</card>");
@@ -194,7 +194,7 @@ TEST(WriteDeck, AFailureWritesNothing)
     StoreSession store;
     store.load("<card id=\"a\"><p>eins</p></card>");
     const auto before = store.written();
-    const std::string unquoted = "<!--do type=\"x\" label=\"y--><!--go--><!--/do-->";
+    const std::string unquoted = R"(<!--do type="x" label="y--><!--go--><!--/do-->)";
     for (const auto& text : {unquoted, std::string(32768, 'x')}) {
         store.workFiles.write(store.session.deck.front().designFile, text);
         EXPECT_THROW(WriteDeck(store.session), RuntimeFailure);

@@ -58,7 +58,7 @@ public:
     ~SmallDisk()
     {
         ::setrlimit(RLIMIT_FSIZE, &old_);
-        std::signal(SIGXFSZ, handler_);
+        static_cast<void>(std::signal(SIGXFSZ, handler_));
     }
 
 private:
