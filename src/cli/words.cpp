@@ -21,13 +21,9 @@ int numberOf(const std::string& text)
     return number;
 }
 
-MemorySettings settingsOf(const Arguments& arguments)
+std::string skinsDirectory(const Arguments& arguments)
 {
-    MemorySettings settings;
-    const std::string skins
-        = arguments.skins ? NormalisePath(*arguments.skins) : AppDirectory() + "Skins/";
-    settings.WriteSetting("Skins", skins);
-    return settings;
+    return arguments.skins ? NormalisePath(*arguments.skins) : AppDirectory() + "Skins/";
 }
 
 void printAll(const WordResources& words)
@@ -43,8 +39,10 @@ void printAll(const WordResources& words)
 
 ExitStatus runWords(const Arguments& arguments)
 {
+    MemorySettings settings;
+    settings.WriteSetting("Skins", skinsDirectory(arguments));
     WordResources words;
-    words.LoadWordResources(settingsOf(arguments));
+    words.LoadWordResources(settings);
     if (arguments.operands.empty()) {
         printAll(words);
         return ExitStatus::Done;
