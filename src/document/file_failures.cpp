@@ -40,8 +40,8 @@ namespace {
     FileFailure failureOf(
         const std::string& path, std::string_view action, std::error_code reason)
     {
-        return FileFailure("Die Datei „" + path + "“ kann nicht " + std::string(action)
-            + " werden: " + describe(reason) + ". Es wurde nichts geändert.");
+        return FileFailure {"Die Datei „" + path + "“ kann nicht " + std::string(action)
+            + " werden: " + describe(reason) + ". Es wurde nichts geändert."};
     }
 
 } // namespace
@@ -58,8 +58,8 @@ FileFailure cannotWrite(const std::string& path, std::error_code reason)
 
 FileFailure cannotMakeDirectory(const std::string& path, std::error_code reason)
 {
-    return FileFailure("Der Ordner „" + path + "“ kann nicht angelegt werden: " + describe(reason)
-        + ".");
+    return FileFailure {"Der Ordner „" + path + "“ kann nicht angelegt werden: " + describe(reason)
+        + "."};
 }
 
 } // namespace quillmere
