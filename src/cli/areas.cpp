@@ -52,7 +52,7 @@ std::string jsonArray(const std::vector<Row>& rows)
     std::string text;
     for (const Row& row : rows)
         text += (text.empty() ? "[" : ",\n ") + jsonLine(row);
-    return text + "]\n";
+    return toUtf8(text + "]\n");
 }
 
 } // namespace

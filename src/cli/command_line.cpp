@@ -3,9 +3,8 @@
 
 #include "cli/command_line.h"
 
+#include "cli/guarded.h"
 #include "cli/terminal.h"
-#include "document/failure.h"
-#include "document/windows1252.h"
 
 #include <algorithm>
 #include <array>
@@ -171,20 +170,11 @@ ExitStatus runParsed(Parsed parsed)
 
 ExitStatus runCommandLine(int count, char** values)
 {
-    try {
+    return guarded("", [&] {
         const ExitStatus status = runParsed(parse(count, values));
         finishOutput();
         return status;
-    } catch (const BadArguments& bad) {
-        complain(bad.message + " Hilfe zeigt „quillmere-cli --help“.");
-        return ExitStatus::BadArguments;
-    } catch (const RuntimeFailure& failure) {
-        complain(toUtf8(failure.description()));
-        return ExitStatus::RunFailure;
-    } catch (const Failure& failure) {
-        complain(toUtf8(failure.description()));
-        return ExitStatus::FileTrouble;
-    }
+    });
 }
 
 } // namespace quillmere::cli

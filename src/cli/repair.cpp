@@ -3,16 +3,18 @@
 
 #include "cli/commands.h"
 #include "cli/core_session.h"
+#include "cli/guarded.h"
 #include "cli/terminal.h"
 #include "document/deck_changes.h"
+#include "document/deck_changes_json.h"
 #include "document/deck_changes_report.h"
+#include "document/deck_repair.h"
 #include "document/deck_store.h"
 #include "document/files.h"
 #include "document/paths.h"
 #include "document/windows1252.h"
 
 #include <algorithm>
-#include <filesystem>
 #include <set>
 
 namespace quillmere::cli {
@@ -34,26 +36,23 @@ Repaired repairInto(CoreSession& core, const std::string& path)
     return {std::move(read), core.workFiles.read(first.wmlDir + first.wmlFile)};
 }
 
-// The written text is its own pristine copy then, as it will be once it was saved.
-bool repairChangesAgain(const std::string& written, const std::string& path, bool standardOutput)
+std::string repairedAgain(
+    const std::string& written, const std::string& path, const Arguments& arguments)
 {
-    CoreSession core(standardOutput);
-    const std::string workFile = core.workFiles.createFile("Wml", ".wml");
-    const std::string workDir = core.workFiles.directory();
-    core.workFiles.write(workDir + workFile, written);
-    core.session.deck.resize(2);
-    core.session.deck.front().pristineFile = workFile;
-    core.session.deck.front().pristineDir = workDir;
-    const auto [directory, name] = SplitPath(path);
-    LoadDeck(core.session, {name, directory, workFile, workDir});
-    WriteDeck(core.session);
-    return core.workFiles.read(workDir + workFile) != written;
+    CoreSession core(arguments.standardOutput);
+    return repairedDeck(core.session, written, SplitPath(path).directory);
+}
+
+void makeDirectory(const std::string& path)
+{
+    AssentingPrompter unasked;
+    MakeDirectories(NormalisePath(path), false, unasked);
 }
 
 void keepWorkFiles(CoreSession& core, const std::string& directory)
 {
     const std::string into = NormalisePath(directory);
-    std::filesystem::create_directories(into);
+    makeDirectory(into);
     const Deck& deck = core.session.deck;
     for (std::size_t area = 0; area < areaCount(deck); ++area) {
         const DeckRecord& record = deck[area];
@@ -65,10 +64,11 @@ void keepWorkFiles(CoreSession& core, const std::string& directory)
 std::string reportOf(
     const std::string& path, const Repaired& repaired, const Arguments& arguments, bool first)
 {
-    const DeckReport report {toUtf8(path), DeckChanges(repaired.read, repaired.written),
-        repairChangesAgain(repaired.written, path, arguments.standardOutput)};
-    if (!arguments.json) return (first ? "" : "\n") + textReport(report);
-    return (first ? "" : ",\n") + jsonReport(report);
+    DeckChangesReport report = DeckChanges(repaired.read, repaired.written);
+    report.stable = repairedAgain(repaired.written, path, arguments) == repaired.written;
+    const std::string name = fromUtf8(path);
+    if (!arguments.json) return (first ? "" : "\n") + textReport(report, name);
+    return (first ? "" : ",\n") + jsonReport(report, name);
 }
 
 std::string outputPath(const Arguments& arguments, const std::string& input)
@@ -124,7 +124,7 @@ void checkArguments(const Arguments& arguments)
 ExitStatus runRepair(const Arguments& arguments)
 {
     checkArguments(arguments);
-    if (arguments.outDir) std::filesystem::create_directories(*arguments.outDir);
+    if (arguments.outDir) makeDirectory(*arguments.outDir);
     ExitStatus status = ExitStatus::Done;
     std::size_t reported = 0;
     if (arguments.json) printBytes("[");
@@ -133,6 +133,7 @@ ExitStatus runRepair(const Arguments& arguments)
             const std::string report = repairOne(arguments, input, reported == 0);
             arguments.json ? printBytes(report) : print(report);
             if (arguments.report) ++reported;
+            return ExitStatus::Done;
         });
         status = std::max(status, one);
     }

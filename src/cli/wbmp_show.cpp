@@ -1,4 +1,5 @@
 #include "cli/commands.h"
+#include "document/design_page.h"
 #include "document/files.h"
 #include "imageconv/wbmp_display_copies.h"
 
@@ -8,9 +9,9 @@ ExitStatus runWbmpShow(const Arguments& arguments)
 {
     if (arguments.operands.size() != 1) throw BadArguments {"„wbmp-show“ braucht genau ein Bild."};
     if (!arguments.output) throw BadArguments {"Es fehlt -o DATEI."};
-    const std::string bytes = readFile(arguments.operands.front());
-    replaceFile(*arguments.output,
-        displayCopyOf(bytes, kDefaultPageColour, OutputRules(arguments.standardOutput)));
+    const WbmpPicture picture
+        = ReadWbmpFile(arguments.operands.front(), OutputRules(arguments.standardOutput));
+    replaceFile(*arguments.output, drawPicture(picture, kDefaultPageColour));
     return ExitStatus::Done;
 }
 

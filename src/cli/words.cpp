@@ -21,12 +21,40 @@ int numberOf(const std::string& text)
     return number;
 }
 
+std::string skinsDirectory(const Arguments& arguments)
+{
+    return arguments.skins ? NormalisePath(*arguments.skins) : AppDirectory() + "Skins/";
+}
+
+void printAll(const WordResources& words)
+{
+    int id = 0;
+    for (const WordEntry& entry : words.table()) {
+        if (!entry.text.empty()) print(std::to_string(id) + "\t" + toUtf8(entry.text) + "\n");
+        ++id;
+    }
+}
+
 } // namespace
 
 ExitStatus runWords(const Arguments& arguments)
 {
-    // to be joined with the word resources
+    MemorySettings settings;
+    settings.WriteSetting("Skins", skinsDirectory(arguments));
+    WordResources words;
+    words.LoadWordResources(settings);
+    if (arguments.operands.empty()) {
+        printAll(words);
+        return ExitStatus::Done;
+    }
+    const int id = numberOf(arguments.operands.front());
+    std::vector<std::string> texts;
+    for (std::size_t i = 1; i < arguments.operands.size(); ++i)
+        texts.push_back(fromUtf8(arguments.operands[i]));
+    const std::vector<std::string_view> gaps(texts.begin(), texts.end());
+    print(toUtf8(filledWord(words.table(), id, gaps)) + "\n");
     return ExitStatus::Done;
 }
 
 } // namespace quillmere::cli
+

@@ -4,6 +4,7 @@
 
 #include "document/deck_change_counts.h"
 #include "document/markup_fault_texts.h"
+#include "document/json_text.h"
 #include "document/windows1252.h"
 
 #include <array>
@@ -22,23 +23,6 @@ constexpr std::string_view kSubjects[]
 template <typename Enum> std::size_t row(Enum value)
 {
     return static_cast<std::size_t>(value);
-}
-
-/// A JSON string; `text` is Windows-1252, the result as well, so that it crosses with the rest.
-std::string jsonString(std::string_view text)
-{
-    constexpr std::string_view kDigits = "0123456789abcdef";
-    std::string json = "\"";
-    for (const char character : text) {
-        const auto code = static_cast<unsigned char>(character);
-        if (code < 0x20 || code == 0x7F) {
-            json.append("\\u00").append({kDigits[code >> 4U], kDigits[code & 0xFU]});
-        } else {
-            if (character == '"' || character == '\\') json += '\\';
-            json += character;
-        }
-    }
-    return json + '"';
 }
 
 void addMember(std::string& json, std::string_view name, std::string_view value)

@@ -19,7 +19,6 @@ namespace {
     constexpr std::array<std::string_view, kTailLineCount> kTailLines {
         "</P>", "</BODY>", "</HTML>"};
 
-    constexpr std::int32_t kDefaultColour = 2391815;
     constexpr double kDefaultFontTwips = 180;
     constexpr double kTwipsPerPoint = 20;
     constexpr std::string_view kDefaultFamily = "Arial";
@@ -57,7 +56,7 @@ namespace {
         auto* const device = deviceOf(session, surfaceKind);
         if (device == nullptr)
             return bodyLine(
-                kDefaultColour, kDefaultFontTwips, session.twipsPerPixel, kDefaultFamily);
+                kDefaultPageColour, kDefaultFontTwips, session.twipsPerPixel, kDefaultFamily);
         const std::string family(trimBlanks(device->fontFamily));
         device->fontFamily = family;
         device->fontFamily.resize(kFamilyFieldLength, ' ');

@@ -2,12 +2,16 @@
 
 #include "document/session.h"
 
+#include <cstdint>
 #include <string>
 #include <string_view>
 
 // The frame of a design work file: the lines of a page round the content of an area.
 
 namespace quillmere {
+
+/// The ground of pages without a current device, red in the low byte.
+inline constexpr std::int32_t kDefaultPageColour = 2391815;
 
 enum class PageSection { Head = 1, Tail = 2 };
 inline constexpr int kHeadLineCount = 5; ///< headLineCount: head lines of a design work file

@@ -10,14 +10,13 @@
 #include "document/text_edits.h"
 #include "document/text_search.h"
 
-#include <algorithm>
 #include <array>
+#include <iterator>
 #include <span>
+#include <vector>
 
 namespace quillmere {
 namespace {
-
-constexpr std::array<std::string_view, 2> kSelectTags{"<select", "</select"};
 
 /// In the order of the deletions, which is the opposite of that of the look for them.
 constexpr std::array<TagPair, 5> kFormats{{
@@ -28,31 +27,38 @@ constexpr std::array<TagPair, 5> kFormats{{
     {"<u>", "</u>"},
 }};
 
-using Plan = std::vector<SelectCut> (*)(
-    std::span<const SelectList>, std::span<const std::size_t>, std::span<const std::size_t>);
-
 void deleteTags(std::string& text, const TagPair& pair, std::span<const SelectCut> cuts)
 {
     TextEdits edits;
     for (const SelectCut& cut : cuts) {
-        if (cut.open != npos) edits.drop(cut.open, cut.open + pair.open.size());
-        if (cut.close != npos) edits.drop(cut.close, cut.close + pair.close.size());
+        if (cut.open != kNoTag) edits.drop(cut.open, cut.open + pair.open.size());
+        if (cut.close != kNoTag) edits.drop(cut.close, cut.close + pair.close.size());
     }
     edits.applyTo(text);
 }
 
-/// Makes one sweep over the lists that begin at `from` or behind.
-bool sweep(std::string& text, const TagPair& pair, Plan plan, std::size_t from = 0)
+constexpr std::size_t kFirstOpenKey = std::size(kSelectKeys);
+
+/// What is looked for, in the order that plans expect; pair number i has the keys from
+/// kFirstOpenKey + 2 * i on.
+std::vector<std::string_view> keysOf(std::span<const TagPair> pairs)
 {
+    std::vector<std::string_view> keys(std::begin(kSelectKeys), std::end(kSelectKeys));
+    for (const TagPair& pair : pairs)
+        keys.insert(keys.end(), {pair.open, pair.close});
+    return keys;
+}
+
+/// Makes one sweep over the lists; true where something had to go.
+bool sweep(std::string& text, const TagPair& pair, SelectPlan plan)
+{
+    const auto keys = keysOf({&pair, 1});
     const std::array cut{pair.open, pair.close};
-    const std::array keys{pair.open, pair.close, kSelectTags[0], kSelectTags[1]};
+    std::size_t from = 0;
     for (bool found = false;; found = true) {
-        const auto places = tagPlaces(text, keys);
-        auto lists = selectLists(places[2], places[3]);
-        std::erase_if(lists, [from](const SelectList& list) { return list.begin < from; });
-        const auto cuts = plan(lists, places[0], places[1]);
+        const auto cuts = plan(findTags(text, keys), kFirstOpenKey, from);
         if (cuts.empty()) return found;
-        if (!cutsCanJoin(text, cut, kSelectTags)) {
+        if (!cutsCanJoin(text, cut, kSelectKeys)) {
             deleteTags(text, pair, cuts);
             return true;
         }
@@ -65,14 +71,11 @@ bool sweep(std::string& text, const TagPair& pair, Plan plan, std::size_t from =
 /// Whether any of the pairs has to come off a list.
 bool needsRepair(std::string_view text, std::span<const TagPair> pairs)
 {
-    std::vector<std::string_view> keys(kSelectTags.begin(), kSelectTags.end());
-    for (const TagPair& pair : pairs)
-        keys.insert(keys.end(), {pair.open, pair.close});
-    const auto places = tagPlaces(text, keys);
-    const auto lists = selectLists(places[0], places[1]);
-    for (std::size_t i = 2; i < keys.size(); i += 2) {
-        if (!planCutsInside(lists, places[i], places[i + 1]).empty()) return true;
-        if (!planCutsAround(lists, places[i], places[i + 1]).empty()) return true;
+    const auto tags = findTags(text, keysOf(pairs));
+    for (std::size_t i = 0; i < pairs.size(); ++i) {
+        const auto openKey = kFirstOpenKey + 2 * i;
+        if (!planCutsInside(tags, openKey).empty()) return true;
+        if (!planCutsAround(tags, openKey).empty()) return true;
     }
     return false;
 }
@@ -99,7 +102,7 @@ bool FormatAroundSelect(
 void RepairFormatAroundSelect(std::string& text, DocumentSession& session)
 {
     requireAddressable(text);
-    if (findIgnoringCase(text, kSelectTags[0]) == npos || !needsRepair(text, kFormats)) return;
+    if (findIgnoringCase(text, kSelectKeys[0]) == npos || !needsRepair(text, kFormats)) return;
     if (isDeclined(session)) return;
     for (const TagPair& pair : kFormats)
         FormatAroundSelect(text, pair.open, pair.close, true);

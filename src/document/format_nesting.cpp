@@ -18,14 +18,14 @@
 namespace quillmere {
 namespace {
 
-constexpr TagPair kNestedPairs[] = {
+constexpr std::array<TagPair, 5> kNestedPairs{{
     // "<b>" and "<em>" are left out on purpose
     {"<strong>", "</strong>"},
     {"<i>", "</i>"},
     {"<u>", "</u>"},
     {"<big>", "</big>"},
     {"<small>", "</small>"},
-};
+}};
 
 class PairRepair {
 public:
@@ -148,7 +148,7 @@ private:
         const std::array keys{a_.open, a_.close, b_.open, b_.close};
         for (std::size_t resumeAt = 0;;) {
             const auto places = tagPlaces(text_, keys);
-            std::span<const std::size_t> openA = places[0];
+            std::span<const TagOffset> openA = places[0];
             while (!openA.empty() && openA.front() < resumeAt)
                 openA = openA.subspan(1);
             const auto moves = planOverlapMoves({openA, places[1], places[2], places[3]});
@@ -156,7 +156,7 @@ private:
             const auto first = std::min_element(moves.begin(), moves.end(),
                 [](const TagMove& x, const TagMove& y) { return x.begunAt < y.begunAt; });
             apply({&*first, 1});
-            resumeAt = first->begunAt + 1;
+            resumeAt = first->begunAt + 1U;
         }
     }
 
@@ -165,12 +165,27 @@ private:
     TagPair b_;
 };
 
-std::vector<Places> overlappingPlaces(std::string_view text)
+/// The places of the open and the close tag of each pair.
+std::vector<Places> placesOf(std::string_view text, std::span<const TagPair> pairs)
 {
     std::vector<std::string_view> keys;
-    for (const TagPair& pair : kOverlappingPairs)
+    for (const TagPair& pair : pairs)
         keys.insert(keys.end(), {pair.open, pair.close});
     return tagPlaces(text, keys);
+}
+
+/// Whether each open tag has a close tag ahead of the next open one, and the first tag is open.
+bool isWhole(const Places& opens, const Places& closes)
+{
+    auto close = closes.begin();
+    for (auto open = opens.begin(); open != opens.end(); ++open) {
+        const bool isFirst = open == opens.begin();
+        if (isFirst && close != closes.end() && *close < *open) return false;
+        while (close != closes.end() && *close < *open)
+            ++close;
+        if (close == closes.end() || (open + 1 != opens.end() && open[1] < *close)) return false;
+    }
+    return !opens.empty() || closes.empty();
 }
 
 } // namespace
@@ -183,8 +198,13 @@ void RepairOnePair(std::string& text, std::string_view openTag, std::string_view
 
 void RepairNesting(std::string& text)
 {
-    for (const TagPair& pair : kNestedPairs)
-        RepairOnePair(text, pair.open, pair.close);
+    requireAddressable(text);
+    auto places = placesOf(text, kNestedPairs);
+    for (std::size_t i = 0; i < kNestedPairs.size(); ++i) {
+        if (isWhole(places[2 * i], places[2 * i + 1])) continue;
+        RepairOnePair(text, kNestedPairs[i].open, kNestedPairs[i].close);
+        places = placesOf(text, kNestedPairs);
+    }
 }
 
 void RepairOverlap(std::string& text, std::string_view openA, std::string_view closeA,
@@ -201,13 +221,13 @@ void RepairOverlap(std::string& text, std::string_view openA, std::string_view c
 void RepairFormatNesting(std::string& text)
 {
     requireAddressable(text);
-    auto places = overlappingPlaces(text);
+    auto places = placesOf(text, kOverlappingPairs);
     for (std::size_t a = 0; a < kOverlappingPairs.size(); ++a) {
         for (std::size_t b = 0; b < kOverlappingPairs.size(); ++b) {
             if (a == b) continue;
             OverlapRepair repair(text, kOverlappingPairs[a], kOverlappingPairs[b]);
             if (repair.run({places[2 * a], places[2 * a + 1], places[2 * b], places[2 * b + 1]}))
-                places = overlappingPlaces(text);
+                places = placesOf(text, kOverlappingPairs);
         }
     }
 }

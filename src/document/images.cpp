@@ -1,5 +1,6 @@
 // Everything that can fail stands ahead of the first change of the deck. Held by images_test.cpp.
 
+#include "document/design_page.h"
 #include "document/images.h"
 
 #include "document/design_text.h"
@@ -20,7 +21,6 @@ namespace quillmere {
 
 namespace {
 
-constexpr std::int32_t kDefaultGround = 2391815; // red in the low byte
 constexpr std::string_view kPictureEnd = "wbmp"; // with or without a dot ahead of it
 constexpr std::size_t kShortestPath = 5;
 
@@ -35,7 +35,7 @@ std::int32_t groundOf(const DocumentSession& session)
     const auto kind = static_cast<std::size_t>(session.deck.front().surfaceKind);
     const PageStyle* const device
         = kind < session.devices.size() ? session.devices.at(kind) : nullptr;
-    return device == nullptr ? kDefaultGround : device->backColour;
+    return device == nullptr ? kDefaultPageColour : device->backColour;
 }
 
 /// The place of the display copy: what was chosen, and else a free name among the work files.

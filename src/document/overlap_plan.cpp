@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <compare>
+#include <iterator>
 #include <utility>
 
 namespace quillmere {
@@ -13,63 +14,59 @@ namespace {
 
 /// A place in the text: rank 0 is the tag at the offset, lower ranks lie ahead of it.
 struct Place {
-    std::size_t offset;
-    int rank = 0;
+    TagOffset offset;
+    std::int8_t rank = 0;
     auto operator<=>(const Place&) const = default;
 };
 
 struct Tag {
-    std::size_t source;
+    TagOffset source;
     Place place;
-    std::size_t begunAt = 0; // of the move, where the rank is below 0
+    TagOffset begunAt = 0; // of the move, where the rank is below 0
 };
 
 /// The tags of one kind, of which one is the next behind the place of the walk.
 class TagRow {
 public:
-    explicit TagRow(std::span<const std::size_t> offsets)
+    explicit TagRow(std::span<const TagOffset> offsets)
     {
         tags_.reserve(offsets.size());
-        for (const std::size_t offset : offsets)
+        for (const TagOffset offset : offsets)
             tags_.push_back({offset, {offset}});
     }
 
-    void goBehind(std::size_t offset)
+    void goBehind(TagOffset offset)
     {
         while (next_ < tags_.size() && tags_[next_].place <= Place{offset})
             ++next_;
     }
     [[nodiscard]] bool exists() const { return next_ < tags_.size(); }
     [[nodiscard]] Place place() const { return tags_[next_].place; }
-    /// Whether the next tag stands ahead of the next one of `other`; neither may be missing.
+    /// Whether the next tag stands ahead of the next one of `other`; false where one is missing.
     [[nodiscard]] bool isAheadOf(const TagRow& other) const
     {
         return exists() && other.exists() && place() < other.place();
     }
-    void moveInFrontOf(const TagRow& other, std::size_t begunAt)
+    void moveInFrontOf(const TagRow& other, TagOffset begunAt)
     {
-        tags_[next_].place = {other.place().offset, other.place().rank - 1};
+        const Place target = other.place();
+        tags_[next_].place = {target.offset, static_cast<std::int8_t>(target.rank - 1)};
         tags_[next_].begunAt = begunAt;
     }
-    [[nodiscard]] const std::vector<Tag>& tags() const { return tags_; }
+    /// What was moved, by place.
+    [[nodiscard]] std::vector<TagMove> moves(bool isA) const
+    {
+        std::vector<TagMove> moves;
+        for (const auto& [source, place, begunAt] : tags_) {
+            if (place.rank < 0) moves.push_back({begunAt, source, place.offset, place.rank, isA});
+        }
+        return moves;
+    }
 
 private:
     std::vector<Tag> tags_;
     std::size_t next_ = 0;
 };
-
-struct RankedMove {
-    int rank;
-    TagMove move;
-};
-
-void collectMoves(const TagRow& row, bool isA, std::vector<RankedMove>& moves)
-{
-    for (const Tag& tag : row.tags()) {
-        if (tag.place.rank == 0) continue;
-        moves.push_back({tag.place.rank, {tag.begunAt, tag.source, tag.place.offset, isA}});
-    }
-}
 
 } // namespace
 
@@ -78,7 +75,7 @@ std::vector<TagMove> planOverlapMoves(const OverlapTags& tags)
     TagRow closeA(tags.closeA);
     TagRow openB(tags.openB);
     TagRow closeB(tags.closeB);
-    for (const std::size_t begin : tags.openA) {
+    for (const TagOffset begin : tags.openA) {
         closeA.goBehind(begin);
         openB.goBehind(begin);
         closeB.goBehind(begin);
@@ -87,15 +84,13 @@ std::vector<TagMove> planOverlapMoves(const OverlapTags& tags)
         else if (closeB.isAheadOf(closeA) && (!openB.exists() || closeB.isAheadOf(openB)))
             closeA.moveInFrontOf(closeB, begin);
     }
-    std::vector<RankedMove> ranked;
-    collectMoves(closeA, true, ranked);
-    collectMoves(closeB, false, ranked);
-    std::sort(ranked.begin(), ranked.end(), [](const RankedMove& left, const RankedMove& right) {
-        return std::pair(left.move.target, left.rank) < std::pair(right.move.target, right.rank);
-    });
+    const auto movesA = closeA.moves(true);
+    const auto movesB = closeB.moves(false);
     std::vector<TagMove> moves;
-    for (const RankedMove& each : ranked)
-        moves.push_back(each.move);
+    std::merge(movesA.begin(), movesA.end(), movesB.begin(), movesB.end(),
+        std::back_inserter(moves), [](const TagMove& left, const TagMove& right) {
+            return std::pair(left.target, left.rank) < std::pair(right.target, right.rank);
+        });
     return moves;
 }
 

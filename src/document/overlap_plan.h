@@ -1,6 +1,8 @@
 #pragma once
 
-#include <cstddef>
+#include "document/tag_places.h"
+
+#include <cstdint>
 #include <span>
 #include <vector>
 
@@ -11,23 +13,22 @@ namespace quillmere {
 
 /// The tags of two formats that may overlap.
 struct OverlapTags {
-    std::span<const std::size_t> openA;
-    std::span<const std::size_t> closeA;
-    std::span<const std::size_t> openB;
-    std::span<const std::size_t> closeB;
+    std::span<const TagOffset> openA;
+    std::span<const TagOffset> closeA;
+    std::span<const TagOffset> openB;
+    std::span<const TagOffset> closeB;
 };
 
-/// An end that leaves its place and is put in front of the tag at `target`, behind what earlier
-/// moves of the plan put there.
+/// An end that leaves its place and is put in front of the tag that stands at `target`.
 struct TagMove {
-    std::size_t begunAt; ///< the beginning of A for which the move is made
-    std::size_t source;
-    std::size_t target;
+    TagOffset begunAt; ///< the beginning of A for which the move is made
+    TagOffset source;
+    TagOffset target;
+    std::int8_t rank; ///< of ends with one target the lower one stands first
     bool isA; ///< an end of A, else of B
 };
 
-/// The moves that the walk over the beginnings of A finds, those to one target in the order in
-/// which the ends stand afterwards.
+/// The moves that the walk over the beginnings of A finds, by target and rank.
 [[nodiscard]] std::vector<TagMove> planOverlapMoves(const OverlapTags& tags);
 
 } // namespace quillmere

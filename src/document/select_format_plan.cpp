@@ -4,53 +4,46 @@
 
 #include "document/select_format_plan.h"
 
-#include "document/text_search.h"
-
 #include <algorithm>
-#include <numeric>
+#include <utility>
 
 namespace quillmere {
 namespace {
 
-/// The tags of one kind that are left.
+using Tags = std::span<const FoundTag>;
+
+/// Those tags of one key that are left, by their index among all tags.
 class RemainingTags {
 public:
-    explicit RemainingTags(std::span<const std::size_t> places)
-        : places_(places)
-        , next_(places.size() + 1)
-        , previous_(places.size() + 1)
+    RemainingTags(Tags tags, std::size_t key)
+        : next_(tags.size() + 1, static_cast<std::uint16_t>(tags.size()))
+        , previous_(tags.size() + 1, 0)
     {
-        std::iota(next_.begin(), next_.end(), std::size_t{0});
-        std::iota(previous_.begin(), previous_.end(), std::size_t{0});
+        for (std::size_t i = 0; i < tags.size(); ++i)
+            previous_[i + 1]
+                = tags[i].key == key ? static_cast<std::uint16_t>(i + 1) : previous_[i];
+        for (std::size_t i = tags.size(); i-- > 0;)
+            next_[i] = tags[i].key == key ? static_cast<std::uint16_t>(i) : next_[i + 1];
     }
 
-    [[nodiscard]] std::size_t firstBehind(std::size_t offset)
+    /// What stands for a tag that is missing lies behind all tags.
+    [[nodiscard]] std::size_t none() const { return next_.size() - 1; }
+    [[nodiscard]] std::size_t firstFrom(std::size_t index) { return follow(next_, index); }
+    [[nodiscard]] std::size_t lastAhead(std::size_t index)
     {
-        const auto place = std::upper_bound(places_.begin(), places_.end(), offset);
-        const auto index = follow(next_, indexOf(place));
-        return index < places_.size() ? places_[index] : npos;
+        const auto behind = follow(previous_, index);
+        return behind == 0 ? none() : behind - 1;
     }
-    [[nodiscard]] std::size_t lastAhead(std::size_t offset)
+    void take(std::size_t index)
     {
-        const auto place = std::lower_bound(places_.begin(), places_.end(), offset);
-        const auto count = follow(previous_, indexOf(place));
-        return count > 0 ? places_[count - 1] : npos;
-    }
-    void take(std::size_t offset)
-    {
-        if (offset == npos) return;
-        const auto index = indexOf(std::lower_bound(places_.begin(), places_.end(), offset));
-        next_[index] = index + 1;
-        previous_[index + 1] = index;
+        if (index == none()) return;
+        next_[index] = static_cast<std::uint16_t>(index + 1);
+        previous_[index + 1] = static_cast<std::uint16_t>(index);
     }
 
 private:
-    using Links = std::vector<std::size_t>;
+    using Links = std::vector<std::uint16_t>;
 
-    [[nodiscard]] std::size_t indexOf(std::span<const std::size_t>::iterator place) const
-    {
-        return static_cast<std::size_t>(place - places_.begin());
-    }
     static std::size_t follow(Links& links, std::size_t index)
     {
         while (links[index] != index) {
@@ -60,40 +53,45 @@ private:
         return index;
     }
 
-    std::span<const std::size_t> places_;
     Links next_; // the index itself where its tag is left, else a later one
-    Links previous_; // the same towards the front, by index + 1; 0: none is left
+    Links previous_; // the same towards the front, by the index behind the tag; 0: none is left
+};
+
+struct List {
+    std::uint16_t begin; // both by index
+    std::uint16_t end;
 };
 
 class CutPlan {
 public:
-    CutPlan(std::span<const std::size_t> opens, std::span<const std::size_t> closes)
-        : opens_(opens)
-        , closes_(closes)
+    CutPlan(Tags tags, std::size_t openKey)
+        : tags_(tags)
+        , opens_(tags, openKey)
+        , closes_(tags, openKey + 1)
     {
     }
 
     /// "<b>" in the list goes with the "</b>" behind it, wherever that is; "</b>" in the list with
     /// the "<b>" ahead of the list.
-    void takeInside(const SelectList& list)
+    void takeInside(const List& list)
     {
         for (;;) {
-            auto open = opens_.firstBehind(list.begin);
+            auto open = opens_.firstFrom(list.begin);
             if (open >= list.end) {
-                if (closes_.firstBehind(list.begin) >= list.end) return;
+                if (closes_.firstFrom(list.begin) >= list.end) return;
                 open = openAhead(list.begin);
             }
-            take({list.begin, open, closes_.firstBehind(open == npos ? list.begin : open)});
+            take(list, open, closes_.firstFrom(open == opens_.none() ? list.begin : open));
         }
     }
 
-    void takeAround(const SelectList& list)
+    void takeAround(const List& list)
     {
         for (;;) {
             const auto open = openAhead(list.begin);
-            const auto close = closes_.firstBehind(list.begin);
-            if (open == npos || close == npos || close < list.end) return;
-            take({list.begin, open, close});
+            const auto close = closes_.firstFrom(list.begin);
+            if (open == opens_.none() || close == closes_.none() || close < list.end) return;
+            take(list, open, close);
         }
     }
 
@@ -104,53 +102,59 @@ private:
     std::size_t openAhead(std::size_t place)
     {
         const auto open = opens_.lastAhead(place);
-        return open != npos && closes_.firstBehind(open) < place ? npos : open;
+        return open != opens_.none() && closes_.firstFrom(open) < place ? opens_.none() : open;
     }
-    void take(const SelectCut& cut)
+    void take(const List& list, std::size_t open, std::size_t close)
     {
-        opens_.take(cut.open);
-        closes_.take(cut.close);
-        cuts.push_back(cut);
+        opens_.take(open);
+        closes_.take(close);
+        cuts.push_back({offsetOf(list.begin), offsetOf(open), offsetOf(close)});
+    }
+    [[nodiscard]] TagOffset offsetOf(std::size_t index) const
+    {
+        return index == tags_.size() ? kNoTag : tags_[index].offset;
     }
 
+    Tags tags_;
     RemainingTags opens_;
     RemainingTags closes_;
 };
 
-} // namespace
-
-std::vector<SelectList> selectLists(
-    std::span<const std::size_t> begins, std::span<const std::size_t> ends)
+std::vector<List> selectLists(Tags tags, std::size_t from)
 {
-    std::vector<SelectList> lists;
-    auto end = ends.begin();
-    for (const std::size_t begin : begins) {
-        while (end != ends.end() && *end < begin)
-            ++end;
-        if (end == ends.end()) break;
-        lists.push_back({begin, *end});
+    std::vector<List> lists;
+    auto end = tags.size();
+    for (std::size_t i = tags.size(); i-- > 0 && tags[i].offset >= from;) {
+        if (tags[i].key == 1) end = i;
+        if (tags[i].key == 0 && end != tags.size())
+            lists.push_back({static_cast<std::uint16_t>(i), static_cast<std::uint16_t>(end)});
     }
+    std::reverse(lists.begin(), lists.end());
     return lists;
 }
 
-std::vector<SelectCut> planCutsInside(std::span<const SelectList> lists,
-    std::span<const std::size_t> opens, std::span<const std::size_t> closes)
+std::vector<SelectCut> plan(
+    Tags tags, std::size_t openKey, std::size_t from, void (CutPlan::*take)(const List&))
 {
-    if (opens.empty() && closes.empty()) return {};
-    CutPlan plan(opens, closes);
-    for (const SelectList& list : lists)
-        plan.takeInside(list);
+    const bool concerned = std::any_of(tags.begin(), tags.end(),
+        [openKey](const FoundTag& tag) { return tag.key == openKey || tag.key == openKey + 1; });
+    if (!concerned) return {};
+    CutPlan plan(tags, openKey);
+    for (const List& list : selectLists(tags, from))
+        (plan.*take)(list);
     return std::move(plan.cuts);
 }
 
-std::vector<SelectCut> planCutsAround(std::span<const SelectList> lists,
-    std::span<const std::size_t> opens, std::span<const std::size_t> closes)
+} // namespace
+
+std::vector<SelectCut> planCutsInside(Tags tags, std::size_t openKey, std::size_t from)
 {
-    if (opens.empty()) return {};
-    CutPlan plan(opens, closes);
-    for (const SelectList& list : lists)
-        plan.takeAround(list);
-    return std::move(plan.cuts);
+    return plan(tags, openKey, from, &CutPlan::takeInside);
+}
+
+std::vector<SelectCut> planCutsAround(Tags tags, std::size_t openKey, std::size_t from)
+{
+    return plan(tags, openKey, from, &CutPlan::takeAround);
 }
 
 } // namespace quillmere

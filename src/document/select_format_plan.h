@@ -4,36 +4,37 @@
 
 #include <cstddef>
 #include <span>
+#include <string_view>
 #include <vector>
 
-// Which tags of a format have to go because of selection lists. All by offsets of the tags' first
-// characters.
+// Which tags of a format have to go because of selection lists. A list reaches from "<select" to
+// the next "</select"; without an end it is none.
 
 namespace quillmere {
 
-/// A selection list: where its "<select" and the next "</select" stand.
-struct SelectList {
-    std::size_t begin;
-    std::size_t end;
-};
+/// The tags of selection lists. In the tags that the plans get they are the keys 0 and 1.
+inline constexpr std::string_view kSelectKeys[] = {"<select", "</select"};
 
-/// The lists of a text from the places of both tags; a beginning without an end is none.
-[[nodiscard]] std::vector<SelectList> selectLists(
-    std::span<const std::size_t> begins, std::span<const std::size_t> ends);
+inline constexpr TagOffset kNoTag = 0xFFFF;
 
-/// A pair of tags to be deleted because of one list. One of the tags may be missing (npos).
+/// A pair of tags to be deleted because of one list. A tag may be missing (kNoTag).
 struct SelectCut {
-    std::size_t list; ///< where the list begins
-    std::size_t open;
-    std::size_t close;
+    TagOffset list; ///< where the list begins
+    TagOffset open;
+    TagOffset close;
 };
+
+/// Plans the deletions for one format. `openKey` is the key of its open tag, the next one that of
+/// its close tag; lists that begin ahead of `from` are left alone.
+using SelectPlan = std::vector<SelectCut> (*)(
+    std::span<const FoundTag> tags, std::size_t openKey, std::size_t from);
 
 /// The pairs of which a tag stands in a list, one after the other until none does.
-[[nodiscard]] std::vector<SelectCut> planCutsInside(std::span<const SelectList> lists,
-    std::span<const std::size_t> opens, std::span<const std::size_t> closes);
+[[nodiscard]] std::vector<SelectCut> planCutsInside(
+    std::span<const FoundTag> tags, std::size_t openKey, std::size_t from = 0);
 
 /// The pairs that enclose a list, from the innermost one on.
-[[nodiscard]] std::vector<SelectCut> planCutsAround(std::span<const SelectList> lists,
-    std::span<const std::size_t> opens, std::span<const std::size_t> closes);
+[[nodiscard]] std::vector<SelectCut> planCutsAround(
+    std::span<const FoundTag> tags, std::size_t openKey, std::size_t from = 0);
 
 } // namespace quillmere

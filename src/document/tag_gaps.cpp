@@ -1,11 +1,12 @@
-// The tags of the pristine text lie sorted by key and offset, so that a key that is missing does
-// not cost a search through the rest. Held by wml_layout_test.cpp.
+// The tags of one key in the pristine text are linked, so that each is passed once and a key that
+// is missing does not cost a search through the rest. Held by wml_layout_test.cpp.
 
 #include "document/tag_gaps.h"
 
 #include "document/windows1252.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace quillmere {
 namespace {
@@ -13,19 +14,6 @@ namespace {
 bool isWhite(char character)
 {
     return static_cast<unsigned char>(character) < 33;
-}
-
-constexpr unsigned kOffsetBits = 40;
-
-/// The key in the high bits. "<>" is a key of its own; no tag is known by "<>" and a third one.
-std::uint64_t packed(std::string_view key, std::size_t offset)
-{
-    std::uint64_t bits = 0;
-    for (std::size_t i = 1; i < kTagKeyLength; ++i) {
-        const bool ends = i >= key.size() || key[i - 1] == '>';
-        bits = bits << 8U | (ends ? 0U : static_cast<unsigned char>(lowerCase(key[i])));
-    }
-    return bits << kOffsetBits | offset;
 }
 
 } // namespace
@@ -56,24 +44,39 @@ GapSpace GapWalk::space() const
     return {text_.substr(begin_, leadEnd_ - begin_), text_.substr(trail, tag_ - trail)};
 }
 
+/// "<>" is a key of its own; no tag is known by "<>" and a third character.
+PristineWalk::Key PristineWalk::packed(std::string_view key)
+{
+    const auto code = [key](std::size_t i) {
+        return static_cast<unsigned>(static_cast<unsigned char>(lowerCase(key[i])));
+    };
+    return static_cast<Key>(key[1] == '>' ? code(1) << 8U : code(1) << 8U | code(2));
+}
+
 PristineWalk::PristineWalk(std::string_view text)
     : gaps_(text)
 {
-    for (auto at = text.find('<'); at != npos; at = text.find('<', at + 1)) {
-        const auto key = text.substr(at, kTagKeyLength);
-        if (key.size() == kTagKeyLength || key == "<>") tags_.push_back(packed(key, at));
+    tags_.reserve(static_cast<std::size_t>(std::count(text.begin(), text.end(), '<')));
+    for (auto at = text.find('<'); at != npos; at = text.find('<', at + 1))
+        tags_.push_back({static_cast<std::uint32_t>(at), kNone});
+    for (auto i = static_cast<Index>(tags_.size()); i-- > 0;) {
+        const auto key = text.substr(tags_[i].offset, kTagKeyLength);
+        if (key.size() < kTagKeyLength && key != "<>") continue;
+        const auto [first, isNew] = firstOfKey_.try_emplace(packed(key), i);
+        if (!isNew) tags_[i].nextOfKey = std::exchange(first->second, i);
     }
-    std::sort(tags_.begin(), tags_.end());
 }
 
 std::optional<GapSpace> PristineWalk::goTo(std::string_view key)
 {
-    const auto wanted = packed(key, from_);
-    const auto found = std::lower_bound(tags_.begin(), tags_.end(), wanted);
-    if (found == tags_.end() || *found >> kOffsetBits != wanted >> kOffsetBits) return std::nullopt;
-    const auto tag = static_cast<std::size_t>(*found & ((std::uint64_t{1} << kOffsetBits) - 1));
-    from_ = tag + 1;
-    gaps_.goAheadOf(tag);
+    const auto entry = firstOfKey_.find(packed(key));
+    if (entry == firstOfKey_.end()) return std::nullopt;
+    auto& tag = entry->second;
+    while (tag != kNone && tags_[tag].offset < from_)
+        tag = tags_[tag].nextOfKey;
+    if (tag == kNone) return std::nullopt;
+    from_ = tags_[tag].offset + 1;
+    gaps_.goAheadOf(tags_[tag].offset);
     if (!gaps_.exists()) return std::nullopt;
     return gaps_.space();
 }

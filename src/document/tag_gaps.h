@@ -6,6 +6,7 @@
 #include <cstdint>
 #include <optional>
 #include <string_view>
+#include <unordered_map>
 #include <vector>
 
 // The gaps between the tags of a laid out text. White space is every character with a code
@@ -62,7 +63,18 @@ public:
     [[nodiscard]] std::optional<GapSpace> goTo(std::string_view key);
 
 private:
-    std::vector<std::uint64_t> tags_; // key and offset of all '<', in rising order
+    using Key = std::uint16_t; // of the characters behind the '<'
+    using Index = std::uint32_t;
+    static constexpr Index kNone = 0xFFFFFFFF;
+    struct Tag {
+        std::uint32_t offset;
+        Index nextOfKey;
+    };
+
+    [[nodiscard]] static Key packed(std::string_view key);
+
+    std::vector<Tag> tags_; // in the order of the text
+    std::unordered_map<Key, Index> firstOfKey_; // behind the place of the walk or ahead of it
     std::size_t from_ = 0;
     GapWalk gaps_;
 };

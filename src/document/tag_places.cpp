@@ -5,19 +5,10 @@
 
 #include "document/text_search.h"
 
-#include <algorithm>
 #include <string>
 
 namespace quillmere {
 namespace {
-
-std::size_t totalOf(const std::vector<Places>& places)
-{
-    std::size_t total = 0;
-    for (const Places& each : places)
-        total += each.size();
-    return total;
-}
 
 std::string withoutTags(std::string_view text, std::span<const std::string_view> tags)
 {
@@ -32,17 +23,26 @@ std::string withoutTags(std::string_view text, std::span<const std::string_view>
 
 } // namespace
 
-std::vector<Places> tagPlaces(std::string_view text, std::span<const std::string_view> keys)
+std::vector<FoundTag> findTags(std::string_view text, std::span<const std::string_view> keys)
 {
-    std::vector<Places> places(keys.size());
+    std::vector<FoundTag> found;
     for (auto at = text.find('<'); at != npos && at + 1 < text.size();
          at = text.find('<', at + 1)) {
         // Setting this bit makes a capital small and leaves '/' and '!' as they are.
         const auto second = static_cast<char>(text[at + 1] | 0x20);
         for (std::size_t i = 0; i < keys.size(); ++i) {
-            if (keys[i][1] == second && standsAt(text, at, keys[i])) places[i].push_back(at);
+            if (keys[i][1] == second && standsAt(text, at, keys[i]))
+                found.push_back({static_cast<TagOffset>(at), static_cast<std::uint16_t>(i)});
         }
     }
+    return found;
+}
+
+std::vector<Places> tagPlaces(std::string_view text, std::span<const std::string_view> keys)
+{
+    std::vector<Places> places(keys.size());
+    for (const FoundTag& tag : findTags(text, keys))
+        places[tag.key].push_back(tag.offset);
     return places;
 }
 
@@ -50,8 +50,8 @@ bool cutsCanJoin(std::string_view text, std::span<const std::string_view> cut,
     std::span<const std::string_view> others)
 {
     const std::string rest = withoutTags(text, cut);
-    return totalOf(tagPlaces(rest, cut)) != 0
-        || totalOf(tagPlaces(rest, others)) != totalOf(tagPlaces(text, others));
+    return !findTags(rest, cut).empty()
+        || findTags(rest, others).size() != findTags(text, others).size();
 }
 
 } // namespace quillmere

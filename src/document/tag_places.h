@@ -1,12 +1,14 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <span>
 #include <string_view>
 #include <vector>
 
 // Where tags stand in a text. Tags are given as keys in lower case that begin with '<' and have no
-// other '<', such as "<b>" or "<select"; searches ignore case.
+// other '<', such as "<b>" or "<select"; searches ignore case. Texts are no longer than positions
+// can tell, so that 16 bits hold every offset; what is kept of thousands of tags stays small.
 
 namespace quillmere {
 
@@ -16,10 +18,21 @@ struct TagPair {
     std::string_view close;
 };
 
-/// Offsets in rising order.
-using Places = std::vector<std::size_t>;
+using TagOffset = std::uint16_t;
 
-/// The places of each key, in the order of the keys. Reads the text once.
+/// In rising order.
+using Places = std::vector<TagOffset>;
+
+struct FoundTag {
+    TagOffset offset;
+    std::uint16_t key; ///< index of the key that was found
+};
+
+/// All tags of the keys in the order of the text, which is read once.
+[[nodiscard]] std::vector<FoundTag> findTags(
+    std::string_view text, std::span<const std::string_view> keys);
+
+/// The places of each key, in the order of the keys.
 [[nodiscard]] std::vector<Places> tagPlaces(
     std::string_view text, std::span<const std::string_view> keys);
 

@@ -1,6 +1,10 @@
 #pragma once
 
+#include "document/text_search.h"
+
 #include <cstddef>
+#include <cstdint>
+#include <deque>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -8,12 +12,13 @@
 namespace quillmere {
 
 /// Insertions and deletions that were found at any places of a text, for one rewriting of it.
-/// Offsets are those of the unchanged text; inserted texts must live until the edits are applied.
+/// Offsets are those of the unchanged text, which is no longer than positions can tell.
 class TextEdits {
 public:
     /// What is inserted at one place stands in the order of the calls.
     void insert(std::size_t offset, std::string_view text) { replace(offset, offset, text); }
     void drop(std::size_t begin, std::size_t end) { replace(begin, end, {}); }
+    /// Throws Overflow where what is inserted alone is longer than positions can tell.
     void replace(std::size_t begin, std::size_t end, std::string_view text);
 
     /// Changes `text`, in place, and forgets the edits. Throws Overflow, with `text` unchanged,
@@ -21,12 +26,23 @@ public:
     void applyTo(std::string& text);
 
 private:
+    // 16 bits hold every offset and, with a place or two for each tag, the number of edits. Small
+    // pieces of memory are used again by the next operation, large ones go back to the system.
+    using Offset = std::uint16_t;
     struct Edit {
-        std::size_t begin;
-        std::size_t end;
-        std::string_view text;
+        Offset begin;
+        Offset end;
+        Offset insertedBegin;
+        Offset insertedEnd;
     };
-    std::vector<Edit> edits_;
+
+    void makeWith(Rewriter& rewriter, const Edit& edit) const;
+    /// The indexes of the edits by place, those of one place in the order of the calls.
+    [[nodiscard]] std::vector<Offset> sortedByPlace(std::size_t textSize) const;
+    [[nodiscard]] bool isSorted() const;
+
+    std::deque<Edit> edits_;
+    std::string inserted_;
 };
 
 } // namespace quillmere

@@ -70,12 +70,24 @@ private:
 
 } // namespace
 
+namespace {
+
+/// Whether one may be the capital of the other: the cases of a letter differ in these bits only.
+bool mayDifferInCase(char left, char right)
+{
+    constexpr int kCaseBits = 0x70;
+    return ((left ^ right) & ~kCaseBits) == 0;
+}
+
+} // namespace
+
 bool standsAt(std::string_view text, std::size_t offset, std::string_view key)
 {
     if (offset > text.size() || text.size() - offset < key.size()) return false;
     for (std::size_t i = 0; i < key.size(); ++i) {
         const char character = text[offset + i];
-        if (character != key[i] && lowerCase(character) != key[i]) return false;
+        if (character == key[i]) continue;
+        if (!mayDifferInCase(character, key[i]) || lowerCase(character) != key[i]) return false;
     }
     return true;
 }

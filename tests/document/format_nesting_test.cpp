@@ -42,6 +42,21 @@ TEST(RepairOnePair, AgreesWithPlainSearches)
     }
 }
 
+TEST(RepairNesting, AgreesWithPlainSearches)
+{
+    constexpr std::array<std::string_view, 14> kFormats{"<strong>", "</strong>", "<i>", "</I>",
+        "<u>", "</u>", "<big>", "</big>", "<small>", "</small>", "x", "<", "/i>", "<b>"};
+    for (std::uint32_t seed = 0; seed < 5000; ++seed) {
+        SCOPED_TRACE(seed);
+        const std::string text = test::randomSoup(seed, kFormats, 5 + seed % 40);
+        std::string fast = text;
+        std::string slow = text;
+        RepairNesting(fast);
+        literal::RepairNesting(slow);
+        ASSERT_EQ(fast, slow) << text;
+    }
+}
+
 TEST(RepairOverlap, AgreesWithPlainSearches)
 {
     constexpr std::array<std::string_view, 4> kTags{"<b>", "</b>", "<i>", "</I>"};
