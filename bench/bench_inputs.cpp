@@ -1,5 +1,6 @@
-// Texts of later stages are made by the steps themselves. Design text is longer than its WML, so
-// the deck is generated again, smaller, until the text of the stage fits the size.
+// The deck is one generated piece over and over, so that it has the same mix of elements at every
+// size and times compare. Texts of later stages are made by the steps themselves; since design text
+// is longer than its WML the piece is generated again, smaller, until the text fits the size.
 
 #include "bench_inputs.h"
 
@@ -8,6 +9,7 @@
 #include "document/deck_store.h"
 #include "document/design_text.h"
 #include "document/design_to_wml.h"
+#include "document/failure.h"
 #include "document/radio_buttons.h"
 #include "support/deck_generator.h"
 
@@ -46,15 +48,39 @@ std::string repeated(std::string_view piece, std::size_t size)
     return text;
 }
 
-std::string oneCardDeck(std::size_t size)
+constexpr std::size_t kPieceBytes = 2000; // all sizes are multiples of it
+
+/// What stands between two texts that the generator writes once.
+std::string between(const std::string& deck, std::string_view open, std::string_view close)
 {
-    return test::generateDeck(kSeed, {.targetBytes = size, .oneCard = true});
+    const auto begin = deck.find(open) + open.size();
+    return deck.substr(begin, deck.find(close, begin) - begin);
+}
+
+constexpr std::string_view kHead = "<?xml version=\"1.0\"?>\n<wml>\n";
+
+std::string cardsDeck(std::size_t size)
+{
+    const auto deck = test::generateDeck(kSeed, {.targetBytes = kPieceBytes});
+    const auto cards = between(deck, "<wml>\n", "</wml>");
+    return std::string(kHead) + repeated(cards, size) + "</wml>\n";
+}
+
+/// A deck of `count` pieces in one card, each made of about `pieceBytes`.
+std::string oneCardDeck(std::size_t count, std::size_t pieceBytes)
+{
+    const auto deck = test::generateDeck(kSeed, {.targetBytes = pieceBytes, .oneCard = true});
+    const auto piece = between(deck, "newcontext=\"true\">", "<do");
+    std::string text(kHead);
+    text += "<card id=\"k1\" title=\"Karte\">";
+    for (; count > 0; --count)
+        text += piece;
+    return text + "<do type=\"accept\" label=\"Los\"><go href=\"#k1\"/></do></card></wml>";
 }
 
 std::string bodyOf(const std::string& deck)
 {
-    const auto card = deck.find("<card");
-    return deck.substr(deck.find('>', card) + 1);
+    return between(deck, "title=\"Karte\">", "</wml>");
 }
 
 std::string designOf(const std::string& deck)
@@ -91,16 +117,20 @@ std::span<const Shape> shapes()
 std::string inputOf(const Shape& shape, Stage stage, std::size_t size)
 {
     if (!shape.piece.empty()) return repeated(shape.piece, size);
-    for (auto target = size;; target -= size / 50) {
-        auto text = textAt(stage, oneCardDeck(target));
-        if (text.size() <= size) return text;
+    for (auto bytes = kPieceBytes;; bytes -= kPieceBytes / 20) {
+        try {
+            auto text = textAt(stage, oneCardDeck(size / kPieceBytes, bytes));
+            if (text.size() <= size) return text;
+        } catch (const Overflow&) {
+            continue; // design text is longer by far
+        }
     }
 }
 
 std::string deckOf(const Shape& shape, std::size_t size)
 {
     if (!shape.piece.empty()) return repeated(shape.piece, size);
-    return test::generateDeck(kSeed, {.targetBytes = size});
+    return cardsDeck(size);
 }
 
 } // namespace quillmere::bench
