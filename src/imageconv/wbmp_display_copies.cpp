@@ -8,7 +8,11 @@
 #include "skins/palette.h"
 
 #include <cstddef>
+#include <filesystem>
 #include <optional>
+#include <system_error>
+#include <utility>
+#include <vector>
 
 namespace quillmere {
 
@@ -18,11 +22,16 @@ constexpr std::size_t kMaxTextLength = 12;
 constexpr std::int32_t kWhite = 0xFFFFFF;
 constexpr int kShades = 256;
 
-/// What `read` gives; nullopt for a picture that is missing or cannot be read.
-template <typename Read> auto ifReadable(Read read) -> std::optional<decltype(read())>
+/// What `read` gives for the file; nullopt for a picture that is missing or cannot be read.
+template <typename Read>
+auto ifReadable(const std::string& path, const OutputRules& rules, Read read)
+    -> std::optional<decltype(read(path, rules))>
 {
+    std::error_code none;
+    // A deck may name thousands of missing pictures, and an exception for each is slow.
+    if (!std::filesystem::is_regular_file(path, none)) return std::nullopt;
     try {
-        return read();
+        return read(path, rules);
     } catch (const FileFailure&) {
         return std::nullopt;
     } catch (const BadPicture&) {
@@ -98,7 +107,7 @@ WbmpDisplayCopies::WbmpDisplayCopies(const OutputRules& rules, AlternativeTextPa
 DisplayCopy WbmpDisplayCopies::draw(
     const std::string& path, std::string_view alternativeText, std::int32_t backgroundColour)
 {
-    const auto picture = ifReadable([&] { return ReadWbmpFile(path, rules_); });
+    const auto picture = ifReadable(path, rules_, ReadWbmpFile);
     if (picture)
         return copyOf(picture->size, backgroundColour, drawPicture(*picture, backgroundColour));
     auto text = painter_.paint(shortened(alternativeText));
@@ -113,7 +122,7 @@ WbmpSizes::WbmpSizes(const OutputRules& rules)
 DisplayCopy WbmpSizes::draw(
     const std::string& path, std::string_view /*alternativeText*/, std::int32_t backgroundColour)
 {
-    const auto size = ifReadable([&] { return readWbmpSize(path, rules_); });
+    const auto size = ifReadable(path, rules_, readWbmpSize);
     return copyOf(size.value_or(PictureSize{}), backgroundColour, {});
 }
 
