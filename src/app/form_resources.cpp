@@ -1,4 +1,4 @@
-// Held by form_resources_test.cpp, on files in a directory of its own.
+// Held by resource_files_test.cpp, on files in a directory of its own.
 
 #include "app/form_resources.h"
 

@@ -12,116 +12,116 @@
 namespace quillmere {
 namespace {
 
-    constexpr std::string_view kCardId = "card id=";
-    constexpr std::string_view kTitle = "title=";
-    constexpr std::string_view kAcceptDo = "do type=\"accept\"";
-    constexpr std::string_view kDefaultName = "Sprung";
+constexpr std::string_view kCardId = "card id=";
+constexpr std::string_view kTitle = "title=";
+constexpr std::string_view kAcceptDo = "do type=\"accept\"";
+constexpr std::string_view kDefaultName = "Sprung";
 
-    /// The place of a value, without its quotes.
-    struct Value {
-        std::size_t begin = 0;
-        std::size_t end = 0;
-        [[nodiscard]] std::string in(std::string_view text) const
-        {
-            return std::string(text.substr(begin, end - begin));
-        }
-    };
-
-    /// The value of the first `key` (lower case) from `from` on, if its first quote lies ahead of
-    /// `limit`. Its last quote may lie behind: a value may hold a '>'.
-    std::optional<Value> valueOf(
-        std::string_view text, std::string_view key, std::size_t from, std::size_t limit)
+/// The place of a value, without its quotes.
+struct Value {
+    std::size_t begin = 0;
+    std::size_t end = 0;
+    [[nodiscard]] std::string in(std::string_view text) const
     {
-        const auto at = findIgnoringCase(text.substr(0, limit), key, from);
-        if (at == npos) return std::nullopt;
-        const auto open = text.find('"', at + key.size());
-        if (open == npos || open >= limit) return std::nullopt;
-        const auto close = text.find('"', open + 1);
-        if (close == npos) return std::nullopt;
-        return Value {open + 1, close};
+        return std::string(text.substr(begin, end - begin));
     }
+};
 
-    struct CardMarker {
-        Value id;
-        std::optional<Value> title;
-    };
+/// The value of the first `key` (lower case) from `from` on, if its first quote lies ahead of
+/// `limit`. Its last quote may lie behind: a value may hold a '>'.
+std::optional<Value> valueOf(
+    std::string_view text, std::string_view key, std::size_t from, std::size_t limit)
+{
+    const auto at = findIgnoringCase(text.substr(0, limit), key, from);
+    if (at == npos) return std::nullopt;
+    const auto open = text.find('"', at + key.size());
+    if (open == npos || open >= limit) return std::nullopt;
+    const auto close = text.find('"', open + 1);
+    if (close == npos) return std::nullopt;
+    return Value{open + 1, close};
+}
 
-    std::optional<CardMarker> cardMarkerIn(std::string_view text)
-    {
-        const auto at = findIgnoringCase(text, kCardId);
-        if (at == npos) return std::nullopt;
-        const auto end = text.find('>', at);
-        if (end == npos) return std::nullopt;
-        const auto id = valueOf(text, kCardId, at, end);
-        if (!id) return std::nullopt;
-        return CardMarker {*id, valueOf(text, kTitle, id->end, end)};
-    }
+struct CardMarker {
+    Value id;
+    std::optional<Value> title;
+};
 
-    std::optional<std::string_view> lineWithCard(std::string_view text)
-    {
-        LineReader lines(text);
-        auto line = lines.next();
-        while (line && findIgnoringCase(*line, kCardId) == npos) line = lines.next();
-        return line;
-    }
+std::optional<CardMarker> cardMarkerIn(std::string_view text)
+{
+    const auto at = findIgnoringCase(text, kCardId);
+    if (at == npos) return std::nullopt;
+    const auto end = text.find('>', at);
+    if (end == npos) return std::nullopt;
+    const auto id = valueOf(text, kCardId, at, end);
+    if (!id) return std::nullopt;
+    return CardMarker{*id, valueOf(text, kTitle, id->end, end)};
+}
 
-    /// A value inside the accept do that begins at `at`; without an end nothing lies inside of it.
-    std::optional<Value> valueInDo(std::string_view text, std::size_t at, std::string_view key)
-    {
-        const auto end = findIgnoringCase(text, "<!--/do", at);
-        if (end == npos) return std::nullopt;
-        return valueOf(text, key, at, end);
-    }
+std::optional<std::string_view> lineWithCard(std::string_view text)
+{
+    LineReader lines(text);
+    auto line = lines.next();
+    while (line && findIgnoringCase(*line, kCardId) == npos)
+        line = lines.next();
+    return line;
+}
 
-    /// ` key="value"`, to be put into a marker.
-    std::string attribute(std::string_view key, std::string_view value)
-    {
-        return std::string(" ").append(key).append("\"").append(value).append("\"");
-    }
+/// A value inside the accept do that begins at `at`; without an end nothing lies inside of it.
+std::optional<Value> valueInDo(std::string_view text, std::size_t at, std::string_view key)
+{
+    const auto end = findIgnoringCase(text, "<!--/do", at);
+    if (end == npos) return std::nullopt;
+    return valueOf(text, key, at, end);
+}
 
-    bool bearsName(std::string_view text, std::string_view name)
-    {
-        const auto key = std::string("name=\"").append(lowerCase(name)).append("\"");
-        return findIgnoringCase(text, key) != npos;
-    }
+/// ` key="value"`, to be put into a marker.
+std::string attribute(std::string_view key, std::string_view value)
+{
+    return std::string(" ").append(key).append("\"").append(value).append("\"");
+}
 
-    std::string unusedJumpName(std::string_view text, std::string_view wanted)
-    {
-        std::string name(wanted.empty() ? kDefaultName : wanted);
-        for (int i = 0; bearsName(text, name); ++i)
-            name = std::string(kDefaultName) + std::to_string(i);
-        return name;
-    }
+bool bearsName(std::string_view text, std::string_view name)
+{
+    const auto key = std::string("name=\"").append(lowerCase(name)).append("\"");
+    return findIgnoringCase(text, key) != npos;
+}
 
-    /// Sets an attribute of the accept do at `at`; a missing one is put in behind the type.
-    void setDoAttribute(
-        std::string& text, std::size_t at, std::string_view key, std::string_view value)
-    {
-        if (const auto old = valueInDo(text, at, key))
-            text.replace(old->begin, old->end - old->begin, value);
-        else
-            text.insert(at + kAcceptDo.size(), attribute(key, value).append(" "));
-    }
+std::string unusedJumpName(std::string_view text, std::string_view wanted)
+{
+    std::string name(wanted.empty() ? kDefaultName : wanted);
+    for (int i = 0; bearsName(text, name); ++i)
+        name = std::string(kDefaultName) + std::to_string(i);
+    return name;
+}
 
-    void changeJump(std::string& text, std::size_t at, const Jump& jump)
-    {
-        setDoAttribute(text, at, "label=", jump.label);
-        setDoAttribute(text, at, "name=", jump.name);
-        if (const auto old = valueInDo(text, at, "go href="))
-            text.replace(old->begin, old->end - old->begin, jump.target);
-    }
+/// Sets an attribute of the accept do at `at`; a missing one is put in behind the type.
+void setDoAttribute(std::string& text, std::size_t at, std::string_view key, std::string_view value)
+{
+    if (const auto old = valueInDo(text, at, key))
+        text.replace(old->begin, old->end - old->begin, value);
+    else
+        text.insert(at + kAcceptDo.size(), attribute(key, value).append(" "));
+}
 
-    void insertJump(std::string& text, const Jump& jump)
-    {
-        const auto card = findIgnoringCase(text, "<!--card");
-        const auto end = card == npos ? npos : text.find('>', card);
-        if (end == npos) return;
-        std::string block = "<!--do type=\"accept\"";
-        block.append(attribute("label=", jump.label)).append(attribute("name=", jump.name));
-        block.append("--><!--go").append(attribute("href=", jump.target));
-        block.append("/--><!--/do-->");
-        text.insert(end + 1, block);
-    }
+void changeJump(std::string& text, std::size_t at, const Jump& jump)
+{
+    setDoAttribute(text, at, "label=", jump.label);
+    setDoAttribute(text, at, "name=", jump.name);
+    if (const auto old = valueInDo(text, at, "go href="))
+        text.replace(old->begin, old->end - old->begin, jump.target);
+}
+
+void insertJump(std::string& text, const Jump& jump)
+{
+    const auto card = findIgnoringCase(text, "<!--card");
+    const auto end = card == npos ? npos : text.find('>', card);
+    if (end == npos) return;
+    std::string block = "<!--do type=\"accept\"";
+    block.append(attribute("label=", jump.label)).append(attribute("name=", jump.name));
+    block.append("--><!--go").append(attribute("href=", jump.target));
+    block.append("/--><!--/do-->");
+    text.insert(end + 1, block);
+}
 
 } // namespace
 
@@ -168,7 +168,7 @@ Jump GetJump(DocumentSession& session, std::size_t areaIndex)
 void SetJump(DocumentSession& session, std::size_t areaIndex, const Jump& jump)
 {
     auto text = ReadDesignText(session, areaIndex);
-    const Jump named {unusedJumpName(text, jump.name), jump.label, jump.target};
+    const Jump named{unusedJumpName(text, jump.name), jump.label, jump.target};
     const auto at = findIgnoringCase(text, kAcceptDo);
     if (at != npos)
         changeJump(text, at, named);

@@ -12,10 +12,10 @@
 namespace quillmere {
 namespace {
 
-    constexpr std::string_view kCard = "<card";
-    constexpr std::string_view kCardEnd = "</card";
-    constexpr std::string_view kCorrectedHead
-        = R"(<card id="Korrigiert" title="Nicht festgelegt" newcontext="true">)";
+constexpr std::string_view kCard = "<card";
+constexpr std::string_view kCardEnd = "</card";
+constexpr std::string_view kCorrectedHead
+    = R"(<card id="Korrigiert" title="Nicht festgelegt" newcontext="true">)";
 
 } // namespace
 
@@ -32,7 +32,8 @@ CardSplitter::CardSplitter(std::string text)
 
 std::optional<CardSource> CardSplitter::next()
 {
-    // A tag such as "<card </card>" hides its end: the card that follows takes the place of its own.
+    // A tag such as "<card </card>" hides its end: the card that follows takes the place of its
+    // own.
     while (true) {
         CardSource card;
         const auto sizeAtStart = rest().size();

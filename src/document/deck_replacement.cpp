@@ -8,22 +8,21 @@
 namespace quillmere {
 namespace {
 
-    /// Calls `action` with the path of each work file that the deck names.
-    template <class Action>
-    void forEachFile(const Deck& deck, const Action& action)
-    {
-        const auto tell = [&](const std::string& directory, const std::string& file) {
-            if (!file.empty()) action(directory + file);
-        };
-        for (const auto& area : deck) {
-            tell(area.designDir, area.designFile);
-            tell(area.spareDesignDir, area.spareDesignFile);
-            tell(area.wmlDir, area.wmlFile);
-            tell(area.pristineDir, area.pristineFile);
-            for (const auto& image : area.images)
-                tell(image.displayDir, image.displayFile);
-        }
+/// Calls `action` with the path of each work file that the deck names.
+template <class Action> void forEachFile(const Deck& deck, const Action& action)
+{
+    const auto tell = [&](const std::string& directory, const std::string& file) {
+        if (!file.empty()) action(directory + file);
+    };
+    for (const auto& area : deck) {
+        tell(area.designDir, area.designFile);
+        tell(area.spareDesignDir, area.spareDesignFile);
+        tell(area.wmlDir, area.wmlFile);
+        tell(area.pristineDir, area.pristineFile);
+        for (const auto& image : area.images)
+            tell(image.displayDir, image.displayFile);
     }
+}
 
 } // namespace
 

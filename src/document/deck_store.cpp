@@ -21,101 +21,99 @@
 namespace quillmere {
 namespace {
 
-    constexpr std::string_view kDeckHead
-        = "<?xml version=\"1.0\"?>"
-          "<!DOCTYPE wml PUBLIC \"-//WAPFORUM//DTD WML 1.1//EN\""
-          " \"http://www.wapforum.org/DTD/wml_1.1.xml\">"
-          "<wml>";
-    constexpr std::ptrdiff_t kHistoryLength = 16;
+constexpr std::string_view kDeckHead = "<?xml version=\"1.0\"?>"
+                                       "<!DOCTYPE wml PUBLIC \"-//WAPFORUM//DTD WML 1.1//EN\""
+                                       " \"http://www.wapforum.org/DTD/wml_1.1.xml\">"
+                                       "<wml>";
+constexpr std::ptrdiff_t kHistoryLength = 16;
 
-    std::string newAreaId(std::size_t areaIndex)
-    {
-        return "Bereich" + std::to_string(areaIndex + 1);
-    }
+std::string newAreaId(std::size_t areaIndex)
+{
+    return "Bereich" + std::to_string(areaIndex + 1);
+}
 
-    void makeDesignFile(DocumentSession& session, std::size_t areaIndex)
-    {
-        auto& area = areaRecord(session, areaIndex);
-        area.inUse = true;
-        area.designFile = session.workFiles.createFile(kWorkFilePrefix, kDesignFileSuffix);
-        area.designDir = session.workFiles.directory();
-        const int kind = session.deck.front().surfaceKind;
-        std::string page = "<!--card id=\"";
-        page.append(newAreaId(areaIndex));
-        page.append("\" title=\"Nicht festgelegt\" newcontext=\"true\"-->\r\n");
-        page += designPageLines(session, kind, PageSection::Head);
-        page += designPageLines(session, kind, PageSection::Tail);
-        session.workFiles.write(area.designDir + area.designFile, std::move(page));
-    }
+void makeDesignFile(DocumentSession& session, std::size_t areaIndex)
+{
+    auto& area = areaRecord(session, areaIndex);
+    area.inUse = true;
+    area.designFile = session.workFiles.createFile(kWorkFilePrefix, kDesignFileSuffix);
+    area.designDir = session.workFiles.directory();
+    const int kind = session.deck.front().surfaceKind;
+    std::string page = "<!--card id=\"";
+    page.append(newAreaId(areaIndex));
+    page.append("\" title=\"Nicht festgelegt\" newcontext=\"true\"-->\r\n");
+    page += designPageLines(session, kind, PageSection::Head);
+    page += designPageLines(session, kind, PageSection::Tail);
+    session.workFiles.write(area.designDir + area.designFile, std::move(page));
+}
 
-    void startDeck(
-        DocumentSession& session, const std::string& deckFile, const std::string& deckDir)
-    {
-        DeckReplacement replacement(session);
-        session.deck.resize(2);
-        auto& area = session.deck.front();
-        area.deckFile = deckFile;
-        area.deckDir = NormalisePath(deckDir);
-        area.wmlFile = session.workFiles.unusedName(kWorkFilePrefix, kWmlFileSuffix);
-        area.wmlDir = session.workFiles.directory();
-        makeDesignFile(session, 0);
-        replacement.commit();
-    }
+void startDeck(DocumentSession& session, const std::string& deckFile, const std::string& deckDir)
+{
+    DeckReplacement replacement(session);
+    session.deck.resize(2);
+    auto& area = session.deck.front();
+    area.deckFile = deckFile;
+    area.deckDir = NormalisePath(deckDir);
+    area.wmlFile = session.workFiles.unusedName(kWorkFilePrefix, kWmlFileSuffix);
+    area.wmlDir = session.workFiles.directory();
+    makeDesignFile(session, 0);
+    replacement.commit();
+}
 
-    /// Makes the spare record an area with a new spare one behind it, and returns its index.
-    std::size_t appendArea(DocumentSession& session)
-    {
-        const auto index = areaCount(session.deck);
-        const auto& preceding = areaRecord(session, index - 1);
-        DeckRecord area;
-        area.deckFile = preceding.deckFile;
-        area.deckDir = preceding.deckDir;
-        area.wmlFile = preceding.wmlFile;
-        area.wmlDir = preceding.wmlDir;
-        session.deck.back() = std::move(area);
-        session.deck.emplace_back();
-        makeDesignFile(session, index);
-        return index;
-    }
+/// Makes the spare record an area with a new spare one behind it, and returns its index.
+std::size_t appendArea(DocumentSession& session)
+{
+    const auto index = areaCount(session.deck);
+    const auto& preceding = areaRecord(session, index - 1);
+    DeckRecord area;
+    area.deckFile = preceding.deckFile;
+    area.deckDir = preceding.deckDir;
+    area.wmlFile = preceding.wmlFile;
+    area.wmlDir = preceding.wmlDir;
+    session.deck.back() = std::move(area);
+    session.deck.emplace_back();
+    makeDesignFile(session, index);
+    return index;
+}
 
-    /// The lines of an area as one text. A '?' in front of a line of the first area is what some
-    /// surfaces make of a byte order mark.
-    std::string joinAreaLines(std::string_view file, bool isFirstArea)
-    {
-        if (!isFirstArea) return joinLines(file);
-        std::string joined;
-        LineReader lines(file);
-        while (const auto line = lines.next())
-            joined.append(line->substr(line->starts_with('?') ? 1 : 0));
-        return joined;
-    }
+/// The lines of an area as one text. A '?' in front of a line of the first area is what some
+/// surfaces make of a byte order mark.
+std::string joinAreaLines(std::string_view file, bool isFirstArea)
+{
+    if (!isFirstArea) return joinLines(file);
+    std::string joined;
+    LineReader lines(file);
+    while (const auto line = lines.next())
+        joined.append(line->substr(line->starts_with('?') ? 1 : 0));
+    return joined;
+}
 
-    std::string areaAsWml(DocumentSession& session, std::size_t areaIndex)
-    {
-        const auto& area = areaRecord(session, areaIndex);
-        auto text = joinAreaLines(
-            session.workFiles.read(area.designDir + area.designFile), areaIndex == 0);
-        requireAddressable(text);
-        DeleteAllTemporaeryRadioButtons(text);
-        CleanDesignHtml(text, session.output);
-        DesignToWml(text, session);
-        RepairParagraphs(text);
-        return text;
-    }
+std::string areaAsWml(DocumentSession& session, std::size_t areaIndex)
+{
+    const auto& area = areaRecord(session, areaIndex);
+    auto text
+        = joinAreaLines(session.workFiles.read(area.designDir + area.designFile), areaIndex == 0);
+    requireAddressable(text);
+    DeleteAllTemporaeryRadioButtons(text);
+    CleanDesignHtml(text, session.output);
+    DesignToWml(text, session);
+    RepairParagraphs(text);
+    return text;
+}
 
-    /// Gives the deck the line layout of the deck as opened.
-    void restoreLayout(std::string& wml, const DocumentSession& session)
-    {
-        const auto& first = session.deck.front();
-        const auto pristine = first.pristineDir + first.pristineFile;
-        if (first.pristineFile.empty() || !session.workFiles.exists(pristine)) return;
-        RestoreWhitespace(wml, withCrLf(session.workFiles.read(pristine)));
-    }
+/// Gives the deck the line layout of the deck as opened.
+void restoreLayout(std::string& wml, const DocumentSession& session)
+{
+    const auto& first = session.deck.front();
+    const auto pristine = first.pristineDir + first.pristineFile;
+    if (first.pristineFile.empty() || !session.workFiles.exists(pristine)) return;
+    RestoreWhitespace(wml, withCrLf(session.workFiles.read(pristine)));
+}
 
 } // namespace
 
-void AddArea(DocumentSession& session, bool isFirst, const std::string& deckFile,
-    const std::string& deckDir)
+void AddArea(
+    DocumentSession& session, bool isFirst, const std::string& deckFile, const std::string& deckDir)
 {
     if (isFirst) return startDeck(session, deckFile, deckDir);
     const auto index = appendArea(session);

@@ -13,56 +13,55 @@
 namespace quillmere {
 namespace {
 
-    constexpr int kBodyLine = 4; // of the head; made for the device
-    constexpr std::array<std::string_view, kHeadLineCount> kHeadLines {
-        "<HTML>", "<HEAD>", "</HEAD>", "", "<P>"};
-    constexpr std::array<std::string_view, kTailLineCount> kTailLines {
-        "</P>", "</BODY>", "</HTML>"};
+constexpr int kBodyLine = 4; // of the head; made for the device
+constexpr std::array<std::string_view, kHeadLineCount> kHeadLines{
+    "<HTML>", "<HEAD>", "</HEAD>", "", "<P>"};
+constexpr std::array<std::string_view, kTailLineCount> kTailLines{"</P>", "</BODY>", "</HTML>"};
 
-    constexpr double kDefaultFontTwips = 180;
-    constexpr double kTwipsPerPoint = 20;
-    constexpr std::string_view kDefaultFamily = "Arial";
-    constexpr std::size_t kFamilyFieldLength = 150;
+constexpr double kDefaultFontTwips = 180;
+constexpr double kTwipsPerPoint = 20;
+constexpr std::string_view kDefaultFamily = "Arial";
+constexpr std::size_t kFamilyFieldLength = 150;
 
-    PageStyle* deviceOf(const DocumentSession& session, int surfaceKind)
-    {
-        const auto index = static_cast<std::size_t>(surfaceKind);
-        return index < session.devices.size() ? session.devices.at(index) : nullptr;
-    }
+PageStyle* deviceOf(const DocumentSession& session, int surfaceKind)
+{
+    const auto index = static_cast<std::size_t>(surfaceKind);
+    return index < session.devices.size() ? session.devices.at(index) : nullptr;
+}
 
-    // The digits stand in the order of the number, which has blue in front, though a page reads
-    // red there: 2391815 gives "247F07". So it has always been written.
-    std::string colourDigits(std::int32_t colour)
-    {
-        std::array<char, 16> digits {};
-        const int length = std::snprintf(
-            digits.data(), digits.size(), "%X", static_cast<unsigned int>(colour));
-        return {digits.data(), static_cast<std::size_t>(length)};
-    }
+// The digits stand in the order of the number, which has blue in front, though a page reads
+// red there: 2391815 gives "247F07". So it has always been written.
+std::string colourDigits(std::int32_t colour)
+{
+    std::array<char, 16> digits{};
+    const int length
+        = std::snprintf(digits.data(), digits.size(), "%X", static_cast<unsigned int>(colour));
+    return {digits.data(), static_cast<std::size_t>(length)};
+}
 
-    // Two attributes of the same name and a size without a unit: the page lies on the surface only.
-    std::string bodyLine(
-        std::int32_t colour, double fontTwips, int twipsPerPixel, std::string_view family)
-    {
-        const auto size = std::lrint(fontTwips / twipsPerPixel);
-        std::string line = R"(<BODY LINK="#0000ff" VLINK="#800080" BGCOLOR="#)";
-        line.append(colourDigits(colour)).append(R"(" STYLE="font-size:)");
-        line.append(std::to_string(size)).append(R"(" STYLE="font-family:)");
-        return line.append(family).append("\">");
-    }
+// Two attributes of the same name and a size without a unit: the page lies on the surface only.
+std::string bodyLine(
+    std::int32_t colour, double fontTwips, int twipsPerPixel, std::string_view family)
+{
+    const auto size = std::lrint(fontTwips / twipsPerPixel);
+    std::string line = R"(<BODY LINK="#0000ff" VLINK="#800080" BGCOLOR="#)";
+    line.append(colourDigits(colour)).append(R"(" STYLE="font-size:)");
+    line.append(std::to_string(size)).append(R"(" STYLE="font-family:)");
+    return line.append(family).append("\">");
+}
 
-    std::string bodyLine(const DocumentSession& session, int surfaceKind)
-    {
-        auto* const device = deviceOf(session, surfaceKind);
-        if (device == nullptr)
-            return bodyLine(
-                kDefaultPageColour, kDefaultFontTwips, session.twipsPerPixel, kDefaultFamily);
-        const std::string family(trimBlanks(device->fontFamily));
-        device->fontFamily = family;
-        device->fontFamily.resize(kFamilyFieldLength, ' ');
-        return bodyLine(device->backColour, device->fontSizePt * kTwipsPerPoint,
-            session.twipsPerPixel, family);
-    }
+std::string bodyLine(const DocumentSession& session, int surfaceKind)
+{
+    auto* const device = deviceOf(session, surfaceKind);
+    if (device == nullptr)
+        return bodyLine(
+            kDefaultPageColour, kDefaultFontTwips, session.twipsPerPixel, kDefaultFamily);
+    const std::string family(trimBlanks(device->fontFamily));
+    device->fontFamily = family;
+    device->fontFamily.resize(kFamilyFieldLength, ' ');
+    return bodyLine(
+        device->backColour, device->fontSizePt * kTwipsPerPoint, session.twipsPerPixel, family);
+}
 
 } // namespace
 

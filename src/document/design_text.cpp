@@ -27,7 +27,7 @@ std::string ReadDesignText(DocumentSession& session, std::size_t areaIndex)
     waitForSurface(session);
     const auto& area = areaRecord(session, areaIndex);
     const auto bytes = session.workFiles.read(area.designDir + area.designFile);
-    const auto firstLine = LineReader(bytes).next().value_or(std::string_view {});
+    const auto firstLine = LineReader(bytes).next().value_or(std::string_view{});
     const auto tag = firstLine.find('<');
     return joinLines(std::string_view(bytes).substr(tag == npos ? 0 : tag));
 }

@@ -10,12 +10,12 @@
 namespace quillmere {
 namespace {
 
-    std::string systemTemporaryDirectory()
-    {
-        std::error_code error;
-        const auto directory = std::filesystem::temp_directory_path(error);
-        return error ? "/tmp/" : (directory / "").string(); // with its separator
-    }
+std::string systemTemporaryDirectory()
+{
+    std::error_code error;
+    const auto directory = std::filesystem::temp_directory_path(error);
+    return error ? "/tmp/" : (directory / "").string(); // with its separator
+}
 
 } // namespace
 
@@ -46,8 +46,8 @@ std::string DiskWorkFiles::unusedName(std::string_view prefix, std::string_view 
 
 std::string DiskWorkFiles::createFile(std::string_view prefix, std::string_view suffix)
 {
-    return names_.first(
-        prefix, suffix, [this](const std::string& name) { return createWorkFile(directory_ + name); });
+    return names_.first(prefix, suffix,
+        [this](const std::string& name) { return createWorkFile(directory_ + name); });
 }
 
 bool DiskWorkFiles::exists(const std::string& path) const

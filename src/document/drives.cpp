@@ -1,4 +1,4 @@
-// Held by drives_test.cpp.
+// Held by mount_table_test.cpp.
 
 #include "document/drives.h"
 

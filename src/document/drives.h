@@ -8,7 +8,7 @@
 
 namespace quillmere {
 
-/// Kinds of drives, with their numbers as they are told.
+/// Kinds of drives, with the numbers that Windows gives them.
 enum class DriveKind {
     Unknown = 0,
     Missing = 1,

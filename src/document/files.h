@@ -5,8 +5,8 @@
 #include <string>
 #include <string_view>
 
-// What the core asks of the file system. Paths are the system's own bytes. Failures are FileFailure,
-// which names the file and the reason. `files_posix.cpp` is the one for POSIX systems.
+// What the core asks of the file system. Paths are the system's own bytes. Failures are
+// FileFailure, which names the file and the reason. `files_posix.cpp` is the one for POSIX systems.
 
 namespace quillmere {
 

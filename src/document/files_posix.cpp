@@ -18,71 +18,71 @@
 namespace quillmere {
 namespace {
 
-    constexpr mode_t kPrivateMode = 0600;
-    constexpr mode_t kUsualMode = 0666; // less what the person's mask takes away
-    constexpr int kMaxLinks = 40;
+constexpr mode_t kPrivateMode = 0600;
+constexpr mode_t kUsualMode = 0666; // less what the person's mask takes away
+constexpr int kMaxLinks = 40;
 
-    /// What stands at `path` itself, be it a link; nullopt where nothing does.
-    std::optional<struct stat> statusOf(const std::string& path)
-    {
-        struct stat status { };
-        if (::lstat(path.c_str(), &status) == 0) return status;
-        if (errno == ENOENT) return std::nullopt;
+/// What stands at `path` itself, be it a link; nullopt where nothing does.
+std::optional<struct stat> statusOf(const std::string& path)
+{
+    struct stat status { };
+    if (::lstat(path.c_str(), &status) == 0) return status;
+    if (errno == ENOENT) return std::nullopt;
+    throw cannotWrite(path, lastError());
+}
+
+bool isDevice(const struct stat& status)
+{
+    return !S_ISREG(status.st_mode) && !S_ISDIR(status.st_mode) && !S_ISLNK(status.st_mode);
+}
+
+bool leadsToDevice(const std::string& path)
+{
+    struct stat status { };
+    return ::stat(path.c_str(), &status) == 0 && isDevice(status);
+}
+
+/// Where a chain of links leads to, be there a file or not.
+std::string behindLinks(const std::string& path)
+{
+    std::error_code error;
+    std::string target = path;
+    for (int i = 0; i < kMaxLinks; ++i) {
+        if (!std::filesystem::is_symlink(target, error)) return target;
+        const auto next = std::filesystem::read_symlink(target, error);
+        if (error) throw cannotWrite(path, error);
+        target = next.is_absolute() ? next.string() : directoryOf(target) + next.string();
+    }
+    throw cannotWrite(path, std::make_error_code(std::errc::too_many_symbolic_link_levels));
+}
+
+void writeToDevice(const std::string& path, std::string_view bytes)
+{
+    PosixFile device(path, O_WRONLY);
+    if (!device.isOpen() || !device.write(bytes) || !device.close())
         throw cannotWrite(path, lastError());
-    }
+}
 
-    bool isDevice(const struct stat& status)
-    {
-        return !S_ISREG(status.st_mode) && !S_ISDIR(status.st_mode) && !S_ISLNK(status.st_mode);
-    }
+// The new file stands already: a directory that cannot be flushed is no failure any more.
+void flushDirectory(const std::string& directory)
+{
+    PosixFile opened(directory, O_RDONLY | O_DIRECTORY);
+    if (opened.isOpen()) static_cast<void>(opened.flush());
+}
 
-    bool leadsToDevice(const std::string& path)
-    {
-        struct stat status { };
-        return ::stat(path.c_str(), &status) == 0 && isDevice(status);
-    }
-
-    /// Where a chain of links leads to, be there a file or not.
-    std::string behindLinks(const std::string& path)
-    {
-        std::error_code error;
-        std::string target = path;
-        for (int i = 0; i < kMaxLinks; ++i) {
-            if (!std::filesystem::is_symlink(target, error)) return target;
-            const auto next = std::filesystem::read_symlink(target, error);
-            if (error) throw cannotWrite(path, error);
-            target = next.is_absolute() ? next.string() : directoryOf(target) + next.string();
-        }
-        throw cannotWrite(path, std::make_error_code(std::errc::too_many_symbolic_link_levels));
-    }
-
-    void writeToDevice(const std::string& path, std::string_view bytes)
-    {
-        PosixFile device(path, O_WRONLY);
-        if (!device.isOpen() || !device.write(bytes) || !device.close())
-            throw cannotWrite(path, lastError());
-    }
-
-    // The new file stands already: a directory that cannot be flushed is no failure any more.
-    void flushDirectory(const std::string& directory)
-    {
-        PosixFile opened(directory, O_RDONLY | O_DIRECTORY);
-        if (opened.isOpen()) static_cast<void>(opened.flush());
-    }
-
-    void replaceTarget(
-        const std::string& target, const std::optional<struct stat>& old, std::string_view bytes)
-    {
-        // A new name in the directory would pass by the write protection of the file.
-        if (old && ::faccessat(AT_FDCWD, target.c_str(), W_OK, AT_EACCESS) != 0)
-            throw cannotWrite(target, lastError());
-        NeighbourFile neighbour(target, old ? kPrivateMode : kUsualMode);
-        neighbour.write(bytes);
-        if (old) neighbour.resemble(*old);
-        neighbour.flush();
-        neighbour.takeTheTargetsPlace();
-        flushDirectory(directoryOf(target));
-    }
+void replaceTarget(
+    const std::string& target, const std::optional<struct stat>& old, std::string_view bytes)
+{
+    // A new name in the directory would pass by the write protection of the file.
+    if (old && ::faccessat(AT_FDCWD, target.c_str(), W_OK, AT_EACCESS) != 0)
+        throw cannotWrite(target, lastError());
+    NeighbourFile neighbour(target, old ? kPrivateMode : kUsualMode);
+    neighbour.write(bytes);
+    if (old) neighbour.resemble(*old);
+    neighbour.flush();
+    neighbour.takeTheTargetsPlace();
+    flushDirectory(directoryOf(target));
+}
 
 } // namespace
 

@@ -12,6 +12,7 @@
 #include "document/windows1252.h"
 #include "document/word_ids.h"
 
+#include <array>
 #include <filesystem>
 #include <system_error>
 #include <unordered_set>
@@ -127,7 +128,7 @@ void copyPicture(const std::string& name, const std::string& fromDirectory,
 {
     const std::string source = fromDirectory + name;
     const std::string target = toDirectory + name;
-    const std::string gaps[] = {name};
+    const std::array<std::string, 1> gaps{name};
     if (!fileExists(source)) {
         prompter.show(word::kPictureNotCopied, gaps, MessageIcon::Warning);
         return;

@@ -18,119 +18,117 @@
 namespace quillmere {
 namespace {
 
-    // Line ends and characters of several bytes make a file longer than its deck, but not without
-    // end: a device such as /dev/zero is given up here.
-    constexpr std::size_t kMaxDeckBytes = 32 * (kMaxTextLength + 1);
+// Line ends and characters of several bytes make a file longer than its deck, but not without
+// end: a device such as /dev/zero is given up here.
+constexpr std::size_t kMaxDeckBytes = 32 * (kMaxTextLength + 1);
 
-    struct DeckTexts {
-        std::string wml; ///< what is converted
-        std::string opened; ///< the deck as opened, for the pristine copy
-    };
+struct DeckTexts {
+    std::string wml; ///< what is converted
+    std::string opened; ///< the deck as opened, for the pristine copy
+};
 
-    // A deck that was never saved has no file yet: what is read is then the deck as opened.
-    DeckTexts readTexts(
-        const DocumentSession& session, const DeckLocation& location, bool needsOpened)
-    {
-        const auto deckPath = location.deckDir + location.deckFile;
-        const auto readDeckFile = [&] { return textFromDeckBytes(readFile(deckPath, kMaxDeckBytes)); };
-        DeckTexts texts;
-        if (location.workFile.empty()) {
-            texts.opened = readDeckFile();
-            texts.wml = texts.opened;
-        } else {
-            texts.wml = session.workFiles.read(location.workDir + location.workFile);
-            if (needsOpened) texts.opened = fileExists(deckPath) ? readDeckFile() : texts.wml;
-        }
-        return texts;
+// A deck that was never saved has no file yet: what is read is then the deck as opened.
+DeckTexts readTexts(const DocumentSession& session, const DeckLocation& location, bool needsOpened)
+{
+    const auto deckPath = location.deckDir + location.deckFile;
+    const auto readDeckFile = [&] { return textFromDeckBytes(readFile(deckPath, kMaxDeckBytes)); };
+    DeckTexts texts;
+    if (location.workFile.empty()) {
+        texts.opened = readDeckFile();
+        texts.wml = texts.opened;
+    } else {
+        texts.wml = session.workFiles.read(location.workDir + location.workFile);
+        if (needsOpened) texts.opened = fileExists(deckPath) ? readDeckFile() : texts.wml;
     }
+    return texts;
+}
 
-    /// Writes `text` to a new work file for decks and returns its name.
-    std::string writeWorkCopy(WorkFiles& files, const std::string& text)
-    {
-        auto name = files.unusedName(kWorkFilePrefix, kWmlFileSuffix);
-        files.write(files.directory() + name, text);
-        return name;
-    }
+/// Writes `text` to a new work file for decks and returns its name.
+std::string writeWorkCopy(WorkFiles& files, const std::string& text)
+{
+    auto name = files.unusedName(kWorkFilePrefix, kWmlFileSuffix);
+    files.write(files.directory() + name, text);
+    return name;
+}
 
-    void createAreaFiles(WorkFiles& files, DeckRecord& area)
-    {
-        area.designFile = files.createFile(kWorkFilePrefix, kDesignFileSuffix);
-        area.designDir = files.directory();
-        area.spareDesignFile = files.createFile(kWorkFilePrefix, kDesignFileSuffix);
-        area.spareDesignDir = files.directory();
-    }
+void createAreaFiles(WorkFiles& files, DeckRecord& area)
+{
+    area.designFile = files.createFile(kWorkFilePrefix, kDesignFileSuffix);
+    area.designDir = files.directory();
+    area.spareDesignFile = files.createFile(kWorkFilePrefix, kDesignFileSuffix);
+    area.spareDesignDir = files.directory();
+}
 
-    bool hasPristine(const DocumentSession& session, const Deck& deck)
-    {
-        return !deck.empty() && !deck.front().pristineFile.empty()
-            && session.workFiles.exists(deck.front().pristineDir + deck.front().pristineFile);
-    }
+bool hasPristine(const DocumentSession& session, const Deck& deck)
+{
+    return !deck.empty() && !deck.front().pristineFile.empty()
+        && session.workFiles.exists(deck.front().pristineDir + deck.front().pristineFile);
+}
 
-    /// Fills record 0 and makes its work files.
-    void startDeck(DocumentSession& session, const Deck& old, const DeckLocation& location,
-        const DeckTexts& texts)
-    {
-        auto& files = session.workFiles;
-        session.deck.resize(2);
-        auto& first = session.deck.front();
-        first.inUse = true;
-        first.deckFile = location.deckFile;
-        first.deckDir = location.deckDir;
-        createAreaFiles(files, first);
-        const bool isGiven = !location.workFile.empty();
-        first.wmlFile = isGiven ? location.workFile : writeWorkCopy(files, texts.wml);
-        first.wmlDir = isGiven ? location.workDir : files.directory();
-        const bool isKept = hasPristine(session, old);
-        first.pristineFile
-            = isKept ? old.front().pristineFile : writeWorkCopy(files, texts.opened);
-        first.pristineDir = isKept ? old.front().pristineDir : files.directory();
-    }
+/// Fills record 0 and makes its work files.
+void startDeck(
+    DocumentSession& session, const Deck& old, const DeckLocation& location, const DeckTexts& texts)
+{
+    auto& files = session.workFiles;
+    session.deck.resize(2);
+    auto& first = session.deck.front();
+    first.inUse = true;
+    first.deckFile = location.deckFile;
+    first.deckDir = location.deckDir;
+    createAreaFiles(files, first);
+    const bool isGiven = !location.workFile.empty();
+    first.wmlFile = isGiven ? location.workFile : writeWorkCopy(files, texts.wml);
+    first.wmlDir = isGiven ? location.workDir : files.directory();
+    const bool isKept = hasPristine(session, old);
+    first.pristineFile = isKept ? old.front().pristineFile : writeWorkCopy(files, texts.opened);
+    first.pristineDir = isKept ? old.front().pristineDir : files.directory();
+}
 
-    void appendArea(DocumentSession& session)
-    {
-        session.deck.emplace_back(); // the new spare record
-        const auto& preceding = session.deck[session.deck.size() - 3];
-        auto& area = session.deck[session.deck.size() - 2];
-        area.inUse = true;
-        area.deckFile = preceding.deckFile;
-        area.deckDir = preceding.deckDir;
-        area.wmlFile = preceding.wmlFile;
-        area.wmlDir = preceding.wmlDir;
-        createAreaFiles(session.workFiles, area);
-    }
+void appendArea(DocumentSession& session)
+{
+    session.deck.emplace_back(); // the new spare record
+    const auto& preceding = session.deck[session.deck.size() - 3];
+    auto& area = session.deck[session.deck.size() - 2];
+    area.inUse = true;
+    area.deckFile = preceding.deckFile;
+    area.deckDir = preceding.deckDir;
+    area.wmlFile = preceding.wmlFile;
+    area.wmlDir = preceding.wmlDir;
+    createAreaFiles(session.workFiles, area);
+}
 
-    std::string convertBody(std::string body, std::size_t areaIndex, DocumentSession& session)
-    {
-        RepairNesting(body);
-        RepairFormatAroundSelect(body, session);
-        WmlToDesign(body, areaIndex, session);
-        InsertTemporaeryRadioButtons(body);
-        return body;
-    }
+std::string convertBody(std::string body, std::size_t areaIndex, DocumentSession& session)
+{
+    RepairNesting(body);
+    RepairFormatAroundSelect(body, session);
+    WmlToDesign(body, areaIndex, session);
+    InsertTemporaeryRadioButtons(body);
+    return body;
+}
 
-    /// The design work file of a card: marker, do block, and the body in one line within the frame.
-    /// The frame's own paragraph is left out, since the card brings its paragraphs with it.
-    std::string designFileOf(CardSource card, std::size_t areaIndex, DocumentSession& session)
-    {
-        const int kind = session.deck.front().surfaceKind;
-        WmlToDesign(card.head, areaIndex, session);
-        WmlToDesign(card.doBlock, areaIndex, session);
-        auto file = std::move(card.head).append("\r\n").append(card.doBlock).append("\r\n");
-        file += designPageLines(session, kind, PageSection::Head, "<p");
-        file += convertBody(std::move(card.body), areaIndex, session).append("\r\n");
-        return file += designPageLines(session, kind, PageSection::Tail, "</p");
-    }
+/// The design work file of a card: marker, do block, and the body in one line within the frame.
+/// The frame's own paragraph is left out, since the card brings its paragraphs with it.
+std::string designFileOf(CardSource card, std::size_t areaIndex, DocumentSession& session)
+{
+    const int kind = session.deck.front().surfaceKind;
+    WmlToDesign(card.head, areaIndex, session);
+    WmlToDesign(card.doBlock, areaIndex, session);
+    auto file = std::move(card.head).append("\r\n").append(card.doBlock).append("\r\n");
+    file += designPageLines(session, kind, PageSection::Head, "<p");
+    file += convertBody(std::move(card.body), areaIndex, session).append("\r\n");
+    return file += designPageLines(session, kind, PageSection::Tail, "</p");
+}
 
-    /// Takes the next card into the last area. A card tag that is cut off leaves the file empty.
-    void loadCard(DocumentSession& session, CardSplitter& cards)
-    {
-        const auto index = areaCount(session.deck) - 1;
-        auto card = cards.next();
-        if (!card) return;
-        auto file = designFileOf(std::move(*card), index, session);
-        const auto& area = session.deck[index];
-        session.workFiles.write(area.designDir + area.designFile, std::move(file));
-    }
+/// Takes the next card into the last area. A card tag that is cut off leaves the file empty.
+void loadCard(DocumentSession& session, CardSplitter& cards)
+{
+    const auto index = areaCount(session.deck) - 1;
+    auto card = cards.next();
+    if (!card) return;
+    auto file = designFileOf(std::move(*card), index, session);
+    const auto& area = session.deck[index];
+    session.workFiles.write(area.designDir + area.designFile, std::move(file));
+}
 
 } // namespace
 

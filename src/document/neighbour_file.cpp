@@ -13,19 +13,8 @@
 namespace quillmere {
 namespace {
 
-    constexpr mode_t kModeBits = 07777;
-    constexpr int kMaxNames = 100; // crashed runs with the same process number may have left some
-
-    /// A name beside `target` that no file bears.
-    std::string unusedNeighbour(const std::string& target)
-    {
-        const auto stem = directoryOf(target) + ".quillmere-" + std::to_string(::getpid());
-        std::string path = stem + ".tmp";
-        struct stat status { };
-        for (int i = 0; i < kMaxNames && ::lstat(path.c_str(), &status) == 0; ++i)
-            path = stem + '-' + std::to_string(i) + ".tmp";
-        return path;
-    }
+constexpr mode_t kModeBits = 07777;
+constexpr int kMaxNames = 100; // crashed runs with the same process number may have left some
 
 } // namespace
 
@@ -37,10 +26,15 @@ std::string directoryOf(const std::string& path)
 
 NeighbourFile::NeighbourFile(const std::string& target, mode_t mode)
     : target_(target)
-    , path_(unusedNeighbour(target))
-    , file_(path_, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW, mode)
 {
-    require(file_.isOpen());
+    const auto stem = directoryOf(target) + ".quillmere-" + std::to_string(::getpid()) + '-';
+    for (int i = 0; i < kMaxNames; ++i) {
+        path_ = stem + std::to_string(i) + ".tmp";
+        file_.emplace(path_, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW, mode);
+        if (file_->isOpen()) return;
+        if (errno != EEXIST) break;
+    }
+    throw cannotWrite(target_, lastError());
 }
 
 NeighbourFile::~NeighbourFile()
@@ -50,27 +44,27 @@ NeighbourFile::~NeighbourFile()
 
 void NeighbourFile::write(std::string_view bytes)
 {
-    require(file_.write(bytes));
+    require(file_->write(bytes));
 }
 
 void NeighbourFile::flush()
 {
-    require(file_.flush());
+    require(file_->flush());
 }
 
 void NeighbourFile::resemble(const struct stat& old)
 {
     if (old.st_uid != ::geteuid() || old.st_gid != ::getegid()) {
-        const bool given = ::fchown(file_.number(), old.st_uid, old.st_gid) == 0
-            || ::fchown(file_.number(), static_cast<uid_t>(-1), old.st_gid) == 0;
+        const bool given = ::fchown(file_->number(), old.st_uid, old.st_gid) == 0
+            || ::fchown(file_->number(), static_cast<uid_t>(-1), old.st_gid) == 0;
         static_cast<void>(given); // giving away is often for the administrator alone
     }
-    require(::fchmod(file_.number(), old.st_mode & kModeBits) == 0);
+    require(::fchmod(file_->number(), old.st_mode & kModeBits) == 0);
 }
 
 void NeighbourFile::takeTheTargetsPlace()
 {
-    require(file_.close());
+    require(file_->close());
     require(std::rename(path_.c_str(), target_.c_str()) == 0);
     path_.clear();
 }

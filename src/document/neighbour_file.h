@@ -2,6 +2,7 @@
 
 #include "document/posix_file.h"
 
+#include <optional>
 #include <string>
 #include <string_view>
 #include <sys/stat.h>
@@ -32,7 +33,7 @@ private:
 
     const std::string& target_;
     std::string path_; // empty once there is nothing to remove
-    PosixFile file_;
+    std::optional<PosixFile> file_;
 };
 
 /// The directory of a path with its separator; "./" where the path has none.

@@ -138,11 +138,11 @@ std::string AppDirectory()
 
 std::string appDirectoryOf(const std::string& executable, const FileSystem& files)
 {
-    const std::string directory = NormalisePath(SplitPath(executable).directory);
+    std::string directory = NormalisePath(SplitPath(executable).directory);
     constexpr std::string_view kPrograms = "bin/";
     if (directory.ends_with("/bin/")) {
         const auto prefix = directory.substr(0, directory.size() - kPrograms.size());
-        const auto data = prefix + "share/quillmere/";
+        auto data = prefix + "share/quillmere/";
         if (files.directoryExists(data)) return data;
     }
     return directory;

@@ -15,48 +15,48 @@
 namespace quillmere {
 namespace {
 
-    constexpr std::string_view kOption = "<!--option";
-    constexpr std::string_view kOptionEnd = "<!--/option";
-    constexpr std::string_view kInput = "<input";
+constexpr std::string_view kOption = "<!--option";
+constexpr std::string_view kOptionEnd = "<!--/option";
+constexpr std::string_view kInput = "<input";
 
-    /// What an option marker, without its ">", leads to. A value in quotes that holds a ">" is none:
-    /// the button would end at it, and its rest would stay as text. Of `onpick=#a--` without quotes
-    /// the dashes of the marker's end are part of the target.
-    std::string_view targetOf(std::string_view marker)
-    {
-        constexpr std::string_view kKey = "onpick=";
-        constexpr std::string_view kQuotedKey = "onpick=\"";
-        const auto quoted = findIgnoringCase(marker, kQuotedKey);
-        if (quoted != npos) {
-            const auto value = marker.substr(quoted + kQuotedKey.size());
-            const auto close = value.find('"');
-            return close == npos ? std::string_view {} : value.substr(0, close);
-        }
-        const auto plain = findIgnoringCase(marker, kKey);
-        if (plain == npos) return {};
-        const auto value = marker.substr(plain + kKey.size());
-        return value.substr(0, value.find(' '));
+/// What an option marker, without its ">", leads to. A value in quotes that holds a ">" is none:
+/// the button would end at it, and its rest would stay as text. Of `onpick=#a--` without quotes
+/// the dashes of the marker's end are part of the target.
+std::string_view targetOf(std::string_view marker)
+{
+    constexpr std::string_view kKey = "onpick=";
+    constexpr std::string_view kQuotedKey = "onpick=\"";
+    const auto quoted = findIgnoringCase(marker, kQuotedKey);
+    if (quoted != npos) {
+        const auto value = marker.substr(quoted + kQuotedKey.size());
+        const auto close = value.find('"');
+        return close == npos ? std::string_view{} : value.substr(0, close);
     }
+    const auto plain = findIgnoringCase(marker, kKey);
+    if (plain == npos) return {};
+    const auto value = marker.substr(plain + kKey.size());
+    return value.substr(0, value.find(' '));
+}
 
-    std::string button(int number, std::string_view target)
-    {
-        auto tag = "<input type=radio name=\"TempName" + std::to_string(number) + '"';
-        if (!target.empty()) {
-            tag.append(" onclick=\"javascript:navigate('");
-            std::replace_copy(target.begin(), target.end(), std::back_inserter(tag), '\\', '/');
-            tag.append("')\"");
-        }
-        return tag + '>';
+std::string button(int number, std::string_view target)
+{
+    auto tag = "<input type=radio name=\"TempName" + std::to_string(number) + '"';
+    if (!target.empty()) {
+        tag.append(" onclick=\"javascript:navigate('");
+        std::replace_copy(target.begin(), target.end(), std::back_inserter(tag), '\\', '/');
+        tag.append("')\"");
     }
+    return tag + '>';
+}
 
-    /// Cuts the first input between the option marker and its end; false where there is none.
-    bool cutInput(EditedText& text, std::size_t option)
-    {
-        const auto end = text.find(kOptionEnd, option);
-        if (end == npos) return false;
-        const auto input = text.find(kInput, option, end);
-        return input < end && text.cutTag(input) != 0;
-    }
+/// Cuts the first input between the option marker and its end; false where there is none.
+bool cutInput(EditedText& text, std::size_t option)
+{
+    const auto end = text.find(kOptionEnd, option);
+    if (end == npos) return false;
+    const auto input = text.find(kInput, option, end);
+    return input < end && text.cutTag(input) != 0;
+}
 
 } // namespace
 

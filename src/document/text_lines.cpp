@@ -32,7 +32,8 @@ std::string joinLines(std::string_view text)
     std::string joined;
     joined.reserve(text.size());
     LineReader lines(text);
-    while (const auto line = lines.next()) joined.append(*line);
+    while (const auto line = lines.next())
+        joined.append(*line);
     return joined;
 }
 
@@ -41,7 +42,8 @@ std::string withCrLf(std::string_view text)
     std::string ended;
     ended.reserve(text.size() + text.size() / 8);
     LineReader lines(text);
-    while (const auto line = lines.next()) ended.append(*line).append("\r\n");
+    while (const auto line = lines.next())
+        ended.append(*line).append("\r\n");
     return ended;
 }
 

@@ -3,9 +3,7 @@
 // The numbers of the texts that are built at run time. The texts stand in data/Skins/ResWords.ini,
 // each with a remark on where it is used. A text without a note here has no gap "<?>".
 
-namespace quillmere {
-
-namespace word {
+namespace quillmere::word {
 
 // Templates
 inline constexpr int kReplaceByTemplate = 0; ///< gap: file name
@@ -164,5 +162,4 @@ inline constexpr int kDeletingFiles = 116;
 inline constexpr int kMakingDirectory = 117;
 inline constexpr int kReadingDirectory = 118;
 
-} // namespace word
-} // namespace quillmere
+} // namespace quillmere::word

@@ -5,7 +5,8 @@
 
 namespace quillmere {
 
-// Names of work files: Wml0.htm, ... for areas; Wml0.wml, ... for generated decks and pristine copies.
+// Names of work files: Wml0.htm, ... for areas; Wml0.wml, ... for generated decks and pristine
+// copies.
 inline constexpr std::string_view kWorkFilePrefix = "Wml";
 inline constexpr std::string_view kDesignFileSuffix = ".htm";
 inline constexpr std::string_view kWmlFileSuffix = ".wml";

@@ -14,19 +14,18 @@
 namespace quillmere {
 namespace {
 
-    constexpr int kMaxNumber = std::numeric_limits<std::int16_t>::max();
+constexpr int kMaxNumber = std::numeric_limits<std::int16_t>::max();
 
-    std::optional<int> numberIn(
-        std::string_view name, std::string_view prefix, std::string_view suffix)
-    {
-        if (!name.starts_with(prefix) || !name.ends_with(suffix)) return std::nullopt;
-        if (name.size() <= prefix.size() + suffix.size()) return std::nullopt;
-        name = name.substr(prefix.size(), name.size() - prefix.size() - suffix.size());
-        int number = 0;
-        const auto [end, error] = std::from_chars(name.data(), name.data() + name.size(), number);
-        if (error != std::errc() || end != name.data() + name.size() || number < 0) return {};
-        return number;
-    }
+std::optional<int> numberIn(std::string_view name, std::string_view prefix, std::string_view suffix)
+{
+    if (!name.starts_with(prefix) || !name.ends_with(suffix)) return std::nullopt;
+    if (name.size() <= prefix.size() + suffix.size()) return std::nullopt;
+    name = name.substr(prefix.size(), name.size() - prefix.size() - suffix.size());
+    int number = 0;
+    const auto [end, error] = std::from_chars(name.data(), name.data() + name.size(), number);
+    if (error != std::errc() || end != name.data() + name.size() || number < 0) return {};
+    return number;
+}
 
 } // namespace
 
@@ -51,11 +50,10 @@ void WorkNames::release(std::string_view name)
 
 WorkNames::Pattern& WorkNames::pattern(std::string_view prefix, std::string_view suffix)
 {
-    const auto found = std::find_if(patterns_.begin(), patterns_.end(), [&](const Pattern& known) {
-        return known.prefix == prefix && known.suffix == suffix;
-    });
+    const auto found = std::find_if(patterns_.begin(), patterns_.end(),
+        [&](const Pattern& known) { return known.prefix == prefix && known.suffix == suffix; });
     if (found != patterns_.end()) return *found;
-    return patterns_.emplace_back(Pattern {std::string(prefix), std::string(suffix)});
+    return patterns_.emplace_back(Pattern{std::string(prefix), std::string(suffix)});
 }
 
 } // namespace quillmere

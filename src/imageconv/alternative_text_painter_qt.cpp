@@ -11,7 +11,6 @@
 #include <QString>
 
 #include <algorithm>
-#include <utility>
 
 namespace quillmere {
 
@@ -37,8 +36,8 @@ TextCoverage coverageOf(const QImage& image)
 
 } // namespace
 
-QtAlternativeTextPainter::QtAlternativeTextPainter(QFont font)
-    : font_(std::move(font))
+QtAlternativeTextPainter::QtAlternativeTextPainter(const QFont& font)
+    : font_(font)
 {
     // Full hinting keeps stems on whole pixels; grey levels need no knowledge of the screen's order
     // of colours.

@@ -10,7 +10,7 @@ namespace quillmere {
 class QtAlternativeTextPainter final : public AlternativeTextPainter {
 public:
     /// The size of `font` in pixels is that of the text, whatever the screen's resolution.
-    explicit QtAlternativeTextPainter(QFont font);
+    explicit QtAlternativeTextPainter(const QFont& font);
     [[nodiscard]] TextCoverage paint(std::string_view text) override;
 
 private:

@@ -65,11 +65,11 @@ TEST(FormTable, FindsFormsByVariantAndControlsByIndex)
 {
     const auto table = formsFromText(kText);
     const auto* const atLoad = findForm(table, "FRMTABLE");
-    ASSERT_EQ(atLoad, &table.forms[0]);
+    ASSERT_EQ(atLoad, table.forms.data());
     EXPECT_EQ(findForm(table, "frmTable", 0), &table.forms[1]);
     EXPECT_EQ(findForm(table, "frmTable", 1), nullptr);
     EXPECT_EQ(findForm(table, "frmNone"), nullptr);
-    EXPECT_EQ(findControl(table, *atLoad, "BtnOk"), &table.controls[0]);
+    EXPECT_EQ(findControl(table, *atLoad, "BtnOk"), table.controls.data());
     EXPECT_EQ(findControl(table, *atLoad, "optFrame", std::int16_t{0}), &table.controls[1]);
     EXPECT_EQ(findControl(table, *atLoad, "optFrame", std::int16_t{1}), &table.controls[2]);
     EXPECT_EQ(findControl(table, *atLoad, "optFrame", std::int16_t{2}), nullptr);

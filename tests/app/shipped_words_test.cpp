@@ -48,6 +48,12 @@ TEST(ShippedWords, HaveJustTheNumbersThatTheProgramAsksFor)
     EXPECT_EQ(std::set<int>(asked.begin(), asked.end()).size(), asked.size());
 }
 
+TEST(ShippedWords, AreListedAsOftenAsTheyAreNamed)
+{
+    const auto names = readFile(QUILLMERE_SOURCE_DIR "/src/document/word_ids.h");
+    EXPECT_EQ(countOf(names, "constexpr int k"), std::size(kWordIds));
+}
+
 TEST(ShippedWords, FitTheirUse)
 {
     for (const auto& use : kWordIds) {

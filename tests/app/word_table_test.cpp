@@ -37,8 +37,8 @@ TEST(WordTable, PassesOverIdsThatAreNone)
 
 TEST(WordTable, BothFormsReadAlike)
 {
-    const auto table = wordsFromText("<word id=3 group=\" g \" rem=\"ü\">" + repeated("a ", 600)
-        + "</word><word id=1>x</word>");
+    const auto table = wordsFromText(
+        "<word id=3 group=\" g \" rem=\"ü\">" + repeated("a ", 600) + "</word><word id=1>x</word>");
     EXPECT_EQ(table[3].text.size(), 1000U - 1U); // cut to the field, then without the blank
     const auto bytes = recordsOfWords(table);
     EXPECT_EQ(bytes.size(), 4 * kWordRecordSize);

@@ -111,7 +111,7 @@ TEST(Cli, AreasShowsALineForEachAreaOrJson)
     EXPECT_EQ(cli({"areas", "--json", deck}).output,
         "[{\"index\": 0, \"id\": \"a\", \"title\": \"Eins\", \"label\": \"Weiter\", "
         "\"target\": \"#b\"},\n"
-        " {\"index\": 1, \"id\": \"b\", \"title\": \"Zw\\tei\", \"label\": \"\", "
+        " {\"index\": 1, \"id\": \"b\", \"title\": \"Zw\\u0009ei\", \"label\": \"\", "
         "\"target\": \"\"}]\n");
     EXPECT_EQ(bytesOf(deck), kDeck);
 }

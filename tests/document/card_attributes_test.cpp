@@ -73,7 +73,8 @@ TEST(Jumps, AreReadFromTheFirstAcceptDo)
         Jump jump;
     };
     const Row rows[] = {
-        {"usual", "<!--do type=\"accept\" label=\"l\" name=\"n\"--><!--go href=\"#b\"/--><!--/do-->",
+        {"usual",
+            "<!--do type=\"accept\" label=\"l\" name=\"n\"--><!--go href=\"#b\"/--><!--/do-->",
             {"n", "l", "#b"}},
         {"another type", "<!--do type=\"prev\" label=\"l\"--><!--go href=\"#b\"--><!--/do-->", {}},
         {"any case and order",

@@ -29,7 +29,7 @@ std::string splitFast(const std::string& text)
     CardSplitter cards(text);
     std::string result;
     while (cards.hasMore())
-        result += told(cards.next().value_or(CardSource {}));
+        result += told(cards.next().value_or(CardSource{}));
     return result;
 }
 
@@ -93,11 +93,10 @@ std::string splitByCutting(std::string text)
 
 TEST(CardSplitter, AgreesWithRepeatedCutting)
 {
-    constexpr std::string_view kTokens[] = {"<card>", "<CARD id=\"a\">", "</card>", "</card", "<card",
-        "<do>", "</do>", ">", "x", " ", "</do", "<ca", "rd>"};
-    const auto expectSame = [](const std::string& text) {
-        ASSERT_EQ(splitFast(text), splitByCutting(text)) << text;
-    };
+    constexpr std::string_view kTokens[] = {"<card>", "<CARD id=\"a\">", "</card>", "</card",
+        "<card", "<do>", "</do>", ">", "x", " ", "</do", "<ca", "rd>"};
+    const auto expectSame
+        = [](const std::string& text) { ASSERT_EQ(splitFast(text), splitByCutting(text)) << text; };
     test::forEachSequence(kTokens, 4, expectSame);
     for (std::uint32_t seed = 0; seed < 20000; ++seed) {
         SCOPED_TRACE(seed);
@@ -123,8 +122,8 @@ TEST(CardSplitter, SplitsAndCorrects)
             kCorrected + "||<card id=\"a\">1\n<card id=\"b\">||2\n"},
         {"no end at all", "<card id=\"a\">1", "<card id=\"a\">||1\n"},
         {"a head that is cut off", "<card>1</card><card id", "<card>||1\n||\n"},
-        {"an end that is cut off stays for ever", "1</card <card", kCorrected + "||1\n"
-            + kCorrected + "||\n"},
+        {"an end that is cut off stays for ever", "1</card <card",
+            kCorrected + "||1\n" + kCorrected + "||\n"},
         {"an end within the head gives way", "<card </card><card>2", "<card>||2\n"},
     };
     for (const auto& row : rows) {
@@ -143,8 +142,9 @@ TEST(CardSplitter, EndsWhereTheTextIsTooLong)
 TEST(CardSplitter, HostileTextsTakeNoTime)
 {
     const auto begin = std::chrono::steady_clock::now();
-    for (const std::string piece : {"<", "<card", "<card>", "</card>", "<card></card>", "<card><do>",
-             "<card><do></do", "<card><do></do>", "<do></do></card><card>", "</card <card", " "}) {
+    for (const std::string piece :
+        {"<", "<card", "<card>", "</card>", "<card></card>", "<card><do>", "<card><do></do",
+            "<card><do></do>", "<do></do></card><card>", "</card <card", " "}) {
         std::string text;
         while (text.size() + piece.size() < 32600)
             text += piece;

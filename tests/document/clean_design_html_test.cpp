@@ -54,7 +54,7 @@ TEST(CleanDesignHtml, MendsWhatTheSurfaceLeaves)
             "<P>x<TABLE><TR><TD>a<br/></TD></TR><TR></TR></TABLE></p><!--/card-->"},
         {"blanks in text", "<P>a  b </P>", "<P>a  b</p><!--/card-->"},
         {"blanks ahead of a tag", "<P>a</P> \r\n <P align=\"left\">b</P>",
-            "<P>a</P><P align=\"left\">b</P><!--/card-->"},
+            "<P>a</P><P align=\"left\">b</p><!--/card-->"},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);

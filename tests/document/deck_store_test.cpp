@@ -82,7 +82,8 @@ TEST(LoadDeck, AnyTextGivesAnArea)
 TEST(LoadDeck, ReadsTheFileOfThePerson)
 {
     const test::ScratchFolder folder;
-    folder.put("deck.wml", "\xEF\xBB\xBF<wml><card id=\"a\"><p>\xC3\xA4\xE2\x82\xAC</p></card></wml>");
+    folder.put(
+        "deck.wml", "\xEF\xBB\xBF<wml><card id=\"a\"><p>\xC3\xA4\xE2\x82\xAC</p></card></wml>");
     StoreSession store;
     LoadDeck(store.session, {"deck.wml", folder.path(), "", ""}, 1);
     const auto& first = store.session.deck.front();
@@ -235,8 +236,8 @@ TEST(DeckStore, WorksOnADisk)
     StoreSession other; // for all but the work files
     {
         DiskWorkFiles files(folder.path());
-        DocumentSession session {files, other.copies, other.session.prompter,
-            other.session.settings, other.session.words, OutputRules(), {}};
+        DocumentSession session{files, other.copies, other.session.prompter, other.session.settings,
+            other.session.words, OutputRules(), {}};
         LoadDeck(session, {"deck.wml", folder.path() + "decks/", "", ""});
         WriteDeck(session);
         const auto& first = session.deck.front();
@@ -257,7 +258,8 @@ TEST(DeckStore, ThousandsOfCardsTakeNoTime)
         const auto begin = std::chrono::steady_clock::now();
         StoreSession store;
         store.load(text);
-        EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::milliseconds(500)) << piece;
+        EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::milliseconds(500))
+            << piece;
     }
 }
 

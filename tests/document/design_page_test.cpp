@@ -29,7 +29,7 @@ TEST(DesignPage, TakesColourAndFontFromTheDeviceOfItsKind)
 {
     test::StoreSession store;
     auto& session = store.session;
-    PageStyle device {0x0000FF, 8, "  Courier New   "};
+    PageStyle device{0x0000FF, 8, "  Courier New   "};
     session.devices[1] = &device;
     session.twipsPerPixel = 12;
     EXPECT_EQ(DesignPageLine(session, 1, PageSection::Head, 4),

@@ -48,7 +48,7 @@ public:
         : handler_(std::signal(SIGXFSZ, SIG_IGN))
     {
         ::getrlimit(RLIMIT_FSIZE, &old_);
-        const rlimit small {bytes, old_.rlim_max};
+        const rlimit small{bytes, old_.rlim_max};
         ::setrlimit(RLIMIT_FSIZE, &small);
     }
     SmallDisk(const SmallDisk&) = delete;
@@ -62,7 +62,7 @@ public:
     }
 
 private:
-    rlimit old_ {};
+    rlimit old_{};
     void (*handler_)(int);
 };
 

@@ -59,7 +59,8 @@ TEST(RadioButtons, ComeAndGoWithoutTrace)
         "onclick=\"javascript:navigate('C:/a/b.wml')\">Eins<br/><!--/option--><!--option-->"
         "<input type=radio name=\"TempName2\">Zwei<!--/option--><!--/select--><br/></p>");
     EXPECT_EQ(deleted(inserted(list)), list);
-    EXPECT_EQ(deleted("<!--option--><INPUT type=radio name=TempName7><INPUT>x<!--/option--><input>"),
+    EXPECT_EQ(
+        deleted("<!--option--><INPUT type=radio name=TempName7><INPUT>x<!--/option--><input>"),
         "<!--option-->x<!--/option--><input>");
 }
 

@@ -14,7 +14,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-template <class Store> class WorkFilesTest : public testing::Test { };
+template <class Store> class WorkFilesTest : public testing::Test {
+};
 using Stores = testing::Types<MemoryWorkFiles, DiskWorkFiles>;
 TYPED_TEST_SUITE(WorkFilesTest, Stores);
 

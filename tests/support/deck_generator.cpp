@@ -40,7 +40,7 @@ public:
         deck_ = kProlog;
         const auto encoding = deck_.find("{E}");
         deck_.replace(encoding, 3, options_.eightBit ? " encoding=\"windows-1252\""sv : ""sv);
-        for (int number = 1; number == 1 || deck_.size() + 80 < options_.targetBytes; ++number)
+        for (int number = 1; number == 1 || needsCard(); ++number)
             addCard(number);
         deck_ += "</wml>\n";
         if (fault() && random_.chance(0.5)) deck_.resize(random_.below(deck_.size()));
@@ -48,6 +48,11 @@ public:
     }
 
 private:
+    [[nodiscard]] bool needsCard() const
+    {
+        return !options_.oneCard && deck_.size() + 80 < options_.targetBytes;
+    }
+
     bool fault() { return options_.brokenness > 0 && random_.chance(options_.brokenness); }
 
     std::string_view pick(std::span<const std::string_view> rows)
@@ -90,7 +95,8 @@ private:
         const auto name = std::to_string(number);
         open({"card id=\"k", name, "\" title=\"Karte ", name, "\" newcontext=\"true\""});
         deck_ += '\n';
-        const auto end = deck_.size() + 150 + random_.below(700);
+        const auto length = 150 + random_.below(700);
+        const auto end = options_.oneCard ? options_.targetBytes : deck_.size() + length;
         while (deck_.size() < end && deck_.size() + 60 < options_.targetBytes)
             addParagraph();
         if (random_.chance(0.7)) addDo(number + 1);

@@ -10,6 +10,7 @@ namespace quillmere::test {
 struct DeckOptions {
     std::size_t targetBytes = 1500; ///< the deck is as long, give or take the last element
     double brokenness = 0; ///< 0: well-formed WML 1.1; else about so many faults per element
+    bool oneCard = false; ///< all in one card instead of cards of some hundred bytes
     bool eightBit = true; ///< text with accents in Windows-1252
     std::string_view pictures = "bild"; ///< pictures are named so, with a number and ".wbmp"
 };

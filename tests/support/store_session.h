@@ -40,7 +40,7 @@ private:
 class StoreSession {
 public:
     explicit StoreSession(OutputRules rules = OutputRules())
-        : session {workFiles, copies, prompter_, settings_, words_, rules, {}}
+        : session{workFiles, copies, prompter_, settings_, words_, rules, {}}
     {
     }
     /// Makes a deck of one area with this design work file.

@@ -1,0 +1,136 @@
+// The deck is one generated piece over and over, so that it has the same mix of elements at every
+// size and times compare. Texts of later stages are made by the steps themselves; since design text
+// is longer than its WML the piece is generated again, smaller, until the text fits the size.
+
+#include "bench_inputs.h"
+
+#include "cli/core_session.h"
+#include "document/clean_design_html.h"
+#include "document/deck_store.h"
+#include "document/design_text.h"
+#include "document/design_to_wml.h"
+#include "document/failure.h"
+#include "document/radio_buttons.h"
+#include "support/deck_generator.h"
+
+namespace quillmere::bench {
+
+namespace {
+
+constexpr Shape kShapes[] = {
+    {"deck", ""},
+    {"less", "<"},
+    {"greater", ">"},
+    {"blanks", " "},
+    {"nestedTag", "<a"},
+    {"quotes", "<a href=\"x"},
+    {"emptyPairs", "<b></b>"},
+    {"overlaps", "<b><i></b></i>"},
+    {"neverClosed", "<p>x<b>y<table>"},
+    {"onlyEnds", "</p>x</b></td>"},
+    {"options", "<!--option-->x"},
+    {"selects", "<select><option>x</option></select>"},
+    {"markers", "<!--do--><!--go-->"},
+    {"emptyParagraphs", "<p>&nbsp;</p>"},
+    {"rows", "<table><tr>x</tr>y"},
+    {"breaks", "<br/>x"},
+    {"cards", "<card id=\"a\">x</card>"},
+};
+
+constexpr std::uint64_t kSeed = 20;
+
+std::string repeated(std::string_view piece, std::size_t size)
+{
+    std::string text;
+    text.reserve(size);
+    while (text.size() + piece.size() <= size)
+        text += piece;
+    return text;
+}
+
+constexpr std::size_t kPieceBytes = 2000; // all sizes are multiples of it
+
+/// What stands between two texts that the generator writes once.
+std::string between(const std::string& deck, std::string_view open, std::string_view close)
+{
+    const auto begin = deck.find(open) + open.size();
+    return deck.substr(begin, deck.find(close, begin) - begin);
+}
+
+constexpr std::string_view kHead = "<?xml version=\"1.0\"?>\n<wml>\n";
+
+std::string cardsDeck(std::size_t size)
+{
+    const auto deck = test::generateDeck(kSeed, {.targetBytes = kPieceBytes});
+    const auto cards = between(deck, "<wml>\n", "</wml>");
+    return std::string(kHead) + repeated(cards, size) + "</wml>\n";
+}
+
+/// A deck of `count` pieces in one card, each made of about `pieceBytes`.
+std::string oneCardDeck(std::size_t count, std::size_t pieceBytes)
+{
+    const auto deck = test::generateDeck(kSeed, {.targetBytes = pieceBytes, .oneCard = true});
+    const auto piece = between(deck, "newcontext=\"true\">", "<do");
+    std::string text(kHead);
+    text += "<card id=\"k1\" title=\"Karte\">";
+    for (; count > 0; --count)
+        text += piece;
+    return text + "<do type=\"accept\" label=\"Los\"><go href=\"#k1\"/></do></card></wml>";
+}
+
+std::string bodyOf(const std::string& deck)
+{
+    return between(deck, "title=\"Karte\">", "</wml>");
+}
+
+std::string designOf(const std::string& deck)
+{
+    cli::CoreSession core(false);
+    auto& files = core.workFiles;
+    const auto name = files.createFile("Wml", ".wml");
+    files.write(files.directory() + name, deck);
+    LoadDeck(core.session, {"deck.wml", {}, name, files.directory()});
+    auto text = joinLines(files.read(core.session.deck.front().designFile));
+    DeleteAllTemporaeryRadioButtons(text);
+    return text;
+}
+
+std::string textAt(Stage stage, const std::string& deck)
+{
+    if (stage == Stage::Wml) return bodyOf(deck);
+    auto text = designOf(deck);
+    const OutputRules rules;
+    if (stage != Stage::Design) CleanDesignHtml(text, rules);
+    if (stage != Stage::Converted) return text;
+    cli::CoreSession core(false);
+    DesignToWml(text, core.session);
+    return text;
+}
+
+} // namespace
+
+std::span<const Shape> shapes()
+{
+    return kShapes;
+}
+
+std::string inputOf(const Shape& shape, Stage stage, std::size_t size)
+{
+    if (!shape.piece.empty()) return repeated(shape.piece, size);
+    for (auto bytes = kPieceBytes;; bytes -= kPieceBytes / 20) {
+        try {
+            auto text = textAt(stage, oneCardDeck(size / kPieceBytes, bytes));
+            if (text.size() <= size) return text;
+        } catch (const Overflow&) {
+            continue; // design text is longer by far
+        }
+    }
+}
+
+std::string deckOf(const Shape& shape, std::size_t size)
+{
+    if (!shape.piece.empty()) return repeated(shape.piece, size);
+    return cardsDeck(size);
+}
+
+} // namespace quillmere::bench

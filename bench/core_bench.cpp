@@ -1,0 +1,190 @@
+// Each operation of the core on each shape at rising sizes, named OPERATION/SHAPE/BYTES. A text
+// that the operation refuses is measured up to there and labelled with the failure. The script
+// growth runs this and judges how times rise with sizes.
+
+#include "bench_inputs.h"
+#include "cli/core_session.h"
+#include "document/clean_design_html.h"
+#include "document/deck_changes.h"
+#include "document/deck_store.h"
+#include "document/design_to_wml.h"
+#include "document/do_block.h"
+#include "document/failure.h"
+#include "document/format_around_select.h"
+#include "document/format_nesting.h"
+#include "document/paragraphs.h"
+#include "document/radio_buttons.h"
+#include "document/wml_layout.h"
+#include "document/wml_to_design.h"
+
+#include <benchmark/benchmark.h>
+
+#include <functional>
+
+namespace quillmere::bench {
+
+namespace {
+
+constexpr std::size_t kSizes[] = {2000, 4000, 8000, 16000, 30000};
+
+using Step = std::function<void(std::string&, DocumentSession&)>;
+
+struct Operation {
+    const char* name;
+    Stage stage; ///< of its input
+    Step run;
+};
+
+void withoutSession(std::vector<Operation>& rows)
+{
+    const OutputRules rules;
+    const auto add = [&](const char* name, Stage stage, std::function<void(std::string&)> run) {
+        rows.push_back({name, stage, [run](std::string& text, DocumentSession&) { run(text); }});
+    };
+    add("CleanDesignHtml", Stage::Design, [=](auto& text) { CleanDesignHtml(text, rules); });
+    add("TransliterateGerman", Stage::Design,
+        [=](auto& text) { TransliterateGerman(text, rules); });
+    add("TakeDoBlock", Stage::Wml, [](auto& text) { (void)TakeDoBlock(text); });
+    add("RepairNesting", Stage::Wml, RepairNesting);
+    add("RepairFormatNesting", Stage::Design, RepairFormatNesting);
+    add("WrapInParagraph", Stage::Design, [](auto& text) { WrapInParagraph(text, "<a", "</a"); });
+    add("SplitAtParagraphs", Stage::Design,
+        [](auto& text) { SplitAtParagraphs(text, "<b>", "</b>"); });
+    add("InsertTemporaeryRadioButtons", Stage::Design, InsertTemporaeryRadioButtons);
+    add("DeleteAllTemporaeryRadioButtons", Stage::Design, DeleteAllTemporaeryRadioButtons);
+    add("RepairParagraphs", Stage::Converted,
+        [](auto& text) { RepairParagraphs(text.insert(0, "<card>").append("</card>")); });
+    add("BreakWmlLines", Stage::Converted,
+        [](auto& text) { BreakWmlLines(text.insert(0, "<wml>")); });
+    add("RestoreWhitespace", Stage::Converted,
+        [](auto& text) { RestoreWhitespace(text, std::string(text)); });
+}
+
+std::vector<Operation> textOperations()
+{
+    std::vector<Operation> rows;
+    withoutSession(rows);
+    rows.push_back({"WmlToDesign", Stage::Wml,
+        [](auto& text, auto& session) { WmlToDesign(text, 0, session); }});
+    rows.push_back({"DesignToWml", Stage::Cleaned,
+        [](auto& text, auto& session) { DesignToWml(text, session); }});
+    rows.push_back({"RepairFormatAroundSelect", Stage::Wml,
+        [](auto& text, auto& session) { RepairFormatAroundSelect(text, session); }});
+    return rows;
+}
+
+/// Runs `round` as often as the benchmark wants; a failure is part of what is measured.
+void measure(benchmark::State& state, std::size_t size, const std::function<void()>& round)
+{
+    std::string refused;
+    for ([[maybe_unused]] auto _ : state) {
+        try {
+            round();
+        } catch (const RuntimeFailure& failure) {
+            refused = failure.what();
+        }
+    }
+    if (!refused.empty()) state.SetLabel("refused");
+    state.SetBytesProcessed(static_cast<std::int64_t>(size) * state.iterations());
+}
+
+void measureText(benchmark::State& state, const Operation& operation, const std::string& input)
+{
+    cli::CoreSession core(false);
+    std::string text;
+    measure(state, input.size(), [&] {
+        text = input;
+        operation.run(text, core.session);
+        benchmark::DoNotOptimize(text.data());
+    });
+}
+
+void load(cli::CoreSession& core, const std::string& deck)
+{
+    auto& files = core.workFiles;
+    const auto name = files.createFile("Wml", ".wml");
+    files.write(files.directory() + name, deck);
+    LoadDeck(core.session, {"deck.wml", {}, name, files.directory()});
+}
+
+void measureLoad(benchmark::State& state, const std::string& deck)
+{
+    measure(state, deck.size(), [&] {
+        cli::CoreSession core(false);
+        load(core, deck);
+    });
+}
+
+void measureWrite(benchmark::State& state, const std::string& deck)
+{
+    cli::CoreSession core(false);
+    try {
+        load(core, deck);
+    } catch (const RuntimeFailure&) {
+        return state.SkipWithError("cannot be loaded");
+    }
+    measure(state, deck.size(), [&] { WriteDeck(core.session); });
+}
+
+void measureChanges(benchmark::State& state, const std::string& deck)
+{
+    cli::CoreSession core(false);
+    std::string written = deck;
+    try {
+        load(core, deck);
+        WriteDeck(core.session);
+        written = core.workFiles.read(core.session.deck.front().wmlFile);
+    } catch (const RuntimeFailure&) {
+        written.clear(); // then all is lost
+    }
+    measure(state, deck.size(), [&] { benchmark::DoNotOptimize(DeckChanges(deck, written)); });
+}
+
+using DeckMeasure = void (*)(benchmark::State&, const std::string&);
+
+struct DeckOperation {
+    const char* name;
+    DeckMeasure measure;
+};
+
+constexpr DeckOperation kDeckOperations[]
+    = {{"LoadDeck", measureLoad}, {"WriteDeck", measureWrite}, {"DeckChanges", measureChanges}};
+
+std::string benchmarkName(const char* operation, const Shape& shape, std::size_t size)
+{
+    std::string name = operation;
+    return name.append("/").append(shape.name).append("/").append(std::to_string(size));
+}
+
+void registerAll(const Shape& shape, std::size_t size)
+{
+    static const auto operations = textOperations();
+    for (const auto& operation : operations) {
+        benchmark::RegisterBenchmark(benchmarkName(operation.name, shape, size).c_str(),
+            [&operation, &shape, size](benchmark::State& state) {
+                measureText(state, operation, inputOf(shape, operation.stage, size));
+            });
+    }
+    for (const auto& operation : kDeckOperations) {
+        benchmark::RegisterBenchmark(benchmarkName(operation.name, shape, size).c_str(),
+            [&operation, &shape, size](
+                benchmark::State& state) { operation.measure(state, deckOf(shape, size)); });
+    }
+}
+
+} // namespace
+
+} // namespace quillmere::bench
+
+int main(int argc, char** argv)
+{
+    for (const auto& shape : quillmere::bench::shapes()) {
+        for (const auto size : quillmere::bench::kSizes)
+            quillmere::bench::registerAll(shape, size);
+    }
+    benchmark::Initialize(&argc, argv);
+    if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
+    benchmark::RunSpecifiedBenchmarks();
+    benchmark::Shutdown();
+    return 0;
+}
