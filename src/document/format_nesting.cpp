@@ -1,15 +1,13 @@
 // RepairOnePair reads the tags of the pair from left to right and cuts as it goes; what a cut joins
-// is read again. RepairOverlap plans all its moves on the tags' offsets and makes them in one
-// rewriting; only where a moved tag could leave a new one behind does it move one at a time.
+// is read again. The pairs that may overlap share one look for their tags until something moves.
 // Held by format_nesting_test.cpp, which repairs with plain searches.
 
 #include "document/format_nesting.h"
 
+#include "document/format_overlap.h"
 #include "document/limits.h"
-#include "document/overlap_plan.h"
 #include "document/tag_places.h"
 #include "document/text_cutter.h"
-#include "document/text_edits.h"
 #include "document/text_search.h"
 
 #include <algorithm>
@@ -107,64 +105,6 @@ constexpr std::array<TagPair, 5> kOverlappingPairs{{
     {"<u>", "</u>"},
 }};
 
-class OverlapRepair {
-public:
-    OverlapRepair(std::string& text, const TagPair& a, const TagPair& b)
-        : text_(text)
-        , a_(a)
-        , b_(b)
-    {
-    }
-
-    /// Whether something moved. The tags are those of the text.
-    bool run(const OverlapTags& tags)
-    {
-        if (tags.openA.empty() || tags.closeA.empty() || tags.closeB.empty()) return false;
-        const auto moves = planOverlapMoves(tags);
-        if (moves.empty()) return false;
-        const std::array cut{a_.close, b_.close};
-        const std::array others{a_.open, b_.open};
-        if (cutsCanJoin(text_, cut, others))
-            moveOneByOne();
-        else
-            apply(moves);
-        return true;
-    }
-
-private:
-    void apply(std::span<const TagMove> moves)
-    {
-        TextEdits edits;
-        for (const TagMove& move : moves) {
-            const std::string_view tag = move.isA ? a_.close : b_.close;
-            edits.insert(move.target, tag);
-            edits.drop(move.source, move.source + tag.size());
-        }
-        edits.applyTo(text_);
-    }
-
-    void moveOneByOne()
-    {
-        const std::array keys{a_.open, a_.close, b_.open, b_.close};
-        for (std::size_t resumeAt = 0;;) {
-            const auto places = tagPlaces(text_, keys);
-            std::span<const TagOffset> openA = places[0];
-            while (!openA.empty() && openA.front() < resumeAt)
-                openA = openA.subspan(1);
-            const auto moves = planOverlapMoves({openA, places[1], places[2], places[3]});
-            if (moves.empty()) return;
-            const auto first = std::min_element(moves.begin(), moves.end(),
-                [](const TagMove& x, const TagMove& y) { return x.begunAt < y.begunAt; });
-            apply({&*first, 1});
-            resumeAt = first->begunAt + 1U;
-        }
-    }
-
-    std::string& text_;
-    TagPair a_;
-    TagPair b_;
-};
-
 /// The places of the open and the close tag of each pair.
 std::vector<Places> placesOf(std::string_view text, std::span<const TagPair> pairs)
 {
@@ -214,8 +154,8 @@ void RepairOverlap(std::string& text, std::string_view openA, std::string_view c
     if (findIgnoringCase(openB, openA) != npos) return;
     const std::array keys{openA, closeA, openB, closeB};
     const auto places = tagPlaces(text, keys);
-    OverlapRepair(text, {openA, closeA}, {openB, closeB})
-        .run({places[0], places[1], places[2], places[3]});
+    nestOverlaps(
+        text, {openA, closeA}, {openB, closeB}, {places[0], places[1], places[2], places[3]});
 }
 
 void RepairFormatNesting(std::string& text)
@@ -225,9 +165,9 @@ void RepairFormatNesting(std::string& text)
     for (std::size_t a = 0; a < kOverlappingPairs.size(); ++a) {
         for (std::size_t b = 0; b < kOverlappingPairs.size(); ++b) {
             if (a == b) continue;
-            OverlapRepair repair(text, kOverlappingPairs[a], kOverlappingPairs[b]);
-            if (repair.run({places[2 * a], places[2 * a + 1], places[2 * b], places[2 * b + 1]}))
-                places = placesOf(text, kOverlappingPairs);
+            const bool moved = nestOverlaps(text, kOverlappingPairs[a], kOverlappingPairs[b],
+                {places[2 * a], places[2 * a + 1], places[2 * b], places[2 * b + 1]});
+            if (moved) places = placesOf(text, kOverlappingPairs);
         }
     }
 }

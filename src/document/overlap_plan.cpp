@@ -5,7 +5,6 @@
 #include "document/overlap_plan.h"
 
 #include <algorithm>
-#include <compare>
 #include <iterator>
 #include <utility>
 
@@ -16,7 +15,10 @@ namespace {
 struct Place {
     TagOffset offset;
     std::int8_t rank = 0;
-    auto operator<=>(const Place&) const = default;
+    bool operator<(const Place& other) const
+    {
+        return std::pair(offset, rank) < std::pair(other.offset, other.rank);
+    }
 };
 
 struct Tag {
@@ -37,7 +39,7 @@ public:
 
     void goBehind(TagOffset offset)
     {
-        while (next_ < tags_.size() && tags_[next_].place <= Place{offset})
+        while (next_ < tags_.size() && !(Place{offset} < tags_[next_].place))
             ++next_;
     }
     [[nodiscard]] bool exists() const { return next_ < tags_.size(); }

@@ -4,6 +4,7 @@
 
 #include "document/paragraphs.h"
 
+#include "document/crossing_formats.h"
 #include "document/limits.h"
 #include "document/text_cutter.h"
 #include "document/text_edits.h"
@@ -58,126 +59,6 @@ private:
     std::optional<std::size_t> lastBegin_;
     std::optional<std::size_t> lastEnd_;
 };
-
-/// Gives each paragraph that a format crosses its own pair.
-class CrossingSplit {
-public:
-    CrossingSplit(std::string_view text, std::string_view open, std::string_view close)
-        : text_(text)
-        , open_(open)
-        , close_(close)
-        , lastClose_(findLastIgnoringCase(text, close))
-        , begins_(text, kBegin)
-        , tagEnds_(text, ">")
-    {
-    }
-
-    [[nodiscard]] TextEdits edits()
-    {
-        if (lastClose_ == npos) return {};
-        // Behind the last end no element crosses a paragraph.
-        for (auto at = text_.find('<'); at < lastClose_; at = text_.find('<', at + 1))
-            readTag(at);
-        return std::move(edits_);
-    }
-
-private:
-    void readTag(std::size_t at)
-    {
-        for (; seen_ < reopened_.size() && reopened_[seen_] <= at; ++seen_)
-            isOpen_ = true;
-        if (standsAt(text_, at, open_)) {
-            isOpen_ = true;
-        } else if (standsAt(text_, at, close_)) {
-            isOpen_ = false;
-        } else if (standsAt(text_, at, kEnd)) {
-            if (isOpen_) splitAt(at);
-            isOpen_ = false; // what was begun has its end here, or no paragraph to go on in
-        }
-    }
-
-    void splitAt(std::size_t paragraphEnd)
-    {
-        const auto next = begins_.next(paragraphEnd);
-        const auto tagEnd = next == npos ? npos : tagEnds_.next(next);
-        if (tagEnd == npos) return;
-        edits_.insert(paragraphEnd, close_);
-        edits_.insert(tagEnd + 1, open_);
-        reopened_.push_back(tagEnd + 1);
-    }
-
-    std::string_view text_;
-    std::string_view open_;
-    std::string_view close_;
-    std::size_t lastClose_;
-    ForwardFinder begins_;
-    ForwardFinder tagEnds_;
-    TextEdits edits_;
-    std::vector<std::size_t> reopened_; // where the format begins again, in rising order
-    std::size_t seen_ = 0; // how many of reopened_ lie ahead
-    bool isOpen_ = false; // a format has begun in this paragraph
-};
-
-/// Finds what is neither tag nor blank, from places behind a tag that do not go back.
-class ContentFinder {
-public:
-    ContentFinder(std::string_view text, std::string_view close)
-        : text_(text)
-        , close_(close)
-    {
-    }
-
-    [[nodiscard]] std::size_t next(std::size_t from)
-    {
-        if (from > answer_) answer_ = search(from);
-        return answer_;
-    }
-
-private:
-    [[nodiscard]] std::size_t search(std::size_t at) const
-    {
-        while (at < text_.size()) {
-            if (text_[at] == '<') {
-                const auto end = text_.find('>', at);
-                if (end == npos || hidesClose(text_.substr(at, end + 1 - at))) return at;
-                at = end;
-            } else if (text_[at] != ' ') {
-                return at;
-            }
-            ++at;
-        }
-        return at;
-    }
-
-    /// "<x</b>": up to the end of the element the '<' belongs to no tag.
-    [[nodiscard]] bool hidesClose(std::string_view tag) const
-    {
-        return tag.size() > close_.size() && standsAt(tag, tag.size() - close_.size(), close_);
-    }
-
-    std::string_view text_;
-    std::string_view close_;
-    std::size_t answer_ = 0;
-};
-
-void dropPairsWithoutText(std::string& text, std::string_view open, std::string_view close)
-{
-    TextEdits edits;
-    ForwardFinder opens(text, open);
-    ForwardFinder closes(text, close);
-    ContentFinder content(text, close);
-    std::size_t closesFrom = 0;
-    for (auto at = opens.next(0); at != npos; at = opens.next(at + 1)) {
-        const auto begin = at + open.size();
-        const auto end = closes.next(std::max(begin, closesFrom));
-        if (end == npos) break;
-        if (content.next(begin) < end) continue;
-        edits.drop(at, begin);
-        edits.drop(end, end + close.size());
-        closesFrom = end + close.size();
-    }
-    edits.applyTo(text);
-}
 
 /// The codes 48 to 90, with small letters as capitals: the signs between digits and letters count
 /// as well, so that any tag does.
@@ -270,8 +151,8 @@ void SplitAtParagraphs(std::string& text, std::string_view openTag, std::string_
     requireAddressable(text);
     if (findIgnoringCase(text, openTag) == npos) return;
     std::string result = text;
-    CrossingSplit(result, openTag, closeTag).edits().applyTo(result);
-    dropPairsWithoutText(result, openTag, closeTag);
+    splitCrossingFormats(result, openTag, closeTag);
+    dropFormatsWithoutText(result, openTag, closeTag);
     text = std::move(result);
 }
 

@@ -58,14 +58,20 @@ TEST(RestoreWhitespace, AgreesWithPlainSearches)
 
 TEST(WmlLayout, GivesAHandMadeDeckItsLinesBack)
 {
-    const std::string pristine
-        = "<?xml version=\"1.0\"?>\r\n\r\n<wml>\r\n  <card id=\"a\">\r\n\r\n"
-          "    <p>one <b>two</b>\r\n    <br/></p>\r\n  </card>\r\n</wml>\r\n";
+    const std::string pristine = R"(<?xml version="1.0"?>
+
+<wml>
+  <card id="a">
+
+    <p>one <b>two</b>
+    <br/></p>
+  </card>
+</wml>)";
     std::string deck
-        = "<?xml version=\"1.0\"?><wml><card id=\"a\"><p>one <b>two</b><br/></p></card></wml>";
+        = R"(<?xml version="1.0"?><wml><card id="a"><p>one <b>two</b><br/></p></card></wml>)";
     BreakWmlLines(deck);
     RestoreWhitespace(deck, pristine);
-    EXPECT_EQ(deck + "\r\n", pristine);
+    EXPECT_EQ(deck, pristine);
     const std::string saved = deck;
     RestoreWhitespace(deck, saved);
     EXPECT_EQ(deck, saved) << "a deck must not grow from save to save";

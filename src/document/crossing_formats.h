@@ -1,0 +1,18 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+// The two sweeps over a format whose elements must stay within paragraphs. Tags are given whole.
+// Both work in place and throw Overflow where the text gets longer than positions can tell.
+
+namespace quillmere {
+
+/// Ends an element that crosses a paragraph's end there and begins it again in the next paragraph.
+/// Without a next paragraph the element stays as it is.
+void splitCrossingFormats(std::string& text, std::string_view open, std::string_view close);
+
+/// Deletes the tags of elements that hold tags and blanks only; what is in them stays.
+void dropFormatsWithoutText(std::string& text, std::string_view open, std::string_view close);
+
+} // namespace quillmere
