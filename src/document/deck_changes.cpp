@@ -90,7 +90,8 @@ private:
             if (match_.read[j] == kNoItem && !collect(written_, j, added)) listAdded(j);
         }
         compareWords(lost, added);
-        std::stable_sort(changes_.begin() + begin, changes_.end(), standsAhead);
+        if (!std::is_sorted(changes_.begin() + begin, changes_.end(), standsAhead))
+            std::stable_sort(changes_.begin() + begin, changes_.end(), standsAhead);
     }
 
     /// By their places in what was read, and then what was added.
