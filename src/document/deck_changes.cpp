@@ -64,6 +64,7 @@ public:
             listGap(from, anchor);
             if (read_.item(anchor.left).kind == DeckItem::Kind::Start)
                 compareAttributes(anchor.left, anchor.right);
+            if (read_.item(anchor.left).kind == DeckItem::Kind::Word) compareBlanks(anchor);
             if (match_.moved[anchor.left]) listMoved(anchor.left);
             if (match_.written[anchor.left] == kNoItem) listLost(anchor.left);
             if (match_.read[anchor.right] == kNoItem) listAdded(anchor.right);
@@ -90,7 +91,8 @@ private:
             if (match_.read[j] == kNoItem && !collect(written_, j, added)) listAdded(j);
         }
         compareWords(lost, added);
-        std::stable_sort(changes_.begin() + begin, changes_.end(), standsAhead);
+        if (!std::is_sorted(changes_.begin() + begin, changes_.end(), standsAhead))
+            std::stable_sort(changes_.begin() + begin, changes_.end(), standsAhead);
     }
 
     /// By their places in what was read, and then what was added.
@@ -164,6 +166,18 @@ private:
         for (const auto& run : runs(added))
             changes_.push_back({Kind::Added, Subject::Words, written_.element(run.front()), {}, {},
                 written_.words(run), run.size(), {}, written_.place(run.front())});
+    }
+
+    /// Tells where a word has grown together with the one ahead of it, or come apart.
+    void compareBlanks(MatchedPair word)
+    {
+        if (read_.item(word.left).joined == written_.item(word.right).joined) return;
+        const auto before = read_.wordAheadInLine(word.left);
+        const auto after = written_.wordAheadInLine(word.right);
+        if (before == kNoItem || after == kNoItem || match_.written[before] != after) return;
+        changes_.push_back({Kind::Changed, Subject::Words, read_.element(word.left), {},
+            read_.words({before, word.left}), written_.words({after, word.right}), 2,
+            read_.place(before), written_.place(after)});
     }
 
     /// Words that follow each other without a tag between.

@@ -48,10 +48,11 @@ struct DeckChangesReport {
 
 /// Compares two decks, both as Windows-1252 text, by elements, attributes, comments and the words
 /// of their text. No change are: case of the names of elements and attributes, order and quotes of
-/// attributes, "<br></br>" for "<br/>", white space, and a reference for its character or the
-/// other way round. What left its place is told as moved, not as lost, if it is in its card still.
-/// An attribute of an element that is lost or added as a whole is told with that element only.
-/// Any text can be compared, and the time grows in proportion to its length.
+/// attributes, "<br></br>" for "<br/>", white space that does not show, and a reference for its
+/// character or the other way round. White space between words shows, also where a format or link
+/// begins or ends between them. What left its place is told as moved, not as lost, if it is in its
+/// card still. An attribute of an element that is lost or added as a whole is told with that
+/// element only. Any text can be compared, and the time grows in proportion to its length.
 [[nodiscard]] DeckChangesReport DeckChanges(std::string_view read, std::string_view written);
 
 } // namespace quillmere

@@ -25,6 +25,8 @@ public:
 
     void read()
     {
+        deck_.items.reserve(2 * deck_.document.tokens.size());
+        closed_.reserve(2 * deck_.document.tokens.size());
         for (token_ = 0; token_ < deck_.document.tokens.size(); ++token_)
             readToken(deck_.document.tokens[token_]);
     }

@@ -6,6 +6,7 @@
 #include "document/windows1252.h"
 
 #include <algorithm>
+#include <iterator>
 #include <utility>
 
 namespace quillmere {
@@ -15,6 +16,15 @@ namespace {
 bool isTag(const DeckItem& item)
 {
     return item.kind == DeckItem::Kind::Start || item.kind == DeckItem::Kind::End;
+}
+
+constexpr std::string_view kInLine[] = {"a", "b", "big", "em", "i", "small", "strong", "u"};
+
+bool isInLine(const DeckItem& item)
+{
+    if (item.kind == DeckItem::Kind::Comment) return true;
+    return isTag(item)
+        && std::find(std::begin(kInLine), std::end(kInLine), item.name) != std::end(kInLine);
 }
 
 } // namespace
@@ -37,6 +47,15 @@ std::string DeckSide::words(const std::vector<std::size_t>& items) const
         text += item(at).name;
     }
     return withReferences(std::move(text));
+}
+
+std::size_t DeckSide::wordAheadInLine(std::size_t at) const
+{
+    while (at-- > 0) {
+        if (item(at).kind == DeckItem::Kind::Word) return at;
+        if (!isInLine(item(at))) return kNoItem;
+    }
+    return kNoItem;
 }
 
 std::vector<MarkupAttribute> DeckSide::attributes(std::size_t start) const

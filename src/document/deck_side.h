@@ -30,6 +30,9 @@ struct DeckSide {
     [[nodiscard]] std::string text(std::size_t at) const;
     /// Words with blanks where white space stands between them.
     [[nodiscard]] std::string words(const std::vector<std::size_t>& items) const;
+    /// The word ahead of the word `at` if only formats and links begin or end between them, so that
+    /// white space there shows; kNoItem if anything else is there.
+    [[nodiscard]] std::size_t wordAheadInLine(std::size_t at) const;
     /// The attributes of a start in the order of their lower-case names.
     [[nodiscard]] std::vector<MarkupAttribute> attributes(std::size_t start) const;
 };

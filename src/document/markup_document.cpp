@@ -26,6 +26,8 @@ public:
 
     MarkupDocument read()
     {
+        const auto opened = std::count(in_.text.begin(), in_.text.end(), '<');
+        in_.document.tokens.reserve(static_cast<std::size_t>(opened) * 3 / 2 + 1);
         while (in_.at < in_.text.size()) {
             if (!beginsMarkup(in_.at)) {
                 readText();

@@ -65,6 +65,8 @@ TEST(DeckChanges, ToldWithTheirPlaces)
         {"changed words", "<p>f\xFCr M\xFCller da</p>", "<p>fuer Mueller da</p>",
             "~f\xFCr M\xFCller=>fuer Mueller 1:4 1:4"},
         {"grown together", "<p>eins\nzwei</p>", "<p>einszwei</p>", "~eins zwei=>einszwei 1:4 1:4"},
+        {"blank ahead of a format", "<p>eins <b>zwei</b><br/> drei</p>",
+            "<p>eins<b>zwei</b><br/>drei</p>", "~eins zwei=>einszwei 1:4 1:4"},
         {"words across tags", "<p>Te<b>xt</b></p>", "<p>Text</p>", "-<b> 1:6"},
         {"missing end", "<p>a<p>b", "<p>a</p><p>b</p>", "+=></p> 1:5 | +=></p> 1:13"},
         {"stray end", "<p>a</b></p>", "<p>a</p>", "-</b> 1:5"},
