@@ -1,4 +1,5 @@
-// Any bytes as what a surface may leave: cleaned without a hang, to 7 bits, with the card's end last.
+// Any bytes as what a surface may leave: cleaned without a hang, to 7 bits, with the card's end
+// last.
 
 #include "fuzz_target.h"
 

@@ -1,5 +1,6 @@
-// Drives a fuzz target without libFuzzer: --seconds N [FILE or FOLDER]... runs every file, then random
-// mutations of them until the time is over. No coverage guides it; libFuzzer is for the long runs.
+// Drives a fuzz target without libFuzzer: --seconds N [FILE or FOLDER]... runs every file, then
+// random mutations of them until the time is over. No coverage guides it; libFuzzer is for the long
+// runs.
 
 #include "fuzz_target.h"
 
@@ -19,7 +20,8 @@ using Clock = std::chrono::steady_clock;
 
 void runOne(const std::string& bytes)
 {
-    const std::vector<std::uint8_t> copy(bytes.begin(), bytes.end()); // its own block, so that reads
+    const std::vector<std::uint8_t> copy(
+        bytes.begin(), bytes.end()); // its own block, so that reads
     (void)LLVMFuzzerTestOneInput(copy.data(), copy.size()); // behind the end are seen
 }
 
@@ -73,7 +75,7 @@ std::string mutated(std::string text, const std::vector<std::string>& seeds, std
 int main(int count, char** values)
 {
     int seconds = 1;
-    std::vector<std::string> seeds {std::string()};
+    std::vector<std::string> seeds{std::string()};
     for (int i = 1; i < count; ++i) {
         const std::string word = values[i];
         if (word == "--seconds" && i + 1 < count) {
@@ -86,13 +88,14 @@ int main(int count, char** values)
         runOne(seed);
     std::mt19937 random(20000101); // the same inputs in each run
     std::size_t runs = seeds.size();
-    for (const auto end = Clock::now() + std::chrono::seconds(seconds); Clock::now() < end; ++runs) {
+    for (const auto end = Clock::now() + std::chrono::seconds(seconds); Clock::now() < end;
+         ++runs) {
         std::string text = seeds[below(random, seeds.size())];
         for (std::size_t times = 1 + random() % 8; times > 0; --times)
             text = mutated(std::move(text), seeds, random);
         runOne(text);
     }
-    std::printf("%s: %zu inputs, no failure\n", std::filesystem::path(values[0]).filename().c_str(),
-        runs);
+    std::printf(
+        "%s: %zu inputs, no failure\n", std::filesystem::path(values[0]).filename().c_str(), runs);
     return 0;
 }

@@ -30,9 +30,10 @@ struct AnyCase {
     {
         if (wanted > 127) mask = wanted = 0xFF; // matches all, the rest is left to standsAt
     }
-    [[nodiscard]] bool matches(char character) const
+    // 1 or 0, since the loop below must not branch.
+    [[nodiscard]] unsigned char matches(char character) const
     {
-        return (static_cast<unsigned char>(character) | mask) == wanted;
+        return static_cast<unsigned char>((static_cast<unsigned char>(character) | mask) == wanted);
     }
 };
 
@@ -53,8 +54,9 @@ public:
         const char* const firsts = text.data();
         const char* const lasts = firsts + key.size() - 1;
         for (std::size_t i = 0; i < kBlock; ++i) {
-            candidates[i] = first_.matches(firsts[i]) & last_.matches(lasts[i]);
-            any |= candidates[i];
+            const auto both = first_.matches(firsts[i]) & last_.matches(lasts[i]);
+            candidates[i] = static_cast<unsigned char>(both);
+            any = static_cast<unsigned char>(any | both);
         }
         if (any == 0) return npos;
         for (std::size_t i = 0; i < kBlock; ++i) {
