@@ -59,7 +59,7 @@ std::string jsonArray(const std::vector<Row>& rows)
 
 ExitStatus runAreas(const Arguments& arguments)
 {
-    if (arguments.operands.size() != 1) throw BadArguments {"„areas“ braucht genau ein Deck."};
+    if (arguments.operands.size() != 1) throw BadArguments{"„areas“ braucht genau ein Deck."};
     const auto [directory, name] = SplitPath(arguments.operands.front());
     CoreSession core(arguments.standardOutput);
     LoadDeck(core.session, {name, directory, {}, {}});

@@ -56,9 +56,9 @@ constexpr const char* kShortOptions = ":o:h";
 
 std::array<option, std::size(kOptions) + 1> longOptions()
 {
-    std::array<option, std::size(kOptions) + 1> result {};
+    std::array<option, std::size(kOptions) + 1> result{};
     std::transform(std::begin(kOptions), std::end(kOptions), result.begin(), [](const Option& row) {
-        return option {
+        return option{
             row.name, row.value != nullptr ? required_argument : no_argument, nullptr, row.letter};
     });
     return result;
@@ -80,8 +80,8 @@ Parsed parse(int count, char** values)
         if (letter == -1) break;
         const Option* const option = optionOf(letter);
         const std::string word = values[std::max(seenAt, optind - 1)];
-        if (letter == ':') throw BadArguments {"Hinter „" + word + "“ fehlt der Wert."};
-        if (option == nullptr) throw BadArguments {"Unbekannte Option: „" + word + "“."};
+        if (letter == ':') throw BadArguments{"Hinter „" + word + "“ fehlt der Wert."};
+        if (option == nullptr) throw BadArguments{"Unbekannte Option: „" + word + "“."};
         option->store(parsed.arguments, optarg);
         parsed.letters += option->letter;
     }
@@ -94,7 +94,7 @@ void requireOptionsOf(const Command& command, const std::string& letters)
     for (const char letter : letters) {
         if (command.options.find(letter) != std::string_view::npos) continue;
         if (kOptionsOfAll.find(letter) != std::string_view::npos) continue;
-        throw BadArguments {"„" + std::string(command.name) + "“ kennt die Option „--"
+        throw BadArguments{"„" + std::string(command.name) + "“ kennt die Option „--"
             + optionOf(letter)->name + "“ nicht."};
     }
 }
@@ -144,7 +144,7 @@ const Command& commandNamed(const std::string& name)
     const auto all = commands();
     const auto found = std::find_if(
         all.begin(), all.end(), [&](const Command& command) { return command.name == name; });
-    if (found == all.end()) throw BadArguments {"Unbekannter Befehl: „" + name + "“."};
+    if (found == all.end()) throw BadArguments{"Unbekannter Befehl: „" + name + "“."};
     return *found;
 }
 
@@ -152,7 +152,7 @@ ExitStatus runParsed(Parsed parsed)
 {
     Arguments& arguments = parsed.arguments;
     if (arguments.operands.empty()) {
-        if (!arguments.help) throw BadArguments {"Es fehlt der Befehl."};
+        if (!arguments.help) throw BadArguments{"Es fehlt der Befehl."};
         print(generalHelp());
         return ExitStatus::Done;
     }

@@ -30,7 +30,7 @@ public:
 /// A document session without window, disk and questions.
 struct CoreSession {
     explicit CoreSession(bool standardOutput, DisplayCopies* displayCopies = nullptr)
-        : session {workFiles, displayCopies != nullptr ? *displayCopies : sizes, prompter, settings,
+        : session{workFiles, displayCopies != nullptr ? *displayCopies : sizes, prompter, settings,
             words, OutputRules(standardOutput)}
         , sizes(session.output)
     {

@@ -98,7 +98,7 @@ void requireDistinctNames(const std::vector<std::string>& inputs)
     std::set<std::string> names;
     for (const std::string& input : inputs) {
         if (names.insert(SplitPath(input).name).second) continue;
-        throw BadArguments {
+        throw BadArguments{
             "Zwei Decks heißen „" + SplitPath(input).name + "“ und kämen in dieselbe Datei."};
     }
 }
@@ -106,16 +106,16 @@ void requireDistinctNames(const std::vector<std::string>& inputs)
 void checkArguments(const Arguments& arguments)
 {
     const auto& inputs = arguments.operands;
-    if (inputs.empty()) throw BadArguments {"Es fehlt das Deck."};
+    if (inputs.empty()) throw BadArguments{"Es fehlt das Deck."};
     if (arguments.output && arguments.outDir)
-        throw BadArguments {"-o und --out-dir gehen nicht zusammen."};
+        throw BadArguments{"-o und --out-dir gehen nicht zusammen."};
     if (inputs.size() > 1 && arguments.output)
-        throw BadArguments {"Mehrere Decks gehen nicht in eine Datei; dafür ist --out-dir da."};
+        throw BadArguments{"Mehrere Decks gehen nicht in eine Datei; dafür ist --out-dir da."};
     if (inputs.size() > 1 && arguments.keepWork)
-        throw BadArguments {"--keep-work gilt für ein einzelnes Deck."};
-    if (arguments.json && !arguments.report) throw BadArguments {"--json gehört zu --report."};
+        throw BadArguments{"--keep-work gilt für ein einzelnes Deck."};
+    if (arguments.json && !arguments.report) throw BadArguments{"--json gehört zu --report."};
     if (arguments.report && arguments.output == "-")
-        throw BadArguments {"Bericht und Deck gehen nicht beide auf die Standardausgabe."};
+        throw BadArguments{"Bericht und Deck gehen nicht beide auf die Standardausgabe."};
     if (arguments.outDir) requireDistinctNames(inputs);
 }
 

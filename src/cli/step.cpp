@@ -1,5 +1,5 @@
-// One row for each operation; the session behind it has no area, so that pictures are not looked at.
-// Held by tests/cli/step_test.cpp.
+// One row for each operation; the session behind it has no area, so that pictures are not looked
+// at. Held by tests/cli/step_test.cpp.
 
 #include "cli/commands.h"
 #include "cli/core_session.h"
@@ -61,19 +61,19 @@ constexpr Step kSteps[] = {
 
 const Step& stepNamed(const std::string& name)
 {
-    const auto* const found = std::find_if(std::begin(kSteps), std::end(kSteps),
-        [&](const Step& step) { return step.name == name; });
-    if (found == std::end(kSteps))
-        throw BadArguments {"Unbekannte Operation: „" + name + "“."};
+    const auto* const found = std::find_if(
+        std::begin(kSteps), std::end(kSteps), [&](const Step& step) { return step.name == name; });
+    if (found == std::end(kSteps)) throw BadArguments{"Unbekannte Operation: „" + name + "“."};
     return *found;
 }
 
 void checkOperands(const Step& step, const Arguments& arguments, std::size_t operandCount)
 {
     const bool wantsPristine = step.name == "RestoreWhitespace";
-    if (operandCount == step.operandCount && wantsPristine == arguments.pristine.has_value()) return;
-    throw BadArguments {"Aufruf: quillmere-cli step " + std::string(step.name) + " "
-        + std::string(step.operands)};
+    if (operandCount == step.operandCount && wantsPristine == arguments.pristine.has_value())
+        return;
+    throw BadArguments{
+        "Aufruf: quillmere-cli step " + std::string(step.name) + " " + std::string(step.operands)};
 }
 
 } // namespace
@@ -100,7 +100,7 @@ ExitStatus runStep(const Arguments& arguments)
         arguments.operands.begin() + 1, arguments.operands.end());
     checkOperands(step, arguments, operands.size());
     CoreSession core(arguments.standardOutput);
-    Input input {readStandardInput(), operands, arguments, core.session};
+    Input input{readStandardInput(), operands, arguments, core.session};
     step.apply(input);
     printBytes(input.text);
     return ExitStatus::Done;

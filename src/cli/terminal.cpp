@@ -5,10 +5,10 @@
 #include "document/failure.h"
 
 #include <array>
+#include <clocale>
 #include <cstdio>
 #include <iconv.h>
 #include <langinfo.h>
-#include <clocale>
 
 namespace quillmere::cli {
 
@@ -90,7 +90,7 @@ void complain(std::string_view utf8)
 std::string readStandardInput()
 {
     std::string result;
-    std::array<char, 16384> part {};
+    std::array<char, 16384> part{};
     while (const auto count = std::fread(part.data(), 1, part.size(), stdin))
         result.append(part.data(), count);
     if (std::ferror(stdin) != 0) throw FileFailure("Die Standardeingabe ist nicht zu lesen.");
@@ -99,8 +99,7 @@ std::string readStandardInput()
 
 void finishOutput()
 {
-    if (std::fflush(stdout) != 0)
-        throw FileFailure("Die Standardausgabe nimmt nichts mehr an.");
+    if (std::fflush(stdout) != 0) throw FileFailure("Die Standardausgabe nimmt nichts mehr an.");
 }
 
 } // namespace quillmere::cli

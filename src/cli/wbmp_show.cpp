@@ -7,8 +7,8 @@ namespace quillmere::cli {
 
 ExitStatus runWbmpShow(const Arguments& arguments)
 {
-    if (arguments.operands.size() != 1) throw BadArguments {"„wbmp-show“ braucht genau ein Bild."};
-    if (!arguments.output) throw BadArguments {"Es fehlt -o DATEI."};
+    if (arguments.operands.size() != 1) throw BadArguments{"„wbmp-show“ braucht genau ein Bild."};
+    if (!arguments.output) throw BadArguments{"Es fehlt -o DATEI."};
     const WbmpPicture picture
         = ReadWbmpFile(arguments.operands.front(), OutputRules(arguments.standardOutput));
     replaceFile(*arguments.output, drawPicture(picture, kDefaultPageColour));

@@ -1,7 +1,7 @@
-#include "cli/commands.h"
-#include "cli/terminal.h"
 #include "app/settings.h"
 #include "app/word_resources.h"
+#include "cli/commands.h"
+#include "cli/terminal.h"
 #include "document/paths.h"
 #include "document/windows1252.h"
 
@@ -17,7 +17,7 @@ int numberOf(const std::string& text)
     const char* const end = text.data() + text.size();
     const auto [stopped, error] = std::from_chars(text.data(), end, number);
     if (error != std::errc() || stopped != end)
-        throw BadArguments {"„" + text + "“ ist keine Nummer."};
+        throw BadArguments{"„" + text + "“ ist keine Nummer."};
     return number;
 }
 
@@ -57,4 +57,3 @@ ExitStatus runWords(const Arguments& arguments)
 }
 
 } // namespace quillmere::cli
-

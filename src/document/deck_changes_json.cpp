@@ -3,8 +3,8 @@
 #include "document/deck_changes_json.h"
 
 #include "document/deck_change_counts.h"
-#include "document/markup_fault_texts.h"
 #include "document/json_text.h"
+#include "document/markup_fault_texts.h"
 #include "document/windows1252.h"
 
 #include <array>

@@ -26,8 +26,8 @@ public:
 
     /// The display copy of the picture file `path` on the ground `backgroundColour` (red in the
     /// low byte). A picture that is missing or cannot be read shows `alternativeText` instead.
-    [[nodiscard]] virtual DisplayCopy draw(const std::string& path,
-        std::string_view alternativeText, std::int32_t backgroundColour)
+    [[nodiscard]] virtual DisplayCopy draw(
+        const std::string& path, std::string_view alternativeText, std::int32_t backgroundColour)
         = 0;
 };
 

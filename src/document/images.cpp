@@ -1,7 +1,7 @@
 // Everything that can fail stands ahead of the first change of the deck. Held by images_test.cpp.
 
-#include "document/design_page.h"
 #include "document/images.h"
+#include "document/design_page.h"
 
 #include "document/design_text.h"
 #include "document/files.h"

@@ -48,7 +48,7 @@ struct DocumentSession {
     const Words& words;
     OutputRules output;
 
-    Deck deck {};
+    Deck deck{};
     EditingSurface* surface = nullptr; ///< no window: nothing to wait for
     std::array<PageStyle*, 2> devices{}; ///< current device by surface kind; null: none
     int twipsPerPixel = 15;

@@ -19,8 +19,7 @@ public:
     /// The text of the word `id` with "<br>" as a line break (CR LF) and each "<?>" replaced by
     /// the next of `arguments`, at most ten; "" for a word that there is not.
     [[nodiscard]] virtual std::string GetWord(
-        int id, std::initializer_list<std::string_view> arguments = {}) const
-        = 0;
+        int id, std::initializer_list<std::string_view> arguments = {}) const = 0;
 };
 
 } // namespace quillmere

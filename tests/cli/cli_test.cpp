@@ -11,8 +11,8 @@ namespace quillmere {
 namespace {
 
 using test::bytesOf;
-using test::RunResult;
 using test::runProgram;
+using test::RunResult;
 using test::TemporaryDirectory;
 
 RunResult cli(const std::vector<std::string>& arguments, const std::string& input = {})
@@ -22,17 +22,18 @@ RunResult cli(const std::vector<std::string>& arguments, const std::string& inpu
 
 constexpr const char* kDeck = "<?xml version=\"1.0\"?>\n<wml>\n<card id=\"a\" title=\"Eins\">\n"
                               "<do type=\"accept\" label=\"Weiter\"><go href=\"#b\"/></do>\n"
-                              "<p>Gr\xFC\xDF" "e</p>\n</card>\n<card id=\"b\" title=\"Zw\tei\">\n"
+                              "<p>Gr\xFC\xDF"
+                              "e</p>\n</card>\n<card id=\"b\" title=\"Zw\tei\">\n"
                               "<p>x</p>\n</card>\n</wml>\n";
 
 TEST(Cli, BadArgumentsEndWithOneAndAMessage)
 {
-    const std::vector<std::vector<std::string>> calls = {{}, {"nothing"}, {"repair"},
-        {"repair", "--what"}, {"repair", "-o"}, {"repair", "a", "b", "-o", "c"},
-        {"repair", "x/a.wml", "y/a.wml", "--out-dir", "z"}, {"repair", "a", "--json"},
-        {"areas"}, {"areas", "a", "b"}, {"areas", "a", "-o", "b"}, {"step", "Nothing"},
-        {"step", "WrapInParagraph", "<b>"}, {"step", "RestoreWhitespace"}, {"wbmp-show", "a.wbmp"},
-        {"words", "x"}};
+    const std::vector<std::vector<std::string>> calls
+        = {{}, {"nothing"}, {"repair"}, {"repair", "--what"}, {"repair", "-o"},
+            {"repair", "a", "b", "-o", "c"}, {"repair", "x/a.wml", "y/a.wml", "--out-dir", "z"},
+            {"repair", "a", "--json"}, {"areas"}, {"areas", "a", "b"}, {"areas", "a", "-o", "b"},
+            {"step", "Nothing"}, {"step", "WrapInParagraph", "<b>"}, {"step", "RestoreWhitespace"},
+            {"wbmp-show", "a.wbmp"}, {"words", "x"}};
     for (const auto& call : calls) {
         const RunResult result = cli(call);
         SCOPED_TRACE(testing::PrintToString(call));
@@ -184,8 +185,7 @@ TEST(Cli, AnyBytesGiveADeckOrAClearMessage)
 TEST(Cli, WbmpShowWritesABmp)
 {
     const TemporaryDirectory directory;
-    const std::string picture
-        = directory.write("a.wbmp", std::string("\0\0\x03\x02\xA0\x40", 6));
+    const std::string picture = directory.write("a.wbmp", std::string("\0\0\x03\x02\xA0\x40", 6));
     EXPECT_EQ(cli({"wbmp-show", picture, "-o", directory.path("a.bmp")}).status, 0);
     EXPECT_TRUE(bytesOf(directory.path("a.bmp")).starts_with("BM"));
 }

@@ -11,22 +11,22 @@
 
 namespace quillmere::test {
 
-RunResult runProgram(const std::string& program, const std::vector<std::string>& arguments,
-    const std::string& input)
+RunResult runProgram(
+    const std::string& program, const std::vector<std::string>& arguments, const std::string& input)
 {
     const TemporaryDirectory directory;
     const std::string in = directory.write("in", input);
     const std::string out = directory.path("out");
     const std::string err = directory.path("err");
 
-    posix_spawn_file_actions_t files {};
+    posix_spawn_file_actions_t files{};
     posix_spawn_file_actions_init(&files);
     constexpr int kNew = O_WRONLY | O_CREAT | O_TRUNC;
     posix_spawn_file_actions_addopen(&files, STDIN_FILENO, in.c_str(), O_RDONLY, 0);
     posix_spawn_file_actions_addopen(&files, STDOUT_FILENO, out.c_str(), kNew, 0600);
     posix_spawn_file_actions_addopen(&files, STDERR_FILENO, err.c_str(), kNew, 0600);
 
-    std::vector<std::string> words {program};
+    std::vector<std::string> words{program};
     words.insert(words.end(), arguments.begin(), arguments.end());
     std::vector<char*> values;
     for (std::string& word : words)
