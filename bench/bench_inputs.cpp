@@ -70,17 +70,17 @@ std::string cardsDeck(std::size_t size)
 std::string oneCardDeck(std::size_t count, std::size_t pieceBytes)
 {
     const auto deck = test::generateDeck(kSeed, {.targetBytes = pieceBytes, .oneCard = true});
-    const auto piece = between(deck, "newcontext=\"true\">", "<do");
+    const auto piece = between(deck, R"(newcontext="true">)", "<do");
     std::string text(kHead);
-    text += "<card id=\"k1\" title=\"Karte\">";
+    text += R"(<card id="k1" title="Karte">)";
     for (; count > 0; --count)
         text += piece;
-    return text + "<do type=\"accept\" label=\"Los\"><go href=\"#k1\"/></do></card></wml>";
+    return text + R"(<do type="accept" label="Los"><go href="#k1"/></do></card></wml>)";
 }
 
 std::string bodyOf(const std::string& deck)
 {
-    return between(deck, "title=\"Karte\">", "</wml>");
+    return between(deck, R"(title="Karte">)", "</wml>");
 }
 
 std::string designOf(const std::string& deck)

@@ -44,7 +44,7 @@ bool copyFile(const char* from, const std::string& to)
 int main(int argc, char** argv)
 {
     if (argc < 2) {
-        std::fputs("usage: copy-bytes DIR FILE...\n", stderr);
+        (void)std::fputs("usage: copy-bytes DIR FILE...\n", stderr);
         return 1;
     }
     for (int i = 2; i < argc; ++i) {
@@ -52,7 +52,7 @@ int main(int argc, char** argv)
         const std::string target
             = std::string(argv[1]) + '/' + (slash != nullptr ? slash + 1 : argv[i]);
         if (copyFile(argv[i], target)) continue;
-        std::fprintf(stderr, "copy-bytes: %s: %s\n", argv[i], std::strerror(errno));
+        (void)std::fprintf(stderr, "copy-bytes: %s: %s\n", argv[i], std::strerror(errno));
         return 2;
     }
     return 0;

@@ -38,7 +38,8 @@ struct Operation {
 void withoutSession(std::vector<Operation>& rows)
 {
     const OutputRules rules;
-    const auto add = [&](const char* name, Stage stage, std::function<void(std::string&)> run) {
+    const auto add = [&](const char* name, Stage stage,
+                         const std::function<void(std::string&)>& run) {
         rows.push_back({name, stage, [run](std::string& text, DocumentSession&) { run(text); }});
     };
     add("CleanDesignHtml", Stage::Design, [=](auto& text) { CleanDesignHtml(text, rules); });

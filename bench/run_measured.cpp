@@ -21,7 +21,7 @@ long long microseconds(const timeval& time)
 int main(int argc, char** argv)
 {
     if (argc < 2) {
-        std::fputs("usage: run-measured COMMAND ARGUMENT...\n", stderr);
+        (void)std::fputs("usage: run-measured COMMAND ARGUMENT...\n", stderr);
         return 1;
     }
     const pid_t child = fork();
@@ -37,7 +37,7 @@ int main(int argc, char** argv)
     int status = 0;
     rusage usage{};
     if (wait4(child, &status, 0, &usage) < 0) return 2;
-    std::fprintf(stderr, "%lld %lld %ld\n", microseconds(usage.ru_utime),
+    (void)std::fprintf(stderr, "%lld %lld %ld\n", microseconds(usage.ru_utime),
         microseconds(usage.ru_stime), usage.ru_maxrss);
     return WIFEXITED(status) ? WEXITSTATUS(status) : 128;
 }

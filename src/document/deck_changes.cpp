@@ -10,6 +10,7 @@
 #include "document/windows1252.h"
 
 #include <algorithm>
+#include <tuple>
 #include <utility>
 
 namespace quillmere {
@@ -99,7 +100,8 @@ private:
     static bool standsAhead(const DeckChange& left, const DeckChange& right)
     {
         if (!left.readAt || !right.readAt) return left.readAt && !right.readAt;
-        return *left.readAt < *right.readAt;
+        return std::tie(left.readAt->line, left.readAt->column)
+            < std::tie(right.readAt->line, right.readAt->column);
     }
 
     static bool collect(const DeckSide& side, std::size_t at, Words& words)

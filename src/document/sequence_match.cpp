@@ -58,7 +58,11 @@ public:
     }
 
 private:
-    int& reach(int d, int k) { return reach_[static_cast<std::size_t>(d * d + k + d)]; }
+    int& reach(int d, int k)
+    {
+        const int at = d * d + d + k;
+        return reach_[static_cast<std::size_t>(at)];
+    }
 
     bool comesDown(int d, int k)
     {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <compare>
 #include <cstddef>
 #include <string_view>
 #include <vector>
@@ -11,7 +10,7 @@ namespace quillmere {
 struct TextPlace {
     std::size_t line = 1;
     std::size_t column = 1;
-    friend auto operator<=>(const TextPlace&, const TextPlace&) = default;
+    friend bool operator==(const TextPlace&, const TextPlace&) = default;
 };
 
 /// Turns offsets of one text into places. A line ends at CR LF, LF or CR.

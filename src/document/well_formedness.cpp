@@ -45,9 +45,10 @@ bool isDoctype(std::string_view content)
     if (!isMarkupSpace(in.peek())) return false;
     in.skipSpace();
     if (in.takeName().empty()) return false;
-    if (passWord(in, "PUBLIC") ? !passLiteral(in) || !passLiteral(in)
-                               : passWord(in, "SYSTEM") && !passLiteral(in))
-        return false;
+    const int literals = passWord(in, "PUBLIC") ? 2 : passWord(in, "SYSTEM") ? 1 : 0;
+    for (int i = 0; i < literals; ++i) {
+        if (!passLiteral(in)) return false;
+    }
     in.skipSpace();
     const auto rest = content.substr(in.at);
     const auto last = rest.find_last_not_of(" \t\r\n");

@@ -32,14 +32,14 @@ TEST(MarkupDocument, ReadsTokensOfWholeAndBrokenMarkup)
         const char* text;
         const char* tokens;
     } rows[] = {
-        {"<?xml version='1.0'?><!DOCTYPE a [<!ENTITY b \"]>\">]><a/>",
-            "I(xml version='1.0')!( a [<!ENTITY b \"]>\">])X(a)"},
-        {"<a b = \"1>2\" c='\"'>x</a >", "S(a b=1>2 c=\")T(x)E(a)"},
+        {R"(<?xml version='1.0'?><!DOCTYPE a [<!ENTITY b "]>">]><a/>)",
+            R"(I(xml version='1.0')!( a [<!ENTITY b "]>">])X(a))"},
+        {R"(<a b = "1>2" c='"'>x</a >)", R"(S(a b=1>2 c=")T(x)E(a))"},
         {"<!-- a > b --><![CDATA[<a>]]>", "C( a > b )D(<a>)"},
         {"1 < 2 <b>", "T(1 < 2 )S(b)"},
         {"<a href=#x/><a href=#y z>", "X(a href=#x)S(a href=#y z=)"},
-        {"<a href=\"#x>b</a> <i c='d'>", "S(a href=#x)T(b)E(a)T( )S(i c=d)"},
-        {"<a href=\"a<b\">", "S(a href=a<b)"},
+        {R"(<a href="#x>b</a> <i c='d'>)", "S(a href=#x)T(b)E(a)T( )S(i c=d)"},
+        {R"(<a href="a<b">)", "S(a href=a<b)"},
         {"<a <a <b>", "S(a)S(a)S(b)"},
         {"x</>y</ b><", "T(x)E()T(y)E( b=)T(<)"},
         {"<!-- a <b>c<![CDATA[ d <?e", "C( a <b)T(c)D( d <?e)"},

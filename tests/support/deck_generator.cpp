@@ -39,7 +39,7 @@ public:
     {
         deck_ = kProlog;
         const auto encoding = deck_.find("{E}");
-        deck_.replace(encoding, 3, options_.eightBit ? " encoding=\"windows-1252\""sv : ""sv);
+        deck_.replace(encoding, 3, options_.eightBit ? R"( encoding="windows-1252")"sv : ""sv);
         for (int number = 1; number == 1 || needsCard(); ++number)
             addCard(number);
         deck_ += "</wml>\n";
@@ -93,7 +93,7 @@ private:
     void addCard(int number)
     {
         const auto name = std::to_string(number);
-        open({"card id=\"k", name, "\" title=\"Karte ", name, "\" newcontext=\"true\""});
+        open({"card id=\"k", name, R"(" title="Karte )", name, R"(" newcontext="true")"});
         deck_ += '\n';
         const auto length = 150 + random_.below(700);
         const auto end = options_.oneCard ? options_.targetBytes : deck_.size() + length;
@@ -106,7 +106,7 @@ private:
 
     void addDo(int target)
     {
-        open({"do type=\"accept\" label=\"Weiter\" name=\"Sprung\""});
+        open({R"(do type="accept" label="Weiter" name="Sprung")"});
         if (!fault()) deck_.append("<go href=\"#k").append(std::to_string(target)).append("\"/>");
         close("do");
         deck_ += '\n';
@@ -168,7 +168,7 @@ private:
     void addPicture()
     {
         const auto number = std::to_string(random_.below(4));
-        open({"img src=\"", options_.pictures, number, ".wbmp\" alt=\"Bild ", number, "\"/"});
+        open({"img src=\"", options_.pictures, number, R"(.wbmp" alt="Bild )", number, "\"/"});
     }
 
     void addSelect()
@@ -185,7 +185,7 @@ private:
     void addTable()
     {
         const auto columns = 1 + random_.below(3);
-        open({"table title=\"Plan\" columns=\"", std::to_string(columns), "\""});
+        open({R"(table title="Plan" columns=")", std::to_string(columns), "\""});
         for (auto rows = 1 + random_.below(4); rows > 0; --rows) {
             open({"tr"});
             for (std::size_t column = 0; column < columns; ++column) {
