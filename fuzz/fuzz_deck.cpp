@@ -15,11 +15,12 @@ using namespace quillmere;
 
 namespace {
 
-// Each area's file ends with the tail of the frame, whatever the deck was.
+// Each area's file ends with the tail of the frame, but for the last one, which ends where the deck
+// ends within a card's tag.
 void requireWholeAreas(cli::CoreSession& core)
 {
     const Deck& deck = core.session.deck;
-    for (std::size_t area = 0; area < areaCount(deck); ++area) {
+    for (std::size_t area = 0; area + 1 < areaCount(deck); ++area) {
         const std::string text = core.workFiles.read(deck[area].designDir + deck[area].designFile);
         fuzz::require(text.ends_with("</BODY>\r\n</HTML>\r\n"));
     }

@@ -13,8 +13,8 @@ namespace quillmere {
 /// removes doubled ends.
 void RepairParagraphs(std::string& text);
 
-/// Puts a paragraph around each element of the pair, such as "<img" with "</img", that stands
-/// outside of one. An element without its end stays as it is.
+/// Puts a paragraph around each element of the pair, which is not itself a paragraph, that stands
+/// outside of one: "<img" with "</img". An element without its end stays as it is.
 void WrapInParagraph(std::string& text, std::string_view openTag, std::string_view closeTag);
 
 /// Gives each paragraph its own pair where a format crosses paragraphs, and removes pairs without
