@@ -1,0 +1,112 @@
+#include "cli/core_session.h"
+#include "document/deck_changes.h"
+#include "document/deck_changes_report.h"
+#include "document/deck_repair.h"
+#include "document/files.h"
+#include "document/markup_document.h"
+#include "document/windows1252.h"
+#include "imageconv/wbmp_display_copies.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <filesystem>
+#include <set>
+
+namespace quillmere {
+namespace {
+
+struct Example {
+    std::string directory; // with its separator
+    std::string name;
+    std::string text;
+};
+
+std::vector<Example> examples()
+{
+    std::vector<Example> decks;
+    const std::filesystem::path root = QUILLMERE_SOURCE_DIR "/examples";
+    for (const auto& entry : std::filesystem::recursive_directory_iterator(root)) {
+        if (entry.path().extension() != ".wml") continue;
+        decks.push_back({entry.path().parent_path().string() + "/",
+            entry.path().filename().string(), textFromDeckBytes(readFile(entry.path().string()))});
+    }
+    return decks;
+}
+
+std::string repaired(const Example& deck, const std::string& text, bool standardOutput)
+{
+    cli::CoreSession core(standardOutput);
+    return repairedDeck(core.session, text, deck.directory);
+}
+
+std::string told(const DeckChangesReport& report)
+{
+    std::string lines;
+    for (const auto& change : report.changes)
+        lines += toUtf8(describeChange(change)) + "\n";
+    return lines;
+}
+
+bool isSevenBit(std::string_view text)
+{
+    return std::none_of(
+        text.begin(), text.end(), [](char c) { return static_cast<unsigned char>(c) > 126; });
+}
+
+TEST(Examples, AreAtLeastThreeWithPicturesListsTablesAndJumps)
+{
+    std::string all;
+    for (const auto& deck : examples())
+        all += deck.text;
+    EXPECT_GE(examples().size(), 3U);
+    for (const std::string_view part :
+        {"<img ", "<select>", "<table ", "<do type=\"accept\"", "<b>", "<i>", "<u>", "<big>",
+            "<small>", "<strong>", "align=\"center\"", "onpick=", "\xFC"})
+        EXPECT_NE(all.find(part), std::string::npos) << part;
+}
+
+void checkTarget(
+    const Example& deck, const MarkupAttribute& attribute, const std::set<std::string>& ids)
+{
+    const std::string value(attribute.value);
+    WbmpSizes sizes{OutputRules(true)};
+    if (attribute.name == "src") {
+        EXPECT_GT(sizes.draw(deck.directory + value, "", 0).widthPx, 0) << value;
+    } else if (value.starts_with('#')) {
+        EXPECT_TRUE(ids.contains(value)) << value;
+    }
+}
+
+TEST(Examples, PicturesAndTargetsAreThere)
+{
+    for (const auto& deck : examples()) {
+        SCOPED_TRACE(deck.directory + deck.name);
+        const auto document = readMarkup(deck.text);
+        std::set<std::string> ids;
+        for (const auto& attribute : document.attributes) {
+            if (attribute.name == "id") ids.insert("#" + std::string(attribute.value));
+        }
+        for (const auto& attribute : document.attributes)
+            checkTarget(deck, attribute, ids);
+    }
+}
+
+TEST(Examples, LoseNothingButTheirAccentsAndWithStandardOutputNothing)
+{
+    for (const auto& deck : examples()) {
+        SCOPED_TRACE(deck.directory + deck.name);
+        const auto written = repaired(deck, deck.text, false);
+        const auto report = DeckChanges(deck.text, written);
+        for (const auto& change : report.changes)
+            EXPECT_FALSE(isSevenBit(change.before)) << toUtf8(describeChange(change));
+        EXPECT_TRUE(report.wellFormed());
+        EXPECT_EQ(repaired(deck, written, false), written);
+        const auto standard = DeckChanges(deck.text, repaired(deck, deck.text, true));
+        EXPECT_EQ(told(standard), "");
+        EXPECT_TRUE(standard.wellFormed());
+    }
+}
+
+} // namespace
+} // namespace quillmere
