@@ -35,7 +35,8 @@ std::string_view resourceAttribute(std::string_view tag, std::string_view name)
 
 std::string fieldText(std::string_view value, std::size_t width)
 {
-    return std::string(trimBlanks(trimBlanks(value).substr(0, width)));
+    const auto text = trimBlanks(value.substr(0, value.find('\0')));
+    return std::string(trimBlanks(text.substr(0, width)));
 }
 
 std::optional<std::int16_t> shortNumber(std::string_view text)

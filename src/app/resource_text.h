@@ -19,7 +19,8 @@ namespace quillmere {
 /// stands, also within another name. A value without quotes ends at a blank.
 [[nodiscard]] std::string_view resourceAttribute(std::string_view tag, std::string_view name);
 
-/// A text as a record's field of `width` bytes gives it back: without blanks at its ends and cut.
+/// A text as a record's field of `width` bytes gives it back: up to its first zero byte, without
+/// blanks at its ends, and cut.
 /// So a resource reads alike from both of its file forms, and no entry can be of any length.
 [[nodiscard]] std::string fieldText(std::string_view value, std::size_t width);
 
