@@ -18,8 +18,9 @@ struct Shape {
 
 [[nodiscard]] std::span<const Shape> shapes();
 
-/// The text of a shape, as long as `size` or little shorter. Of the deck it is what a step at
-/// `stage` would get: a card's text in WML, its design text, that text cleaned, or WML again.
+/// The text of a shape, not longer than `size` and shorter by one piece at most. Of the deck it is
+/// what a step at `stage` would get: a card's text in WML, its design text, that text cleaned, or
+/// WML again.
 [[nodiscard]] std::string inputOf(const Shape& shape, Stage stage, std::size_t size);
 
 /// A whole deck of several cards; of the other shapes their text as it is.
