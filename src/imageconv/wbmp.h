@@ -13,13 +13,14 @@
 // WBMP pictures of type 0: one bit a pixel, not compressed (WAP-237, Media Types). By the standard
 // rules that is all of it. Otherwise files are read and written as this program always has:
 //
-// - Sizes of 128 and more are written as the largest index and not as the count, both in two bytes,
-//   and sizes are read as one or two bytes each, both alike.
+// - If a size is above 128, both are written in two bytes each, as the largest index and not as the
+//   count. A size of 128 is one byte 0x80, which every reader takes for the first of two.
+// - Sizes are read as one byte each or as two bytes each.
 // - A row whose pixels fill its last byte is followed by a byte of 0. The reader counts with one
-//   pixel more in a row, so it passes over that byte, and shears other programs' pictures of a
-//   width that is a multiple of 8, or one less than that.
+//   pixel more in a row, so it passes over that byte; pictures of other programs shear where their
+//   width is a multiple of 8, and all pictures where it is one less than that.
 // - The header's first two bytes are not looked at, and a file that ends early goes on as bytes of
-// 0.
+//   0.
 
 namespace quillmere {
 

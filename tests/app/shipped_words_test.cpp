@@ -1,5 +1,5 @@
 #include "app/resource_text.h"
-#include "app/word_ids.h"
+#include "app/word_list.h"
 #include "app/word_table.h"
 #include "document/files.h"
 #include "document/path_checks.h"
