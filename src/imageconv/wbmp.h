@@ -13,8 +13,10 @@
 // WBMP pictures of type 0: one bit a pixel, not compressed (WAP-237, Media Types). By the standard
 // rules that is all of it. Otherwise files are read and written as this program always has:
 //
-// - Sizes of 128 and more are written as the largest index and not as the count, both in two bytes,
-//   and sizes are read as one or two bytes each, both alike.
+// - Where a side has more than 128 pixels, both sizes are written as the largest index and not as
+//   the count, in two bytes each. A side of just 128 pixels is written as the one byte 0x80, which
+//   the reader takes for the first of two, so that such a picture is misread. Sizes are read as one
+//   or two bytes each, both alike.
 // - A row whose pixels fill its last byte is followed by a byte of 0. The reader counts with one
 //   pixel more in a row, so it passes over that byte, and shears other programs' pictures of a
 //   width that is a multiple of 8, or one less than that.
