@@ -53,14 +53,10 @@ std::vector<std::string_view> levelsOf(std::string_view path, PathStyle style)
     return levels;
 }
 
-bool askAndMake(const std::string& level, bool ask, Prompter& prompter, FileSystem& files)
+bool assents(std::string_view path, Prompter& prompter, PathStyle style)
 {
-    if (ask) {
-        const std::array gaps{fromUtf8(level)};
-        if (!prompter.ask(word::kMakeDirectory, gaps, MessageIcon::Question)) return false;
-    }
-    files.makeDirectory(level);
-    return true;
+    const std::array gaps{fromUtf8(withoutSeparator(path, style))};
+    return prompter.ask(word::kMakeDirectory, gaps, MessageIcon::Question);
 }
 
 } // namespace
@@ -104,12 +100,15 @@ std::string withoutSeparator(std::string_view directory, PathStyle style)
 bool MakeDirectories(
     std::string_view path, bool ask, Prompter& prompter, FileSystem& files, PathStyle style)
 {
+    bool mayMake = !ask;
     for (std::size_t from = 0; from < path.size();) {
         const auto end = std::min(path.find(separator(style), from), path.size());
         const std::string level(path.substr(0, end));
         from = end + 1;
         if (isRoot(level, style) || files.directoryExists(level)) continue;
-        if (!askAndMake(level, ask, prompter, files)) return false;
+        mayMake = mayMake || assents(path, prompter, style); // one question for all levels
+        if (!mayMake) return false;
+        files.makeDirectory(level);
     }
     return files.directoryExists(std::string(path));
 }

@@ -43,7 +43,8 @@ struct SplitPathResult {
     std::string_view directory, PathStyle style = kNativePathStyle);
 
 /// Makes each missing directory of the path, the last level included. With `ask` the person is
-/// asked for each level ahead of it, and No ends the operation. Returns whether the path exists.
+/// asked once for the whole path, ahead of the first level that is missing, and after a No nothing
+/// is made. Returns whether the path exists.
 /// Throws FileFailure for a level that cannot be made; those ahead of it stay.
 bool MakeDirectories(
     std::string_view path, bool ask, Prompter& prompter, FileSystem& files, PathStyle style);

@@ -215,9 +215,11 @@ PictureSize readWbmpSize(const std::string& path, const OutputRules& rules)
     std::ifstream file;
     file.rdbuf()->pubsetbuf(buffer.data(), buffer.size());
     openPicture(file, path);
-    const auto next = [&file]() -> std::optional<unsigned char> {
-        const auto byte = file.get();
+    std::size_t left = kMaxFileBytes; // a file of 0x80 alone is one number without end
+    const auto next = [&]() -> std::optional<unsigned char> {
+        const auto byte = left == 0 ? std::ifstream::traits_type::eof() : file.get();
         if (byte == std::ifstream::traits_type::eof()) return std::nullopt;
+        --left;
         return static_cast<unsigned char>(byte);
     };
     return namingFile(path, [&] { return readWbmpHeader(next, rules); });

@@ -81,15 +81,18 @@ TEST(MakeDirectories, MakesEachMissingLevelInItsTurn)
     EXPECT_FALSE(MakeDirectories("", false, nobody, disk, kPosix));
 }
 
-TEST(MakeDirectories, AsksForEachLevelAndEndsAtNo)
+TEST(MakeDirectories, AsksOnceForTheWholePath)
 {
-    test::ScriptedPrompter person({true, false});
+    test::ScriptedPrompter person({false, true, true});
     test::FakeDisk disk;
     disk.directories = {"/home"};
-    EXPECT_FALSE(MakeDirectories("/home/a/b/c/", true, person, disk, kPosix));
-    EXPECT_EQ(person.questions, (Names{"128: /home/a", "128: /home/a/b"}));
-    EXPECT_EQ(disk.made, Names{"/home/a"});
+    EXPECT_FALSE(MakeDirectories("/home/a/b/", true, person, disk, kPosix));
+    EXPECT_TRUE(disk.made.empty());
+    EXPECT_TRUE(MakeDirectories("/home/a/b/", true, person, disk, kPosix));
+    EXPECT_EQ(disk.made, (Names{"/home/a", "/home/a/b"}));
     EXPECT_TRUE(MakeDirectories("/home/a", true, person, disk, kPosix)); // nothing to ask
+    EXPECT_TRUE(MakeDirectories(R"(C:\x\y)", true, person, disk, kWindows));
+    EXPECT_EQ(person.questions, (Names{"128: /home/a/b", "128: /home/a/b", R"(128: C:\x\y)"}));
 }
 
 TEST(MakeDirectories, AFailureEndsItAndKeepsWhatIsAheadOfIt)

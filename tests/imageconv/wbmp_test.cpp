@@ -231,6 +231,14 @@ TEST(WriteWbmp, TheUsualReaderReadsWhatTheUsualWriterWroteExceptWidthsOneShortOf
     EXPECT_EQ(size.heightPx, 2);
 }
 
+TEST(ReadWbmpFile, AHeaderWithoutEndIsGivenUpByBothReaders)
+{
+    const test::ScratchFolder folder;
+    folder.put("lang.wbmp", std::string(3'000'000, '\x80') + std::string("\0\0\x04\x01\xF0", 5));
+    EXPECT_THROW((void)readWbmpSize(folder.path() + "lang.wbmp", kStandard), BadPicture);
+    EXPECT_THROW((void)ReadWbmpFile(folder.path() + "lang.wbmp", kStandard), BadPicture);
+}
+
 TEST(ReadWbmpFile, NamesTheFileThatItCannotRead)
 {
     const test::ScratchFolder folder;
