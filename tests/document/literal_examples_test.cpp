@@ -1,39 +1,19 @@
 // Holds the slow versions, which judge the fast ones, against examples.
 
-#include "literal/cleaning.h"
 #include "literal/conversions.h"
 #include "literal/corrections.h"
 #include "literal/radio_buttons.h"
+#include "support/text_examples.h"
 
 #include <gtest/gtest.h>
 
 #include <stdexcept>
-#include <utility>
 
 namespace quillmere::literal {
 namespace {
 
-struct Example {
-    const char* name;
-    std::string (*apply)(std::string);
-    std::string before;
-    std::string after;
-};
-
-void expectAll(std::initializer_list<Example> examples)
-{
-    for (const Example& example : examples) {
-        SCOPED_TRACE(example.name);
-        EXPECT_EQ(example.apply(example.before), example.after) << example.before;
-    }
-}
-
-/// Makes a function of an operation that works in place.
-template <void (*operation)(std::string&)> std::string applied(std::string text)
-{
-    operation(text);
-    return text;
-}
+using test::applied;
+using test::expectAll;
 
 std::string doBlockApart(std::string text)
 {
@@ -73,10 +53,13 @@ TEST(LiteralExamples, Formats)
         {"beginning alone", kNesting, "<i>a<i>b", "ab"},
         {"nested beginning", kNesting, "<i>a<i>b</i>", "<i>ab</i>"},
         {"b is none of the pairs", kNesting, "<b>x", "<b>x"},
+        {"end too many behind", kNesting, "<i>a</i>b</i>", "<i>a</i>b</i>"},
         {"around a list", kSelect, "<b><select>..</select></b>", "<select>..</select>"},
         {"in a list", kSelect, "<select><b>1</b><b>2</b></select>", "<select>12</select>"},
         {"into a list", kSelect, "<u>a<select>1</u></select>", "a<select>1</select>"},
         {"beside a list", kSelect, "<u>a</u><select></select>", "<u>a</u><select></select>"},
+        {"twice around a list", kSelect, "<b><b><select></select></b></b>", "<select></select>"},
+        {"out of a list and in", kSelect, "<select></b><b></select></b>", "<select></select>"},
         {"ends behind", kOverlap, "<b>1<i>2</b>3</i>", "<b>1<i>2</i></b>3"},
         {"begins ahead", kOverlap, "<i>1<big>2</i>3</big>", "<i>1<big>2</big></i>3"},
     });
@@ -93,7 +76,11 @@ TEST(LiteralExamples, Paragraphs)
         {"doubled end", kRepair, "<p>a</p>b</p><p></p>", "<p>a</p>b<p></p>"},
         {"outside", imagesWrapped, "<p>a</p><img></img>", "<p>a</p><p><img></img></p>"},
         {"inside", imagesWrapped, "<p><img></img></p>", "<p><img></img></p>"},
+        {"in one without end", imagesWrapped, "<p><img></img>", "<p><img></img>"},
         {"across", boldSplit, "<p><b>1</p><p>2</b></p>", "<p><b>1</b></p><p><b>2</b></p>"},
+        {"across three", boldSplit, "<p><b>1</p><p></p><p>3</b></p>",
+            "<p><b>1</b></p><p></p><p><b>3</b></p>"},
+        {"across the last end", boldSplit, "<p><b>1</p></b>", "<p><b>1</p></b>"},
         {"without text", boldSplit, "<b> <i></i></b>x", " <i></i>x"},
     });
 }
@@ -105,70 +92,14 @@ TEST(LiteralExamples, Layout)
         {"do block", doBlockApart, "<do a>1</do> <do b>2</do><p></p></card>",
             "<do a>1</do> <do b>2</do>|<p></p></card>"},
         {"no end ahead of the card's", doBlockApart, "<do><p></card></do>", "|<do><p></card></do>"},
+        {"end ahead of all", doBlockApart, "</do><do></card>", "|</do><do></card>"},
         {"break, no indent", kBreak, "<wml><card id=\"a\">", "\r\n<wml>\r\n<card id=\"a\">"},
         {"in the line", kBreak, "<wml>a<i>b</i></wml>", "\r\n<wml>a<i>b</i>\r\n</wml>"},
+        {"passed over", kBreak, "<wml><p><b>x</b></p>", "\r\n<wml>\r\n<p>\r\n<b>x</b>\r\n</p>"},
         {"gaps come back", whitespaceRestored, "<a><p>x</p></a>|<a>\n\n<p> y </p>\n</a>",
             "<a>\n\n<p> x </p>\n</a>"},
-    });
-}
-
-/// The pass whose name begins with `number`.
-template <char tens, char ones> std::string pass(std::string text)
-{
-    const std::string number{tens, ones};
-    for (const Pass& pass : cleanPasses())
-        if (std::string_view(pass.name).substr(0, 2) == number) return pass.apply(std::move(text));
-    return "no such pass";
-}
-
-TEST(LiteralExamples, PassesOfTheCleaning)
-{
-    constexpr auto kPairs = pass<'3', ' '>;
-    constexpr auto kRuns = pass<'1', '0'>;
-    expectAll({
-        {"do without go", pass<'1', ' '>, "a<!--do x--><!--/do-->b", "ab"},
-        {"orphan end", pass<'2', ' '>, "<!--/option--><!--option-->", "<!--option-->"},
-        {"lone option", kPairs, "<!--option--><input>a<b>",
-            "<!--option--><input>a<!--/option--><b>"},
-        {"option ends late", kPairs, "<!--option-->1<!--option-->2<!--/option--><!--/select-->",
-            "<!--option-->1<!--/option--><!--option-->2<!--/option--><!--/select-->"},
-        {"doubled end", kPairs, "<!--option-->1<!--/option-->2<!--/option-->",
-            "<!--option-->1<!--/option-->2"},
-        {"do block last", pass<'7', ' '>, "a<!--do--><!--/do-->b",
-            "ab<!--do--><!--/do--><!--/card-->"},
-        {"empty paragraph", pass<'8', ' '>, "<P>&nbsp;</P>x", "<br/>x"},
-        {"cells", pass<'9', ' '>, "<table><tr><td><P>a</P></td></tr> x <tr></tr>y</table>",
-            "<table><tr><td>a<br/></td></tr><tr></tr></table>"},
-        {"table without end", pass<'9', ' '>, "<table><tr></tr>x<table>",
-            "<table><tr></tr></table>x<table>"},
-        {"run", kRuns, "<p>1<p>2<p>3</p>", "<p>123</p>"},
-        {"aligned run", kRuns, "<p>1<p align=right>2</p>", "<p align=right>12</p>"},
-        {"no end", kRuns, "<p>1</p><p>2", "<p>1</p>2"},
-        {"behind the last text", pass<'1', '1'>, "<p>1</p><p></p><br><!--/card-->",
-            "<p>1<!--/card-->"},
-        {"merge", pass<'1', '2'>, "<p>1</p><p>2</p><p>3</p><p align=left>4</p>",
-            "<p>123</p><p align=left>4</p>"},
-        {"ends", pass<'1', '3'>, "<p>1</p>2</p><p></p>", "<p>12</p><p></p>"},
-        {"break outside", pass<'1', '7'>, "<br><p><br></p><br>", "<p><br></p>"},
-        {"doubled brackets", pass<'2', '2'>, "<<p>>x", "<p>>x"},
-    });
-    EXPECT_THROW((void)kPairs("<!--option--><!--option--><!--/option-->"), std::runtime_error);
-}
-
-TEST(LiteralExamples, WholeCleaning)
-{
-    constexpr auto kClean = applied<CleanDesignHtml>;
-    expectAll({
-        {"text only", kClean, "<BODY>Hello</BODY>", "<BODY><p>Hello</BODY></p><!--/card-->"},
-        {"text and do", kClean, "<BODY>Hi<!--do x--><!--go--><!--/go--><!--/do--></BODY>",
-            "<BODY><p>Hi</BODY></p><!--do x--><!--go--><!--/go--><!--/do--><!--/card-->"},
-        {"empty", kClean, "<BODY></BODY>", "<BODY></BODY><p></p><!--/card-->"},
-        {"option alone", kClean, "<p>x</p><!--option value=\"1\"-->a<p>y</p>",
-            "<p>x<!--select--><!--option value=\"1\"-->a<!--/option--><!--/select-->y</p>"
-            "<!--/card-->"},
-        {"letters", kClean, "<p>M\xFCller, caf\xE9</p>", "<p>Mueller, caf</p><!--/card-->"},
-        {"empty paragraph", kClean, "<p>x</p><P>&nbsp;</P>", "<p>x</p><!--/card-->"},
-        {"blanks", kClean, "<p>a  b </p>", "<p>a  b</p><!--/card-->"},
+        {"new tags are passed over", whitespaceRestored, "<a><q>x</q></a>|<a>\n<b/>\n</a>",
+            "<a><q>x</q>\n</a>"},
     });
 }
 
