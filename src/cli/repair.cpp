@@ -21,19 +21,28 @@ namespace quillmere::cli {
 
 namespace {
 
-struct Repaired {
-    std::string read; // as the conversion read it
-    std::string written;
+/// What the decks of one call have in common.
+struct Run {
+    const Arguments& arguments;
+    std::string outDir; // with its separator; "" without --out-dir
+    FileReplacements files;
 };
 
-Repaired repairInto(CoreSession& core, const std::string& path)
+/// Repairs the deck in the session and returns what is to be written.
+std::string repairInto(CoreSession& core, const std::string& path)
 {
     const auto [directory, name] = SplitPath(path);
     LoadDeck(core.session, {name, directory, {}, {}});
-    const DeckRecord& first = core.session.deck.front();
-    std::string read = core.workFiles.read(first.pristineDir + first.pristineFile);
     WriteDeck(core.session);
-    return {std::move(read), core.workFiles.read(first.wmlDir + first.wmlFile)};
+    const DeckRecord& first = core.session.deck.front();
+    return core.workFiles.read(first.wmlDir + first.wmlFile);
+}
+
+/// The deck as the conversion read it.
+std::string readDeckOf(const CoreSession& core)
+{
+    const DeckRecord& first = core.session.deck.front();
+    return core.workFiles.read(first.pristineDir + first.pristineFile);
 }
 
 std::string repairedAgain(
@@ -61,34 +70,36 @@ void keepWorkFiles(CoreSession& core, const std::string& directory)
     }
 }
 
-std::string reportOf(
-    const std::string& path, const Repaired& repaired, const Arguments& arguments, bool first)
+std::string reportOf(const std::string& path, const CoreSession& core, const std::string& written,
+    const Arguments& arguments, bool first)
 {
-    DeckChangesReport report = DeckChanges(repaired.read, repaired.written);
-    report.stable = repairedAgain(repaired.written, path, arguments) == repaired.written;
+    DeckChangesReport report = DeckChanges(readDeckOf(core), written);
+    report.stable = repairedAgain(written, path, arguments) == written;
     const std::string name = fromUtf8(path);
     if (!arguments.json) return (first ? "" : "\n") + textReport(report, name);
     return (first ? "" : ",\n") + jsonReport(report, name);
 }
 
-std::string outputPath(const Arguments& arguments, const std::string& input)
+std::string outputPath(const Run& run, const std::string& input)
 {
-    if (arguments.output) return *arguments.output;
-    if (arguments.outDir) return NormalisePath(*arguments.outDir) + SplitPath(input).name;
+    if (run.arguments.output) return *run.arguments.output;
+    if (run.arguments.outDir) return run.outDir + SplitPath(input).name;
     return input;
 }
 
-std::string repairOne(const Arguments& arguments, const std::string& input, bool first)
+/// Returns the report, "" where none is wanted.
+std::string repairOne(Run& run, const std::string& input, bool first)
 {
+    const Arguments& arguments = run.arguments;
     CoreSession core(arguments.standardOutput);
-    const Repaired repaired = repairInto(core, input);
+    const std::string written = repairInto(core, input);
     std::string report
-        = arguments.report ? reportOf(input, repaired, arguments, first) : std::string();
+        = arguments.report ? reportOf(input, core, written, arguments, first) : std::string();
     if (arguments.keepWork) keepWorkFiles(core, *arguments.keepWork);
     if (arguments.output == "-") {
-        printBytes(repaired.written);
+        printBytes(written);
     } else {
-        replaceFile(outputPath(arguments, input), repaired.written);
+        run.files.replace(outputPath(run, input), written);
     }
     return report;
 }
@@ -125,14 +136,16 @@ ExitStatus runRepair(const Arguments& arguments)
 {
     checkArguments(arguments);
     if (arguments.outDir) makeDirectory(*arguments.outDir);
+    Run run{arguments, arguments.outDir ? NormalisePath(*arguments.outDir) : "", {}};
     ExitStatus status = ExitStatus::Done;
     std::size_t reported = 0;
     if (arguments.json) printBytes("[");
     for (const std::string& input : arguments.operands) {
         const ExitStatus one = guarded(input, [&] {
-            const std::string report = repairOne(arguments, input, reported == 0);
+            const std::string report = repairOne(run, input, reported == 0);
+            if (!arguments.report) return ExitStatus::Done;
             arguments.json ? printBytes(report) : print(report);
-            if (arguments.report) ++reported;
+            ++reported;
             return ExitStatus::Done;
         });
         status = std::max(status, one);

@@ -49,6 +49,7 @@ void DeckReplacement::commit()
 
 void DeckReplacement::removeFilesOf(const Deck& gone, const Deck& other)
 {
+    if (gone.empty()) return;
     forEachFile(other, [&](std::string path) { kept_.insert(std::move(path)); });
     forEachFile(gone, [&](const std::string& path) {
         if (!kept_.contains(path)) session_.workFiles.remove(path);

@@ -88,7 +88,7 @@ std::string joinAreaLines(std::string_view file, bool isFirstArea)
     return joined;
 }
 
-std::string areaAsWml(DocumentSession& session, std::size_t areaIndex)
+std::string areaAsWml(DocumentSession& session, std::size_t areaIndex, DisplayCopyIndex& pictures)
 {
     const auto& area = areaRecord(session, areaIndex);
     auto text
@@ -96,7 +96,7 @@ std::string areaAsWml(DocumentSession& session, std::size_t areaIndex)
     requireAddressable(text);
     DeleteAllTemporaeryRadioButtons(text);
     CleanDesignHtml(text, session.output);
-    DesignToWml(text, session);
+    DesignToWml(text, session, pictures);
     RepairParagraphs(text);
     return text;
 }
@@ -125,14 +125,16 @@ void AddArea(
 void WriteDeck(DocumentSession& session)
 {
     const auto& first = areaRecord(session, 0);
+    DisplayCopyIndex pictures(session.deck);
     std::string wml(kDeckHead);
     for (std::size_t i = 0; i < areaCount(session.deck); ++i)
-        wml += areaAsWml(session, i);
+        wml += areaAsWml(session, i, pictures);
     wml += "</wml>";
     requireAddressable(wml);
     BreakWmlLines(wml);
     restoreLayout(wml, session);
-    session.workFiles.write(first.wmlDir + first.wmlFile, wml + "\r\n");
+    wml += "\r\n";
+    session.workFiles.write(first.wmlDir + first.wmlFile, std::move(wml));
 }
 
 void SaveSurface(DocumentSession& session, std::size_t areaIndex)

@@ -17,7 +17,7 @@ namespace quillmere {
 
 namespace {
 
-constexpr std::array kTagRules = std::to_array<TagRule>({
+constexpr TagRule kTagRows[] = {
     {"<p", TagAction::Paragraph},
     {"</p>", TagAction::Emit, "</p>"},
     {"<b>", TagAction::Emit, "<b>"},
@@ -58,7 +58,8 @@ constexpr std::array kTagRules = std::to_array<TagRule>({
     {"</html>", TagAction::Drop},
     {"<!--card", TagAction::Marker},
     {"<!--/card", TagAction::LowerMarker},
-});
+};
+constexpr TagRules kTagRules{kTagRows};
 
 constexpr std::string_view kLabel = "label=\"";
 constexpr std::string_view kTitle = "title=\"";

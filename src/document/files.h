@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <limits>
+#include <set>
 #include <string>
 #include <string_view>
 
@@ -24,6 +25,24 @@ inline constexpr std::size_t kAnyFileSize = std::numeric_limits<std::size_t>::ma
 /// the mode is kept, and the owner where the system lets us. A device or pipe is written as it is.
 /// Throws FileFailure; the old file is then as it was.
 void replaceFile(const std::string& path, std::string_view bytes);
+
+/// Replaces many files, each as replaceFile() does, but flushes every directory just once, at its
+/// own end. Until then a crash of the machine may bring back some of the old files, each whole.
+class FileReplacements {
+public:
+    FileReplacements() = default;
+    FileReplacements(const FileReplacements&) = delete;
+    FileReplacements& operator=(const FileReplacements&) = delete;
+    FileReplacements(FileReplacements&&) = delete;
+    FileReplacements& operator=(FileReplacements&&) = delete;
+    ~FileReplacements();
+
+    /// Throws as replaceFile() does.
+    void replace(const std::string& path, std::string_view bytes);
+
+private:
+    std::set<std::string> directories_; // with files that were replaced
+};
 
 // The work files of a run, in a directory that belongs to it alone.
 

@@ -81,7 +81,6 @@ void replaceTarget(
     if (old) neighbour.resemble(*old);
     neighbour.flush();
     neighbour.takeTheTargetsPlace();
-    flushDirectory(directoryOf(target));
 }
 
 } // namespace
@@ -101,7 +100,13 @@ bool fileExists(const std::string& path)
     return ::stat(path.c_str(), &status) == 0 && !S_ISDIR(status.st_mode);
 }
 
-void replaceFile(const std::string& path, std::string_view bytes)
+FileReplacements::~FileReplacements()
+{
+    for (const auto& directory : directories_)
+        flushDirectory(directory);
+}
+
+void FileReplacements::replace(const std::string& path, std::string_view bytes)
 {
     auto old = statusOf(path);
     if (old && S_ISLNK(old->st_mode) && leadsToDevice(path)) return writeToDevice(path, bytes);
@@ -112,6 +117,12 @@ void replaceFile(const std::string& path, std::string_view bytes)
         throw cannotWrite(path, std::make_error_code(std::errc::is_a_directory));
     if (old && isDevice(*old)) return writeToDevice(target, bytes);
     replaceTarget(target, old, bytes);
+    directories_.insert(directoryOf(target));
+}
+
+void replaceFile(const std::string& path, std::string_view bytes)
+{
+    FileReplacements().replace(path, bytes);
 }
 
 std::string makePrivateDirectory(const std::string& parent)

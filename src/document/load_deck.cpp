@@ -22,6 +22,8 @@ namespace {
 // end: a device such as /dev/zero is given up here.
 constexpr std::size_t kMaxDeckBytes = 32 * (kMaxTextLength + 1);
 
+constexpr std::string_view kLineEnd = "\r\n";
+
 struct DeckTexts {
     std::string wml; ///< what is converted
     std::string opened; ///< the deck as opened, for the pristine copy
@@ -44,10 +46,10 @@ DeckTexts readTexts(const DocumentSession& session, const DeckLocation& location
 }
 
 /// Writes `text` to a new work file for decks and returns its name.
-std::string writeWorkCopy(WorkFiles& files, const std::string& text)
+std::string writeWorkCopy(WorkFiles& files, std::string text)
 {
     auto name = files.unusedName(kWorkFilePrefix, kWmlFileSuffix);
-    files.write(files.directory() + name, text);
+    files.write(files.directory() + name, std::move(text));
     return name;
 }
 
@@ -67,7 +69,7 @@ bool hasPristine(const DocumentSession& session, const Deck& deck)
 
 /// Fills record 0 and makes its work files.
 void startDeck(
-    DocumentSession& session, const Deck& old, const DeckLocation& location, const DeckTexts& texts)
+    DocumentSession& session, const Deck& old, const DeckLocation& location, DeckTexts texts)
 {
     auto& files = session.workFiles;
     session.deck.resize(2);
@@ -77,10 +79,11 @@ void startDeck(
     first.deckDir = location.deckDir;
     createAreaFiles(files, first);
     const bool isGiven = !location.workFile.empty();
-    first.wmlFile = isGiven ? location.workFile : writeWorkCopy(files, texts.wml);
+    first.wmlFile = isGiven ? location.workFile : writeWorkCopy(files, std::move(texts.wml));
     first.wmlDir = isGiven ? location.workDir : files.directory();
     const bool isKept = hasPristine(session, old);
-    first.pristineFile = isKept ? old.front().pristineFile : writeWorkCopy(files, texts.opened);
+    first.pristineFile
+        = isKept ? old.front().pristineFile : writeWorkCopy(files, std::move(texts.opened));
     first.pristineDir = isKept ? old.front().pristineDir : files.directory();
 }
 
@@ -106,26 +109,41 @@ std::string convertBody(std::string body, std::size_t areaIndex, DocumentSession
     return body;
 }
 
-/// The design work file of a card: marker, do block, and the body in one line within the frame.
-/// The frame's own paragraph is left out, since the card brings its paragraphs with it.
-std::string designFileOf(CardSource card, std::size_t areaIndex, DocumentSession& session)
+/// The page around the body of a card. Its own paragraph is left out, since the card brings its
+/// paragraphs with it.
+struct Frame {
+    std::string head;
+    std::string tail;
+};
+
+Frame frameOf(DocumentSession& session)
 {
     const int kind = session.deck.front().surfaceKind;
+    return {designPageLines(session, kind, PageSection::Head, "<p"),
+        designPageLines(session, kind, PageSection::Tail, "</p")};
+}
+
+/// The design work file of a card: marker, do block, and the body in one line within the frame.
+std::string designFileOf(
+    CardSource card, const Frame& frame, std::size_t areaIndex, DocumentSession& session)
+{
     WmlToDesign(card.head, areaIndex, session);
     WmlToDesign(card.doBlock, areaIndex, session);
-    auto file = std::move(card.head).append("\r\n").append(card.doBlock).append("\r\n");
-    file += designPageLines(session, kind, PageSection::Head, "<p");
-    file += convertBody(std::move(card.body), areaIndex, session).append("\r\n");
-    return file += designPageLines(session, kind, PageSection::Tail, "</p");
+    const auto body = convertBody(std::move(card.body), areaIndex, session);
+    std::string file;
+    file.reserve(card.head.size() + card.doBlock.size() + frame.head.size() + body.size()
+        + frame.tail.size() + 3 * kLineEnd.size());
+    file.append(card.head).append(kLineEnd).append(card.doBlock).append(kLineEnd);
+    return file.append(frame.head).append(body).append(kLineEnd).append(frame.tail);
 }
 
 /// Takes the next card into the last area. A card tag that is cut off leaves the file empty.
-void loadCard(DocumentSession& session, CardSplitter& cards)
+void loadCard(DocumentSession& session, const Frame& frame, CardSplitter& cards)
 {
     const auto index = areaCount(session.deck) - 1;
     auto card = cards.next();
     if (!card) return;
-    auto file = designFileOf(std::move(*card), index, session);
+    auto file = designFileOf(std::move(*card), frame, index, session);
     const auto& area = session.deck[index];
     session.workFiles.write(area.designDir + area.designFile, std::move(file));
 }
@@ -138,12 +156,13 @@ void LoadDeck(DocumentSession& session, const DeckLocation& location, std::int16
     CardSplitter cards(joinLines(texts.wml));
     DeckReplacement replacement(session);
     if (!location.workFile.empty()) replacement.keep(location.workDir + location.workFile);
-    startDeck(session, replacement.old(), location, texts);
+    startDeck(session, replacement.old(), location, std::move(texts));
     session.deck.front().surfaceKind = surfaceKind;
-    loadCard(session, cards);
+    const auto frame = frameOf(session);
+    loadCard(session, frame, cards);
     while (cards.hasMore()) {
         appendArea(session);
-        loadCard(session, cards);
+        loadCard(session, frame, cards);
     }
     replacement.commit();
 }

@@ -53,7 +53,8 @@ bool PosixFile::readInto(std::string& bytes, std::size_t maxBytes) const
     constexpr std::size_t kChunk = 4096; // for what does not know its size, such as a pipe
     struct stat status { };
     if (::fstat(number_, &status) != 0) return false;
-    const auto told = std::min(static_cast<std::size_t>(status.st_size), maxBytes);
+    const auto size = static_cast<std::size_t>(status.st_size);
+    const auto told = std::min(size, maxBytes);
     bytes.assign(told + 1, '\0'); // one more, so that the end is seen without growing
     std::size_t length = 0;
     while (length <= maxBytes) {
@@ -63,6 +64,8 @@ bool PosixFile::readInto(std::string& bytes, std::size_t maxBytes) const
         if (count < 0) return false;
         if (count == 0) break;
         length += static_cast<std::size_t>(count);
+        // There was room for one more. What does not know its size tells 0 and is asked again.
+        if (length == size && size > 0) break;
     }
     bytes.resize(length);
     return true;

@@ -64,9 +64,11 @@ void InsertTemporaeryRadioButtons(std::string& text)
 {
     requireAddressable(text);
     const std::string_view source = text;
+    auto option = findIgnoringCase(source, kOption);
+    if (option == npos) return;
     Rewriter result(source);
     int number = 0;
-    for (auto option = findIgnoringCase(source, kOption); option != npos;) {
+    while (option != npos) {
         const auto end = source.find('>', option);
         if (end == npos) break;
         result.insert(end + 1, button(++number, targetOf(source.substr(option, end - option))));
@@ -82,7 +84,7 @@ void InsertTemporaeryRadioButtons(std::string& text)
 
 void DeleteAllTemporaeryRadioButtons(std::string& text)
 {
-    if (findIgnoringCase(text, kOption) == npos) return;
+    if (findIgnoringCase(text, kInput) == npos) return;
     EditedText edited(std::move(text));
     for (auto option = edited.find(kOption); option != npos;
          option = edited.find(kOption, option + 1)) {

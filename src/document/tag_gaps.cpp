@@ -5,7 +5,7 @@
 
 #include "document/windows1252.h"
 
-#include <algorithm>
+#include <bit>
 #include <utility>
 
 namespace quillmere {
@@ -56,22 +56,51 @@ PristineWalk::Key PristineWalk::packed(std::string_view key)
 PristineWalk::PristineWalk(std::string_view text)
     : gaps_(text)
 {
-    tags_.reserve(static_cast<std::size_t>(std::count(text.begin(), text.end(), '<')));
-    for (auto at = text.find('<'); at != npos; at = text.find('<', at + 1))
-        tags_.push_back({static_cast<std::uint32_t>(at), kNone});
+    addTags(text);
+    buckets_.assign(std::bit_ceil(tags_.size() + 1), kNone);
     for (auto i = static_cast<Index>(tags_.size()); i-- > 0;) {
         const auto key = text.substr(tags_[i].offset, kTagKeyLength);
-        if (key.size() < kTagKeyLength && key != "<>") continue;
-        const auto [first, isNew] = firstOfKey_.try_emplace(packed(key), i);
-        if (!isNew) tags_[i].nextOfKey = std::exchange(first->second, i);
+        if (key.size() == kTagKeyLength || key == "<>") linkTag(i, packed(key));
     }
+}
+
+void PristineWalk::addTags(std::string_view text)
+{
+    constexpr std::size_t kUsualDistance = 16;
+    tags_.reserve(text.size() / kUsualDistance);
+    for (auto at = text.find('<'); at != npos; at = text.find('<', at + 1))
+        tags_.push_back({static_cast<std::uint32_t>(at), kNone});
+}
+
+void PristineWalk::linkTag(Index tag, Key key)
+{
+    if (auto* const known = find(key)) {
+        tags_[tag].nextOfKey = std::exchange(known->first, tag);
+    } else {
+        auto& bucket = bucketOf(key);
+        keys_.push_back({key, tag, bucket});
+        bucket = static_cast<Index>(keys_.size() - 1);
+    }
+}
+
+PristineWalk::Index& PristineWalk::bucketOf(Key key)
+{
+    return buckets_[static_cast<unsigned>(key ^ (key >> 8U)) & (buckets_.size() - 1)];
+}
+
+PristineWalk::TagsOfKey* PristineWalk::find(Key key)
+{
+    auto at = bucketOf(key);
+    while (at != kNone && keys_[at].key != key)
+        at = keys_[at].nextInBucket;
+    return at == kNone ? nullptr : &keys_[at];
 }
 
 std::optional<GapSpace> PristineWalk::goTo(std::string_view key)
 {
-    const auto entry = firstOfKey_.find(packed(key));
-    if (entry == firstOfKey_.end()) return std::nullopt;
-    auto& tag = entry->second;
+    auto* const known = find(packed(key));
+    if (known == nullptr) return std::nullopt;
+    auto& tag = known->first;
     while (tag != kNone && tags_[tag].offset < from_)
         tag = tags_[tag].nextOfKey;
     if (tag == kNone) return std::nullopt;

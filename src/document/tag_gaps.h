@@ -6,7 +6,6 @@
 #include <cstdint>
 #include <optional>
 #include <string_view>
-#include <unordered_map>
 #include <vector>
 
 // The gaps between the tags of a laid out text. White space is every character with a code
@@ -71,10 +70,22 @@ private:
         Index nextOfKey;
     };
 
+    /// The tags of one key. Keys of one bucket are linked.
+    struct TagsOfKey {
+        Key key;
+        Index first; // behind the place of the walk or ahead of it
+        Index nextInBucket;
+    };
+
     [[nodiscard]] static Key packed(std::string_view key);
+    [[nodiscard]] Index& bucketOf(Key key);
+    [[nodiscard]] TagsOfKey* find(Key key);
+    void addTags(std::string_view text);
+    void linkTag(Index tag, Key key);
 
     std::vector<Tag> tags_; // in the order of the text
-    std::unordered_map<Key, Index> firstOfKey_; // behind the place of the walk or ahead of it
+    std::vector<TagsOfKey> keys_;
+    std::vector<Index> buckets_; // a power of two, more than tags, so that few keys share one
     std::size_t from_ = 0;
     GapWalk gaps_;
 };

@@ -1,14 +1,24 @@
 // A tag can hold many '<', and where it is kept, the next tag begins at the second of them and ends
-// at the same '>'. So the openings of a tag are read once, from its end, each with the best rule of
-// all behind it. Held by tag_rules_test.cpp, which tests every tag against every key.
+// at the same '>'. So the openings of such a tag are read once, from its end, each with the best
+// rule of all behind it. Held by tag_rules_test.cpp, which tests every tag against every key.
 
 #include "document/tag_rules.h"
+
+#include "document/text_search.h"
 
 #include <algorithm>
 
 namespace quillmere {
 
-RuleFinder::RuleFinder(std::string_view lowerText, std::span<const TagRule> rules)
+TagRules::Number TagRules::ruleFor(std::string_view lowerText) const
+{
+    auto rule = first_[slotOf(lowerText)];
+    while (rule != kNone && !lowerText.starts_with(rows_[rule].key))
+        rule = next_[rule];
+    return rule;
+}
+
+RuleFinder::RuleFinder(std::string_view lowerText, const TagRules& rules)
     : text_(lowerText)
     , rules_(rules)
 {
@@ -16,36 +26,34 @@ RuleFinder::RuleFinder(std::string_view lowerText, std::span<const TagRule> rule
 
 const TagRule* RuleFinder::find(const Tag& tag)
 {
-    if (tag.end != tagEnd_) readOpenings(tag);
+    const auto rule = ruleOf(tag);
+    return rule == TagRules::kNone ? nullptr : &rules_[rule];
+}
+
+TagRules::Number RuleFinder::ruleOf(const Tag& tag)
+{
+    if (tag.end != tagEnd_) {
+        const auto whole = tag.in(text_); // a key that ends in '>' ends where its tag ends
+        if (whole.find('<', 1) == npos) return rules_.ruleFor(whole);
+        readOpenings(tag);
+    }
     while (openings_.back().offset < tag.begin)
         openings_.pop_back();
-    const auto rule = openings_.back().rule;
-    return rule < rules_.size() ? &rules_[rule] : nullptr;
+    return openings_.back().rule;
 }
 
 void RuleFinder::readOpenings(const Tag& tag)
 {
     openings_.clear();
     tagEnd_ = tag.end;
-    std::size_t best = rules_.size();
+    auto best = TagRules::kNone;
     for (auto at = tag.end; at-- > tag.begin;) {
         if (text_[at] != '<') continue;
-        const auto rule = ruleAt(at);
+        const auto rule = rules_.ruleFor(text_.substr(at, tag.end - at));
         if (!openings_.empty() && rule >= best) continue; // the opening behind tells the same
         best = std::min(best, rule);
         openings_.push_back({at, best});
     }
-}
-
-std::size_t RuleFinder::ruleAt(std::size_t offset) const
-{
-    const auto rest = text_.substr(offset); // a key that ends in '>' ends where its tag ends
-    const auto second = rest.size() > 1 ? rest[1] : '\0';
-    const auto matches = [rest, second](const TagRule& rule) {
-        return rule.key[1] == second && rest.starts_with(rule.key);
-    };
-    const auto found = std::find_if(rules_.begin(), rules_.end(), matches);
-    return static_cast<std::size_t>(found - rules_.begin());
 }
 
 } // namespace quillmere

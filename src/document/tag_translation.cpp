@@ -33,10 +33,12 @@ std::string lowerBut(const CasedText& text, const Tag& tag, const TextRange& kep
 
 std::string_view paragraphTag(std::string_view lowerTag)
 {
+    constexpr std::string_view kPlain = "<p>";
+    if (lowerTag == kPlain) return kPlain; // as nearly all are
     for (const auto& alignment : kAlignments) {
         if (lowerTag.find(alignment.word) != npos) return alignment.tag;
     }
-    return "<p>";
+    return kPlain;
 }
 
 std::string asMarker(std::string_view tagBehindOpening)

@@ -24,7 +24,9 @@ template <typename ReplacementFor>
 [[nodiscard]] std::string translateTags(std::string_view source, ReplacementFor replacementFor)
 {
     requireAddressable(source);
-    Rewriter rewriter(source);
+    std::string result;
+    result.reserve(source.size() + source.size() / 8);
+    std::size_t copied = 0; // what stands before it is in `result`
     std::size_t length = source.size(); // of the text as changed so far
     TagScanner tags(source);
     while (const auto tag = tags.next()) {
@@ -35,10 +37,10 @@ template <typename ReplacementFor>
         }
         length = length + replacement->size() - (tag->end - tag->begin);
         requireAddressableLength(length);
-        rewriter.drop(tag->begin, tag->end);
-        rewriter.insert(tag->end, *replacement);
+        result.append(source, copied, tag->begin - copied).append(*replacement);
+        copied = tag->end;
     }
-    return rewriter.take();
+    return result.append(source, copied);
 }
 
 /// A text and its copy in lower case: tags are told by the one and their values mostly taken from

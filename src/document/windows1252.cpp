@@ -71,7 +71,10 @@ void appendUtf8(std::string& result, char32_t point)
 
 bool isAscii(std::string_view bytes)
 {
-    return std::none_of(bytes.begin(), bytes.end(), [](char c) { return code(c) >= 0x80; });
+    unsigned char bits = 0; // of all bytes, without a branch, so that many are read at a time
+    for (const char byte : bytes)
+        bits = static_cast<unsigned char>(bits | code(byte));
+    return bits < 0x80;
 }
 
 bool isUtf8(std::string_view bytes)
@@ -84,15 +87,23 @@ bool isUtf8(std::string_view bytes)
     return true;
 }
 
+// All in bytes and without a branch, so that the compiler can lower many characters at a time.
+constexpr unsigned char lowered(unsigned char c)
+{
+    using Byte = unsigned char;
+    const bool isLetter = static_cast<Byte>(c - 'A') <= 'Z' - 'A'
+        || (static_cast<Byte>(c - 0xC0) <= 0xDE - 0xC0 && c != 0xD7);
+    const bool isEarlyLetter = c == 0x8A || c == 0x8C || c == 0x8E;
+    const Byte letter = isLetter ? 0x20 : 0;
+    const Byte earlyLetter = isEarlyLetter ? 0x10 : 0;
+    const Byte last = c == 0x9F ? 0x60 : 0;
+    return static_cast<Byte>(c + static_cast<Byte>(letter | earlyLetter | last));
+}
+
 constexpr auto kLower = [] {
     std::array<char, 256> table{};
-    for (unsigned i = 0; i < 256; ++i) {
-        unsigned lower = i;
-        if ((i >= 'A' && i <= 'Z') || (i >= 0xC0 && i <= 0xDE && i != 0xD7)) lower = i + 32;
-        if (i == 0x8A || i == 0x8C || i == 0x8E) lower = i + 16;
-        if (i == 0x9F) lower = 0xFF;
-        table[i] = static_cast<char>(lower);
-    }
+    for (unsigned i = 0; i < 256; ++i)
+        table[i] = static_cast<char>(lowered(static_cast<unsigned char>(i)));
     return table;
 }();
 
@@ -148,7 +159,7 @@ std::string lowerCase(std::string_view text)
 {
     std::string result(text);
     for (char& character : result)
-        character = lowerCase(character);
+        character = static_cast<char>(lowered(code(character)));
     return result;
 }
 

@@ -7,11 +7,12 @@
 
 #include "document/limits.h"
 #include "document/tag_gaps.h"
-#include "document/text_edits.h"
 #include "document/text_search.h"
 
 #include <algorithm>
 #include <optional>
+#include <utility>
+#include <vector>
 
 namespace quillmere {
 namespace {
@@ -27,10 +28,12 @@ constexpr std::string_view kKeptInLine[] = {"<br/", "<td", "</td", "<strong", "<
 bool getsOwnLine(std::string_view text, std::size_t at)
 {
     const std::string_view rest = text.substr(at);
-    return std::none_of(
-        std::begin(kKeptInLine), std::end(kKeptInLine), [rest](std::string_view key) {
-            return rest.size() > key.size() + 1 && rest.starts_with(key);
-        });
+    if (rest.size() < 3) return true;
+    const auto begins = [rest](std::string_view key) { // two characters tell most keys apart
+        return rest[1] == key[1] && rest[2] == key[2] && rest.size() > key.size() + 1
+            && rest.starts_with(key);
+    };
+    return std::none_of(std::begin(kKeptInLine), std::end(kKeptInLine), begins);
 }
 
 /// The indent that the tags ask for.
@@ -55,87 +58,107 @@ private:
     bool first_ = true;
 };
 
-/// Changes of the white space at the ends of gaps.
-class GapEdits {
+/// Writes a text with other white space at the ends of its gaps.
+class GapRewriter {
 public:
-    explicit GapEdits(std::string_view text)
-        : text_(text)
-        , gaps_(text)
+    explicit GapRewriter(std::string_view text)
+        : gaps_(text)
+        , rewriter_(text)
     {
     }
 
-    /// The gap ahead of the '<' at `tag` gets other white space.
+    /// The gap ahead of the '<' at `tag`, which does not go back, gets other white space. Throws
+    /// Overflow where what is put in alone is longer than positions can tell.
     void setSpace(std::size_t tag, const GapSpace& space)
     {
         const auto before = gaps_;
         gaps_.goAheadOf(tag);
-        if (gaps_.begin() != before.begin()) finishFront(before);
+        if (gaps_.begin() != before.begin()) finishGap(before);
         if (!gaps_.exists()) return;
         const bool isBlank = gaps_.leadEnd() == tag;
-        if (!isBlank) replace(gaps_.trailBegin(), tag, space.trail);
+        if (!isBlank) trails_.push_back({gaps_.trailBegin(), tag, space.trail});
         front_ = isBlank ? space : GapSpace{space.lead, {}};
     }
 
-    void applyTo(std::string& text)
+    [[nodiscard]] std::string take()
     {
-        finishFront(gaps_);
-        edits_.applyTo(text);
+        finishGap(gaps_);
+        return rewriter_.take();
     }
 
 private:
-    void finishFront(const GapWalk& gap)
+    struct Trail {
+        std::size_t begin;
+        std::size_t end;
+        std::string_view space;
+    };
+
+    void finishGap(const GapWalk& gap)
     {
         if (!front_) return;
         replace(gap.begin(), gap.leadEnd(), front_->lead);
         replace(gap.leadEnd(), gap.leadEnd(), front_->trail);
+        for (const Trail& trail : trails_)
+            replace(trail.begin, trail.end, trail.space);
         front_.reset();
+        trails_.clear();
     }
     void replace(std::size_t begin, std::size_t end, std::string_view space)
     {
-        if (text_.substr(begin, end - begin) != space) edits_.replace(begin, end, space);
+        inserted_ += space.size();
+        requireAddressableLength(inserted_);
+        rewriter_.insert(begin, space);
+        rewriter_.drop(begin, end);
     }
 
-    std::string_view text_;
     GapWalk gaps_;
-    TextEdits edits_;
+    Rewriter rewriter_;
     std::optional<GapSpace> front_; // what the open gap begins with
+    std::vector<Trail> trails_; // what stands ahead of the tags behind its front
+    std::size_t inserted_ = 0;
 };
+
+void takeAddressable(std::string& text, std::string result)
+{
+    requireAddressable(result);
+    text = std::move(result);
+}
 
 } // namespace
 
 void BreakWmlLines(std::string& text)
 {
     requireAddressable(text);
-    TextEdits edits;
+    Rewriter result(text);
     IndentCount indent;
     auto resumeAt = npos;
     for (auto at = findIgnoringCase(text, "<wml"); at != npos; at = text.find('<', resumeAt)) {
         resumeAt = at + 1;
         const bool isClose = standsAt(text, at, "</");
         if (getsOwnLine(text, at)) {
-            edits.insert(at, kLineBreak);
+            result.insert(at, kLineBreak);
             resumeAt += indent.countLine(isClose);
         } else if (!isClose) {
             indent.countKeptOpen();
         }
     }
-    edits.applyTo(text);
+    takeAddressable(text, result.take());
 }
 
 void RestoreWhitespace(std::string& text, std::string_view pristine)
 {
     requireAddressable(text);
     PristineWalk pristineTags(pristine);
-    GapEdits edits(text);
+    GapRewriter result(text);
     ForwardFinder tagEnds(text, ">");
     for (auto at = text.find('<'); at != npos; at = text.find('<', at + 1)) {
         const auto tagEnd = tagEnds.next(at);
         if (tagEnd == npos) break;
         const auto length = std::min(tagEnd + 1 - at, kTagKeyLength);
         const auto space = pristineTags.goTo(std::string_view(text).substr(at, length));
-        if (space) edits.setSpace(at, *space);
+        if (space) result.setSpace(at, *space);
     }
-    edits.applyTo(text);
+    takeAddressable(text, result.take());
 }
 
 } // namespace quillmere

@@ -19,7 +19,7 @@ namespace {
 
 // Keys are parts of tags: "<p" takes <prev/> and <postfield> as well, "<a" takes <anchor> and
 // <access>, and a cell with attributes, which no row names, is dropped while its end stays.
-constexpr std::array kTagRules = std::to_array<TagRule>({
+constexpr TagRule kTagRows[] = {
     {"<p", TagAction::Paragraph},
     {"</p>", TagAction::Emit, "</p>"},
     {"<b>", TagAction::Emit, "<b>"},
@@ -58,7 +58,8 @@ constexpr std::array kTagRules = std::to_array<TagRule>({
     {"</select", TagAction::Emit, "<!--/select-->"},
     {"<wml>", TagAction::Drop},
     {"</wml>", TagAction::Drop},
-});
+};
+constexpr TagRules kTagRules{kTagRows};
 
 constexpr std::string_view kLabel = "label=\"";
 constexpr std::string_view kTitle = "title=\"";
@@ -172,6 +173,7 @@ std::string Conversion::cardMarkerOrNothing(const Tag& tag)
 
 bool WmlToDesign(std::string& text, std::size_t areaIndex, DocumentSession& session)
 {
+    if (text.empty()) return false; // many cards have no do block
     Conversion conversion(text, areaIndex, session);
     std::string design = conversion.run();
     text = std::move(design);

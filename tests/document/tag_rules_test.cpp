@@ -9,7 +9,7 @@
 namespace quillmere {
 namespace {
 
-constexpr std::array kRules = std::to_array<TagRule>({{"<b>"}, {"<br"}, {"</b"}, {"<x"}});
+constexpr std::array kRows = std::to_array<TagRule>({{"<b>"}, {"<br"}, {"</b"}, {"<x"}});
 
 const TagRule* firstContained(std::string_view tag, std::span<const TagRule> rules)
 {
@@ -22,7 +22,8 @@ const TagRule* firstContained(std::string_view tag, std::span<const TagRule> rul
 /// Every second tag is kept, so that the next one overlaps it.
 void expectFirstContained(const std::string& text, std::span<const TagRule> rules)
 {
-    RuleFinder finder(text, rules);
+    const TagRules table(rules);
+    RuleFinder finder(text, table);
     TagScanner tags(text);
     bool keep = true;
     while (const auto tag = tags.next()) {
@@ -36,8 +37,8 @@ TEST(RuleFinder, GivesTheFirstRuleWhoseKeyTheTagContains)
 {
     constexpr std::array<std::string_view, 6> kTokens{"<", ">", "b", "r", "/", "x"};
     test::forEachSequence(kTokens, 6, [](const std::string& text) {
-        expectFirstContained(text, kRules);
-        expectFirstContained(text, std::span(kRules).first(3));
+        expectFirstContained(text, kRows);
+        expectFirstContained(text, std::span(kRows).first(3));
     });
 }
 
