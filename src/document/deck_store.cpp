@@ -32,9 +32,8 @@ std::string newAreaId(std::size_t areaIndex)
     return "Bereich" + std::to_string(areaIndex + 1);
 }
 
-void makeDesignFile(DocumentSession& session, std::size_t areaIndex)
+void makeDesignFile(DocumentSession& session, DeckRecord& area, std::size_t areaIndex)
 {
-    auto& area = areaRecord(session, areaIndex);
     area.inUse = true;
     area.designFile = session.workFiles.createFile(kWorkFilePrefix, kDesignFileSuffix);
     area.designDir = session.workFiles.directory();
@@ -56,7 +55,7 @@ void startDeck(DocumentSession& session, const std::string& deckFile, const std:
     area.deckDir = NormalisePath(deckDir);
     area.wmlFile = session.workFiles.unusedName(kWorkFilePrefix, kWmlFileSuffix);
     area.wmlDir = session.workFiles.directory();
-    makeDesignFile(session, 0);
+    makeDesignFile(session, area, 0);
     replacement.commit();
 }
 
@@ -70,9 +69,9 @@ std::size_t appendArea(DocumentSession& session)
     area.deckDir = preceding.deckDir;
     area.wmlFile = preceding.wmlFile;
     area.wmlDir = preceding.wmlDir;
+    makeDesignFile(session, area, index);
     session.deck.back() = std::move(area);
     session.deck.emplace_back();
-    makeDesignFile(session, index);
     return index;
 }
 

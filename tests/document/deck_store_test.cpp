@@ -162,6 +162,17 @@ TEST(AddArea, LinksNewAreasForward)
     EXPECT_EQ(store.workFiles.all().size(), 1U);
 }
 
+TEST(AddArea, AFailureLeavesTheDeck)
+{
+    StoreSession store;
+    AddArea(store.session, true, "neu.wml", "/decks/");
+    for (int i = 1; i <= 32767; ++i) // no name is left
+        store.workFiles.write("Wml" + std::to_string(i) + ".htm", {});
+    EXPECT_THROW(AddArea(store.session, false), Overflow);
+    EXPECT_EQ(areaCount(store.session.deck), 1U);
+    EXPECT_NO_THROW(WriteDeck(store.session));
+}
+
 TEST(WriteDeck, JoinsTheAreas)
 {
     StoreSession store;
