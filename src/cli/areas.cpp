@@ -1,5 +1,6 @@
 #include "cli/commands.h"
 #include "cli/core_session.h"
+#include "cli/guarded.h"
 #include "cli/terminal.h"
 #include "document/card_attributes.h"
 #include "document/deck_store.h"
@@ -55,22 +56,26 @@ std::string jsonArray(const std::vector<Row>& rows)
     return toUtf8(text + "]\n");
 }
 
+void printRows(const std::vector<Row>& rows, bool json)
+{
+    if (json) return printBytes(jsonArray(rows));
+    for (const Row& row : rows)
+        print(tabLine(row));
+}
+
 } // namespace
 
 ExitStatus runAreas(const Arguments& arguments)
 {
     if (arguments.operands.size() != 1) throw BadArguments{"„areas“ braucht genau ein Deck."};
-    const auto [directory, name] = SplitPath(arguments.operands.front());
-    CoreSession core(arguments.standardOutput);
-    LoadDeck(core.session, {name, directory, {}, {}});
-    const std::vector<Row> rows = rowsOf(core.session);
-    if (arguments.json) {
-        printBytes(jsonArray(rows));
-    } else {
-        for (const Row& row : rows)
-            print(tabLine(row));
-    }
-    return ExitStatus::Done;
+    const std::string& path = arguments.operands.front();
+    return guarded(path, [&] {
+        const auto [directory, name] = SplitPath(path);
+        CoreSession core(arguments.standardOutput);
+        LoadDeck(core.session, {name, directory, {}, {}});
+        printRows(rowsOf(core.session), arguments.json);
+        return ExitStatus::Done;
+    });
 }
 
 } // namespace quillmere::cli

@@ -20,11 +20,12 @@ struct Option {
     const char* value; // what stands behind it; null: nothing
     void (*store)(Arguments& arguments, const char* value);
     std::string_view help;
+    bool hasShortForm = false;
 };
 
 constexpr Option kOptions[] = {
     {'o', "output", "DATEI", [](Arguments& a, const char* v) { a.output = v; },
-        "schreibt in diese Datei"},
+        "schreibt in diese Datei", true},
     {'d', "out-dir", "ORDNER", [](Arguments& a, const char* v) { a.outDir = v; },
         "schreibt jedes Deck unter seinem Namen in diesen Ordner"},
     {'k', "keep-work", "ORDNER", [](Arguments& a, const char* v) { a.keepWork = v; },
@@ -39,7 +40,8 @@ constexpr Option kOptions[] = {
         "gibt JSON aus (UTF-8)"},
     {'s', "standard-output", nullptr, [](Arguments& a, const char*) { a.standardOutput = true; },
         "schreibt Decks und Bilder nach den öffentlichen Standards"},
-    {'h', "help", nullptr, [](Arguments& a, const char*) { a.help = true; }, "zeigt diese Hilfe"},
+    {'h', "help", nullptr, [](Arguments& a, const char*) { a.help = true; }, "zeigt diese Hilfe",
+        true},
 };
 
 constexpr std::string_view kOptionsOfAll = "sh"; // letters that every command takes
@@ -51,8 +53,17 @@ const Option* optionOf(int letter)
     return found == std::end(kOptions) ? nullptr : found;
 }
 
-// Only -o and -h have a short form; the letters of the others serve the tables.
-constexpr const char* kShortOptions = ":o:h";
+// With the ':' in front a missing value is told apart from an unknown option.
+std::string shortOptions()
+{
+    std::string letters = ":";
+    for (const Option& option : kOptions) {
+        if (!option.hasShortForm) continue;
+        letters += option.letter;
+        if (option.value != nullptr) letters += ':';
+    }
+    return letters;
+}
 
 std::array<option, std::size(kOptions) + 1> longOptions()
 {
@@ -73,10 +84,11 @@ Parsed parse(int count, char** values)
 {
     Parsed parsed;
     const auto options = longOptions();
+    const std::string letters = shortOptions();
     opterr = 0; // messages are our own
     while (true) {
         const int seenAt = optind;
-        const int letter = getopt_long(count, values, kShortOptions, options.data(), nullptr);
+        const int letter = getopt_long(count, values, letters.c_str(), options.data(), nullptr);
         if (letter == -1) break;
         const Option* const option = optionOf(letter);
         const std::string word = values[std::max(seenAt, optind - 1)];
@@ -101,7 +113,7 @@ void requireOptionsOf(const Command& command, const std::string& letters)
 
 std::string optionLine(const Option& option)
 {
-    std::string text = option.letter == 'o' || option.letter == 'h'
+    std::string text = option.hasShortForm
         ? std::string("  -") + option.letter + ", --" + option.name
         : std::string("      --") + option.name;
     if (option.value != nullptr) text += std::string(" ") + option.value;

@@ -9,11 +9,13 @@ constexpr Command kCommands[] = {
         "liest Decks, bereinigt sie und schreibt sie wieder", "odkrj",
         "Ohne -o und --out-dir wird das Deck selbst ersetzt; „-o -“ schreibt auf die\n"
         "Standardausgabe. Mehrere Decks gehen mit --out-dir oder jedes an seinen Ort.\n"
-        "Schlägt ein Deck fehl, bleibt seine Datei, wie sie war, und die nächsten folgen.",
+        "Schlägt ein Deck fehl, bleibt seine Datei, wie sie war, und die nächsten folgen.\n"
+        "--keep-work schreibt seine Dateien vor dem Deck.",
         &runRepair},
     {"areas", "DECK.wml [--json]", "zeigt die Bereiche eines Decks", "j",
         "Eine Zeile je Bereich, mit Tabulatoren getrennt: Nummer ab 0, Name (id), Titel,\n"
-        "Beschriftung und Ziel des Sprungs.",
+        "Beschriftung und Ziel des Sprungs. Ein Name ist leer, wo die Karte beim Öffnen ihren\n"
+        "Tag verliert, weil „id=\"“ nicht gleich hinter „<card “ steht.",
         &runAreas},
     {"step", "OPERATION [ANGABE]...", "führt einen einzelnen Schritt als Filter aus", "p",
         "Liest von der Standardeingabe und schreibt auf die Standardausgabe, ohne ein Zeichen\n"

@@ -3,7 +3,7 @@
 #include "cli/command_line.h"
 
 // The routines behind the commands; commands.cpp has the table that names them. Each throws Failure
-// or BadArguments and has written nothing then.
+// or BadArguments; a deck that fails is then as it was.
 
 namespace quillmere::cli {
 
@@ -12,8 +12,5 @@ ExitStatus runAreas(const Arguments& arguments);
 ExitStatus runStep(const Arguments& arguments);
 ExitStatus runWbmpShow(const Arguments& arguments);
 ExitStatus runWords(const Arguments& arguments);
-
-/// The names of the operations that `step` knows, each with its operands, a line each.
-[[nodiscard]] std::string stepOperations();
 
 } // namespace quillmere::cli

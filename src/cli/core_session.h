@@ -5,7 +5,6 @@
 #include "document/session.h"
 #include "imageconv/wbmp_display_copies.h"
 
-#include <optional>
 #include <string>
 
 namespace quillmere::cli {
@@ -29,9 +28,8 @@ public:
 
 /// A document session without window, disk and questions.
 struct CoreSession {
-    explicit CoreSession(bool standardOutput, DisplayCopies* displayCopies = nullptr)
-        : session{workFiles, displayCopies != nullptr ? *displayCopies : sizes, prompter, settings,
-            words, OutputRules(standardOutput)}
+    explicit CoreSession(bool standardOutput)
+        : session{workFiles, sizes, prompter, settings, words, OutputRules(standardOutput)}
         , sizes(session.output)
     {
     }

@@ -8,10 +8,10 @@ namespace quillmere::cli {
 
 namespace {
 
-ExitStatus report(const std::string& about, const Failure& failure, ExitStatus status)
+ExitStatus refuse(const std::string& about, const std::string& reason)
 {
-    complain((about.empty() ? "" : about + ": ") + toUtf8(failure.description()));
-    return status;
+    complain((about.empty() ? "" : about + ": ") + reason + " Es wurde nichts geändert.");
+    return ExitStatus::RunFailure;
 }
 
 } // namespace
@@ -23,10 +23,20 @@ ExitStatus guarded(const std::string& about, const std::function<ExitStatus()>& 
     } catch (const BadArguments& bad) {
         complain(bad.message + " Hilfe zeigt „quillmere-cli --help“.");
         return ExitStatus::BadArguments;
+    } catch (const Overflow& failure) {
+        return refuse(about,
+            toUtf8(failure.description())
+                + ": Der Text oder sein Ergebnis hat mehr als 32767 Zeichen.");
+    } catch (const InvalidArgument& failure) {
+        return refuse(about,
+            toUtf8(failure.description())
+                + ": Dem Text fehlt etwas, etwa ein schließendes Anführungszeichen.");
     } catch (const RuntimeFailure& failure) {
-        return report(about, failure, ExitStatus::RunFailure);
+        return refuse(
+            about, toUtf8(failure.description()) + ": Eine Größe im Text ist keine Zahl.");
     } catch (const Failure& failure) {
-        return report(about, failure, ExitStatus::FileTrouble);
+        complain(toUtf8(failure.description())); // names its file itself
+        return ExitStatus::FileTrouble;
     }
 }
 

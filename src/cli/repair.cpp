@@ -1,5 +1,5 @@
 // Each deck gets a session of its own, so that one deck cannot touch the next and memory stays that
-// of one deck. Held by tests/cli/repair_test.cpp.
+// of one deck. Held by tests/cli/cli_test.cpp.
 
 #include "cli/commands.h"
 #include "cli/core_session.h"
@@ -10,11 +10,14 @@
 #include "document/deck_changes_report.h"
 #include "document/deck_repair.h"
 #include "document/deck_store.h"
+#include "document/failure.h"
 #include "document/files.h"
 #include "document/paths.h"
+#include "document/text_search.h"
 #include "document/windows1252.h"
 
 #include <algorithm>
+#include <filesystem>
 #include <set>
 
 namespace quillmere::cli {
@@ -87,12 +90,34 @@ std::string outputPath(const Run& run, const std::string& input)
     return input;
 }
 
+bool holdsCard(std::string_view text)
+{
+    const auto card = findIgnoringCase(text, "<card");
+    return card != npos && text.find('>', card) != npos && text.find('\0') == npos;
+}
+
+// Any bytes become a deck, with a card of its own where they have none. That is worth a warning,
+// and no file is written over with it.
+void checkIsDeck(const Run& run, const std::string& input, std::string_view read)
+{
+    if (holdsCard(read)) return;
+    const std::string reason = "Die Datei „" + input
+        + "“ enthält keine vollständige Karte (<card>) und ist wohl kein WML-Deck.";
+    std::error_code ignored;
+    const bool overItself = run.arguments.output != "-"
+        && std::filesystem::equivalent(outputPath(run, input), input, ignored);
+    if (overItself)
+        throw FileFailure(reason + " Es wurde nichts geändert; umwandeln lässt sie sich mit -o.");
+    complain(reason);
+}
+
 /// Returns the report, "" where none is wanted.
 std::string repairOne(Run& run, const std::string& input, bool first)
 {
     const Arguments& arguments = run.arguments;
     CoreSession core(arguments.standardOutput);
     const std::string written = repairInto(core, input);
+    checkIsDeck(run, input, readDeckOf(core));
     std::string report
         = arguments.report ? reportOf(input, core, written, arguments, first) : std::string();
     if (arguments.keepWork) keepWorkFiles(core, *arguments.keepWork);

@@ -1,5 +1,5 @@
 // One row for each operation; the session behind it has no area, so that pictures are not looked
-// at. Held by tests/cli/step_test.cpp.
+// at. Held by tests/cli/cli_test.cpp.
 
 #include "cli/commands.h"
 #include "cli/core_session.h"
@@ -10,6 +10,7 @@
 #include "document/files.h"
 #include "document/format_around_select.h"
 #include "document/format_nesting.h"
+#include "document/limits.h"
 #include "document/paragraphs.h"
 #include "document/wml_layout.h"
 #include "document/wml_to_design.h"
@@ -32,7 +33,10 @@ struct Step {
     std::string_view operands; // as the help names them
     std::size_t operandCount;
     void (*apply)(Input& input);
+    bool wantsPristine = false; // --pristine
 };
+
+constexpr std::size_t kMaxPristineBytes = 32 * (kMaxTextLength + 1); // as decks are read
 
 constexpr Step kSteps[] = {
     {"WmlToDesign", "", 0, [](Input& in) { WmlToDesign(in.text, 0, in.session); }},
@@ -56,7 +60,10 @@ constexpr Step kSteps[] = {
     {"SplitAtParagraphs", "ANFANG ENDE", 2,
         [](Input& in) { SplitAtParagraphs(in.text, in.operands[0], in.operands[1]); }},
     {"RestoreWhitespace", "--pristine DATEI", 0,
-        [](Input& in) { RestoreWhitespace(in.text, readFile(*in.arguments.pristine)); }},
+        [](Input& in) {
+            RestoreWhitespace(in.text, readFile(*in.arguments.pristine, kMaxPristineBytes));
+        },
+        true},
 };
 
 const Step& stepNamed(const std::string& name)
@@ -76,8 +83,6 @@ void checkOperands(const Step& step, const Arguments& arguments, std::size_t ope
         "Aufruf: quillmere-cli step " + std::string(step.name) + " " + std::string(step.operands)};
 }
 
-} // namespace
-
 std::string stepOperations()
 {
     std::string text;
@@ -88,6 +93,8 @@ std::string stepOperations()
     }
     return text;
 }
+
+} // namespace
 
 ExitStatus runStep(const Arguments& arguments)
 {
@@ -100,7 +107,7 @@ ExitStatus runStep(const Arguments& arguments)
         arguments.operands.begin() + 1, arguments.operands.end());
     checkOperands(step, arguments, operands.size());
     CoreSession core(arguments.standardOutput);
-    Input input{readStandardInput(), operands, arguments, core.session};
+    Input input{readStandardInput(kMaxTextLength), operands, arguments, core.session};
     step.apply(input);
     printBytes(input.text);
     return ExitStatus::Done;

@@ -87,12 +87,14 @@ void complain(std::string_view utf8)
     (void)std::fwrite(line.data(), 1, line.size(), stderr); // nowhere is left to tell a failure
 }
 
-std::string readStandardInput()
+std::string readStandardInput(std::size_t maxBytes)
 {
     std::string result;
     std::array<char, 16384> part{};
-    while (const auto count = std::fread(part.data(), 1, part.size(), stdin))
+    while (const auto count = std::fread(part.data(), 1, part.size(), stdin)) {
         result.append(part.data(), count);
+        if (result.size() > maxBytes) throw Overflow();
+    }
     if (std::ferror(stdin) != 0) throw FileFailure("Die Standardeingabe ist nicht zu lesen.");
     return result;
 }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -13,7 +14,8 @@ void print(std::string_view utf8);
 void printBytes(std::string_view bytes);
 /// A line on standard error, with the program's name ahead of it.
 void complain(std::string_view utf8);
-[[nodiscard]] std::string readStandardInput();
+/// All of standard input. Throws Overflow beyond `maxBytes`, of which no more is read.
+[[nodiscard]] std::string readStandardInput(std::size_t maxBytes);
 /// Makes sure that all that was printed has been taken.
 void finishOutput();
 

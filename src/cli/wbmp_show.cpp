@@ -1,4 +1,5 @@
 #include "cli/commands.h"
+#include "cli/terminal.h"
 #include "document/design_page.h"
 #include "document/files.h"
 #include "imageconv/wbmp_display_copies.h"
@@ -11,7 +12,12 @@ ExitStatus runWbmpShow(const Arguments& arguments)
     if (!arguments.output) throw BadArguments{"Es fehlt -o DATEI."};
     const WbmpPicture picture
         = ReadWbmpFile(arguments.operands.front(), OutputRules(arguments.standardOutput));
-    replaceFile(*arguments.output, drawPicture(picture, kDefaultPageColour));
+    const std::string bmp = drawPicture(picture, kDefaultPageColour);
+    if (arguments.output == "-") {
+        printBytes(bmp);
+    } else {
+        replaceFile(*arguments.output, bmp);
+    }
     return ExitStatus::Done;
 }
 

@@ -2,6 +2,7 @@
 #include "app/word_resources.h"
 #include "cli/commands.h"
 #include "cli/terminal.h"
+#include "document/failure.h"
 #include "document/paths.h"
 #include "document/windows1252.h"
 
@@ -43,6 +44,9 @@ ExitStatus runWords(const Arguments& arguments)
     settings.WriteSetting("Skins", skinsDirectory(arguments));
     WordResources words;
     words.LoadWordResources(settings);
+    if (words.table().empty())
+        throw FileFailure("In „" + skinsDirectory(arguments)
+            + "“ gibt es keine Texte (ResWords.ini oder ResWords.res).");
     if (arguments.operands.empty()) {
         printAll(words);
         return ExitStatus::Done;

@@ -3,6 +3,7 @@
 
 #include "document/design_image_tag.h"
 
+#include "document/clean_design_html.h"
 #include "document/failure.h"
 #include "document/text_search.h"
 
@@ -37,7 +38,7 @@ DesignImageTags::DesignImageTags(
     : text_(text)
     , index_(index)
     , edits_(edits)
-    , keepsAlternativeTextCase_(rules.keepsAlternativeTextCase())
+    , rules_(rules)
     , src_(text.lower, kSrc)
 {
 }
@@ -62,9 +63,11 @@ Replacement DesignImageTags::wmlTag(const Tag& tag)
 std::string DesignImageTags::tagFor(const Tag& tag, ImageEntry& entry)
 {
     std::string result("<img");
-    appendAttribute(result, kSrc, entry.sourceFile);
+    std::string source = entry.sourceFile;
+    if (rules_.writesCharacterReferences()) TransliterateGerman(source, rules_);
+    appendAttribute(result, kSrc, source);
     // The words come out in lower case, unless the standard rules hold.
-    const auto words = keepsAlternativeTextCase_ ? text_.source : text_.lower;
+    const auto words = rules_.keepsAlternativeTextCase() ? text_.source : text_.lower;
     const auto alt = AttributeReader(text_.lower, kAlt).quotedOrBare(tag);
     if (alt) appendAttribute(result, kAlt, alt->in(words));
     readSize(tag, entry);

@@ -29,7 +29,7 @@ private:
     CasedText text_;
     DisplayCopyIndex& index_;
     PictureEdits& edits_;
-    bool keepsAlternativeTextCase_;
+    OutputRules rules_;
     AttributeReader src_;
 };
 

@@ -147,7 +147,7 @@ TEST(Cli, RepairOfSeveralDecksGoesOnBehindAFailure)
     EXPECT_EQ(result.status, 3);
     EXPECT_TRUE(std::filesystem::exists(directory.path("out/good.wml")));
     EXPECT_FALSE(std::filesystem::exists(directory.path("out/long.wml")));
-    EXPECT_NE(result.errors.find("missing.wml"), std::string::npos) << result.errors;
+    EXPECT_NE(result.errors.find("missing.wml“"), std::string::npos) << result.errors;
     EXPECT_NE(result.errors.find("long.wml: Überlauf"), std::string::npos) << result.errors;
 }
 
@@ -170,15 +170,18 @@ TEST(Cli, FileTroubleEndsWithTwoAndLeavesTheDeck)
     EXPECT_EQ(bytesOf(deck), kDeck);
 }
 
-TEST(Cli, AnyBytesGiveADeckOrAClearMessage)
+TEST(Cli, AnyBytesGiveADeckWithAWarningButNotInTheirPlace)
 {
     const TemporaryDirectory directory;
     for (const std::string& bytes : {std::string(), std::string("Kein WML"), std::string(100, '\0'),
-             std::string("\xFF\xFE<\0w\0", 6)}) {
+             std::string("\xFF\xFE<\0w\0", 6), std::string("<card id=\"a\"")}) {
         const std::string deck = directory.write("any.wml", bytes);
-        const RunResult result = cli({"repair", deck, "-o", "-"});
-        EXPECT_EQ(result.status, 0) << result.errors;
-        EXPECT_NE(result.output.find("Korrigiert"), std::string::npos);
+        const RunResult converted = cli({"repair", deck, "-o", "-"});
+        EXPECT_EQ(converted.status, 0);
+        EXPECT_NE(converted.output.find("</card>"), std::string::npos);
+        EXPECT_NE(converted.errors.find("wohl kein WML-Deck"), std::string::npos);
+        EXPECT_EQ(cli({"repair", deck}).status, 2);
+        EXPECT_EQ(bytesOf(deck), bytes);
     }
 }
 
@@ -197,6 +200,7 @@ TEST(Cli, WordsShowsTextsByNumber)
     EXPECT_EQ(one.status, 0);
     EXPECT_GT(one.output.size(), 1U);
     EXPECT_EQ(cli({"words", "9999"}).output, "\n");
+    EXPECT_EQ(cli({"words", "1", "--skins", "/nonexistent"}).status, 2);
 }
 
 } // namespace
