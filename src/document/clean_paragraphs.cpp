@@ -28,11 +28,11 @@ std::size_t endOfLastText(std::string_view text)
 constexpr std::string_view kContentInOrder[]
     = {"<img", "<a", "<!--select", "<table", "</img", "</a", "<!--/select", "</table", "<!--/do"};
 
-std::size_t behindContent(std::string_view text)
+std::size_t behindContent(EditedText& text)
 {
-    auto behind = endOfLastText(text);
+    auto behind = endOfLastText(text.whole());
     for (const auto key : kContentInOrder) {
-        const auto at = findIgnoringCase(text, key, behind);
+        const auto at = text.find(key, behind);
         if (at != npos) behind = at + 1;
     }
     return behind;
@@ -50,14 +50,12 @@ void breakAtEmptyParagraphs(EditedText& text)
     }
 }
 
-void dropTrailingParagraphs(std::string& text)
+void dropTrailingParagraphs(EditedText& text)
 {
     const auto behind = behindContent(text);
     const auto from = behind == 0 ? 0 : behind - 1;
-    EditedText edited(std::move(text));
     for (const auto key : {kParagraph, kParagraphEnd, kBreak})
-        edited.cutEveryTag(key, from);
-    text = std::move(edited).take();
+        text.cutEveryTag(key, from);
 }
 
 void dropDoubledParagraphEnds(EditedText& text)

@@ -1,6 +1,7 @@
 // The text lies in one buffer with a gap where the last change was, so that neighbouring changes
 // move little. What a search has read is kept across a change: the places ahead of it stay, those
 // behind it move along, and only the places whose text touches the change are looked at again.
+// Most texts are short and hold few tags, so that a search for a tag mostly ends in the index.
 // Held by edited_text_test.cpp.
 
 #include "document/edited_text.h"
@@ -21,6 +22,7 @@ constexpr std::size_t kBackwardStep = 512; // read forward, which is faster
 EditedText::EditedText(std::string&& text)
     : buffer_(std::move(text))
 {
+    tags_.read(buffer_);
 }
 
 std::string EditedText::copy(std::size_t begin, std::size_t end) const
@@ -30,6 +32,12 @@ std::string EditedText::copy(std::size_t begin, std::size_t end) const
     for (auto at = begin; at < end; ++at)
         piece += (*this)[at];
     return piece;
+}
+
+std::string_view EditedText::whole()
+{
+    moveGap(size());
+    return std::string_view(buffer_).substr(0, gapBegin_);
 }
 
 std::size_t EditedText::find(std::string_view key, std::size_t from, std::size_t limit)
@@ -81,6 +89,7 @@ void EditedText::replace(std::size_t begin, std::size_t end, std::string_view pi
     if (gapEnd_ - gapBegin_ < piece.size()) growGap(piece.size());
     piece.copy(buffer_.data() + gapBegin_, piece.size());
     gapBegin_ += piece.size();
+    tags_.replace(begin, end, piece, [this](std::size_t tag) { return tagCodeAt(tag); });
     for (std::size_t i = 0; i < std::min(searchCount_, searches_.size()); ++i)
         adjust(searches_[i], {begin, end, begin + piece.size()});
 }
@@ -98,10 +107,19 @@ void EditedText::cutEveryTag(std::string_view key, std::size_t from)
     for (auto at = find(key, from); at != npos && cutTag(at) > 0; at = find(key, from)) { }
 }
 
+void EditedText::rework(const std::function<void(std::string&)>& operation)
+{
+    closeGap();
+    const std::string before = buffer_;
+    operation(buffer_);
+    if (buffer_ == before) return; // and all that is known of it is still true
+    tags_.read(buffer_);
+    searchCount_ = 0;
+}
+
 std::string EditedText::take() &&
 {
-    buffer_.erase(gapBegin_, gapEnd_ - gapBegin_);
-    gapEnd_ = gapBegin_;
+    closeGap();
     return std::move(buffer_);
 }
 
@@ -122,6 +140,20 @@ EditedText::Search& EditedText::remembered(std::string_view key)
 }
 
 std::size_t EditedText::findFrom(std::string_view key, std::size_t begin, std::size_t limit) const
+{
+    return key.front() == '<' ? findTag(key, begin, limit) : findText(key, begin, limit);
+}
+
+std::size_t EditedText::findTag(std::string_view key, std::size_t begin, std::size_t limit) const
+{
+    const TagPattern pattern(key);
+    auto at = tags_.find(pattern, begin, limit);
+    while (at != npos && !standsHere(key, at))
+        at = tags_.find(pattern, at + 1, limit);
+    return at;
+}
+
+std::size_t EditedText::findText(std::string_view key, std::size_t begin, std::size_t limit) const
 {
     const auto end = std::min(limit, size());
     const auto reach = key.size() - 1;
@@ -148,6 +180,21 @@ bool EditedText::standsHere(std::string_view key, std::size_t offset) const
     while (i < key.size() && lowerCase((*this)[offset + i]) == key[i])
         ++i;
     return i == key.size();
+}
+
+TagCode EditedText::tagCodeAt(std::size_t offset) const
+{
+    std::array<char, kTagCodeReach> begin;
+    const auto length = std::min(begin.size(), size() - offset);
+    for (std::size_t i = 0; i < length; ++i)
+        begin[i] = (*this)[offset + i];
+    return tagCode({begin.data(), length});
+}
+
+void EditedText::closeGap()
+{
+    buffer_.erase(gapBegin_, gapEnd_ - gapBegin_);
+    gapBegin_ = gapEnd_ = 0;
 }
 
 void EditedText::moveGap(std::size_t offset)

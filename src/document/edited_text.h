@@ -1,9 +1,11 @@
 #pragma once
 
+#include "document/tag_index.h"
 #include "document/text_search.h"
 
 #include <array>
 #include <cstddef>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -11,7 +13,8 @@ namespace quillmere {
 
 /// A text under many searches and changes. Searches ignore case and remember what they have read,
 /// so that asking for the same key from place to place reads each part of the text about once,
-/// whatever is changed meanwhile. A change costs its distance from the change before it.
+/// whatever is changed meanwhile. Keys that begin with '<' are looked up in an index of the tags.
+/// A change costs its distance from the change before it.
 /// Offsets are those of the text as it is at the moment.
 class EditedText {
 public:
@@ -24,6 +27,8 @@ public:
         return buffer_[offset < gapBegin_ ? offset : offset + (gapEnd_ - gapBegin_)];
     }
     [[nodiscard]] std::string copy(std::size_t begin, std::size_t end) const;
+    /// All of the text in one piece, which holds until the next change.
+    [[nodiscard]] std::string_view whole();
 
     /// The first place at or behind `from` where `key` stands; npos where there is none. `key` is
     /// lower case, not empty, and must outlive this text. With `limit` nothing is read for
@@ -44,6 +49,8 @@ public:
     /// Cuts every tag that begins with `key` at or behind `from`, those included that come about
     /// by the cutting.
     void cutEveryTag(std::string_view key, std::size_t from = 0);
+    /// Hands all of the text to an operation that works in place.
+    void rework(const std::function<void(std::string&)>& operation);
 
     /// Gives the text away.
     [[nodiscard]] std::string take() &&;
@@ -68,7 +75,13 @@ private:
     [[nodiscard]] Search& remembered(std::string_view key);
     [[nodiscard]] std::size_t findFrom(
         std::string_view key, std::size_t begin, std::size_t limit) const;
+    [[nodiscard]] std::size_t findTag(
+        std::string_view key, std::size_t begin, std::size_t limit) const;
+    [[nodiscard]] std::size_t findText(
+        std::string_view key, std::size_t begin, std::size_t limit) const;
     [[nodiscard]] bool standsHere(std::string_view key, std::size_t offset) const;
+    [[nodiscard]] TagCode tagCodeAt(std::size_t offset) const;
+    void closeGap();
     void moveGap(std::size_t offset);
     void growGap(std::size_t atLeast);
     void adjust(Search& search, const Change& change) const;
@@ -76,6 +89,7 @@ private:
     std::string buffer_; // the text with a gap in it, where the last change was
     std::size_t gapBegin_ = 0;
     std::size_t gapEnd_ = 0;
+    TagIndex tags_;
     std::array<Search, 8> searches_; // more keys than that take the place of the oldest
     std::size_t searchCount_ = 0;
 };
