@@ -21,8 +21,8 @@ namespace quillmere {
 namespace {
 
 struct TagPair {
-    std::string_view open;
-    std::string_view close;
+    SearchKey open;
+    SearchKey close;
 };
 
 // Pictures come twice: a link or list around one may have brought it a paragraph meanwhile.
@@ -49,19 +49,14 @@ constexpr TagPair kFormatsOfOneParagraph[] = {
 
 void wrapElements(EditedText& text)
 {
-    for (const auto& pair : kElementsInParagraphs) {
-        if (text.find(pair.open) == npos) continue;
-        text.rework([&pair](std::string& whole) { WrapInParagraph(whole, pair.open, pair.close); });
-    }
+    for (const auto& pair : kElementsInParagraphs)
+        WrapInParagraph(text, pair.open, pair.close);
 }
 
 void splitFormats(EditedText& text)
 {
-    for (const auto& pair : kFormatsOfOneParagraph) {
-        if (text.find(pair.open) == npos) continue;
-        text.rework(
-            [&pair](std::string& whole) { SplitAtParagraphs(whole, pair.open, pair.close); });
-    }
+    for (const auto& pair : kFormatsOfOneParagraph)
+        SplitAtParagraphs(text, pair.open, pair.close);
 }
 
 // An end moves for another format's end, so with the ends of one format only nothing does.

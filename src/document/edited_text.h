@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/tag_index.h"
+#include "document/text_edits.h"
 #include "document/text_search.h"
 
 #include <array>
@@ -30,13 +31,13 @@ public:
     /// All of the text in one piece, which holds until the next change.
     [[nodiscard]] std::string_view whole();
 
-    /// The first place at or behind `from` where `key` stands; npos where there is none. `key` is
-    /// lower case, not empty, and must outlive this text. With `limit` nothing is read for
+    /// The first place at or behind `from` where `key` stands; npos where there is none. What
+    /// `key` tells must outlive this text. With `limit` nothing is read for
     /// places from there on, and what is known of them is the answer.
     [[nodiscard]] std::size_t find(
-        std::string_view key, std::size_t from = 0, std::size_t limit = npos);
+        const SearchKey& key, std::size_t from = 0, std::size_t limit = npos);
     /// The last place ahead of `before` where `key` begins.
-    [[nodiscard]] std::size_t findLast(std::string_view key, std::size_t before = npos) const;
+    [[nodiscard]] std::size_t findLast(const SearchKey& key, std::size_t before = npos) const;
     /// The offset behind the first '>' at or behind `begin`; npos where there is none.
     [[nodiscard]] std::size_t tagEnd(std::size_t begin);
 
@@ -48,7 +49,10 @@ public:
     std::size_t cutTag(std::size_t begin);
     /// Cuts every tag that begins with `key` at or behind `from`, those included that come about
     /// by the cutting.
-    void cutEveryTag(std::string_view key, std::size_t from = 0);
+    void cutEveryTag(const SearchKey& key, std::size_t from = 0);
+    /// Makes edits that were found in the text as it is, which is no longer than positions can
+    /// tell. Throws Overflow, with the text unchanged, where it would get longer.
+    void apply(TextEdits& edits);
     /// Hands all of the text to an operation that works in place.
     void rework(const std::function<void(std::string&)>& operation);
 
@@ -59,7 +63,7 @@ private:
     /// What is known of a key: it begins nowhere from `from` up to `to`, and at `to` if `found`.
     /// Behind that nothing is known.
     struct Search {
-        std::string_view key;
+        SearchKey key = "<";
         std::size_t from = 0;
         std::size_t to = 0;
         bool found = false;
@@ -72,16 +76,17 @@ private:
     };
 
     static void keepLonger(Search& known, const Search& other);
-    [[nodiscard]] Search& remembered(std::string_view key);
+    [[nodiscard]] Search& remembered(const SearchKey& key);
     [[nodiscard]] std::size_t findFrom(
-        std::string_view key, std::size_t begin, std::size_t limit) const;
+        const SearchKey& key, std::size_t begin, std::size_t limit) const;
     [[nodiscard]] std::size_t findTag(
-        std::string_view key, std::size_t begin, std::size_t limit) const;
+        const SearchKey& key, std::size_t begin, std::size_t limit) const;
     [[nodiscard]] std::size_t findText(
-        std::string_view key, std::size_t begin, std::size_t limit) const;
-    [[nodiscard]] bool standsHere(std::string_view key, std::size_t offset) const;
+        const SearchKey& key, std::size_t begin, std::size_t limit) const;
+    [[nodiscard]] bool standsHere(const SearchKey& key, std::size_t offset) const;
     [[nodiscard]] TagCode tagCodeAt(std::size_t offset) const;
     void closeGap();
+    void readAgain();
     void moveGap(std::size_t offset);
     void growGap(std::size_t atLeast);
     void adjust(Search& search, const Change& change) const;

@@ -7,67 +7,15 @@
 #include <algorithm>
 
 namespace quillmere {
-namespace {
-
-constexpr std::string_view kComment = "<!--";
-constexpr TagCode kCommentBit = 0x8000;
-constexpr TagCode kEndBit = 0x4000;
-constexpr unsigned kLetterBits = 7;
-constexpr TagCode kSecondLetter = (1U << kLetterBits) - 1;
-constexpr TagCode kFirstLetter = kSecondLetter << kLetterBits;
-
-/// Where the name of a tag begins and what its marks in front of that are.
-struct TagMarks {
-    std::size_t nameAt = 1;
-    TagCode bits = 0;
-
-    explicit TagMarks(std::string_view tag)
-    {
-        if (tag.starts_with(kComment)) {
-            nameAt = kComment.size();
-            bits = kCommentBit;
-        }
-        if (tag.substr(std::min(nameAt, tag.size())).starts_with('/')) {
-            ++nameAt;
-            bits |= kEndBit;
-        }
-    }
-};
-
-/// The same for both cases of a letter; of letters beyond ASCII nothing is told.
-unsigned letterBits(std::string_view tag, std::size_t at)
-{
-    const unsigned letter = at < tag.size() ? static_cast<unsigned char>(tag[at]) : 0U;
-    return letter > kSecondLetter ? 0U : letter | 0x20U;
-}
-
-} // namespace
-
-TagCode tagCode(std::string_view begin)
-{
-    const TagMarks marks(begin);
-    const auto letters
-        = letterBits(begin, marks.nameAt) << kLetterBits | letterBits(begin, marks.nameAt + 1);
-    return static_cast<TagCode>(marks.bits | letters);
-}
-
-TagPattern::TagPattern(std::string_view key)
-{
-    if (kComment.starts_with(key)) return; // "<!" may be the begin of "<!--" or of "<!x"
-    const auto nameAt = TagMarks(key).nameAt;
-    mask = kCommentBit | kEndBit;
-    if (nameAt < key.size()) mask |= kFirstLetter;
-    if (nameAt + 1 < key.size()) mask |= kSecondLetter;
-    wanted = tagCode(key) & mask;
-}
-
 void TagIndex::read(std::string_view text)
 {
     size_ = text.size();
     ahead_.clear();
     behind_.clear();
+    codes_.reset();
+    shortCodes_.reset();
     for (auto at = text.find('<'); at != text.npos; at = text.find('<', at + 1))
-        ahead_.push_back({static_cast<std::uint32_t>(at), tagCode(text.substr(at, kTagCodeReach))});
+        append(at, tagCode(text.substr(at, kTagCodeReach)));
 }
 
 std::size_t TagIndex::find(TagPattern pattern, std::size_t begin, std::size_t end) const

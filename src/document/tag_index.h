@@ -1,5 +1,8 @@
 #pragma once
 
+#include "document/tag_code.h"
+
+#include <bitset>
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
@@ -10,34 +13,19 @@
 
 namespace quillmere {
 
-/// How a tag begins, in 16 bits and without regard to case: whether it is a comment marker
-/// ("<!--"), whether it is an end ('/'), and 7 bits of each of the two characters behind that.
-using TagCode = std::uint16_t;
-
-/// As much of a tag as its code can depend on: "<!--/op".
-inline constexpr std::size_t kTagCodeReach = 7;
-
-/// The code of the tag that `begin` begins with. Characters beyond its end count as 0.
-[[nodiscard]] TagCode tagCode(std::string_view begin);
-
-/// What the codes of all tags have in common that begin with a key. Some other tags fit as well:
-/// "<big" fits the key "<bi>".
-struct TagPattern {
-    TagPattern() = default; // each tag fits
-    /// `key` is lower case and begins with '<'.
-    explicit TagPattern(std::string_view key);
-    [[nodiscard]] bool fits(TagCode code) const { return (code & mask) == wanted; }
-
-    TagCode mask = 0;
-    TagCode wanted = 0;
-};
-
 /// The places and codes of all '<' of a text. The text itself lies elsewhere; each change of it is
 /// told here and costs the number of tags between it and the change before it.
 class TagIndex {
 public:
     /// Forgets all and reads `text`.
     void read(std::string_view text);
+
+    /// False where no tag fits; true mostly where one does, and at times where one did.
+    [[nodiscard]] bool mayHold(TagPattern pattern) const
+    {
+        if (pattern.mask == kWholeCode) return codes_[pattern.wanted];
+        return pattern.mask != kCodeOfOneLetter || shortCodes_[shortCode(pattern.wanted)];
+    }
 
     /// The first tag that fits, of those at `begin` and ahead of `end`; npos where there is none.
     [[nodiscard]] std::size_t find(TagPattern pattern, std::size_t begin, std::size_t end) const;
@@ -51,24 +39,41 @@ public:
         size_ += piece.size();
         for (auto tag = ahead_.rbegin(); tag != ahead_.rend() && tag->place + kTagCodeReach > begin;
              ++tag)
-            tag->code = codeAt(tag->place);
+            tag->code = noted(codeAt(tag->place));
         for (auto at = piece.find('<'); at != piece.npos; at = piece.find('<', at + 1))
-            ahead_.push_back({static_cast<std::uint32_t>(begin + at), codeAt(begin + at)});
+            append(begin + at, codeAt(begin + at));
     }
 
 private:
+    static constexpr TagCode kWholeCode = kTagCodes - 1;
+    static constexpr TagCode kCodeOfOneLetter = kWholeCode & ~tag_code::kSecondLetter;
+
     struct Tag {
         std::uint32_t place;
         TagCode code;
     };
     using Tags = std::vector<Tag>;
 
+    static constexpr std::size_t shortCode(TagCode code) { return code >> tag_code::kLetterBits; }
+    TagCode noted(TagCode code)
+    {
+        codes_[code] = true;
+        shortCodes_[shortCode(code)] = true;
+        return code;
+    }
+    void append(std::size_t place, TagCode code)
+    {
+        ahead_.push_back({static_cast<std::uint32_t>(place), noted(code)});
+    }
     void cut(std::size_t begin, std::size_t end);
     void moveTo(std::size_t offset);
 
     std::size_t size_ = 0; // of the text
     Tags ahead_; // of the last change, by their distance from the begin of the text
     Tags behind_; // it, by their distance from the end of the text, so that the last tag is first
+    std::bitset<kTagCodes> codes_; // that stand in the text or stood there once
+    std::bitset<(kTagCodes >> tag_code::kLetterBits)>
+        shortCodes_; // the same without second letters
 };
 
 } // namespace quillmere
