@@ -26,10 +26,12 @@ void thinOut(std::string& text, char bracket, char opposite)
 
 } // namespace
 
-void thinOutBrackets(std::string& text)
+void thinOutBrackets(EditedText& text)
 {
-    thinOut(text, '<', '>');
-    thinOut(text, '>', '<');
+    text.rework([](std::string& whole) {
+        thinOut(whole, '<', '>');
+        thinOut(whole, '>', '<');
+    });
 }
 
 } // namespace quillmere

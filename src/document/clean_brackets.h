@@ -1,11 +1,11 @@
 #pragma once
 
-#include <string>
+#include "document/edited_text.h"
 
 namespace quillmere {
 
 /// Cuts the character behind each '<' that another '<' follows ahead of the next '>'; then the same
 /// for '>' ahead of '<'.
-void thinOutBrackets(std::string& text);
+void thinOutBrackets(EditedText& text);
 
 } // namespace quillmere

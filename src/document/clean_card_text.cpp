@@ -9,18 +9,18 @@
 namespace quillmere {
 namespace {
 
-constexpr std::string_view kCard = "<!--card";
-constexpr std::string_view kCardEnd = "<!--/card";
-constexpr std::string_view kBody = "<body";
-constexpr std::string_view kDo = "<!--do";
-constexpr std::string_view kParagraph = "<p";
-constexpr std::string_view kParagraphEnd = "</p";
+constexpr SearchKey kCard = "<!--card";
+constexpr SearchKey kCardEnd = "<!--/card";
+constexpr SearchKey kBody = "<body";
+constexpr SearchKey kDo = "<!--do";
+constexpr SearchKey kParagraph = "<p";
+constexpr SearchKey kParagraphEnd = "</p";
 constexpr std::string_view kNewParagraph = "<p>";
 constexpr std::string_view kNewParagraphEnd = "</p>";
 
 struct TagPair {
-    std::string_view begin;
-    std::string_view end;
+    SearchKey begin;
+    SearchKey end;
 };
 // Tables and lists keep their text to themselves; of the rest only the tags are no text.
 constexpr TagPair kWithoutLooseText[]
@@ -49,7 +49,7 @@ bool hasLooseText(std::string content)
 // Where the content of the area begins: behind the body's tag or, without one, the card's.
 std::size_t contentBegin(EditedText& text)
 {
-    for (const auto key : {kBody, kCard}) {
+    for (const auto& key : {kBody, kCard}) {
         const auto at = text.find(key);
         const auto behind = at == npos ? npos : text.tagEnd(at);
         if (behind != npos) return behind;

@@ -13,14 +13,16 @@
 #include "document/limits.h"
 #include "document/paragraphs.h"
 
+#include <algorithm>
+#include <string>
 #include <utility>
 
 namespace quillmere {
 namespace {
 
 struct TagPair {
-    std::string_view open;
-    std::string_view close;
+    SearchKey open;
+    SearchKey close;
 };
 
 // Pictures come twice: a link or list around one may have brought it a paragraph meanwhile.
@@ -45,47 +47,47 @@ constexpr TagPair kFormatsOfOneParagraph[] = {
     {"<u>", "</u>"},
 };
 
-void wrapElements(std::string& text)
+void wrapElements(EditedText& text)
 {
-    for (const auto& [open, close] : kElementsInParagraphs)
-        WrapInParagraph(text, open, close);
+    for (const auto& pair : kElementsInParagraphs)
+        WrapInParagraph(text, pair.open, pair.close);
 }
 
-void splitFormats(std::string& text)
+void splitFormats(EditedText& text)
 {
-    for (const auto& [open, close] : kFormatsOfOneParagraph)
-        SplitAtParagraphs(text, open, close);
+    for (const auto& pair : kFormatsOfOneParagraph)
+        SplitAtParagraphs(text, pair.open, pair.close);
 }
 
-template <void (*kPass)(EditedText&)> void edit(std::string& text)
+// An end moves for another format's end, so with the ends of one format only nothing does.
+void nestFormats(EditedText& text)
 {
-    EditedText edited(std::move(text));
-    kPass(edited);
-    text = std::move(edited).take();
+    const auto hasEnd = [&text](const TagPair& pair) { return text.find(pair.close) != npos; };
+    if (std::ranges::count_if(kFormatsOfOneParagraph, hasEnd) > 1) text.rework(RepairFormatNesting);
 }
 
 constexpr CleanPass kPasses[] = {
-    {"broken do block", edit<dropBrokenDoBlock>},
-    {"early option ends", edit<dropEarlyOptionEnds>},
-    {"option pairs", edit<completeOptions>},
-    {"select start", edit<openSelect>},
-    {"select end", edit<closeSelect>},
-    {"empty selects", edit<dropEmptySelects>},
-    {"card end", edit<closeCard>},
-    {"empty paragraphs", edit<breakAtEmptyParagraphs>},
-    {"tables", edit<settleTables>},
-    {"paragraph runs", edit<mergeParagraphRuns>},
+    {"broken do block", dropBrokenDoBlock},
+    {"early option ends", dropEarlyOptionEnds},
+    {"option pairs", completeOptions},
+    {"select start", openSelect},
+    {"select end", closeSelect},
+    {"empty selects", dropEmptySelects},
+    {"card end", closeCard},
+    {"empty paragraphs", breakAtEmptyParagraphs},
+    {"tables", settleTables},
+    {"paragraph runs", mergeParagraphRuns},
     {"trailing paragraphs", dropTrailingParagraphs},
-    {"plain paragraphs", edit<mergePlainParagraphs>},
-    {"doubled paragraph ends", edit<dropDoubledParagraphEnds>},
-    {"last paragraph", edit<closeLastParagraph>},
-    {"card without paragraph", edit<ensureParagraph>},
-    {"trailing text", edit<wrapTrailingText>},
-    {"loose breaks", edit<dropLooseBreaks>},
+    {"plain paragraphs", mergePlainParagraphs},
+    {"doubled paragraph ends", dropDoubledParagraphEnds},
+    {"last paragraph", closeLastParagraph},
+    {"card without paragraph", ensureParagraph},
+    {"trailing text", wrapTrailingText},
+    {"loose breaks", dropLooseBreaks},
     {"elements in paragraphs", wrapElements},
     {"formats of one paragraph", splitFormats},
-    {"format nesting", RepairFormatNesting},
-    {"doubled paragraph ends again", edit<dropDoubledParagraphEnds>},
+    {"format nesting", nestFormats},
+    {"doubled paragraph ends again", dropDoubledParagraphEnds},
     {"doubled brackets", thinOutBrackets},
 };
 
@@ -99,11 +101,12 @@ std::span<const CleanPass> cleanPasses()
 void CleanDesignHtml(std::string& text, const OutputRules& rules)
 {
     requireAddressable(text);
-    auto cleaned = text;
+    EditedText edited{std::string(text)};
     for (const auto& pass : kPasses) {
-        pass.apply(cleaned);
-        requireAddressable(cleaned);
+        pass.apply(edited);
+        requireAddressableLength(edited.size());
     }
+    auto cleaned = std::move(edited).take();
     TransliterateGerman(cleaned, rules);
     cutBlankText(cleaned);
     cutBlanksAheadOfTags(cleaned);

@@ -7,9 +7,9 @@
 namespace quillmere {
 namespace {
 
-constexpr std::string_view kDo = "<!--do";
-constexpr std::string_view kDoEnd = "<!--/do";
-constexpr std::string_view kGo = "<!--go";
+constexpr SearchKey kDo = "<!--do";
+constexpr SearchKey kDoEnd = "<!--/do";
+constexpr SearchKey kGo = "<!--go";
 
 void cutThroughTag(EditedText& text, std::size_t begin, std::size_t lastTag)
 {

@@ -10,11 +10,11 @@
 namespace quillmere {
 namespace {
 
-constexpr std::string_view kOption = "<!--option";
-constexpr std::string_view kOptionEnd = "<!--/option";
-constexpr std::string_view kSelect = "<!--select";
-constexpr std::string_view kSelectEnd = "<!--/select";
-constexpr std::string_view kRadioButton = "<input";
+constexpr SearchKey kOption = "<!--option";
+constexpr SearchKey kOptionEnd = "<!--/option";
+constexpr SearchKey kSelect = "<!--select";
+constexpr SearchKey kSelectEnd = "<!--/select";
+constexpr SearchKey kRadioButton = "<input";
 
 constexpr std::string_view kNewOptionEnd = "<!--/option-->";
 

@@ -9,14 +9,14 @@
 namespace quillmere {
 namespace {
 
-constexpr std::string_view kParagraph = "<p";
-constexpr std::string_view kParagraphEnd = "</p";
+constexpr SearchKey kParagraph = "<p";
+constexpr SearchKey kParagraphEnd = "</p";
 
 bool isAligned(EditedText& text, std::size_t begin, std::size_t end)
 {
-    constexpr std::string_view kAlign = "align";
+    constexpr SearchKey kAlign = "align";
     const auto at = text.find(kAlign, begin, end);
-    return at != npos && at + kAlign.size() <= end;
+    return at != npos && at + kAlign.text.size() <= end;
 }
 
 // Drops the paragraph begins that follow the one at `first` with no end between. The tag that

@@ -6,10 +6,10 @@
 namespace quillmere {
 namespace {
 
-constexpr std::string_view kParagraph = "<p";
-constexpr std::string_view kParagraphEnd = "</p";
-constexpr std::string_view kBreak = "<br";
-constexpr std::string_view kEmptyParagraph = "<p>&nbsp";
+constexpr SearchKey kParagraph = "<p";
+constexpr SearchKey kParagraphEnd = "</p";
+constexpr SearchKey kBreak = "<br";
+constexpr SearchKey kEmptyParagraph = "<p>&nbsp";
 
 // Where text that is more than blanks ends in front of a '<': the offset of that '<'.
 std::size_t endOfLastText(std::string_view text)
@@ -25,14 +25,14 @@ std::size_t endOfLastText(std::string_view text)
 }
 
 // Each of these that follows the one before it, and the last text, is content.
-constexpr std::string_view kContentInOrder[]
+constexpr SearchKey kContentInOrder[]
     = {"<img", "<a", "<!--select", "<table", "</img", "</a", "<!--/select", "</table", "<!--/do"};
 
-std::size_t behindContent(std::string_view text)
+std::size_t behindContent(EditedText& text)
 {
-    auto behind = endOfLastText(text);
-    for (const auto key : kContentInOrder) {
-        const auto at = findIgnoringCase(text, key, behind);
+    auto behind = endOfLastText(text.whole());
+    for (const auto& key : kContentInOrder) {
+        const auto at = text.find(key, behind);
         if (at != npos) behind = at + 1;
     }
     return behind;
@@ -50,14 +50,12 @@ void breakAtEmptyParagraphs(EditedText& text)
     }
 }
 
-void dropTrailingParagraphs(std::string& text)
+void dropTrailingParagraphs(EditedText& text)
 {
     const auto behind = behindContent(text);
     const auto from = behind == 0 ? 0 : behind - 1;
-    EditedText edited(std::move(text));
-    for (const auto key : {kParagraph, kParagraphEnd, kBreak})
-        edited.cutEveryTag(key, from);
-    text = std::move(edited).take();
+    for (const auto& key : {kParagraph, kParagraphEnd, kBreak})
+        text.cutEveryTag(key, from);
 }
 
 void dropDoubledParagraphEnds(EditedText& text)

@@ -2,8 +2,6 @@
 
 #include "document/edited_text.h"
 
-#include <string>
-
 // The surface sets paragraphs as it likes: empty ones for empty lines, one behind the other without
 // ends, ends without begins. A deck has them side by side, each with its end.
 
@@ -17,7 +15,7 @@ void breakAtEmptyParagraphs(EditedText& text);
 void mergeParagraphRuns(EditedText& text);
 
 /// Drops paragraphs and breaks behind the area's last text and last element.
-void dropTrailingParagraphs(std::string& text);
+void dropTrailingParagraphs(EditedText& text);
 
 /// Melts neighbouring paragraphs without alignment into one.
 void mergePlainParagraphs(EditedText& text);

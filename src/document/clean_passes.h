@@ -1,15 +1,17 @@
 #pragma once
 
+#include "document/edited_text.h"
+
 #include <span>
 #include <string>
 #include <string_view>
 
 namespace quillmere {
 
-/// One pass of the cleaning. Where `apply` throws, the text is in pieces: callers keep a copy.
+/// One pass of the cleaning. Where `apply` throws, the text is half done: callers keep a copy.
 struct CleanPass {
     std::string_view name;
-    void (*apply)(std::string&);
+    void (*apply)(EditedText&);
 };
 
 /// The passes ahead of the transliteration, in their order.

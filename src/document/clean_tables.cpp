@@ -10,12 +10,12 @@
 namespace quillmere {
 namespace {
 
-constexpr std::string_view kTable = "<table";
-constexpr std::string_view kTableEnd = "</table";
-constexpr std::string_view kRow = "<tr";
-constexpr std::string_view kRowEnd = "</tr";
-constexpr std::string_view kParagraph = "<p";
-constexpr std::string_view kParagraphEnd = "</p";
+constexpr SearchKey kTable = "<table";
+constexpr SearchKey kTableEnd = "</table";
+constexpr SearchKey kRow = "<tr";
+constexpr SearchKey kRowEnd = "</tr";
+constexpr SearchKey kParagraph = "<p";
+constexpr SearchKey kParagraphEnd = "</p";
 constexpr std::string_view kBreak = "<br/>";
 
 // Works on one table whose content reaches from `begin` to `end`.
@@ -38,7 +38,7 @@ public:
     }
 
 private:
-    [[nodiscard]] std::size_t findInside(std::string_view key, std::size_t from)
+    [[nodiscard]] std::size_t findInside(const SearchKey& key, std::size_t from)
     {
         const auto at = text_.find(key, from);
         return at < end_ ? at : npos;

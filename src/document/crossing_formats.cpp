@@ -14,59 +14,57 @@
 namespace quillmere {
 namespace {
 
+constexpr SearchKey kParagraph = "<p";
+constexpr SearchKey kParagraphEnd = "</p";
+
 /// Gives each paragraph that a format crosses its own pair.
 class CrossingSplit {
 public:
-    CrossingSplit(std::string_view text, std::string_view open, std::string_view close)
+    CrossingSplit(EditedText& text, const SearchKey& open, const SearchKey& close)
         : text_(text)
         , open_(open)
         , close_(close)
-        , lastClose_(findLastIgnoringCase(text, close))
-        , begins_(text, "<p")
-        , tagEnds_(text, ">")
     {
     }
 
     [[nodiscard]] TextEdits edits()
     {
-        if (lastClose_ == npos) return {};
+        const auto lastClose = text_.findLast(close_);
         // Behind the last end no element crosses a paragraph.
-        for (auto at = text_.find('<'); at < lastClose_; at = text_.find('<', at + 1))
-            readTag(at);
+        for (std::size_t at = 0; lastClose != npos; ++at) {
+            const auto open = text_.find(open_, at);
+            const auto close = text_.find(close_, at);
+            const auto paragraphEnd = text_.find(kParagraphEnd, at);
+            at = std::min({open, close, paragraphEnd});
+            if (at >= lastClose) break;
+            goTo(at);
+            if (at != open && at != close && isOpen_) splitAt(at);
+            // What was begun has its end here, or no paragraph to go on in.
+            isOpen_ = at == open;
+        }
         return std::move(edits_);
     }
 
 private:
-    void readTag(std::size_t at)
+    void goTo(std::size_t offset)
     {
-        for (; seen_ < reopened_.size() && reopened_[seen_] <= at; ++seen_)
+        for (; seen_ < reopened_.size() && reopened_[seen_] <= offset; ++seen_)
             isOpen_ = true;
-        if (standsAt(text_, at, open_)) {
-            isOpen_ = true;
-        } else if (standsAt(text_, at, close_)) {
-            isOpen_ = false;
-        } else if (standsAt(text_, at, "</p")) {
-            if (isOpen_) splitAt(at);
-            isOpen_ = false; // what was begun has its end here, or no paragraph to go on in
-        }
     }
 
     void splitAt(std::size_t paragraphEnd)
     {
-        const auto next = begins_.next(paragraphEnd);
-        const auto tagEnd = next == npos ? npos : tagEnds_.next(next);
-        if (tagEnd == npos) return;
-        edits_.insert(paragraphEnd, close_);
-        edits_.insert(tagEnd + 1, open_);
-        reopened_.push_back(tagEnd + 1);
+        const auto next = text_.find(kParagraph, paragraphEnd);
+        const auto behind = next == npos ? npos : text_.tagEnd(next);
+        if (behind == npos) return;
+        edits_.insert(paragraphEnd, close_.text);
+        edits_.insert(behind, open_.text);
+        reopened_.push_back(behind);
     }
 
-    std::string_view text_;
-    std::string_view open_;
-    std::string_view close_;
-    std::size_t lastClose_;
-    ForwardFinder begins_;
-    ForwardFinder tagEnds_;
+    EditedText& text_;
+    SearchKey open_;
+    SearchKey close_;
     TextEdits edits_;
     std::vector<std::size_t> reopened_; // where the format begins again, in rising order
     std::size_t seen_ = 0; // how many of reopened_ lie ahead
@@ -117,28 +115,27 @@ private:
 
 } // namespace
 
-void splitCrossingFormats(std::string& text, std::string_view open, std::string_view close)
+void splitCrossingFormats(EditedText& text, const SearchKey& open, const SearchKey& close)
 {
-    CrossingSplit(text, open, close).edits().applyTo(text);
+    auto edits = CrossingSplit(text, open, close).edits();
+    text.apply(edits);
 }
 
-void dropFormatsWithoutText(std::string& text, std::string_view open, std::string_view close)
+void dropFormatsWithoutText(EditedText& text, const SearchKey& open, const SearchKey& close)
 {
     TextEdits edits;
-    ForwardFinder opens(text, open);
-    ForwardFinder closes(text, close);
-    ContentFinder content(text, close);
+    ContentFinder content(text.whole(), close.text);
     std::size_t closesFrom = 0;
-    for (auto at = opens.next(0); at != npos; at = opens.next(at + 1)) {
-        const auto begin = at + open.size();
-        const auto end = closes.next(std::max(begin, closesFrom));
+    for (auto at = text.find(open); at != npos; at = text.find(open, at + 1)) {
+        const auto begin = at + open.text.size();
+        const auto end = text.find(close, std::max(begin, closesFrom));
         if (end == npos) break;
         if (content.next(begin) < end) continue;
         edits.drop(at, begin);
-        edits.drop(end, end + close.size());
-        closesFrom = end + close.size();
+        edits.drop(end, end + close.text.size());
+        closesFrom = end + close.text.size();
     }
-    edits.applyTo(text);
+    text.apply(edits);
 }
 
 } // namespace quillmere

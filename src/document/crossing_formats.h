@@ -1,7 +1,6 @@
 #pragma once
 
-#include <string>
-#include <string_view>
+#include "document/edited_text.h"
 
 // The two sweeps over a format whose elements must stay within paragraphs. Tags are given whole.
 // Both work in place and throw Overflow where the text gets longer than positions can tell.
@@ -10,9 +9,9 @@ namespace quillmere {
 
 /// Ends an element that crosses a paragraph's end there and begins it again in the next paragraph.
 /// Without a next paragraph the element stays as it is.
-void splitCrossingFormats(std::string& text, std::string_view open, std::string_view close);
+void splitCrossingFormats(EditedText& text, const SearchKey& open, const SearchKey& close);
 
 /// Deletes the tags of elements that hold tags and blanks only; what is in them stays.
-void dropFormatsWithoutText(std::string& text, std::string_view open, std::string_view close);
+void dropFormatsWithoutText(EditedText& text, const SearchKey& open, const SearchKey& close);
 
 } // namespace quillmere

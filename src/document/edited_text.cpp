@@ -1,6 +1,7 @@
 // The text lies in one buffer with a gap where the last change was, so that neighbouring changes
 // move little. What a search has read is kept across a change: the places ahead of it stay, those
 // behind it move along, and only the places whose text touches the change are looked at again.
+// Most texts are short and hold few tags, so that a search for a tag mostly ends in the index.
 // Held by edited_text_test.cpp.
 
 #include "document/edited_text.h"
@@ -21,20 +22,29 @@ constexpr std::size_t kBackwardStep = 512; // read forward, which is faster
 EditedText::EditedText(std::string&& text)
     : buffer_(std::move(text))
 {
+    tags_.read(buffer_);
 }
 
 std::string EditedText::copy(std::size_t begin, std::size_t end) const
 {
+    const auto gap = gapEnd_ - gapBegin_;
     std::string piece;
-    piece.reserve(end - begin);
-    for (auto at = begin; at < end; ++at)
-        piece += (*this)[at];
+    if (begin < gapBegin_) piece.append(buffer_, begin, std::min(end, gapBegin_) - begin);
+    const auto behindGap = std::max(begin, gapBegin_);
+    if (behindGap < end) piece.append(buffer_, behindGap + gap, end - behindGap);
     return piece;
 }
 
-std::size_t EditedText::find(std::string_view key, std::size_t from, std::size_t limit)
+std::string_view EditedText::whole()
+{
+    moveGap(size());
+    return std::string_view(buffer_).substr(0, gapBegin_);
+}
+
+std::size_t EditedText::find(const SearchKey& key, std::size_t from, std::size_t limit)
 {
     if (from > size() || from >= limit) return npos;
+    if (key.isTag && !tags_.mayHold(key.pattern)) return npos;
     Search& known = remembered(key);
     if (from < known.from) {
         const auto nearEnd = std::min(limit, known.from);
@@ -55,7 +65,7 @@ std::size_t EditedText::find(std::string_view key, std::size_t from, std::size_t
     return known.found ? known.to : npos;
 }
 
-std::size_t EditedText::findLast(std::string_view key, std::size_t before) const
+std::size_t EditedText::findLast(const SearchKey& key, std::size_t before) const
 {
     for (auto end = std::min(before, size()); end > 0;) {
         const auto begin = end - std::min(end, kBackwardStep);
@@ -70,7 +80,8 @@ std::size_t EditedText::findLast(std::string_view key, std::size_t before) const
 
 std::size_t EditedText::tagEnd(std::size_t begin)
 {
-    const auto at = find(">", begin);
+    constexpr SearchKey kTagEnd = ">";
+    const auto at = find(kTagEnd, begin);
     return at == npos ? npos : at + 1;
 }
 
@@ -81,6 +92,7 @@ void EditedText::replace(std::size_t begin, std::size_t end, std::string_view pi
     if (gapEnd_ - gapBegin_ < piece.size()) growGap(piece.size());
     piece.copy(buffer_.data() + gapBegin_, piece.size());
     gapBegin_ += piece.size();
+    tags_.replace(begin, end, piece, [this](std::size_t tag) { return tagCodeAt(tag); });
     for (std::size_t i = 0; i < std::min(searchCount_, searches_.size()); ++i)
         adjust(searches_[i], {begin, end, begin + piece.size()});
 }
@@ -93,15 +105,30 @@ std::size_t EditedText::cutTag(std::size_t begin)
     return end - begin;
 }
 
-void EditedText::cutEveryTag(std::string_view key, std::size_t from)
+void EditedText::cutEveryTag(const SearchKey& key, std::size_t from)
 {
     for (auto at = find(key, from); at != npos && cutTag(at) > 0; at = find(key, from)) { }
 }
 
+void EditedText::apply(TextEdits& edits)
+{
+    if (edits.empty()) return;
+    closeGap();
+    edits.applyTo(buffer_);
+    readAgain();
+}
+
+void EditedText::rework(const std::function<void(std::string&)>& operation)
+{
+    closeGap();
+    const std::string before = buffer_;
+    operation(buffer_);
+    if (buffer_ != before) readAgain(); // else all that is known is still true
+}
+
 std::string EditedText::take() &&
 {
-    buffer_.erase(gapBegin_, gapEnd_ - gapBegin_);
-    gapEnd_ = gapBegin_;
+    closeGap();
     return std::move(buffer_);
 }
 
@@ -111,7 +138,7 @@ void EditedText::keepLonger(Search& known, const Search& other)
     if (other.to - other.from > known.to - known.from) known = other;
 }
 
-EditedText::Search& EditedText::remembered(std::string_view key)
+EditedText::Search& EditedText::remembered(const SearchKey& key)
 {
     for (std::size_t i = 0; i < std::min(searchCount_, searches_.size()); ++i) {
         if (searches_[i].key == key) return searches_[i];
@@ -121,14 +148,27 @@ EditedText::Search& EditedText::remembered(std::string_view key)
     return fresh;
 }
 
-std::size_t EditedText::findFrom(std::string_view key, std::size_t begin, std::size_t limit) const
+std::size_t EditedText::findFrom(const SearchKey& key, std::size_t begin, std::size_t limit) const
+{
+    return key.isTag ? findTag(key, begin, limit) : findText(key, begin, limit);
+}
+
+std::size_t EditedText::findTag(const SearchKey& key, std::size_t begin, std::size_t limit) const
+{
+    auto at = tags_.find(key.pattern, begin, limit);
+    while (at != npos && !standsHere(key, at))
+        at = tags_.find(key.pattern, at + 1, limit);
+    return at;
+}
+
+std::size_t EditedText::findText(const SearchKey& key, std::size_t begin, std::size_t limit) const
 {
     const auto end = std::min(limit, size());
-    const auto reach = key.size() - 1;
+    const auto reach = key.text.size() - 1;
     const std::string_view buffer(buffer_);
     if (begin < gapBegin_) {
         const auto ahead = buffer.substr(0, std::min(gapBegin_, end + reach));
-        const auto at = findIgnoringCase(ahead, key, begin);
+        const auto at = findIgnoringCase(ahead, key.text, begin);
         if (at != npos) return at;
         const auto across = std::max(begin, gapBegin_ - std::min(gapBegin_, reach));
         for (auto place = across; place < std::min(gapBegin_, end); ++place) {
@@ -137,17 +177,38 @@ std::size_t EditedText::findFrom(std::string_view key, std::size_t begin, std::s
     }
     const auto gap = gapEnd_ - gapBegin_;
     const auto behind = buffer.substr(0, end + gap + reach);
-    const auto at = findIgnoringCase(behind, key, std::max(begin, gapBegin_) + gap);
+    const auto at = findIgnoringCase(behind, key.text, std::max(begin, gapBegin_) + gap);
     return at == npos ? npos : at - gap;
 }
 
-bool EditedText::standsHere(std::string_view key, std::size_t offset) const
+bool EditedText::standsHere(const SearchKey& key, std::size_t offset) const
 {
-    if (size() - offset < key.size()) return false;
+    if (size() - offset < key.text.size()) return false;
     std::size_t i = 0;
-    while (i < key.size() && lowerCase((*this)[offset + i]) == key[i])
+    while (i < key.text.size() && lowerCase((*this)[offset + i]) == key.text[i])
         ++i;
-    return i == key.size();
+    return i == key.text.size();
+}
+
+TagCode EditedText::tagCodeAt(std::size_t offset) const
+{
+    std::array<char, kTagCodeReach> begin;
+    const auto length = std::min(begin.size(), size() - offset);
+    for (std::size_t i = 0; i < length; ++i)
+        begin[i] = (*this)[offset + i];
+    return tagCode({begin.data(), length});
+}
+
+void EditedText::closeGap()
+{
+    buffer_.erase(gapBegin_, gapEnd_ - gapBegin_);
+    gapBegin_ = gapEnd_ = 0;
+}
+
+void EditedText::readAgain()
+{
+    tags_.read(buffer_);
+    searchCount_ = 0;
 }
 
 void EditedText::moveGap(std::size_t offset)
@@ -177,7 +238,7 @@ void EditedText::growGap(std::size_t atLeast)
 void EditedText::adjust(Search& search, const Change& change) const
 {
     // Places ahead of this one have their whole text ahead of the change.
-    const auto reach = search.key.size() - 1;
+    const auto reach = search.key.text.size() - 1;
     const auto untouched = change.begin > reach ? change.begin - reach : 0;
     if (search.found ? search.to < untouched : search.to <= untouched) return;
     const auto moved = [&change](std::size_t at) { return at - change.oldEnd + change.newEnd; };

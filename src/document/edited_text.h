@@ -1,9 +1,12 @@
 #pragma once
 
+#include "document/tag_index.h"
+#include "document/text_edits.h"
 #include "document/text_search.h"
 
 #include <array>
 #include <cstddef>
+#include <functional>
 #include <string>
 #include <string_view>
 
@@ -11,7 +14,8 @@ namespace quillmere {
 
 /// A text under many searches and changes. Searches ignore case and remember what they have read,
 /// so that asking for the same key from place to place reads each part of the text about once,
-/// whatever is changed meanwhile. A change costs its distance from the change before it.
+/// whatever is changed meanwhile. Keys that begin with '<' are looked up in an index of the tags.
+/// A change costs its distance from the change before it.
 /// Offsets are those of the text as it is at the moment.
 class EditedText {
 public:
@@ -24,14 +28,16 @@ public:
         return buffer_[offset < gapBegin_ ? offset : offset + (gapEnd_ - gapBegin_)];
     }
     [[nodiscard]] std::string copy(std::size_t begin, std::size_t end) const;
+    /// All of the text in one piece, which holds until the next change.
+    [[nodiscard]] std::string_view whole();
 
-    /// The first place at or behind `from` where `key` stands; npos where there is none. `key` is
-    /// lower case, not empty, and must outlive this text. With `limit` nothing is read for
+    /// The first place at or behind `from` where `key` stands; npos where there is none. What
+    /// `key` tells must outlive this text. With `limit` nothing is read for
     /// places from there on, and what is known of them is the answer.
     [[nodiscard]] std::size_t find(
-        std::string_view key, std::size_t from = 0, std::size_t limit = npos);
+        const SearchKey& key, std::size_t from = 0, std::size_t limit = npos);
     /// The last place ahead of `before` where `key` begins.
-    [[nodiscard]] std::size_t findLast(std::string_view key, std::size_t before = npos) const;
+    [[nodiscard]] std::size_t findLast(const SearchKey& key, std::size_t before = npos) const;
     /// The offset behind the first '>' at or behind `begin`; npos where there is none.
     [[nodiscard]] std::size_t tagEnd(std::size_t begin);
 
@@ -43,7 +49,12 @@ public:
     std::size_t cutTag(std::size_t begin);
     /// Cuts every tag that begins with `key` at or behind `from`, those included that come about
     /// by the cutting.
-    void cutEveryTag(std::string_view key, std::size_t from = 0);
+    void cutEveryTag(const SearchKey& key, std::size_t from = 0);
+    /// Makes edits that were found in the text as it is, which is no longer than positions can
+    /// tell. Throws Overflow, with the text unchanged, where it would get longer.
+    void apply(TextEdits& edits);
+    /// Hands all of the text to an operation that works in place.
+    void rework(const std::function<void(std::string&)>& operation);
 
     /// Gives the text away.
     [[nodiscard]] std::string take() &&;
@@ -52,7 +63,7 @@ private:
     /// What is known of a key: it begins nowhere from `from` up to `to`, and at `to` if `found`.
     /// Behind that nothing is known.
     struct Search {
-        std::string_view key;
+        SearchKey key = "<";
         std::size_t from = 0;
         std::size_t to = 0;
         bool found = false;
@@ -65,10 +76,17 @@ private:
     };
 
     static void keepLonger(Search& known, const Search& other);
-    [[nodiscard]] Search& remembered(std::string_view key);
+    [[nodiscard]] Search& remembered(const SearchKey& key);
     [[nodiscard]] std::size_t findFrom(
-        std::string_view key, std::size_t begin, std::size_t limit) const;
-    [[nodiscard]] bool standsHere(std::string_view key, std::size_t offset) const;
+        const SearchKey& key, std::size_t begin, std::size_t limit) const;
+    [[nodiscard]] std::size_t findTag(
+        const SearchKey& key, std::size_t begin, std::size_t limit) const;
+    [[nodiscard]] std::size_t findText(
+        const SearchKey& key, std::size_t begin, std::size_t limit) const;
+    [[nodiscard]] bool standsHere(const SearchKey& key, std::size_t offset) const;
+    [[nodiscard]] TagCode tagCodeAt(std::size_t offset) const;
+    void closeGap();
+    void readAgain();
     void moveGap(std::size_t offset);
     void growGap(std::size_t atLeast);
     void adjust(Search& search, const Change& change) const;
@@ -76,6 +94,7 @@ private:
     std::string buffer_; // the text with a gap in it, where the last change was
     std::size_t gapBegin_ = 0;
     std::size_t gapEnd_ = 0;
+    TagIndex tags_;
     std::array<Search, 8> searches_; // more keys than that take the place of the oldest
     std::size_t searchCount_ = 0;
 };

@@ -18,24 +18,23 @@
 namespace quillmere {
 namespace {
 
-constexpr std::string_view kBegin = "<p";
-constexpr std::string_view kEnd = "</p";
+constexpr SearchKey kBegin = "<p";
+constexpr SearchKey kEnd = "</p";
 
 /// Knows for places that do not go back whether they lie in an open paragraph, with what was
 /// inserted counted in.
 class ParagraphWalk {
 public:
-    explicit ParagraphWalk(std::string_view text)
-        : begins_(text, kBegin)
-        , ends_(text, kEnd)
+    explicit ParagraphWalk(EditedText& text)
+        : text_(text)
     {
     }
 
     /// A paragraph without end is open as well.
     [[nodiscard]] bool isOpenAt(std::size_t offset)
     {
-        goThrough(begins_, offset, lastBegin_);
-        goThrough(ends_, offset, lastEnd_);
+        goThrough(kBegin, offset, lastBegin_);
+        goThrough(kEnd, offset, lastEnd_);
         for (; seen_ < inserted_.size() && inserted_[seen_] <= offset; ++seen_)
             lastEnd_ = std::max(lastEnd_, std::optional(inserted_[seen_]));
         return lastBegin_ && lastBegin_ >= lastEnd_; // an end that is inserted there comes first
@@ -45,15 +44,14 @@ public:
     void insertEnd(std::size_t offset) { inserted_.push_back(offset); }
 
 private:
-    static void goThrough(
-        ForwardFinder& finder, std::size_t offset, std::optional<std::size_t>& last)
+    void goThrough(const SearchKey& key, std::size_t offset, std::optional<std::size_t>& last)
     {
-        for (auto at = finder.next(last ? *last + 1 : 0); at < offset; at = finder.next(at + 1))
+        for (auto at = text_.find(key, last ? *last + 1 : 0); at < offset;
+             at = text_.find(key, at + 1))
             last = at;
     }
 
-    ForwardFinder begins_;
-    ForwardFinder ends_;
+    EditedText& text_;
     std::vector<std::size_t> inserted_;
     std::size_t seen_ = 0; // how many of inserted_ lie ahead
     std::optional<std::size_t> lastBegin_;
@@ -73,7 +71,7 @@ void beginFirstParagraph(std::string& text)
 {
     const auto card = findIgnoringCase(text, "<card");
     const auto tagEnd = card == npos ? npos : text.find('>', card);
-    const auto first = tagEnd == npos ? npos : findIgnoringCase(text, kBegin, tagEnd);
+    const auto first = tagEnd == npos ? npos : findIgnoringCase(text, kBegin.text, tagEnd);
     if (first == npos) return;
     if (holdsText(std::string_view(text).substr(tagEnd, first - tagEnd).substr(1)))
         text.insert(tagEnd + 1, "<p>");
@@ -82,7 +80,7 @@ void beginFirstParagraph(std::string& text)
 /// "</p>x</card>" becomes "</p>x</p></card>", an end that is doubled until the doubled ones go.
 void endLastParagraph(std::string& text)
 {
-    const auto last = findLastIgnoringCase(text, kEnd);
+    const auto last = findLastIgnoringCase(text, kEnd.text);
     const auto tagEnd = last == npos ? npos : text.find('>', last);
     const auto card = findIgnoringCase(text, "</card");
     if (tagEnd == npos || card == npos || card < tagEnd) return;
@@ -98,18 +96,30 @@ void dropDoubledEnds(std::string& text)
     auto resumeAt = npos;
     for (auto at = text.find('<'); at != npos; at = text.find('<', resumeAt)) {
         resumeAt = at + 1;
-        if (standsAt(text, at, kBegin)) ended = false;
-        if (!standsAt(text, at, kEnd)) continue;
+        if (standsAt(text, at, kBegin.text)) ended = false;
+        if (!standsAt(text, at, kEnd.text)) continue;
         if (ended) {
             const auto tagEnd = text.find('>', at);
             if (tagEnd == npos) return;
             cutter.keepTo(at);
             cutter.dropTo(tagEnd + 1);
-            cutter.takeBack(kEnd.size() - 1, 0); // "<" and "/p>" around it are an end now
+            cutter.takeBack(kEnd.text.size() - 1, 0); // "<" and "/p>" around it are an end now
             resumeAt = cutter.position();
         }
         ended = true;
     }
+}
+
+/// Gives the text to an operation that looks up tags more than once.
+template <typename Operation>
+void applyTo(
+    std::string& text, std::string_view openTag, std::string_view closeTag, Operation operation)
+{
+    requireAddressable(text);
+    if (openTag.empty() || closeTag.empty()) return;
+    EditedText edited{std::string(text)};
+    operation(edited, openTag, closeTag);
+    text = std::move(edited).take();
 }
 
 } // namespace
@@ -125,35 +135,44 @@ void RepairParagraphs(std::string& text)
     text = std::move(result);
 }
 
-void WrapInParagraph(std::string& text, std::string_view openTag, std::string_view closeTag)
+void WrapInParagraph(EditedText& text, const SearchKey& openTag, const SearchKey& closeTag)
 {
-    requireAddressable(text);
     TextEdits edits;
     ParagraphWalk paragraphs(text);
-    ForwardFinder opens(text, openTag);
-    ForwardFinder closes(text, closeTag);
-    ForwardFinder tagEnds(text, ">");
-    for (auto at = opens.next(0); at != npos; at = opens.next(at + 1)) {
-        const auto close = closes.next(at);
-        const auto tagEnd = close == npos ? npos : tagEnds.next(close);
-        if (tagEnd == npos) break;
+    for (auto at = text.find(openTag); at != npos; at = text.find(openTag, at + 1)) {
+        const auto close = text.find(closeTag, at);
+        const auto behind = close == npos ? npos : text.tagEnd(close);
+        if (behind == npos) break;
         if (paragraphs.isOpenAt(at)) continue;
         edits.insert(at, "<p>");
         paragraphs.insertBegin(at);
-        edits.insert(tagEnd + 1, "</p>");
-        paragraphs.insertEnd(tagEnd + 1);
+        edits.insert(behind, "</p>");
+        paragraphs.insertEnd(behind);
     }
-    edits.applyTo(text);
+    text.apply(edits);
+}
+
+void SplitAtParagraphs(EditedText& text, const SearchKey& openTag, const SearchKey& closeTag)
+{
+    if (text.find(openTag) == npos) return;
+    splitCrossingFormats(text, openTag, closeTag);
+    dropFormatsWithoutText(text, openTag, closeTag);
+}
+
+void WrapInParagraph(std::string& text, std::string_view openTag, std::string_view closeTag)
+{
+    applyTo(text, openTag, closeTag,
+        [](EditedText& edited, const SearchKey& open, const SearchKey& close) {
+            WrapInParagraph(edited, open, close);
+        });
 }
 
 void SplitAtParagraphs(std::string& text, std::string_view openTag, std::string_view closeTag)
 {
-    requireAddressable(text);
-    if (findIgnoringCase(text, openTag) == npos) return;
-    std::string result = text;
-    splitCrossingFormats(result, openTag, closeTag);
-    dropFormatsWithoutText(result, openTag, closeTag);
-    text = std::move(result);
+    applyTo(text, openTag, closeTag,
+        [](EditedText& edited, const SearchKey& open, const SearchKey& close) {
+            SplitAtParagraphs(edited, open, close);
+        });
 }
 
 } // namespace quillmere

@@ -21,6 +21,8 @@ public:
     /// Throws Overflow where what is inserted alone is longer than positions can tell.
     void replace(std::size_t begin, std::size_t end, std::string_view text);
 
+    [[nodiscard]] bool empty() const { return edits_.empty(); }
+
     /// Changes `text`, in place, and forgets the edits. Throws Overflow, with `text` unchanged,
     /// where the result is longer than positions can tell.
     void applyTo(std::string& text);

@@ -47,22 +47,25 @@ public:
     {
     }
 
-    [[nodiscard]] std::size_t findInBlock(std::string_view text, std::string_view key) const
+    /// The first place of the block that `text` begins with, of those from `from` on.
+    [[nodiscard]] std::size_t findInBlock(
+        std::string_view text, std::string_view key, std::size_t from = 0) const
     {
-        std::array<unsigned char, kBlock> candidates;
+        std::array<char, kBlock> candidates;
         unsigned char any = 0;
         const char* const firsts = text.data();
         const char* const lasts = firsts + key.size() - 1;
         for (std::size_t i = 0; i < kBlock; ++i) {
             const auto both = first_.matches(firsts[i]) & last_.matches(lasts[i]);
-            candidates[i] = static_cast<unsigned char>(both);
+            candidates[i] = static_cast<char>(both);
             any = static_cast<unsigned char>(any | both);
         }
         if (any == 0) return npos;
-        for (std::size_t i = 0; i < kBlock; ++i) {
-            if (candidates[i] != 0 && standsAt(text, i, key)) return i;
-        }
-        return npos;
+        const std::string_view marks(candidates.data(), kBlock);
+        auto at = marks.find('\1', from);
+        while (at != npos && !standsAt(text, at, key))
+            at = marks.find('\1', at + 1);
+        return at;
     }
 
 private:
@@ -94,20 +97,36 @@ bool standsAt(std::string_view text, std::size_t offset, std::string_view key)
     return true;
 }
 
+namespace {
+
+std::size_t findPlaceByPlace(std::string_view text, std::string_view key, std::size_t from)
+{
+    const bool isTag = key.starts_with('<');
+    for (auto at = from; at < text.size(); ++at) {
+        if (isTag) at = text.find('<', at);
+        if (standsAt(text, at, key)) return at;
+        if (at == npos) break;
+    }
+    return npos;
+}
+
+} // namespace
+
 std::size_t findIgnoringCase(std::string_view text, std::string_view key, std::size_t from)
 {
     if (key.empty()) return from <= text.size() ? from : npos;
     if (key.size() == 1 && !isLetter(key.front())) return text.find(key.front(), from);
+    const auto places = text.size() - std::min(text.size(), key.size() - 1);
+    if (places < kBlock || from >= places) return findPlaceByPlace(text, key, from);
     const EndsOfKey ends(key);
-    auto at = from;
-    for (; at < text.size() && text.size() - at >= kBlock + key.size() - 1; at += kBlock) {
-        const auto found = ends.findInBlock(text.substr(at), key);
-        if (found != npos) return at + found;
+    for (; from + kBlock <= places; from += kBlock) {
+        const auto found = ends.findInBlock(text.substr(from), key);
+        if (found != npos) return from + found;
     }
-    for (; at < text.size(); ++at) {
-        if (standsAt(text, at, key)) return at;
-    }
-    return npos;
+    if (from == places) return npos;
+    const auto lastBlock = places - kBlock; // partly read already
+    const auto found = ends.findInBlock(text.substr(lastBlock), key, from - lastBlock);
+    return found == npos ? npos : lastBlock + found;
 }
 
 std::size_t findLastIgnoringCase(std::string_view text, std::string_view key, std::size_t before)

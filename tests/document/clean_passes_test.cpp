@@ -33,7 +33,13 @@ std::vector<Judged> judgedPasses()
     const auto slow = literal::cleanPasses();
     for (const auto& pass : cleanPasses()) {
         const auto judge = slow[all.size()].apply;
-        all.push_back({std::string(pass.name), pass.apply,
+        const auto apply = pass.apply;
+        all.push_back({std::string(pass.name),
+            [apply](std::string& text) {
+                EditedText edited{std::string(text)};
+                apply(edited);
+                text = std::move(edited).take();
+            },
             [judge](std::string& text) { text = judge(std::move(text)); }});
     }
     all.push_back({"transliteration", [](std::string& text) { TransliterateGerman(text, kUsual); },
