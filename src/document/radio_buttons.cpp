@@ -10,7 +10,9 @@
 
 #include <algorithm>
 #include <iterator>
+#include <optional>
 #include <string_view>
+#include <utility>
 
 namespace quillmere {
 namespace {
@@ -19,6 +21,15 @@ constexpr std::string_view kOption = "<!--option";
 constexpr std::string_view kOptionEnd = "<!--/option";
 constexpr std::string_view kInput = "<input";
 
+/// The first tag at or behind `from` that begins with `key`.
+std::size_t findTag(std::string_view text, std::string_view key, std::size_t from)
+{
+    auto at = text.find('<', from);
+    while (at != npos && !standsAt(text, at, key))
+        at = text.find('<', at + 1);
+    return at;
+}
+
 /// What an option marker, without its ">", leads to. A value in quotes that holds a ">" is none:
 /// the button would end at it, and its rest would stay as text. Of `onpick=#a--` without quotes
 /// the dashes of the marker's end are part of the target.
@@ -26,14 +37,14 @@ std::string_view targetOf(std::string_view marker)
 {
     constexpr std::string_view kKey = "onpick=";
     constexpr std::string_view kQuotedKey = "onpick=\"";
-    const auto quoted = findIgnoringCase(marker, kQuotedKey);
+    const auto plain = findIgnoringCase(marker, kKey);
+    if (plain == npos) return {};
+    const auto quoted = findIgnoringCase(marker, kQuotedKey, plain);
     if (quoted != npos) {
         const auto value = marker.substr(quoted + kQuotedKey.size());
         const auto close = value.find('"');
         return close == npos ? std::string_view{} : value.substr(0, close);
     }
-    const auto plain = findIgnoringCase(marker, kKey);
-    if (plain == npos) return {};
     const auto value = marker.substr(plain + kKey.size());
     return value.substr(0, value.find(' '));
 }
@@ -49,6 +60,27 @@ std::string button(int number, std::string_view target)
     return tag + '>';
 }
 
+/// The text without the inputs that stand between an option and an end; nullopt where one of them
+/// does not stand right behind a '>', so that cutting it might join the text around it to a tag.
+std::optional<std::string> withoutPlainInputs(std::string_view text)
+{
+    const auto lastEnd = findLastIgnoringCase(text, kOptionEnd);
+    if (lastEnd == npos) return std::string(text);
+    Rewriter result(text);
+    bool isInside = false;
+    for (auto at = text.find('<'); at < lastEnd; at = text.find('<', at + 1)) {
+        if (standsAt(text, at, kOption)) isInside = true;
+        if (standsAt(text, at, kOptionEnd)) isInside = false;
+        if (!isInside || !standsAt(text, at, kInput)) continue;
+        const auto tagEnd = text.find('>', at);
+        if (tagEnd == npos) break;
+        if (text[at - 1] != '>') return std::nullopt;
+        result.drop(at, tagEnd + 1);
+        at = tagEnd;
+    }
+    return result.take();
+}
+
 /// Cuts the first input between the option marker and its end; false where there is none.
 bool cutInput(EditedText& text, std::size_t option)
 {
@@ -58,13 +90,24 @@ bool cutInput(EditedText& text, std::size_t option)
     return input < end && text.cutTag(input) != 0;
 }
 
+/// Cuts one input after the other, with all tags that come about by it counted in.
+std::string withoutInputs(std::string text)
+{
+    EditedText edited(std::move(text));
+    for (auto option = edited.find(kOption); option != npos;
+         option = edited.find(kOption, option + 1)) {
+        while (cutInput(edited, option)) { }
+    }
+    return std::move(edited).take();
+}
+
 } // namespace
 
 void InsertTemporaeryRadioButtons(std::string& text)
 {
     requireAddressable(text);
     const std::string_view source = text;
-    auto option = findIgnoringCase(source, kOption);
+    auto option = findTag(source, kOption, 0);
     if (option == npos) return;
     Rewriter result(source);
     int number = 0;
@@ -72,10 +115,10 @@ void InsertTemporaeryRadioButtons(std::string& text)
         const auto end = source.find('>', option);
         if (end == npos) break;
         result.insert(end + 1, button(++number, targetOf(source.substr(option, end - option))));
-        const auto close = findIgnoringCase(source, kOptionEnd, end);
+        const auto close = findTag(source, kOptionEnd, end);
         const auto closed = close == npos ? npos : source.find('>', close);
         if (closed == npos) break;
-        option = findIgnoringCase(source, kOption, closed);
+        option = findTag(source, kOption, closed);
     }
     auto changed = result.take();
     requireAddressable(changed);
@@ -85,12 +128,8 @@ void InsertTemporaeryRadioButtons(std::string& text)
 void DeleteAllTemporaeryRadioButtons(std::string& text)
 {
     if (findIgnoringCase(text, kInput) == npos) return;
-    EditedText edited(std::move(text));
-    for (auto option = edited.find(kOption); option != npos;
-         option = edited.find(kOption, option + 1)) {
-        while (cutInput(edited, option)) { }
-    }
-    text = std::move(edited).take();
+    auto plain = withoutPlainInputs(text); // as inserted
+    text = plain ? std::move(*plain) : withoutInputs(std::move(text));
 }
 
 } // namespace quillmere

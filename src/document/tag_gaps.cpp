@@ -21,10 +21,9 @@ bool isWhite(char character)
 void GapWalk::goAheadOf(std::size_t tag)
 {
     tag_ = tag;
-    const auto before = begin_;
-    for (auto end = tagEnds_.next(begin_); end < tag; end = tagEnds_.next(begin_))
-        begin_ = end + 1;
-    if (begin_ == before) return;
+    if (nextEnd_ >= tag) return;
+    for (; nextEnd_ < tag; nextEnd_ = text_.find('>', begin_))
+        begin_ = nextEnd_ + 1;
     leadEnd_ = begin_;
     while (isWhite(text_[leadEnd_]))
         ++leadEnd_; // ends at the tag at last

@@ -25,7 +25,7 @@ class GapWalk {
 public:
     explicit GapWalk(std::string_view text)
         : text_(text)
-        , tagEnds_(text, ">")
+        , nextEnd_(text.find('>'))
     {
     }
 
@@ -42,7 +42,7 @@ public:
 
 private:
     std::string_view text_;
-    ForwardFinder tagEnds_;
+    std::size_t nextEnd_; // the first '>' from begin_ on
     std::size_t tag_ = 0;
     std::size_t begin_ = 0;
     std::size_t leadEnd_ = 0;

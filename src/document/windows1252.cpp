@@ -80,7 +80,7 @@ bool isAscii(std::string_view bytes)
 bool isUtf8(std::string_view bytes)
 {
     for (std::size_t at = 0; at < bytes.size();) {
-        const auto length = decodeUtf8(bytes, at).length;
+        const auto length = code(bytes[at]) < 0x80 ? 1 : decodeUtf8(bytes, at).length;
         if (length == 0) return false;
         at += length;
     }
@@ -158,8 +158,13 @@ char lowerCase(char character)
 std::string lowerCase(std::string_view text)
 {
     std::string result(text);
-    for (char& character : result)
-        character = static_cast<char>(lowered(code(character)));
+    constexpr std::size_t kAtATime = 16;
+    const auto whole = result.size() - result.size() % kAtATime;
+    std::size_t i = 0;
+    for (; i < whole; ++i)
+        result[i] = static_cast<char>(lowered(code(result[i])));
+    for (; i < result.size(); ++i)
+        result[i] = lowerCase(result[i]);
     return result;
 }
 

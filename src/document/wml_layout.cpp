@@ -24,16 +24,21 @@ constexpr std::string_view kLineBreak = "\r\n";
 constexpr std::string_view kKeptInLine[] = {"<br/", "<td", "</td", "<strong", "</strong", "<i>",
     "</i>", "<u>", "</u>", "<big", "</big", "<small", "</small"};
 
+/// Whether any tag with this letter, be it behind a '/', may stay in its line.
+bool mayStayInLine(char letter)
+{
+    return letter == 'b' || letter == 's' || letter == 't' || letter == 'i' || letter == 'u';
+}
+
 /// A key is not looked for where the text ends with it: "</i>" as the last tag gets a line.
 bool getsOwnLine(std::string_view text, std::size_t at)
 {
     const std::string_view rest = text.substr(at);
-    if (rest.size() < 3) return true;
-    const auto begins = [rest](std::string_view key) { // two characters tell most keys apart
-        return rest[1] == key[1] && rest[2] == key[2] && rest.size() > key.size() + 1
-            && rest.starts_with(key);
-    };
-    return std::none_of(std::begin(kKeptInLine), std::end(kKeptInLine), begins);
+    if (rest.size() < 3 || !mayStayInLine(rest[rest[1] == '/' ? 2 : 1])) return true;
+    return std::none_of(
+        std::begin(kKeptInLine), std::end(kKeptInLine), [rest](std::string_view key) {
+            return rest[2] == key[2] && rest.size() > key.size() + 1 && rest.starts_with(key);
+        });
 }
 
 /// The indent that the tags ask for.
@@ -134,7 +139,7 @@ void BreakWmlLines(std::string& text)
     auto resumeAt = npos;
     for (auto at = findIgnoringCase(text, "<wml"); at != npos; at = text.find('<', resumeAt)) {
         resumeAt = at + 1;
-        const bool isClose = standsAt(text, at, "</");
+        const bool isClose = at + 1 < text.size() && text[at + 1] == '/';
         if (getsOwnLine(text, at)) {
             result.insert(at, kLineBreak);
             resumeAt += indent.countLine(isClose);
@@ -150,9 +155,9 @@ void RestoreWhitespace(std::string& text, std::string_view pristine)
     requireAddressable(text);
     PristineWalk pristineTags(pristine);
     GapRewriter result(text);
-    ForwardFinder tagEnds(text, ">");
+    auto tagEnd = text.find('>');
     for (auto at = text.find('<'); at != npos; at = text.find('<', at + 1)) {
-        const auto tagEnd = tagEnds.next(at);
+        if (tagEnd < at) tagEnd = text.find('>', at);
         if (tagEnd == npos) break;
         const auto length = std::min(tagEnd + 1 - at, kTagKeyLength);
         const auto space = pristineTags.goTo(std::string_view(text).substr(at, length));

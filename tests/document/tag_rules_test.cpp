@@ -42,5 +42,14 @@ TEST(RuleFinder, GivesTheFirstRuleWhoseKeyTheTagContains)
     });
 }
 
+TEST(RuleFinder, TellsTagsAndMarkersWithTheSameLetterApart)
+{
+    constexpr std::array kMarkers
+        = std::to_array<TagRule>({{"<!--b"}, {"</b>"}, {"<!--/bb"}, {"<b"}, {"<!--bb"}});
+    constexpr std::array<std::string_view, 5> kTokens{"<", ">", "b", "/", "!--"};
+    test::forEachSequence(
+        kTokens, 6, [](const std::string& text) { expectFirstContained(text, kMarkers); });
+}
+
 } // namespace
 } // namespace quillmere
