@@ -28,8 +28,10 @@ public:
 
 /// A document session without window, disk and questions.
 struct CoreSession {
-    explicit CoreSession(bool standardOutput)
-        : session{workFiles, sizes, prompter, settings, words, OutputRules(standardOutput)}
+    /// `copies` draws display copies, which must outlive the session; without it none are drawn.
+    explicit CoreSession(bool standardOutput, DisplayCopies* copies = nullptr)
+        : session{workFiles, copies != nullptr ? *copies : sizes, prompter, settings, words,
+            OutputRules(standardOutput)}
         , sizes(session.output)
     {
     }

@@ -1,206 +1,153 @@
 #include "support/run_program.h"
-#include "support/temporary_directory.h"
+#include "support/scratch_folder.h"
 
 #include <gtest/gtest.h>
-
-#include <filesystem>
-#include <string>
-#include <vector>
 
 namespace quillmere {
 namespace {
 
-using test::bytesOf;
-using test::runProgram;
-using test::RunResult;
-using test::TemporaryDirectory;
-
-RunResult cli(const std::vector<std::string>& arguments, const std::string& input = {})
-{
-    return runProgram(QUILLMERE_CLI, arguments, input);
-}
+using Call = std::vector<std::string>;
 
 constexpr const char* kDeck = "<?xml version=\"1.0\"?>\n<wml>\n<card id=\"a\" title=\"Eins\">\n"
                               "<do type=\"accept\" label=\"Weiter\"><go href=\"#b\"/></do>\n"
-                              "<p>Gr\xFC\xDF"
-                              "e</p>\n</card>\n<card id=\"b\" title=\"Zw\tei\">\n"
+                              "<p>Gr\xFC\xDF\x65</p>\n</card>\n<card id=\"b\" title=\"Zw\tei\">\n"
                               "<p>x</p>\n</card>\n</wml>\n";
 
-TEST(Cli, BadArgumentsEndWithOneAndAMessage)
-{
-    const std::vector<std::vector<std::string>> calls
-        = {{}, {"nothing"}, {"repair"}, {"repair", "--what"}, {"repair", "-o"},
-            {"repair", "a", "b", "-o", "c"}, {"repair", "x/a.wml", "y/a.wml", "--out-dir", "z"},
-            {"repair", "a", "--json"}, {"areas"}, {"areas", "a", "b"}, {"areas", "a", "-o", "b"},
-            {"step", "Nothing"}, {"step", "WrapInParagraph", "<b>"}, {"step", "RestoreWhitespace"},
-            {"wbmp-show", "a.wbmp"}, {"words", "x"}};
-    for (const auto& call : calls) {
-        const RunResult result = cli(call);
-        SCOPED_TRACE(testing::PrintToString(call));
-        EXPECT_EQ(result.status, 1);
-        EXPECT_EQ(result.output, "");
-        EXPECT_TRUE(result.errors.starts_with("quillmere-cli: ")) << result.errors;
+class Cli : public testing::Test {
+protected:
+    /// A word that begins with "@" is a file of the folder.
+    test::RunResult cli(Call call, const std::string& input = {})
+    {
+        for (auto& word : call)
+            if (word.starts_with('@')) word.replace(0, 1, folder.path());
+        return test::runProgram(QUILLMERE_CLI, call, input);
     }
+    test::ScratchFolder folder;
+};
+
+TEST_F(Cli, TellsWhatWentWrongAndChangesNothing)
+{
+    const std::pair<int, std::vector<Call>> rows[] = {
+        {1,
+            {{}, {"nothing"}, {"repair"}, {"repair", "--what"}, {"repair", "-o"},
+                {"repair", "a", "b", "-o", "c"}, {"repair", "x/a.wml", "y/a.wml", "--out-dir", "z"},
+                {"repair", "a", "--json"}, {"areas"}, {"areas", "a", "b"},
+                {"areas", "a", "-o", "b"}, {"step", "Nothing"}, {"step", "WrapInParagraph", "<b>"},
+                {"step", "RestoreWhitespace"}, {"wbmp-show", "a.wbmp"}, {"words", "x"}}},
+        {2,
+            {{"repair", "@none.wml"}, {"repair", "@"}, {"areas", "@none.wml"},
+                {"repair", "@d.wml", "-o", "@none/out.wml"}, {"repair", "@d.wml", "-o", "@"},
+                {"repair", "@d.wml", "--out-dir", "@d.wml"},
+                {"repair", "@d.wml", "-o", "/dev/full"},
+                {"wbmp-show", "@none.wbmp", "-o", "@x.bmp"}}},
+        {3, {{"repair", "@long.wml", "-o", "@o.wml"}, {"repair", "@quote.wml"}}},
+    };
+    folder.put("d.wml", kDeck);
+    folder.put("long.wml", std::string(40000, 'x'));
+    folder.put("quote.wml", "<card id=\"a\"><do type=\"x\" label=\"y></do></card>");
+    for (const auto& [status, calls] : rows) {
+        for (const auto& call : calls) {
+            SCOPED_TRACE(testing::PrintToString(call));
+            const auto result = cli(call);
+            EXPECT_EQ(result.status, status);
+            EXPECT_EQ(result.output, "");
+            EXPECT_TRUE(result.errors.starts_with("quillmere-cli: ")) << result.errors;
+        }
+    }
+    EXPECT_EQ(folder.get("d.wml"), kDeck);
+    EXPECT_TRUE(folder.get("quote.wml").ends_with("</card>"));
+    EXPECT_FALSE(folder.has("o.wml") || folder.has("x.bmp"));
+
+    // Of several decks the good ones are written, and the worst of the others tells the status.
+    const auto result = cli({"repair", "--out-dir", "@out", "@none.wml", "@long.wml", "@d.wml"});
+    EXPECT_EQ(result.status, 3);
+    EXPECT_TRUE(folder.has("out/d.wml"));
+    EXPECT_FALSE(folder.has("out/long.wml"));
+    EXPECT_NE(result.errors.find("none.wml"), std::string::npos) << result.errors;
+    EXPECT_NE(result.errors.find("long.wml: Überlauf"), std::string::npos) << result.errors;
 }
 
-TEST(Cli, HelpNamesEveryCommandAndEachCommandItsOptions)
+TEST_F(Cli, HelpNamesEveryCommandAndEachCommandItsOptions)
 {
-    const RunResult general = cli({"--help"});
+    const auto general = cli({"--help"});
     EXPECT_EQ(general.status, 0);
     for (const std::string command : {"repair", "areas", "step", "wbmp-show", "words"}) {
         EXPECT_NE(general.output.find("\n  " + command), std::string::npos);
-        const RunResult one = cli({command, "--help"});
-        EXPECT_EQ(one.status, 0);
-        EXPECT_NE(one.output.find("--standard-output"), std::string::npos) << command;
+        EXPECT_NE(cli({command, "--help"}).output.find("--standard-output"), std::string::npos);
     }
     EXPECT_NE(cli({"-h", "repair"}).output.find("--keep-work"), std::string::npos);
 }
 
-TEST(Cli, StepPassesBytesAndAddsNothing)
+TEST_F(Cli, WritesToStandardOutputJustWhatIsAsked)
 {
-    struct Row {
-        std::vector<std::string> call;
+    const std::string areas = "0\ta\tEins\tWeiter\t#b\n1\tb\tZw ei\t\t\n";
+    const std::string json
+        = "[{\"index\": 0, \"id\": \"a\", \"title\": \"Eins\", \"label\": \"Weiter\", "
+          "\"target\": \"#b\"},\n"
+          " {\"index\": 1, \"id\": \"b\", \"title\": \"Zw\\u0009ei\", \"label\": \"\", "
+          "\"target\": \"\"}]\n";
+    const struct {
+        Call call;
         std::string input;
         std::string output;
+    } rows[] = {
+        {{"step", "WmlToDesign"}, "<p mode=\"nowrap\">\xE4</p>", "<p>\xE4</p>"},
+        {{"step", "WmlToDesign"}, "<img src=\"a.wbmp\" alt=\"x\"/>",
+            "<img src=\"a.wbmp\" alt=\"x\"/>"},
+        {{"step", "DesignToWml"}, "<EM>x</EM><TABLE border=1>", "<i>x</i><TABLE border=1>"},
+        {{"step", "DesignToWml", "--standard-output"}, "<TABLE border=1>", "<table>"},
+        {{"step", "TakeDoBlock"}, "a<do>b</do>c</card>", "<do>b</do>\n----\nac</card>"},
+        {{"step", "TransliterateGerman"}, "M\xFCller \xE9", "Mueller  "},
+        {{"step", "TransliterateGerman", "--standard-output"}, "\xFC\x80", "&#252;&#8364;"},
+        {{"step", "RepairFormatAroundSelect"}, "<b><select></select></b>", "<select></select>"},
+        {{"step", "WrapInParagraph", "<a", "</a"}, "<a>y</a>", "<p><a>y</a></p>"},
+        {{"step", "RestoreWhitespace", "--pristine", "@old.wml"}, "<wml><card>", "<wml>\n\n<card>"},
+        {{"step", "RepairNesting"}, "", ""},
+        {{"areas", "@d.wml"}, "", areas},
+        {{"areas", "--json", "@d.wml"}, "", json},
+        {{"words", "9999"}, "", "\n"},
     };
-    const std::vector<Row> rows = {
-        {{"WmlToDesign"}, "<p mode=\"nowrap\">\xE4</p>", "<p>\xE4</p>"},
-        {{"WmlToDesign"}, "<img src=\"a.wbmp\" alt=\"x\"/>", "<img src=\"a.wbmp\" alt=\"x\"/>"},
-        {{"DesignToWml"}, "<EM>x</EM><TABLE border=1>", "<i>x</i><TABLE border=1>"},
-        {{"DesignToWml", "--standard-output"}, "<TABLE border=1>", "<table>"},
-        {{"TakeDoBlock"}, "a<do>b</do>c</card>", "<do>b</do>\n----\nac</card>"},
-        {{"TakeDoBlock"}, "a", "\n----\na"},
-        {{"TransliterateGerman"}, "M\xFCller \xE9", "Mueller  "},
-        {{"TransliterateGerman", "--standard-output"}, "\xFC\x80", "&#252;&#8364;"},
-        {{"RepairFormatAroundSelect"}, "<b><select></select></b>", "<select></select>"},
-        {{"WrapInParagraph", "<a", "</a"}, "<a href=\"x\">y</a>", "<p><a href=\"x\">y</a></p>"},
-        {{"RepairNesting"}, "", ""},
-    };
-    for (const Row& row : rows) {
-        std::vector<std::string> call = row.call;
-        call.insert(call.begin(), "step");
-        SCOPED_TRACE(testing::PrintToString(call));
-        const RunResult result = cli(call, row.input);
+    folder.put("old.wml", "<wml>\n\n<card>");
+    folder.put("d.wml", kDeck);
+    for (const auto& row : rows) {
+        SCOPED_TRACE(testing::PrintToString(row.call));
+        const auto result = cli(row.call, row.input);
         EXPECT_EQ(result.status, 0) << result.errors;
         EXPECT_EQ(result.output, row.output);
     }
-}
-
-TEST(Cli, StepTakesThePristineTextFromAFile)
-{
-    const TemporaryDirectory directory;
-    const std::string pristine = directory.write("old.wml", "<wml>\n\n<card id=\"a\">");
-    const RunResult result
-        = cli({"step", "RestoreWhitespace", "--pristine", pristine}, "<wml><card id=\"a\">");
-    EXPECT_EQ(result.output, "<wml>\n\n<card id=\"a\">");
-}
-
-TEST(Cli, RunFailuresEndWithThree)
-{
-    const RunResult tooLong = cli({"step", "CleanDesignHtml"}, std::string(32768, 'x'));
-    EXPECT_EQ(tooLong.status, 3);
-    EXPECT_EQ(tooLong.output, "");
-    EXPECT_NE(tooLong.errors.find("Überlauf"), std::string::npos);
-    EXPECT_EQ(cli({"step", "DesignToWml"}, "<a href=\"x>").status, 3);
-}
-
-TEST(Cli, AreasShowsALineForEachAreaOrJson)
-{
-    const TemporaryDirectory directory;
-    const std::string deck = directory.write("d.wml", kDeck);
-    EXPECT_EQ(cli({"areas", deck}).output, "0\ta\tEins\tWeiter\t#b\n1\tb\tZw ei\t\t\n");
-    EXPECT_EQ(cli({"areas", "--json", deck}).output,
-        "[{\"index\": 0, \"id\": \"a\", \"title\": \"Eins\", \"label\": \"Weiter\", "
-        "\"target\": \"#b\"},\n"
-        " {\"index\": 1, \"id\": \"b\", \"title\": \"Zw\\u0009ei\", \"label\": \"\", "
-        "\"target\": \"\"}]\n");
-    EXPECT_EQ(bytesOf(deck), kDeck);
-}
-
-TEST(Cli, RepairWritesWhereItIsTold)
-{
-    const TemporaryDirectory directory;
-    const std::string deck = directory.write("d.wml", kDeck);
-    EXPECT_EQ(cli({"repair", deck, "-o", directory.path("out.wml")}).status, 0);
-    const std::string written = bytesOf(directory.path("out.wml"));
-    EXPECT_NE(written.find("<p>Gruesse</p>"), std::string::npos) << written;
-    EXPECT_EQ(bytesOf(deck), kDeck);
-
-    EXPECT_EQ(cli({"repair", deck, "--out-dir", directory.path("new/dir")}).status, 0);
-    EXPECT_EQ(bytesOf(directory.path("new/dir/d.wml")), written);
-    EXPECT_EQ(cli({"repair", deck, "-o", "-"}).output, written);
-    EXPECT_EQ(cli({"repair", deck, "--keep-work", directory.path("work")}).status, 0);
-    EXPECT_EQ(bytesOf(deck), written);
-    EXPECT_TRUE(bytesOf(directory.path("work/Wml0.htm")).starts_with("<!--card id=\"a\""));
-    EXPECT_TRUE(bytesOf(directory.path("work/Wml1.htm")).starts_with("<!--card id=\"b\""));
-    EXPECT_FALSE(std::filesystem::exists(directory.path("work/Wml2.htm")));
-}
-
-TEST(Cli, RepairOfSeveralDecksGoesOnBehindAFailure)
-{
-    const TemporaryDirectory directory;
-    const std::string good = directory.write("good.wml", kDeck);
-    const std::string tooLong = directory.write("long.wml", std::string(40000, 'x'));
-    const std::string missing = directory.path("missing.wml");
-    const RunResult result
-        = cli({"repair", "--out-dir", directory.path("out"), missing, tooLong, good});
-    EXPECT_EQ(result.status, 3);
-    EXPECT_TRUE(std::filesystem::exists(directory.path("out/good.wml")));
-    EXPECT_FALSE(std::filesystem::exists(directory.path("out/long.wml")));
-    EXPECT_NE(result.errors.find("missing.wml“"), std::string::npos) << result.errors;
-    EXPECT_NE(result.errors.find("long.wml: Überlauf"), std::string::npos) << result.errors;
-}
-
-TEST(Cli, FileTroubleEndsWithTwoAndLeavesTheDeck)
-{
-    const TemporaryDirectory directory;
-    const std::string deck = directory.write("d.wml", kDeck);
-    const std::vector<std::vector<std::string>> calls = {{"repair", directory.path("none.wml")},
-        {"repair", directory.path()}, {"areas", directory.path("none.wml")},
-        {"repair", deck, "-o", directory.path("none/out.wml")},
-        {"repair", deck, "-o", directory.path()}, {"repair", deck, "--out-dir", deck},
-        {"repair", deck, "-o", "/dev/full"},
-        {"wbmp-show", directory.path("none.wbmp"), "-o", directory.path("x.bmp")}};
-    for (const auto& call : calls) {
-        SCOPED_TRACE(testing::PrintToString(call));
-        const RunResult result = cli(call);
-        EXPECT_EQ(result.status, 2);
-        EXPECT_NE(result.errors, "");
-    }
-    EXPECT_EQ(bytesOf(deck), kDeck);
-}
-
-TEST(Cli, AnyBytesGiveADeckWithAWarningButNotInTheirPlace)
-{
-    const TemporaryDirectory directory;
-    for (const std::string& bytes : {std::string(), std::string("Kein WML"), std::string(100, '\0'),
-             std::string("\xFF\xFE<\0w\0", 6), std::string("<card id=\"a\"")}) {
-        const std::string deck = directory.write("any.wml", bytes);
-        const RunResult converted = cli({"repair", deck, "-o", "-"});
-        EXPECT_EQ(converted.status, 0);
-        EXPECT_NE(converted.output.find("</card>"), std::string::npos);
-        EXPECT_NE(converted.errors.find("wohl kein WML-Deck"), std::string::npos);
-        EXPECT_EQ(cli({"repair", deck}).status, 2);
-        EXPECT_EQ(bytesOf(deck), bytes);
-    }
-}
-
-TEST(Cli, WbmpShowWritesABmp)
-{
-    const TemporaryDirectory directory;
-    const std::string picture = directory.write("a.wbmp", std::string("\0\0\x03\x02\xA0\x40", 6));
-    EXPECT_EQ(cli({"wbmp-show", picture, "-o", directory.path("a.bmp")}).status, 0);
-    EXPECT_TRUE(bytesOf(directory.path("a.bmp")).starts_with("BM"));
-}
-
-TEST(Cli, WordsShowsTextsByNumber)
-{
     EXPECT_NE(cli({"words"}).output.find("136\t"), std::string::npos);
-    const RunResult one = cli({"words", "136"});
-    EXPECT_EQ(one.status, 0);
-    EXPECT_GT(one.output.size(), 1U);
-    EXPECT_EQ(cli({"words", "9999"}).output, "\n");
-    EXPECT_EQ(cli({"words", "1", "--skins", "/nonexistent"}).status, 2);
+    EXPECT_GT(cli({"words", "136"}).output.size(), 1U);
+    EXPECT_EQ(folder.get("d.wml"), kDeck);
+}
+
+TEST_F(Cli, RepairWritesWhereItIsTold)
+{
+    folder.put("d.wml", kDeck);
+    EXPECT_EQ(cli({"repair", "@d.wml", "-o", "@out.wml"}).status, 0);
+    const auto written = folder.get("out.wml");
+    EXPECT_NE(written.find("<p>Gruesse</p>"), std::string::npos) << written;
+    EXPECT_EQ(folder.get("d.wml"), kDeck);
+    EXPECT_EQ(cli({"repair", "@d.wml", "--out-dir", "@new/dir"}).status, 0);
+    EXPECT_EQ(folder.get("new/dir/d.wml"), written);
+    EXPECT_EQ(cli({"repair", "@d.wml", "-o", "-"}).output, written);
+    EXPECT_EQ(cli({"repair", "@d.wml", "--keep-work", "@work"}).status, 0);
+    EXPECT_EQ(folder.get("d.wml"), written);
+    EXPECT_TRUE(folder.get("work/Wml0.htm").starts_with("<!--card id=\"a\""));
+    EXPECT_TRUE(folder.get("work/Wml1.htm").starts_with("<!--card id=\"b\""));
+    EXPECT_FALSE(folder.has("work/Wml2.htm"));
+    // What is no deck becomes one elsewhere, with a warning, but never in its place.
+    for (const auto& bytes : {std::string(), std::string("Kein WML"), std::string(100, '\0'),
+             std::string("<card id=\"a\"")}) {
+        folder.put("any.wml", bytes);
+        const auto converted = cli({"repair", "@any.wml", "-o", "-"});
+        EXPECT_NE(converted.output.find("</card>"), bytes.npos);
+        EXPECT_NE(converted.errors.find("wohl kein WML-Deck"), bytes.npos);
+        EXPECT_EQ(cli({"repair", "@any.wml"}).status, 2);
+        EXPECT_EQ(folder.get("any.wml"), bytes);
+    }
+    folder.put("a.wbmp", {"\0\0\x03\x02\xA0\x40", 6});
+    EXPECT_EQ(cli({"wbmp-show", "@a.wbmp", "-o", "@a.bmp"}).status, 0);
+    EXPECT_TRUE(folder.get("a.bmp").starts_with("BM"));
 }
 
 } // namespace

@@ -1,150 +1,105 @@
 #include "document/card_attributes.h"
 
-#include "document/failure.h"
-#include "support/store_session.h"
+#include "support/small_deck.h"
 
 #include <gtest/gtest.h>
 
 namespace quillmere {
 namespace {
 
-using test::StoreSession;
-
-TEST(CardAttributes, AreReadFromTheLineOfTheMarker)
+std::string cardOf(test::SmallDeck& deck)
 {
-    struct Row {
-        const char* name;
-        std::string file;
-        std::string id;
-        std::string title;
+    const auto card = GetCardAttributes(deck.session, 0);
+    return card.id + "|" + card.title;
+}
+
+std::string jumpOf(test::SmallDeck& deck)
+{
+    const auto jump = GetJump(deck.session, 0);
+    return jump.name + "|" + jump.label + "|" + jump.target;
+}
+
+TEST(CardAttributes, AreReadFromTheFirstMarkers)
+{
+    const struct {
+        std::string (*read)(test::SmallDeck&);
+        const char* file;
+        const char* wanted;
+    } rows[] = {
+        {cardOf, "\r\n<!--card id=\"a\" title=\"b c\" newcontext=\"true\"-->\r\nx", "a|b c"},
+        {cardOf, R"(<!--CARD ID="A" TITLE="B"-->)", "A|B"},
+        {cardOf, R"(<!--card id="a"--><table title="t">)", "a|"},
+        {cardOf, "<!--card id=\"a\"-->\r\n<!--card id=\"b\" title=\"t\"-->", "a|"},
+        {cardOf, R"(<!--card title="t" card id="a"-->)", "a|"},
+        {cardOf, "<!--card id=a title=\"t\"-->", "t|"}, {cardOf, "<!--card id=a-->\"x\"", "|"},
+        {cardOf, R"(<!--card id="a" title="t")", "|"},
+        {cardOf, R"(<!--card id="a>b" title="t"-->)", "a>b|"},
+        {jumpOf, R"(<!--do type="accept" label="l" name="n"--><!--go href="#b"/--><!--/do-->)",
+            "n|l|#b"},
+        {jumpOf, R"(<!--do type="prev" label="l"--><!--go href="#b"--><!--/do-->)", "||"},
+        {jumpOf, R"(<!--DO TYPE="Accept" NAME="n" LABEL="l"--><!--GO HREF="#b"--><!--/DO-->)",
+            "n|l|#b"},
+        {jumpOf, R"(<!--do type="accept"--><!--/do--> label="l" name="n" <!--go href="#b"/-->)",
+            "||"},
+        {jumpOf, R"(<!--do type="prev"--><!--/do--><!--do type="accept" label="l"--><!--/do-->)",
+            "|l|"},
+        {jumpOf, R"(<!--do type="accept" label="l"-->)", "||"}, // without end
     };
-    const Row rows[] = {
-        {"usual", "\r\n<!--card id=\"a\" title=\"b c\" newcontext=\"true\"-->\r\nx", "a", "b c"},
-        {"any case", R"(<!--CARD ID="A" TITLE="B"-->)", "A", "B"},
-        {"no title", R"(<!--card id="a"--><table title="t">)", "a", ""},
-        {"only the first marker", "<!--card id=\"a\"-->\r\n<!--card id=\"b\" title=\"t\"-->", "a",
-            ""},
-        {"title ahead of the id", R"(<!--card title="t" card id="a"-->)", "a", ""},
-        {"no quotes", "<!--card id=a title=\"t\"-->", "t", ""},
-        {"quotes behind the marker only", "<!--card id=a-->\"x\"", "", ""},
-        {"cut off", R"(<!--card id="a" title="t")", "", ""},
-        {"value with a bracket", R"(<!--card id="a>b" title="t"-->)", "a>b", ""},
-        {"none", "<p>card</p>", "", ""},
-    };
-    StoreSession store;
+    test::SmallDeck deck;
     for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        store.giveArea(row.file);
-        const auto card = GetCardAttributes(store.session, 0);
-        EXPECT_EQ(card.id, row.id);
-        EXPECT_EQ(card.title, row.title);
+        deck.giveArea(row.file);
+        EXPECT_EQ(row.read(deck), row.wanted) << row.file;
     }
 }
 
 TEST(CardAttributes, AreSetInThePlaceOfTheOldOnes)
 {
-    struct Row {
-        const char* name;
-        std::string before;
-        std::string after;
-    };
-    const Row rows[] = {
-        {"both", "<!--card id=\"lang\" title=\"alt\" x=\"y\"-->\r\n<p>",
+    const char* const rows[][2] = {
+        {"<!--card id=\"lang\" title=\"alt\" x=\"y\"-->\r\n<p>",
             R"(<!--card id="i" title="t u" x="y"--><p>)"},
-        {"lost title", R"(<!--card id="a" x="y"--><table title="t">)",
+        {R"(<!--card id="a" x="y"--><table title="t">)",
             R"(<!--card id="i" title="t u" x="y"--><table title="t">)"},
-        {"no marker", "<p>x</p>\r\n", "<p>x</p>"},
-        {"no value", "<!--card id=a-->\"x\"", "<!--card id=a-->\"x\""},
+        {"<p>x</p>\r\n", "<p>x</p>"},
+        {"<!--card id=a-->\"x\"", "<!--card id=a-->\"x\""},
     };
-    StoreSession store;
+    test::SmallDeck deck;
     for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        store.giveArea(row.before);
-        SetCardAttributes(store.session, 0, "i", "t u");
-        EXPECT_EQ(store.design(0), row.after);
-    }
-}
-
-TEST(Jumps, AreReadFromTheFirstAcceptDo)
-{
-    struct Row {
-        const char* name;
-        std::string file;
-        Jump jump;
-    };
-    const Row rows[] = {
-        {"usual", R"(<!--do type="accept" label="l" name="n"--><!--go href="#b"/--><!--/do-->)",
-            {"n", "l", "#b"}},
-        {"another type", R"(<!--do type="prev" label="l"--><!--go href="#b"--><!--/do-->)", {}},
-        {"any case and order",
-            R"(<!--DO TYPE="Accept" NAME="n" LABEL="l"--><!--GO HREF="#b"--><!--/DO-->)",
-            {"n", "l", "#b"}},
-        {"nothing behind the end counts",
-            R"(<!--do type="accept"--><!--/do--> label="l" name="n" <!--go href="#b"/-->)", {}},
-        {"a type accept behind another",
-            "<!--do type=\"prev\" label=\"p\"--><!--/do--><!--do type=\"accept\" label=\"l\"-->"
-            "<!--/do-->",
-            {"", "l", ""}},
-        {"without end", R"(<!--do type="accept" label="l"-->)", {}},
-    };
-    StoreSession store;
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        store.giveArea(row.file);
-        const auto jump = GetJump(store.session, 0);
-        EXPECT_EQ(jump.name, row.jump.name);
-        EXPECT_EQ(jump.label, row.jump.label);
-        EXPECT_EQ(jump.target, row.jump.target);
+        deck.giveArea(row[0]);
+        SetCardAttributes(deck.session, 0, "i", "t u");
+        EXPECT_EQ(deck.design(0), row[1]);
     }
 }
 
 TEST(Jumps, AreSetInTheirMarkersOrMadeBehindTheCard)
 {
-    struct Row {
-        const char* name;
-        std::string before;
+    const struct {
+        const char* before;
         Jump jump;
-        std::string after;
-    };
-    const Row rows[] = {
-        {"new", "<!--card id=\"a\"-->\r\n<p>", {"", "l", "#b"},
-            "<!--card id=\"a\"--><!--do type=\"accept\" label=\"l\" name=\"Sprung\"-->"
-            "<!--go href=\"#b\"/--><!--/do--><p>"},
-        {"new beside another do", R"(<!--card id="a"--><!--do type="prev" name="Sprung"-->)",
-            {"", "l", "#b"},
+        const char* after;
+    } rows[] = {
+        {R"(<!--card id="a"--><!--do type="prev" name="Sprung"-->)", {"", "l", "#b"},
             "<!--card id=\"a\"--><!--do type=\"accept\" label=\"l\" name=\"Sprung0\"-->"
             "<!--go href=\"#b\"/--><!--/do--><!--do type=\"prev\" name=\"Sprung\"-->"},
-        {"no place for it", "<p>x</p>", {"n", "l", "#b"}, "<p>x</p>"},
-        {"replaced",
-            "<!--do type=\"accept\" label=\"\" name=\"alt\"--><!--go href=\"#x\"--><!--/go-->"
-            "<!--/do--><!--go href=\"#y\"-->",
+        {"<p>x</p>", {"n", "l", "#b"}, "<p>x</p>"}, // no place for it
+        {"<!--do type=\"accept\" label=\"\" name=\"alt\"--><!--go href=\"#x\"--><!--/go-->"
+         "<!--/do--><!--go href=\"#y\"-->",
             {"n", "l", "#b"},
             "<!--do type=\"accept\" label=\"l\" name=\"n\"--><!--go href=\"#b\"--><!--/go-->"
             "<!--/do--><!--go href=\"#y\"-->"},
-        {"missing parts", R"(<!--do type="accept" x="y"--><!--/do-->)", {"n", "l", "#b"},
+        {R"(<!--do type="accept" x="y"--><!--/do-->)", {"n", "l", "#b"},
             R"(<!--do type="accept" name="n"  label="l"  x="y"--><!--/do-->)"},
-        {"its own name counts as taken", R"(<!--do type="accept" name="sprung"--><!--/do-->)",
-            {"Sprung", "l", ""}, R"(<!--do type="accept" label="l"  name="Sprung0"--><!--/do-->)"},
-        {"numbers without gap", R"(<!--do type="accept" name="Sprung" name="Sprung0"--><!--/do-->)",
-            {"", "l", ""},
+        // Its own name counts as taken, in any case; numbers have no gap.
+        {R"(<!--do type="accept" name="sprung"--><!--/do-->)", {"Sprung", "l", ""},
+            R"(<!--do type="accept" label="l"  name="Sprung0"--><!--/do-->)"},
+        {R"(<!--do type="accept" name="Sprung" name="Sprung0"--><!--/do-->)", {"", "l", ""},
             R"(<!--do type="accept" label="l"  name="Sprung1" name="Sprung0"--><!--/do-->)"},
     };
-    StoreSession store;
+    test::SmallDeck deck;
     for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        store.giveArea(row.before);
-        SetJump(store.session, 0, row.jump);
-        EXPECT_EQ(store.design(0), row.after);
+        deck.giveArea(row.before);
+        SetJump(deck.session, 0, row.jump);
+        EXPECT_EQ(deck.design(0), row.after);
     }
-}
-
-TEST(Jumps, NamesAreLookedForInAnyCase)
-{
-    StoreSession store;
-    store.giveArea(R"(<!--do type="accept" name="sprung"-->)");
-    EXPECT_TRUE(JumpNameInUse(store.session, 0, "Sprung"));
-    EXPECT_FALSE(JumpNameInUse(store.session, 0, "Spr"));
-    EXPECT_FALSE(JumpNameInUse(store.session, 0, "Sprung0"));
 }
 
 } // namespace

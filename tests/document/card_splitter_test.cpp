@@ -7,10 +7,6 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <chrono>
-#include <vector>
-
 namespace quillmere {
 namespace {
 
@@ -98,38 +94,8 @@ TEST(CardSplitter, AgreesWithRepeatedCutting)
     const auto expectSame
         = [](const std::string& text) { ASSERT_EQ(splitFast(text), splitByCutting(text)) << text; };
     test::forEachSequence(kTokens, 4, expectSame);
-    for (std::uint32_t seed = 0; seed < 20000; ++seed) {
-        SCOPED_TRACE(seed);
+    for (std::uint64_t seed = 0; seed < 20000 && !testing::Test::HasFatalFailure(); ++seed)
         expectSame(test::randomSoup(seed, kTokens, 5 + seed % 20));
-        if (testing::Test::HasFatalFailure()) return;
-    }
-}
-
-TEST(CardSplitter, SplitsAndCorrects)
-{
-    struct Row {
-        const char* name;
-        std::string text;
-        std::string cards;
-    };
-    const Row rows[] = {
-        {"two cards",
-            R"(<wml><card id="a"><do type="x">d</do><p>1</p></card><card id="b">2</card></wml>)",
-            "<wml><card id=\"a\">|<do type=\"x\">d</do>|<p>1</p>\n<card id=\"b\">||2\n"},
-        {"no card", "nur Text", kCorrected + "||nur Text\n"},
-        {"nothing", "", kCorrected + "||\n"},
-        {"no end between two", R"(<card id="a">1<card id="b">2)",
-            kCorrected + "||<card id=\"a\">1\n<card id=\"b\">||2\n"},
-        {"no end at all", "<card id=\"a\">1", "<card id=\"a\">||1\n"},
-        {"a head that is cut off", "<card>1</card><card id", "<card>||1\n||\n"},
-        {"an end that is cut off stays for ever", "1</card <card",
-            kCorrected + "||1\n" + kCorrected + "||\n"},
-        {"an end within the head gives way", "<card </card><card>2", "<card>||2\n"},
-    };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        EXPECT_EQ(splitFast(row.text), row.cards);
-    }
 }
 
 TEST(CardSplitter, EndsWhereTheTextIsTooLong)
@@ -137,21 +103,6 @@ TEST(CardSplitter, EndsWhereTheTextIsTooLong)
     EXPECT_THROW(CardSplitter(std::string(32768, 'x')), Overflow);
     CardSplitter withoutCard(std::string(32767, 'x')); // no room for the head
     EXPECT_THROW(static_cast<void>(withoutCard.next()), Overflow);
-}
-
-TEST(CardSplitter, HostileTextsTakeNoTime)
-{
-    const auto begin = std::chrono::steady_clock::now();
-    for (const std::string piece :
-        {"<", "<card", "<card>", "</card>", "<card></card>", "<card><do>", "<card><do></do",
-            "<card><do></do>", "<do></do></card><card>", "</card <card", " "}) {
-        std::string text;
-        while (text.size() + piece.size() < 32600)
-            text += piece;
-        splitFast(text);
-        splitFast(text + "</card>");
-    }
-    EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::milliseconds(500));
 }
 
 } // namespace

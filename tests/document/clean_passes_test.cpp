@@ -7,7 +7,6 @@
 
 #include <gtest/gtest.h>
 
-#include <chrono>
 #include <functional>
 #include <optional>
 #include <stdexcept>
@@ -99,8 +98,7 @@ TEST(CleanPasses, AgreeWithRepeatedSearchesOnRandomTexts)
         "</a>", "<strong>", "</strong>", "&nbsp", "\xFF"};
     for (const auto& tokens : kAlphabets)
         all.insert(all.end(), tokens.begin(), tokens.end());
-    for (std::uint32_t seed = 0; seed < 300; ++seed) {
-        SCOPED_TRACE(seed);
+    for (std::uint64_t seed = 0; seed < 300 && !testing::Test::HasFatalFailure(); ++seed) {
         const auto& tokens = seed % 2 == 0 ? all : kAlphabets[seed / 2 % kAlphabets.size()];
         expectAgreement(passes, test::randomSoup(seed, tokens, 1 + seed % 60));
     }

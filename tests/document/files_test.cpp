@@ -1,16 +1,20 @@
 #include "document/files.h"
 
+#include "document/disk_work_files.h"
 #include "document/failure.h"
+#include "document/file_system.h"
+#include "document/memory_work_files.h"
 #include "document/windows1252.h"
 #include "support/scratch_folder.h"
+#include "support/small_random.h"
 
 #include <gtest/gtest.h>
 
 #include <csignal>
 #include <filesystem>
+#include <optional>
 #include <sys/resource.h>
 #include <sys/stat.h>
-#include <unistd.h>
 
 namespace quillmere {
 namespace {
@@ -35,153 +39,178 @@ mode_t modeOf(const std::string& path)
     return ::stat(path.c_str(), &status) == 0 ? status.st_mode & 07777 : 0;
 }
 
-std::size_t namesIn(const std::string& directory)
+std::ptrdiff_t namesIn(const ScratchFolder& folder)
 {
-    return static_cast<std::size_t>(
-        std::distance(fs::directory_iterator(directory), fs::directory_iterator()));
+    return std::distance(fs::directory_iterator(folder.path()), fs::directory_iterator());
 }
 
-/// No file grows beyond `bytes` as long as this lives, as on a disk that is full.
-class SmallDisk {
-public:
-    explicit SmallDisk(rlim_t bytes)
-        : handler_(std::signal(SIGXFSZ, SIG_IGN))
-    {
-        ::getrlimit(RLIMIT_FSIZE, &old_);
-        const rlimit small{bytes, old_.rlim_max};
-        ::setrlimit(RLIMIT_FSIZE, &small);
-    }
-    SmallDisk(const SmallDisk&) = delete;
-    SmallDisk& operator=(const SmallDisk&) = delete;
-    SmallDisk(SmallDisk&&) = delete;
-    SmallDisk& operator=(SmallDisk&&) = delete;
-    ~SmallDisk()
-    {
-        ::setrlimit(RLIMIT_FSIZE, &old_);
-        static_cast<void>(std::signal(SIGXFSZ, handler_));
-    }
+/// Runs `action` as on a disk that is full: no file grows beyond `bytes`.
+template <class Action> std::string failureOnASmallDisk(rlim_t bytes, const Action& action)
+{
+    auto* const handler = std::signal(SIGXFSZ, SIG_IGN);
+    rlimit old{};
+    ::getrlimit(RLIMIT_FSIZE, &old);
+    const rlimit small{bytes, old.rlim_max};
+    ::setrlimit(RLIMIT_FSIZE, &small);
+    auto failure = failureOf(action);
+    ::setrlimit(RLIMIT_FSIZE, &old);
+    static_cast<void>(std::signal(SIGXFSZ, handler));
+    return failure;
+}
 
-private:
-    rlimit old_{};
-    void (*handler_)(int);
-};
-
-TEST(Files, ReadWhatWasWrittenByteForByte)
+TEST(Files, ReadWhatWasWrittenByteForByteUpToALimit)
 {
     const ScratchFolder folder;
     const auto path = folder.path() + "Stücke.wml";
     for (const std::size_t size : {0U, 1U, 4095U, 4096U, 4097U, 100000U}) {
-        std::string bytes(size, '\0');
-        for (std::size_t i = 0; i < size; ++i)
-            bytes[i] = static_cast<char>(i * 7);
+        const auto bytes = test::randomBytes(size, size);
         replaceFile(path, bytes);
-        EXPECT_EQ(readFile(path), bytes) << size;
+        EXPECT_EQ(readFile(path, size), bytes) << size;
     }
-    EXPECT_EQ(namesIn(folder.path()), 1U);
-}
-
-TEST(Files, ReadingStopsAtTheLimit)
-{
-    const ScratchFolder folder;
-    folder.put("a", "12345");
-    EXPECT_EQ(readFile(folder.path() + "a", 5), "12345");
-    EXPECT_THROW(static_cast<void>(readFile(folder.path() + "a", 4)), Overflow);
+    EXPECT_THROW(static_cast<void>(readFile(path, 99999)), Overflow);
     EXPECT_THROW(static_cast<void>(readFile("/dev/zero", 1000)), Overflow);
+    EXPECT_EQ(namesIn(folder), 1);
+    fs::create_symlink("Stücke.wml", folder.path() + "verweis");
+    fs::create_symlink("fehlt", folder.path() + "leer");
+    EXPECT_TRUE(fileExists(path) && fileExists(folder.path() + "verweis"));
+    EXPECT_FALSE(fileExists(folder.path() + "leer") || fileExists(folder.path()));
 }
 
-TEST(Files, FailuresNameTheFileAndTheReason)
+TEST(Files, FailuresNameTheFileAndTheReasonAndChangeNothing)
 {
     const ScratchFolder folder;
     folder.put("datei", "alt");
     fs::create_directory(folder.path() + "ordner");
     fs::create_symlink("kreis", folder.path() + "kreis");
-    struct Row {
-        std::string name;
-        std::string reason;
-    };
-    const Row rows[] = {
+    const std::pair<std::string, std::string> rows[] = {
         {"ordner", "es ist ein Ordner"},
         {"fehlt/x.wml", "Datei oder Ordner gibt es nicht"},
         {"datei/x.wml", "ein Teil des Pfades ist kein Ordner"},
         {"kreis", "die Verknüpfungen führen im Kreis"},
         {std::string(300, 'n'), "der Name ist zu lang"},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        const auto path = folder.path() + row.name;
-        const auto text = [&](const char* action) {
-            return "Die Datei „" + path + "“ kann nicht " + action + " werden: " + row.reason
-                + ". Es wurde nichts geändert.";
-        };
-        EXPECT_EQ(failureOf([&] { static_cast<void>(readFile(path)); }), text("gelesen"));
-        EXPECT_EQ(failureOf([&] { replaceFile(path, "neu"); }), text("geschrieben"));
+    for (const auto& [name, reason] : rows) {
+        const auto path = folder.path() + name;
+        const auto ahead = "Die Datei „" + path + "“ kann nicht ";
+        const auto behind = " werden: " + reason + ". Es wurde nichts geändert.";
+        EXPECT_EQ(
+            failureOf([&] { static_cast<void>(readFile(path)); }), ahead + "gelesen" + behind);
+        EXPECT_EQ(failureOf([&] { replaceFile(path, "neu"); }), ahead + "geschrieben" + behind);
     }
-    EXPECT_EQ(folder.get("datei"), "alt");
-    EXPECT_EQ(namesIn(folder.path()), 3U);
-}
-
-TEST(Files, AFullDiskLeavesTheOldFile)
-{
-    const ScratchFolder folder;
-    const auto path = folder.path() + "deck.wml";
-    replaceFile(path, "alt");
-    {
-        const SmallDisk disk(1000);
-        const std::string_view reason = "die Datei wird zu groß";
-        const std::string big(5000, 'x');
-        EXPECT_NE(failureOf([&] { replaceFile(path, big); }).find(reason), std::string::npos);
-        EXPECT_NE(failureOf([&] { replaceWorkFile(path, big); }).find(reason), std::string::npos);
+    const std::string big(5000, 'x');
+    for (const auto replace : {replaceFile, replaceWorkFile}) {
+        const auto failure
+            = failureOnASmallDisk(1000, [&] { replace(folder.path() + "datei", big); });
+        EXPECT_NE(failure.find("die Datei wird zu groß"), std::string::npos) << failure;
     }
-    EXPECT_EQ(readFile(path), "alt");
-    EXPECT_EQ(namesIn(folder.path()), 1U);
     EXPECT_NE(failureOf([] { replaceFile("/dev/full", "x"); }).find("der Datenträger ist voll"),
         std::string::npos);
+    EXPECT_EQ(folder.get("datei"), "alt");
+    EXPECT_EQ(namesIn(folder), 3);
+    EXPECT_EQ(failureOf([&] { DiskFileSystem().makeDirectory(folder.path() + "datei/x"); }),
+        "Der Ordner „" + folder.path()
+            + "datei/x“ kann nicht angelegt werden: ein Teil des Pfades ist kein Ordner.");
 }
 
-TEST(Files, ReplacingKeepsModeAndLinks)
+TEST(Files, ReplacingKeepsModeAndLinksAndWriteProtection)
 {
     const ScratchFolder folder;
-    folder.put("ziel/deck.wml", "alt");
-    const auto target = folder.path() + "ziel/deck.wml";
+    const auto target = folder.put("ziel/deck.wml", "alt");
     ::chmod(target.c_str(), 0640);
     fs::create_symlink("ziel/deck.wml", folder.path() + "verweis");
     fs::create_symlink("../verweis", folder.path() + "ziel/umweg");
-    fs::create_symlink("ziel/neu.wml", folder.path() + "leer");
-
+    fs::create_symlink("ziel/neu.wml", folder.path() + "leer"); // to what is not there yet
     replaceFile(folder.path() + "ziel/umweg", "neu");
+    replaceFile(folder.path() + "leer", "erstes");
     EXPECT_EQ(folder.get("ziel/deck.wml"), "neu");
+    EXPECT_EQ(folder.get("ziel/neu.wml"), "erstes");
     EXPECT_EQ(modeOf(target), 0640U);
     EXPECT_TRUE(fs::is_symlink(folder.path() + "verweis"));
-
-    replaceFile(folder.path() + "leer", "erstes"); // a link to what is not there yet
-    EXPECT_EQ(folder.get("ziel/neu.wml"), "erstes");
 
     const mode_t mask = ::umask(027);
     replaceFile(folder.path() + "frisch", "x");
     ::umask(mask);
     EXPECT_EQ(modeOf(folder.path() + "frisch"), 0640U);
+
+    if (::geteuid() == 0) return; // nothing is protected from the administrator
+    ::chmod(target.c_str(), 0440);
+    EXPECT_THROW(replaceFile(target, "x"), FileFailure);
+    EXPECT_EQ(folder.get("ziel/deck.wml"), "neu");
 }
 
-TEST(Files, WriteProtectionHolds)
+TEST(DiskFileSystem, TellsFilesFromDirectoriesAndMakesThem)
 {
-    if (::geteuid() == 0) GTEST_SKIP() << "nothing is protected from the administrator";
     const ScratchFolder folder;
-    folder.put("deck.wml", "alt");
-    ::chmod((folder.path() + "deck.wml").c_str(), 0440);
-    EXPECT_THROW(replaceFile(folder.path() + "deck.wml", "neu"), FileFailure);
-    EXPECT_EQ(folder.get("deck.wml"), "alt");
+    folder.put("b/x.wml", "");
+    folder.put(".hidden/y", "");
+    DiskFileSystem disk;
+    disk.makeDirectory(folder.path() + "a");
+    disk.makeDirectory(folder.path() + "a/"); // is there already
+    EXPECT_EQ(disk.directoriesIn(folder.path()), (std::vector<std::string>{"a", "b"}));
+    EXPECT_TRUE(disk.directoryExists(folder.path() + "a/"));
+    EXPECT_TRUE(disk.fileExists(folder.path() + "b/x.wml"));
+    EXPECT_FALSE(disk.directoryExists(folder.path() + "b/x.wml"));
+    EXPECT_FALSE(disk.fileExists(folder.path() + "b") || disk.fileExists(folder.path() + "c"));
 }
 
-TEST(Files, ExistsMeansAFileBehindLinks)
+template <class Store> class WorkFilesTest : public testing::Test {
+};
+using Stores = testing::Types<MemoryWorkFiles, DiskWorkFiles>;
+TYPED_TEST_SUITE(WorkFilesTest, Stores);
+
+TYPED_TEST(WorkFilesTest, KeepWhatIsWrittenUnderTheLowestFreeNames)
+{
+    TypeParam files;
+    const auto path = [&](const std::string& name) { return files.directory() + name; };
+    for (const char* name : {"Wml0.htm", "Wml1.htm", "Wml2.htm"})
+        EXPECT_EQ(files.createFile("Wml", ".htm"), name);
+    for (int times = 0; times < 2; ++times) // was not made
+        EXPECT_EQ(files.unusedName("Wml", ".wml"), "Wml0.wml"); // another suffix, another count
+    const std::string bytes("a\0\r\n\xFF", 5);
+    files.write(path("Wml0.wml"), bytes);
+    EXPECT_EQ(files.read(path("Wml0.wml")), bytes);
+    EXPECT_EQ(files.unusedName("Wml", ".wml"), "Wml1.wml");
+    for (int times = 0; times < 2; ++times)
+        files.remove(path("Wml1.htm"));
+    EXPECT_FALSE(files.exists(path("Wml1.htm")));
+    EXPECT_THROW(static_cast<void>(files.read(path("Wml1.htm"))), FileFailure);
+    EXPECT_EQ(files.unusedName("Wml", ".htm"), "Wml1.htm");
+    EXPECT_EQ(files.createFile("Wml", ".htm"), "Wml1.htm");
+    EXPECT_EQ(files.createFile("Wml", ".htm"), "Wml3.htm");
+}
+
+TEST(MemoryWorkFiles, NumbersEndAt32767)
+{
+    MemoryWorkFiles files;
+    for (int i = 0; i <= 32767; ++i)
+        (void)files.createFile("Bmp", ".bmp");
+    EXPECT_EQ(files.all().size(), 32768U);
+    EXPECT_THROW(static_cast<void>(files.createFile("Bmp", ".bmp")), Overflow);
+    files.remove("Bmp777.bmp");
+    EXPECT_EQ(files.createFile("Bmp", ".bmp"), "Bmp777.bmp");
+}
+
+TEST(DiskWorkFiles, AreForThisRunAloneAndNeverGoThroughALink)
 {
     const ScratchFolder folder;
-    folder.put("datei", "");
-    fs::create_symlink("datei", folder.path() + "verweis");
-    fs::create_symlink("fehlt", folder.path() + "leer");
-    EXPECT_TRUE(fileExists(folder.path() + "datei"));
-    EXPECT_TRUE(fileExists(folder.path() + "verweis"));
-    EXPECT_FALSE(fileExists(folder.path() + "leer"));
-    EXPECT_FALSE(fileExists(folder.path()));
+    folder.put("fremd", "fremd");
+    std::optional<DiskWorkFiles> files(folder.path());
+    const DiskWorkFiles others(folder.path());
+    const auto directory = files->directory();
+    EXPECT_NE(directory, others.directory());
+    EXPECT_EQ(modeOf(directory), 0700U);
+    EXPECT_EQ(modeOf(directory + files->createFile("Bmp", ".bmp")), 0600U);
+    fs::create_symlink(folder.path() + "fremd", directory + "Wml0.htm");
+    fs::create_symlink(folder.path() + "fehlt", directory + "Wml1.htm");
+    EXPECT_EQ(files->unusedName("Wml", ".htm"), "Wml2.htm");
+    EXPECT_EQ(files->createFile("Wml", ".htm"), "Wml2.htm");
+    files->write(directory + "Wml0.htm", "neu"); // takes the link's place
+    EXPECT_EQ(files->read(directory + "Wml0.htm"), "neu");
+    EXPECT_EQ(folder.get("fremd"), "fremd");
+    files.reset();
+    EXPECT_FALSE(fs::exists(directory));
+    EXPECT_TRUE(fs::exists(others.directory()));
+    EXPECT_THROW(DiskWorkFiles(folder.path() + "fehlt/"), FileFailure);
 }
 
 } // namespace

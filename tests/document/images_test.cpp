@@ -1,183 +1,116 @@
 #include "document/images.h"
 
-#include "document/design_text.h"
 #include "document/failure.h"
-#include "document/word_ids.h"
-#include "support/conversion_session.h"
+#include "support/fake_platform.h"
 #include "support/scratch_folder.h"
+#include "support/small_deck.h"
+#include "support/stopwatch.h"
 
 #include <gtest/gtest.h>
-
-#include <chrono>
-#include <filesystem>
 
 namespace quillmere {
 namespace {
 
-/// Draws nothing and keeps the ground that it was asked for.
-class GroundLog final : public DisplayCopies {
-public:
-    [[nodiscard]] DisplayCopy draw(const std::string& path, std::string_view alternativeText,
-        std::int32_t backgroundColour) override
-    {
-        drawn.push_back(std::string(path).append("|").append(alternativeText));
-        ground = backgroundColour;
-        return {"BM", 7, 5, 99};
-    }
-    std::vector<std::string> drawn;
-    std::int32_t ground = 0;
-};
-
-/// Gives the same answer to each question and keeps what was asked and shown.
-class AnsweringPrompter final : public Prompter {
-public:
-    [[nodiscard]] bool ask(int word, std::span<const std::string> gaps, MessageIcon icon) override
-    {
-        show(word, gaps, icon);
-        return answer;
-    }
-    void show(int word, std::span<const std::string> gaps, MessageIcon) override
-    {
-        log.push_back(std::to_string(word).append(" ").append(gaps.front()));
-    }
-    [[nodiscard]] bool showNote(Note) override { return false; }
-    bool answer = true;
-    std::vector<std::string> log;
-};
-
 class Images : public testing::Test {
 protected:
-    explicit Images(std::size_t areas = 3)
+    Images()
     {
-        session.deck.resize(areas + 1);
-        for (std::size_t i = 0; i < areas; ++i) {
-            auto& area = session.deck[i];
-            area.deckDir = "/decks/";
-            area.designDir = area.spareDesignDir = area.wmlDir = "/t/";
-            area.designFile = std::string("Wml").append(std::to_string(i)).append(".htm");
-            area.spareDesignFile = std::string("Spare").append(std::to_string(i));
+        for (std::size_t i = 0; i < 3; ++i) {
+            auto& area = areas[i];
+            area.designFile = deck.files.createFile("Wml", ".htm");
+            area.spareDesignFile = deck.files.createFile("Spare", ".htm");
             area.wmlFile = "Wml.wml";
-            workFiles.write("/t/" + area.designFile, "<p>");
-            workFiles.write("/t/" + area.spareDesignFile, {});
         }
-        session.deck[0].pristineDir = "/t/";
-        session.deck[0].pristineFile = "Alt.wml";
-        workFiles.write("/t/Alt.wml", {});
-        workFiles.write("/t/Wml.wml", {});
+        areas[0].pristineFile = "Alt.wml";
+        deck.files.write("Alt.wml", {});
+        deck.files.write("Wml.wml", {});
     }
-
     [[nodiscard]] std::string add(std::size_t area, const std::string& path)
     {
-        return RegisterImage(session, area, path, "Text");
+        return RegisterImage(deck.session, area, path, "Text");
     }
-    void design(std::size_t area, const std::string& text)
+    void expectFiles(const std::string& names, bool areThere)
     {
-        workFiles.write("/t/" + session.deck[area].designFile, text);
+        for (std::size_t at = 0; at < names.size(); at = names.find(' ', at) + 1) {
+            const auto name = names.substr(at, names.find(' ', at) - at);
+            EXPECT_EQ(deck.files.exists(name), areThere) << name;
+            if (names.find(' ', at) == std::string::npos) break;
+        }
     }
-
-    test::MapWorkFiles workFiles;
-    GroundLog copies;
-    AnsweringPrompter prompter;
-    test::NoSettings settings;
-    test::NoWords words;
-    DocumentSession session{workFiles, copies, prompter, settings, words, OutputRules(), {}};
+    test::SmallDeck deck{3};
+    Deck& areas = deck.session.deck;
 };
 
 TEST_F(Images, GetOneEntryAndOneDisplayCopyForEachArea)
 {
-    EXPECT_EQ(add(0, "/decks/bilder/a.wbmp"), "/t/Bmp0.bmp");
-    EXPECT_EQ(add(0, "/DECKS/bilder/A.Wbmp"), "/t/Bmp0.bmp");
-    EXPECT_EQ(add(1, "/decks/bilder/a.wbmp"), "/t/Bmp1.bmp");
-    EXPECT_EQ(copies.drawn.size(), 2U);
-    EXPECT_EQ(copies.drawn[0], "/decks/bilder/a.wbmp|Text");
-    EXPECT_EQ(workFiles.read("/t/Bmp1.bmp"), "BM");
-    EXPECT_EQ(session.imageColour, 99);
+    EXPECT_EQ(add(0, "/decks/bilder/a.wbmp"), "Bmp0.bmp");
+    EXPECT_EQ(add(0, "/DECKS/bilder/A.Wbmp"), "Bmp0.bmp");
+    EXPECT_EQ(add(1, "/decks/bilder/a.wbmp"), "Bmp1.bmp");
+    EXPECT_EQ(deck.copies.drawn, std::vector<std::string>(2, "/decks/bilder/a.wbmp|Text"));
+    EXPECT_EQ(deck.files.read("Bmp1.bmp"), "BM");
+    EXPECT_EQ(deck.session.imageColour, 99);
 
-    const auto& images = session.deck[0].images;
-    ASSERT_EQ(images.size(), 3U); // the blank one that each area begins with, and the spare one
-    EXPECT_EQ(images[0].displayFile, "");
-    const ImageEntry& entry = images[1];
+    ASSERT_EQ(areas[0].images.size(), 3U); // the blank one that it begins with, and the spare one
+    const ImageEntry& entry = areas[0].images[1];
     EXPECT_EQ(entry.sourceDir, "/decks/");
     EXPECT_EQ(entry.sourceFile, "bilder/a.wbmp") << "as the deck writes it";
-    EXPECT_EQ(entry.displayDir + entry.displayFile, "/t/Bmp0.bmp");
-    EXPECT_EQ(entry.pictureHeightPx, 7);
-    EXPECT_EQ(entry.heightPx, 7);
-    EXPECT_EQ(entry.pictureWidthPx, 5);
-    EXPECT_EQ(entry.widthPx, 5);
+    EXPECT_EQ(entry.pictureHeightPx + entry.heightPx, 14);
+    EXPECT_EQ(entry.pictureWidthPx + entry.widthPx, 10);
     EXPECT_EQ(entry.alignment, "top");
     EXPECT_FALSE(entry.hasLayout);
-    EXPECT_EQ(images[2].sourceFile, "");
-}
 
-TEST_F(Images, AreThoseWhoseNamesEndInWbmp)
-{
-    for (const char* path : {"wbmp", "/decks/a.gif", "/decks/a.wbmp ", ""}) {
-        SCOPED_TRACE(path);
-        EXPECT_EQ(add(0, path), "");
-    }
-    EXPECT_EQ(session.deck[0].images.size(), 2U);
-    EXPECT_EQ(add(0, "xwbmp"), "/t/Bmp0.bmp") << "the dot is no part of the test";
-    EXPECT_EQ(add(0, "/anderswo/b.WBMP"), "/t/Bmp1.bmp");
-    EXPECT_EQ(session.deck[0].images[2].sourceDir, "/anderswo/");
-    EXPECT_EQ(session.deck[0].images[2].sourceFile, "b.WBMP");
+    for (const char* path : {"wbmp ", "/decks/a.gif", "/decks/a.wbmp ", ""})
+        EXPECT_EQ(add(0, path), "") << path;
+    EXPECT_EQ(add(0, "xwbmp"), "Bmp2.bmp") << "the dot is no part of the test";
+    EXPECT_EQ(add(0, "/anderswo/b.WBMP"), "Bmp3.bmp");
+    EXPECT_EQ(areas[0].images[3].sourceDir, "/anderswo/");
+    EXPECT_EQ(areas[0].images.size(), 5U);
+
+    EXPECT_EQ(NewWbmpName(deck.session), "WBmp0.wbmp");
+    EXPECT_EQ(FindFreeBmpName(deck.session), "Bmp4.bmp");
 }
 
 TEST_F(Images, TakeTheDevicesGroundAndChosenNames)
 {
     (void)add(0, "/decks/a.wbmp");
-    EXPECT_EQ(copies.ground, 2391815);
+    EXPECT_EQ(deck.copies.ground, 2391815);
     PageStyle device;
     device.backColour = 0x123456;
-    session.devices[1] = &device;
-    session.deck[0].surfaceKind = 1;
-    EXPECT_EQ(RegisterImage(session, 2, "/decks/a.wbmp", "", {"/t/ordner/", "Bild.bmp"}),
-        "/t/ordner/Bild.bmp");
-    EXPECT_EQ(copies.ground, 0x123456);
-    EXPECT_TRUE(workFiles.exists("/t/ordner/Bild.bmp"));
-    session.deck[0].surfaceKind = -1;
-    (void)add(1, "/decks/a.wbmp");
-    EXPECT_EQ(copies.ground, 2391815);
+    deck.session.devices[1] = &device;
+    areas[0].surfaceKind = 1;
+    EXPECT_EQ(
+        RegisterImage(deck.session, 2, "/decks/a.wbmp", "", {"/t/", "Bild.bmp"}), "/t/Bild.bmp");
+    EXPECT_EQ(deck.copies.ground, 0x123456);
+    EXPECT_TRUE(deck.files.exists("/t/Bild.bmp"));
 }
 
 TEST_F(Images, AreFoundInAListThatWasStartedAnew)
 {
     for (const char* name : {"a", "b", "c"})
         (void)add(0, std::string("/decks/").append(name).append(".wbmp"));
-    session.deck[0].images = std::vector<ImageEntry>(2);
-    EXPECT_EQ(add(0, "/decks/c.wbmp"), "/t/Bmp3.bmp") << "gone with the list";
-    EXPECT_EQ(add(0, "/decks/d.wbmp"), "/t/Bmp4.bmp");
-    EXPECT_EQ(add(0, "/decks/c.wbmp"), "/t/Bmp3.bmp");
-
-    auto grown = session.deck[0].images; // as long as the list that is known, and another one
+    areas[0].images = std::vector<ImageEntry>(2);
+    EXPECT_EQ(add(0, "/decks/c.wbmp"), "Bmp3.bmp") << "gone with the list";
+    EXPECT_EQ(add(0, "/decks/d.wbmp"), "Bmp4.bmp");
+    auto grown = areas[0].images; // as long as the list that is known, and another one
     grown[1].sourceFile = "e.wbmp";
-    session.deck[0].images = grown;
-    EXPECT_EQ(add(0, "/decks/c.wbmp"), "/t/Bmp5.bmp");
-    EXPECT_EQ(add(0, "/decks/e.wbmp"), "/t/Bmp3.bmp");
+    areas[0].images = grown;
+    EXPECT_EQ(add(0, "/decks/c.wbmp"), "Bmp5.bmp");
+    EXPECT_EQ(add(0, "/decks/e.wbmp"), "Bmp3.bmp");
 }
 
 TEST_F(Images, ThousandsInOneAreaAreFoundInTime)
 {
-    const auto begin = std::chrono::steady_clock::now();
-    auto& images = session.deck[0].images;
+    auto& images = areas[0].images;
     images.resize(3000);
-    int number = 100'000;
-    for (auto& entry : images) {
-        entry.sourceDir = session.deck[0].deckDir;
-        entry.sourceFile = std::to_string(number++).append(".wbmp");
-        entry.displayFile = entry.sourceFile;
+    for (std::size_t i = 0; i < images.size(); ++i) {
+        images[i].sourceDir = "/decks/";
+        images[i].displayFile = images[i].sourceFile = std::to_string(i) + ".wbmp";
     }
-    for (std::size_t i = 0; i + 1 < images.size(); ++i)
-        ASSERT_EQ(add(0, images[i].sourceDir + images[i].sourceFile), images[i].displayFile);
-    EXPECT_LT(std::chrono::steady_clock::now() - begin, std::chrono::milliseconds(50));
-}
-
-TEST_F(Images, WorkNamesAreFree)
-{
-    workFiles.write("/t/WBmp0.wbmp", {});
-    workFiles.write("/t/Bmp0.bmp", {});
-    EXPECT_EQ(NewWbmpName(session), "WBmp1.wbmp");
-    EXPECT_FALSE(workFiles.exists("/t/WBmp1.wbmp"));
-    EXPECT_EQ(FindFreeBmpName(session), "Bmp1.bmp");
+    const auto findAll = [&] {
+        for (std::size_t i = 0; i + 1 < images.size(); ++i)
+            ASSERT_EQ(add(0, "/decks/" + images[i].sourceFile), images[i].displayFile);
+    };
+    EXPECT_LT(test::millisecondsOf(findAll), 50);
 }
 
 TEST_F(Images, AnAreaGoesWithItsFilesAndTheCopiesThatNoOtherShows)
@@ -185,122 +118,92 @@ TEST_F(Images, AnAreaGoesWithItsFilesAndTheCopiesThatNoOtherShows)
     (void)add(0, "/decks/a.wbmp"); // Bmp0
     (void)add(0, "/decks/b.wbmp"); // Bmp1
     (void)add(1, "/decks/b.wbmp"); // Bmp2
-    design(1, "<p><IMG SRC=\"file:///t/BMP1.bmp\"><img src=\"/t/Bmp2.bmp\">");
-    session.deck[0].surfaceKind = 1;
-    RemoveArea(session, 0, true);
+    deck.files.write("Wml1.htm", "<p><IMG SRC=\"file://BMP1.bmp\"><img src=\" Bmp2.bmp \">");
+    areas[0].surfaceKind = 1;
+    RemoveArea(deck.session, 0, true);
+    ASSERT_EQ(areaCount(areas), 2U);
+    EXPECT_EQ(areas[0].designFile, "Wml1.htm");
+    expectFiles("Wml0.htm Spare0.htm Bmp0.bmp", false);
+    expectFiles("Wml1.htm Bmp1.bmp Bmp2.bmp Wml.wml Alt.wml", true);
+    EXPECT_EQ(areas[0].pristineFile, "Alt.wml") << "the deck's own values go on";
+    EXPECT_EQ(areas[0].surfaceKind, 1);
+    EXPECT_EQ(areas[0].images[1].displayFile, "Bmp2.bmp");
 
-    ASSERT_EQ(areaCount(session.deck), 2U);
-    EXPECT_EQ(session.deck[0].designFile, "Wml1.htm");
-    for (const char* gone : {"/t/Wml0.htm", "/t/Spare0", "/t/Bmp0.bmp"})
-        EXPECT_FALSE(workFiles.exists(gone)) << gone;
-    for (const char* kept :
-        {"/t/Wml1.htm", "/t/Bmp1.bmp", "/t/Bmp2.bmp", "/t/Wml.wml", "/t/Alt.wml"})
-        EXPECT_TRUE(workFiles.exists(kept)) << kept;
-    EXPECT_EQ(session.deck[0].pristineFile, "Alt.wml") << "the deck's own values go on";
-    EXPECT_EQ(session.deck[0].surfaceKind, 1);
-    EXPECT_EQ(session.deck[0].images[1].displayFile, "Bmp2.bmp");
-    EXPECT_EQ(session.deck[2].images.size(), 2U);
-}
-
-TEST_F(Images, TheLastAreaTakesTheDecksFilesWithItWhenAsked)
-{
-    RemoveArea(session, 2, true);
-    RemoveArea(session, 1, true);
-    EXPECT_TRUE(workFiles.exists("/t/Wml.wml"));
-    const auto before = session.deck;
-    RemoveArea(session, 0, false);
-    EXPECT_TRUE(workFiles.exists("/t/Alt.wml"));
-    EXPECT_EQ(areaCount(session.deck), 0U);
-
-    session.deck = before;
-    RemoveArea(session, 0, true);
-    EXPECT_FALSE(workFiles.exists("/t/Alt.wml"));
-    EXPECT_FALSE(workFiles.exists("/t/Wml.wml"));
+    RemoveArea(deck.session, 1, true);
+    const auto before = areas;
+    RemoveArea(deck.session, 0, false);
+    expectFiles("Wml.wml Alt.wml", true);
+    areas = before;
+    RemoveArea(deck.session, 0, true);
+    expectFiles("Wml.wml Alt.wml", false);
+    EXPECT_EQ(areaCount(areas), 0U);
 }
 
 TEST_F(Images, WhatThePersonChangedIsReadFromTheTagThatShowsTheChosenOne)
 {
     (void)add(1, "/decks/a.wbmp");
     (void)add(1, "/decks/b.wbmp");
-    design(1,
-        "<p><img src=\"/t/Bmp0.bmp\" style=\"height: 1px; width: 2px\">"
-        "<IMG SRC=/t/Bmp1.bmp align=Bottom STYLE=\"HEIGHT: 30px; WIDTH: 40px\"><img src=\"x\">");
-    session.currentArea = 1;
-    auto& area = session.deck[1];
-    for (const std::int16_t cursor : {std::int16_t{-1}, std::int16_t{0}, std::int16_t{3}}) {
-        area.imageCursor = cursor;
-        ReadImageTags(session); // none, the blank one, the spare one
-        EXPECT_EQ(area.images[2].heightPx, 7);
+    deck.files.write("Wml1.htm",
+        "<p><img src=\"Bmp0.bmp\" style=\"height: 1px; width: 2px\">"
+        "<IMG SRC=file://Bmp1.bmp align=Bottom STYLE=\"HEIGHT: 30px; WIDTH: 40px\"><img src=x>");
+    deck.session.currentArea = 1;
+    auto& chosen = areas[1].images[2];
+    for (const int cursor : {-1, 0, 3}) { // none, the blank one, the spare one
+        areas[1].imageCursor = static_cast<std::int16_t>(cursor);
+        ReadImageTags(deck.session);
+        EXPECT_EQ(chosen.heightPx, 7);
     }
-    area.imageCursor = 2;
-    ReadImageTags(session);
-    EXPECT_EQ(area.images[2].heightPx, 30);
-    EXPECT_EQ(area.images[2].widthPx, 40);
-    EXPECT_EQ(area.images[2].alignment, "Bottom");
-    EXPECT_EQ(area.images[2].pictureHeightPx, 7);
-    EXPECT_EQ(area.images[1].heightPx, 7);
-
-    design(1, "<p><img src=\"/t/Bmp1.bmp\" style=\"height: 31px; width: vielpx\">");
-    EXPECT_THROW(ReadImageTags(session), TypeMismatch);
-    EXPECT_EQ(area.images[2].heightPx, 30);
-    design(1, "<p><img src=\"/t/Bmp1.bmp\">");
-    ReadImageTags(session);
-    EXPECT_EQ(area.images[2].widthPx, 40);
+    areas[1].imageCursor = 2;
+    ReadImageTags(deck.session);
+    EXPECT_EQ(chosen.heightPx, 30);
+    EXPECT_EQ(chosen.widthPx, 40);
+    EXPECT_EQ(chosen.alignment, "Bottom");
+    EXPECT_EQ(chosen.pictureHeightPx, 7);
+    EXPECT_EQ(areas[1].images[1].heightPx, 7);
+    deck.files.write("Wml1.htm", "<p><img src=\"Bmp1.bmp\" style=\"height: 9px; width: vielpx\">");
+    EXPECT_THROW(ReadImageTags(deck.session), TypeMismatch);
+    EXPECT_EQ(chosen.heightPx, 30);
 }
 
-class CopiedImages : public Images {
-protected:
-    void copy(const std::string& deck)
-    {
-        prompter.log.clear();
-        CopyDeckImages(deck, folder.path() + "alt/", folder.path() + "neu/", session);
-    }
-    test::ScratchFolder folder;
-};
-
-TEST_F(CopiedImages, GoToTheSameFoldersOfTheNewDirectory)
+TEST(CopyDeckImages, CopiesWhatIsThereAndAsksForTheRest)
 {
+    using Log = std::vector<std::string>;
+    const struct {
+        const char* images;
+        std::vector<bool> answers;
+        Log log;
+        const char* copied; // what a.wbmp of the new directory holds then
+    } rows[] = {
+        {"<img src=\"a.wbmp\" alt=\"x\"/><IMG SRC=\" b/b.gif \"><img alt=\"\">"
+         "<img src=\"http://example.org/c.wbmp\"><img src=\"a.wbmp\">",
+            {false}, {"130: a.wbmp"}, "anders"},
+        {"<img src=\"c.wbmp\"/><img src=\"a.wbmp\"/><img src=\"c.wbmp\"/>", {true},
+            {"131: c.wbmp", "130: a.wbmp"}, "A"},
+        {"<img src=\"a.wbmp\"/>", {}, {}, "A"}, // the same bytes by now
+    };
+    const test::ScratchFolder folder;
     folder.put("alt/a.wbmp", "A");
-    folder.put("alt/bilder/b.gif", "B");
-    copy("<card><img src=\"a.wbmp\" alt=\"x\"/><IMG SRC=\" bilder/b.gif \"><img alt=\"\">"
-         "<img src=\"http://example.org/c.wbmp\"><img src=\"a.wbmp\">");
-    EXPECT_EQ(folder.get("neu/a.wbmp"), "A");
-    EXPECT_EQ(folder.get("neu/bilder/b.gif"), "B");
-    EXPECT_TRUE(prompter.log.empty());
-}
-
-TEST_F(CopiedImages, ReplaceAnotherPictureOnlyAfterAYes)
-{
-    folder.put("alt/a.wbmp", "A");
+    folder.put("alt/b/b.gif", "B");
     folder.put("neu/a.wbmp", "anders");
-    prompter.answer = false;
-    copy("<img src=\"a.wbmp\"/>");
-    EXPECT_EQ(prompter.log, std::vector<std::string>{"130 a.wbmp"});
-    EXPECT_EQ(folder.get("neu/a.wbmp"), "anders");
-    prompter.answer = true;
-    copy("<img src=\"a.wbmp\"/>");
-    EXPECT_EQ(folder.get("neu/a.wbmp"), "A");
-    copy("<img src=\"a.wbmp\"/>"); // the same bytes by now
-    EXPECT_TRUE(prompter.log.empty());
-}
-
-TEST_F(CopiedImages, MissingOnesAreToldAndTheRestIsCopied)
-{
-    folder.put("alt/b.wbmp", "B");
-    copy("<img src=\"a.wbmp\"/><img src=\"a.wbmp\"/><img src=\"b.wbmp\"/>");
-    EXPECT_EQ(prompter.log, std::vector<std::string>{"131 a.wbmp"});
-    EXPECT_EQ(folder.get("neu/b.wbmp"), "B");
-}
-
-TEST_F(CopiedImages, OntoThemselvesStayAndAnUnwritableTargetFails)
-{
-    folder.put("alt/a.wbmp", "A");
-    CopyDeckImages(
-        "<img src=\"a.wbmp\"/>", folder.path() + "alt/", folder.path() + "./alt/", session);
-    EXPECT_TRUE(prompter.log.empty());
-    EXPECT_EQ(folder.get("alt/a.wbmp"), "A");
-    folder.put("neu", "no directory");
-    EXPECT_THROW(copy("<img src=\"a.wbmp\"/>"), FileFailure);
+    test::SmallDeck none;
+    test::ScriptedPrompter person;
+    DocumentSession session{
+        none.files, none.copies, person, none.core.settings, none.core.words, OutputRules(), {}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.images);
+        person.answers = row.answers;
+        person.log.clear();
+        CopyDeckImages(row.images, folder.path() + "alt/", folder.path() + "neu/", session);
+        EXPECT_EQ(person.log, row.log);
+        EXPECT_EQ(folder.get("neu/a.wbmp"), row.copied);
+        EXPECT_EQ(folder.get("neu/b/b.gif"), "B");
+    }
+    const std::string_view image = "<img src=\"a.wbmp\"/>";
+    CopyDeckImages(image, folder.path() + "alt/", folder.path() + "./alt/", session);
+    EXPECT_EQ(folder.get("alt/a.wbmp"), "A") << "copied onto itself";
+    EXPECT_THROW(
+        CopyDeckImages(image, folder.path() + "alt/", folder.path() + "neu/a.wbmp/", session),
+        FileFailure);
 }
 
 } // namespace

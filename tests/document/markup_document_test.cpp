@@ -28,10 +28,7 @@ std::string tokensOf(std::string_view text)
 
 TEST(MarkupDocument, ReadsTokensOfWholeAndBrokenMarkup)
 {
-    const struct {
-        const char* text;
-        const char* tokens;
-    } rows[] = {
+    const char* const rows[][2] = {
         {R"(<?xml version='1.0'?><!DOCTYPE a [<!ENTITY b "]>">]><a/>)",
             R"(I(xml version='1.0')!( a [<!ENTITY b "]>">])X(a))"},
         {R"(<a b = "1>2" c='"'>x</a >)", R"(S(a b=1>2 c=")T(x)E(a))"},
@@ -46,7 +43,7 @@ TEST(MarkupDocument, ReadsTokensOfWholeAndBrokenMarkup)
         {"<a b=\"", "S(a b=)"},
     };
     for (const auto& row : rows)
-        EXPECT_EQ(tokensOf(row.text), row.tokens) << row.text;
+        EXPECT_EQ(tokensOf(row[0]), row[1]);
 }
 
 TEST(MarkupDocument, TokensCoverAnyText)
@@ -74,26 +71,20 @@ TEST(TextPlaces, CountLinesOfAllEndings)
 {
     const std::string_view text = "a\r\nb\nc\rd\n\re";
     const TextPlaces places(text);
-    const auto at = [&](char c) { return places.at(text.find(c)); };
-    EXPECT_EQ(at('a'), (TextPlace{1, 1}));
-    EXPECT_EQ(at('\n'), (TextPlace{1, 3}));
-    EXPECT_EQ(at('b'), (TextPlace{2, 1}));
-    EXPECT_EQ(at('c'), (TextPlace{3, 1}));
-    EXPECT_EQ(at('d'), (TextPlace{4, 1}));
-    EXPECT_EQ(at('e'), (TextPlace{6, 1}));
-    EXPECT_EQ(places.at(text.size()), (TextPlace{6, 2}));
+    EXPECT_EQ(places.at(text.find('\n')), (TextPlace{1, 3}));
+    const TextPlace letters[] = {{1, 1}, {2, 1}, {3, 1}, {4, 1}, {6, 1}};
+    for (std::size_t i = 0; i < std::size(letters); ++i)
+        EXPECT_EQ(places.at(text.find(static_cast<char>('a' + i))), letters[i]) << i;
 }
-
-struct FaultRow {
-    MarkupFault fault;
-    std::size_t offset;
-    std::string name;
-    const char* text;
-};
 
 TEST(WellFormedness, FirstFaultAndItsPlace)
 {
-    const FaultRow rows[] = {
+    const struct {
+        MarkupFault fault;
+        std::size_t offset;
+        const char* name;
+        const char* text;
+    } rows[] = {
         {MarkupFault::StrayLess, 5, "", "<a>1 < 2</a>"},
         {MarkupFault::UnendedTag, 3, "b", "<a><b <i/></a>"},
         {MarkupFault::BadTag, 3, "", "<a></>"},
@@ -132,8 +123,7 @@ TEST(WellFormedness, FirstFaultAndItsPlace)
     for (const auto& row : rows) {
         SCOPED_TRACE(row.text);
         const auto fault = firstFault(row.text, readMarkup(row.text));
-        ASSERT_TRUE(fault);
-        EXPECT_EQ(static_cast<int>(fault->fault), static_cast<int>(row.fault));
+        ASSERT_TRUE(fault && fault->fault == row.fault);
         EXPECT_EQ(fault->offset, row.offset);
         EXPECT_EQ(fault->name, row.name);
     }

@@ -1,27 +1,32 @@
 #include "document/paths.h"
 
+#include "app/settings.h"
+#include "document/complete_url.h"
+#include "document/last_path.h"
+#include "document/mount_table.h"
+#include "document/number_texts.h"
+#include "document/path_checks.h"
+#include "document/windows1252.h"
 #include "support/fake_platform.h"
 
 #include <gtest/gtest.h>
+
+// Both path styles on any machine, and what a person types into fields for names and numbers.
 
 namespace quillmere {
 namespace {
 
 constexpr auto kWindows = PathStyle::Windows;
 constexpr auto kPosix = PathStyle::Posix;
+using Names = std::vector<std::string>;
 
 TEST(Paths, SplitAtTheLastSeparatorOfEitherStyle)
 {
-    const struct {
-        const char *path, *directory, *name;
-    } rows[] = {{"/a/b.wml", "/a/", "b.wml"}, {R"(C:\a\b.wml)", R"(C:\a\)", "b.wml"},
-        {R"(a\b/c)", R"(a\b/)", "c"}, {R"(a/b\c)", R"(a/b\)", "c"}, {"b.wml", "", "b.wml"},
-        {"/a/", "/a/", ""}, {"/", "/", ""}, {"", "", ""}, {"C:b.wml", "", "C:b.wml"}};
+    const char* const rows[][3] = {{"/a/b.wml", "/a/", "b.wml"}, {R"(a\b/c)", R"(a\b/)", "c"},
+        {R"(a/b\c)", R"(a/b\)", "c"}, {"b.wml", "", "b.wml"}, {"/a/", "/a/", ""}, {"", "", ""}};
     for (const auto& row : rows) {
-        SCOPED_TRACE(row.path);
-        const auto split = SplitPath(row.path);
-        EXPECT_EQ(split.directory, row.directory);
-        EXPECT_EQ(split.name, row.name);
+        EXPECT_EQ(SplitPath(row[0]).directory, row[1]);
+        EXPECT_EQ(SplitPath(row[0]).name, row[2]);
     }
 }
 
@@ -31,7 +36,6 @@ TEST(Paths, NormaliseToAbsoluteDirectoriesThatStayAsTheyAre)
         PathStyle style;
         const char *path, *current, *wanted;
     } rows[] = {
-        {kPosix, "/a/b", "/home", "/a/b/"},
         {kPosix, "/a//b/./c/", "/home", "/a/b/c/"},
         {kPosix, "x", "/home/me", "/home/me/x/"},
         {kPosix, "x", "/", "/x/"},
@@ -46,62 +50,32 @@ TEST(Paths, NormaliseToAbsoluteDirectoriesThatStayAsTheyAre)
         {kWindows, "a", R"(D:\x\)", R"(D:\x\a\)"},
     };
     for (const auto& row : rows) {
-        SCOPED_TRACE(std::string(row.current) + " " + row.path);
         const auto normal = NormalisePath(row.path, row.style, row.current);
-        EXPECT_EQ(normal, row.wanted);
+        EXPECT_EQ(normal, row.wanted) << row.path;
         EXPECT_EQ(NormalisePath(normal, row.style, row.current), normal);
     }
-    EXPECT_TRUE(NormalisePath(".").starts_with('/'));
 }
 
-TEST(Paths, RootsKeepTheirSeparator)
+TEST(MakeDirectories, MakesEachMissingLevelAsksAndEndsAtNoOrAFailure)
 {
-    EXPECT_EQ(withoutSeparator(R"(C:\a\)", kWindows), R"(C:\a)");
-    EXPECT_EQ(withoutSeparator(R"(C:\)", kWindows), R"(C:\)");
-    EXPECT_EQ(withoutSeparator("C:", kWindows), R"(C:\)");
-    EXPECT_EQ(withoutSeparator("/a/", kPosix), "/a");
-    EXPECT_EQ(withoutSeparator("/a", kPosix), "/a");
-    EXPECT_EQ(withoutSeparator("/", kPosix), "/");
-    EXPECT_EQ(withoutSeparator("", kPosix), "");
-}
-
-using Names = std::vector<std::string>;
-
-TEST(MakeDirectories, MakesEachMissingLevelInItsTurn)
-{
-    test::ScriptedPrompter nobody;
+    test::ScriptedPrompter person;
     test::FakeDisk disk;
     disk.directories = {R"(C:\a)", "/home"};
-    EXPECT_TRUE(MakeDirectories(R"(C:\a\b\c)", false, nobody, disk, kWindows));
-    EXPECT_TRUE(MakeDirectories(R"(D:\x\)", false, nobody, disk, kWindows)); // never "D:" itself
-    EXPECT_TRUE(MakeDirectories("/home/a//b/", false, nobody, disk, kPosix));
-    EXPECT_TRUE(MakeDirectories("x/y", false, nobody, disk, kPosix));
+    disk.readOnly = "/home/r/b";
+    EXPECT_TRUE(MakeDirectories(R"(C:\a\b\c)", false, person, disk, kWindows));
+    EXPECT_TRUE(MakeDirectories(R"(D:\x\)", false, person, disk, kWindows)); // never "D:" itself
+    EXPECT_TRUE(MakeDirectories("/home/a//b/", false, person, disk, kPosix));
+    EXPECT_TRUE(MakeDirectories("x/y", false, person, disk, kPosix));
+    EXPECT_FALSE(MakeDirectories("", false, person, disk, kPosix));
+    EXPECT_THROW((void)MakeDirectories("/home/r/b/c", false, person, disk, kPosix), FileFailure);
+    person.answers = {false, true};
+    EXPECT_FALSE(MakeDirectories("/home/q/b/", true, person, disk, kPosix));
+    EXPECT_TRUE(MakeDirectories("/home/p/b/", true, person, disk, kPosix));
+    EXPECT_TRUE(MakeDirectories("/home/p", true, person, disk, kPosix)); // nothing to ask
     EXPECT_EQ(disk.made,
-        (Names{R"(C:\a\b)", R"(C:\a\b\c)", R"(D:\x)", "/home/a", "/home/a//b", "x", "x/y"}));
-    EXPECT_FALSE(MakeDirectories("", false, nobody, disk, kPosix));
-}
-
-TEST(MakeDirectories, AsksOnceForTheWholePath)
-{
-    test::ScriptedPrompter person({false, true, true});
-    test::FakeDisk disk;
-    disk.directories = {"/home"};
-    EXPECT_FALSE(MakeDirectories("/home/a/b/", true, person, disk, kPosix));
-    EXPECT_TRUE(disk.made.empty());
-    EXPECT_TRUE(MakeDirectories("/home/a/b/", true, person, disk, kPosix));
-    EXPECT_EQ(disk.made, (Names{"/home/a", "/home/a/b"}));
-    EXPECT_TRUE(MakeDirectories("/home/a", true, person, disk, kPosix)); // nothing to ask
-    EXPECT_TRUE(MakeDirectories(R"(C:\x\y)", true, person, disk, kWindows));
-    EXPECT_EQ(person.questions, (Names{"128: /home/a/b", "128: /home/a/b", R"(128: C:\x\y)"}));
-}
-
-TEST(MakeDirectories, AFailureEndsItAndKeepsWhatIsAheadOfIt)
-{
-    test::ScriptedPrompter nobody;
-    test::FakeDisk disk;
-    disk.readOnly = "/a/b";
-    EXPECT_THROW((void)MakeDirectories("/a/b/c", false, nobody, disk, kPosix), FileFailure);
-    EXPECT_EQ(disk.made, Names{"/a"});
+        (Names{R"(C:\a\b)", R"(C:\a\b\c)", R"(D:\x)", "/home/a", "/home/a//b", "x", "x/y",
+            "/home/r", "/home/p", "/home/p/b"}));
+    EXPECT_EQ(person.log, (Names{"128: /home/q/b", "128: /home/p/b"})); // once for the whole path
 }
 
 TEST(AppDirectory, IsTheDirectoryOfTheProgramOrOfItsInstalledData)
@@ -113,6 +87,149 @@ TEST(AppDirectory, IsTheDirectoryOfTheProgramOrOfItsInstalledData)
     EXPECT_EQ(appDirectoryOf("/opt/q/build/quillmere", disk), "/opt/q/build/");
     EXPECT_TRUE(DiskFileSystem().directoryExists(AppDirectory()));
     EXPECT_TRUE(DiskFileSystem().directoryExists(SystemDirectory()));
+}
+
+TEST(LastPath, KeepsRootsWholeAndFallsBackToTheDeckAndThePersonsFolder)
+{
+    test::FakeDisk disk;
+    test::FakeDrives drives;
+    MemorySettings settings;
+    Deck deck;
+    const auto last = [&](PathStyle style) {
+        return GetLastPath("Last", settings, deck, {disk, drives, style});
+    };
+    drives.current = "/home/me/";
+    EXPECT_EQ(last(kPosix), "/home/me");
+    disk.directories = {"/home/me/Eigene Dateien", R"(C:\Alles)", R"(C:\eigene Dateien)"};
+    EXPECT_EQ(last(kPosix), "/home/me/Eigene Dateien");
+    drives.current = "C:\\";
+    EXPECT_EQ(last(kWindows), R"(C:\eigene Dateien)");
+    deck.resize(2);
+    deck.front().inUse = true;
+    deck.front().deckDir = R"(D:\projekt\)";
+    EXPECT_EQ(last(kWindows), R"(D:\projekt)");
+
+    disk.files = {"/p/index.wml"};
+    EXPECT_TRUE(HasIndexPage("/p", deck, disk) && HasIndexPage("/p/", deck, disk));
+    deck.front().deckDir = "/p/";
+    EXPECT_TRUE(HasIndexPage("", deck, disk)); // beside the open deck
+    EXPECT_FALSE(HasIndexPage("/q/", deck, disk));
+
+    const struct {
+        PathStyle style;
+        const char *path, *kept;
+    } rows[] = {{kWindows, R"(C:\)", R"(C:\)"}, {kWindows, R"(C:\a\)", R"(C:\a)"},
+        {kWindows, "C:", R"(C:\)"}, {kPosix, "/", "/"}, {kPosix, "/a/", "/a"}};
+    for (const auto& row : rows) {
+        SetLastPath(row.path, "Last", settings, row.style);
+        EXPECT_EQ(last(row.style), row.kept);
+    }
+}
+
+TEST(DriveType, IsTheKindOfTheNearestMountOrOfTheDrivesLetter)
+{
+    const MountTable table(
+        "/dev/sda2 / ext4 rw 0 0\n"
+        "proc /proc proc rw 0 0\n"
+        "tmpfs /tmp tmpfs rw 0 0\nhalf line\n\n"
+        "/dev/sr0 /media/CD\\040eins iso9660 ro 0 0\n"
+        "/dev/sdb1 /media/stick vfat rw 0 0\n"
+        "/dev/sda3 /media/stick/in ext4 rw 0 0\n"
+        "srv:/x /media/st nfs4 rw 0 0\n"
+        "/dev/sda4 /tmp ext4 rw 0 0\n"
+        "bad\\04 /bad\\ x rw 0 0\n",
+        [](std::string_view device) { return device == "/dev/sdb1"; }, "/home/me");
+    const std::pair<const char*, DriveKind> rows[] = {{"/home", DriveKind::Fixed},
+        {"/proc/1", DriveKind::Unknown}, {"/media/CD eins/Template", DriveKind::CdRom},
+        {"/media/stick/", DriveKind::Removable}, {"/media/stick/in/x", DriveKind::Fixed},
+        {"/media/st/x", DriveKind::Network}, {"/media/sticker", DriveKind::Fixed},
+        {"/tmp/x", DriveKind::Fixed}, {"relative", DriveKind::Missing}};
+    for (const auto& [path, kind] : rows)
+        EXPECT_EQ(DriveType(path, table), kind) << path;
+    EXPECT_EQ(table.roots().at(3), "/media/CD eins/");
+    EXPECT_NE(MountTable().kindOf("/"), DriveKind::Missing); // of the running system
+
+    test::FakeDrives drives;
+    drives.kinds = {{R"(A:\)", DriveKind::Removable}};
+    EXPECT_EQ(DriveType(R"(A:\x\y)", drives, kWindows), DriveKind::Removable);
+    EXPECT_EQ(DriveType("D:", drives, kWindows), DriveKind::Missing);
+    EXPECT_EQ(DriveType("x", drives, kWindows), DriveKind::Unknown);
+}
+
+// The characters of code page 850 that stand in names, written as Windows-1252.
+TEST(CheckedNames, HaveJustTheseCharacters)
+{
+    const std::string allowed
+        = fromUtf8("abcdefghijklmnopqrstuvwxyzABCDEFGHIJKLMNOPQRSTUVWXYZ0123456789-._ äöüÄÖÜ");
+    for (int code = ' '; code < 256; ++code) {
+        const char character = static_cast<char>(code);
+        const bool isAllowed = allowed.find(character) != std::string::npos;
+        const std::string tried = std::string("a") + character;
+        EXPECT_EQ(CheckFileName(tried).has_value(), isAllowed) << code;
+        EXPECT_EQ(CheckPath("/" + tried).has_value(), isAllowed || character == '/') << code;
+        const bool isDriveSign = character == '\\' || character == ':';
+        EXPECT_EQ(CheckPath("C:" + tried, kWindows).has_value(), isAllowed || isDriveSign) << code;
+    }
+}
+
+TEST(CheckedNames, AreCompletedAndCutAtThePoint)
+{
+    using Checked = std::optional<std::string>;
+    const auto asName = [](const std::string& text) { return CheckFileName(text); };
+    const auto onWindows = [](const std::string& text) { return CheckPath(text, kWindows); };
+    const auto onPosix = [](const std::string& text) { return CheckPath(text, kPosix); };
+    const auto special = [](const std::string& text) { return CheckPathSpecial(text, kPosix); };
+    const struct {
+        Checked (*check)(const std::string&);
+        const char *text, *wanted; // "": refused
+    } rows[] = {{asName, "Müller.WML", "Müller.wml"}, {asName, "seite", "seite.wml"},
+        {asName, " Über uns .x", "Über uns.wml"}, {asName, ".wml", ".wml"}, {asName, "a.b.c", ""},
+        {asName, "a..", ""}, {asName, "  ", ""}, {onWindows, "C:", R"(C:\)"},
+        {onWindows, "C:daten", R"(C:\daten)"}, {onWindows, R"(C:\daten\x.y\z)", R"(C:\daten\x)"},
+        {onWindows, "C:.x", R"(C:\)"}, {onWindows, R"(C:\\x)", ""}, {onWindows, "daten", ""},
+        {onWindows, "C:/x", ""}, {onPosix, "/", "/"}, {onPosix, "/home/Büro/x.y", "/home/Büro/x"},
+        {onPosix, "//x", ""}, {onPosix, "home", ""}, {onPosix, "", ""},
+        {special, "/B\nüroß", "/Büro"}, {special, "\x02é", ""}, {special, "/a&b", ""}};
+    for (const auto& row : rows)
+        EXPECT_EQ(toUtf8(row.check(fromUtf8(row.text)).value_or("")), row.wanted) << row.text;
+}
+
+TEST(CompleteUrl, OffersWhatIsMissing)
+{
+    const struct {
+        const char *text, *offer; // null: nothing is offered
+    } rows[] = {{"www.a.de", "http://www.a.de"}, {" WWW.a.de ", "http://WWW.a.de"},
+        {"a.de/b", "http://www.a.de/b"}, {R"(a\b)", R"(http://www.a\b)"}, {"HTTP://a/b", nullptr},
+        {" http:x ", nullptr}, {"#karte", nullptr}, {" Wort ", nullptr}, {"", nullptr}};
+    for (const auto& row : rows) {
+        for (const bool assents : {true, false}) {
+            test::ScriptedPrompter person;
+            if (row.offer != nullptr) person.answers = {assents};
+            const bool isTaken = assents && row.offer != nullptr;
+            EXPECT_EQ(CompleteUrl(row.text, person), isTaken ? row.offer : row.text);
+            const auto log = person.log.empty() ? "" : person.log.front();
+            EXPECT_EQ(log, row.offer == nullptr ? "" : std::string("129: ") + row.offer);
+        }
+    }
+}
+
+TEST(NumberTexts, AreDecimalOrCleaned)
+{
+    const struct {
+        const char* text;
+        bool isDecimal;
+        const char* cleaned;
+    } rows[] = {{"12", true, "12"}, {"1,5", true, "15"}, {"7,", true, "7"}, {",5", false, "5"},
+        {"1,2,3", false, ""}, {"12345678901", true, "12345678"}, {"-3", false, "3"},
+        {" 42 ", false, "42"}, {"1.000", false, "1000"}, {"1a", false, ""}, {"", false, ""},
+        {",", false, ""}, {"1-2", false, ""}, {"      1234", false, "12"}};
+    for (const auto& row : rows) {
+        EXPECT_EQ(IsDecimal(row.text), row.isDecimal) << row.text;
+        EXPECT_EQ(CleanNumberText(row.text), row.cleaned);
+    }
+    for (int bit = 1; bit <= 32; ++bit)
+        EXPECT_TRUE(BitIsSet(1U << (bit - 1), bit) && !BitIsSet(~(1U << (bit - 1)), bit)) << bit;
+    EXPECT_FALSE(BitIsSet(~0U, 0) || BitIsSet(~0U, 33));
 }
 
 } // namespace

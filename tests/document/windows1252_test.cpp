@@ -1,8 +1,10 @@
 #include "document/windows1252.h"
 
-#include <gtest/gtest.h>
+#include "document/text_lines.h"
+#include "document/text_search.h"
+#include "support/token_soup.h"
 
-#include <vector>
+#include <gtest/gtest.h>
 
 namespace quillmere {
 namespace {
@@ -24,27 +26,19 @@ TEST(Windows1252, EveryCharacterComesBackFromUtf8)
 
 TEST(Windows1252, ReadsUtf8)
 {
-    struct Row {
-        const char* name;
-        std::string utf8;
-        std::string wanted;
-    };
-    const std::vector<Row> rows{
-        {"letters", "a\u00E4\u20AC", "a\xE4\x80"},
-        {"not in the code table", "\u2212\U0001F600\u0085", "&#8722;&#128512;&#133;"},
-        {"largest of each length", "\u07FF\uFFFD\U0010FFFF", "&#2047;&#65533;&#1114111;"},
-        {"cut at the end", "\xE2\x82", "\xE2\x82"},
-        {"cut ahead of a letter", "\xC3x", "\xC3x"},
-        {"a byte that only goes on", "\xA4", "\xA4"},
-        {"longer than needed", "\xC0\xBC\xE0\x80\xBC\xF0\x80\x80\xBC",
+    const char* const rows[][2] = {
+        {"a\u00E4\u20AC", "a\xE4\x80"},
+        {"\u2212\U0001F600\u0085", "&#8722;&#128512;&#133;"}, // not in the code table
+        {"\u07FF\uFFFD\U0010FFFF", "&#2047;&#65533;&#1114111;"}, // largest of each length
+        {"\xE2\x82", "\xE2\x82"}, // cut at the end
+        {"\xC3x", "\xC3x"}, {"\xA4", "\xA4"}, // a byte that only goes on
+        {"\xC0\xBC\xE0\x80\xBC\xF0\x80\x80\xBC", // longer than needed
             "\xC0\xBC\xE0\x80\xBC\xF0\x80\x80\xBC"},
-        {"half of a pair", "\xED\xA0\x80", "\xED\xA0\x80"},
-        {"beyond Unicode", "\xF4\x90\x80\x80\xF5", "\xF4\x90\x80\x80\xF5"},
+        {"\xED\xA0\x80", "\xED\xA0\x80"}, // half of a pair
+        {"\xF4\x90\x80\x80\xF5", "\xF4\x90\x80\x80\xF5"}, // beyond Unicode
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        EXPECT_EQ(fromUtf8(row.utf8), row.wanted);
-    }
+    for (const auto& row : rows)
+        EXPECT_EQ(fromUtf8(row[0]), row[1]);
 }
 
 TEST(Windows1252, DeckBytesDecideTheirEncoding)
@@ -75,11 +69,50 @@ TEST(Windows1252, LowersLettersWithAccents)
     EXPECT_FALSE(equalIgnoringCase("ab", "abc"));
 }
 
-TEST(Windows1252, TrimsBlanksOnly)
+/// The lines, each with a bar behind it, taken character by character.
+std::string linesByCharacter(std::string_view text)
 {
-    EXPECT_EQ(trimBlanks("  a b\t "), "a b\t");
-    EXPECT_EQ(trimBlanks("   "), "");
-    EXPECT_EQ(trimBlanks(""), "");
+    std::string lines;
+    bool isOpen = false;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] == '\n' && i > 0 && text[i - 1] == '\r') continue;
+        isOpen = text[i] != '\r' && text[i] != '\n';
+        lines += isOpen ? text[i] : '|';
+    }
+    return isOpen ? lines + '|' : lines;
+}
+
+TEST(TextLines, EndAtEachKindOfLineEnd)
+{
+    constexpr std::string_view kPieces[] = {"a", "\r", "\n", "?"};
+    test::forEachSequence(kPieces, 7, [](const std::string& text) {
+        std::string lines;
+        LineReader reader(text);
+        while (const auto line = reader.next())
+            lines.append(*line) += '|';
+        ASSERT_EQ(lines, linesByCharacter(text)) << testing::PrintToString(text);
+        std::erase(lines, '|');
+        ASSERT_EQ(joinLines(text), lines);
+    });
+    EXPECT_EQ(withCrLf("a\nb\r\rc"), "a\r\nb\r\n\r\nc\r\n");
+}
+
+// Long enough for whole blocks, with keys on either side of each border between two.
+TEST(TextSearch, FindsAllKeysOfALongText)
+{
+    constexpr std::string_view kTokens[] = {"<p", "</P", ">", "x", "P", "<", "<P>&nbsp;x", "\xE4"};
+    const std::string text = test::randomSoup(1, kTokens, 300);
+    for (const std::string_view key : {"<p", "</p", "<", ">", "x", "px", "<p>&nbsp;x"}) {
+        std::size_t last = npos;
+        for (std::size_t from = 0; from <= text.size(); ++from) {
+            auto at = from;
+            while (at < text.size() && !standsAt(text, at, key))
+                ++at;
+            ASSERT_EQ(findIgnoringCase(text, key, from), at < text.size() ? at : npos) << key;
+            if (from > 0 && standsAt(text, from - 1, key)) last = from - 1;
+            ASSERT_EQ(findLastIgnoringCase(text, key, from), last) << key << from;
+        }
+    }
 }
 
 } // namespace

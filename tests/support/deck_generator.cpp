@@ -2,15 +2,14 @@
 
 #include "support/small_random.h"
 
-#include <initializer_list>
 #include <span>
 #include <utility>
 
 namespace quillmere::test {
-
 namespace {
 
 using namespace std::string_view_literals;
+using Strings = std::span<const std::string_view>;
 
 constexpr std::string_view kProlog = "<?xml version=\"1.0\"{E}?>\n"
                                      "<!DOCTYPE wml PUBLIC \"-//WAPFORUM//DTD WML 1.1//EN\""
@@ -40,25 +39,17 @@ public:
         deck_ = kProlog;
         const auto encoding = deck_.find("{E}");
         deck_.replace(encoding, 3, options_.eightBit ? R"( encoding="windows-1252")"sv : ""sv);
-        for (int number = 1; number == 1 || needsCard(); ++number)
-            addCard(number);
+        for (int card = 1;
+             card == 1 || (!options_.oneCard && deck_.size() + 80 < options_.targetBytes); ++card)
+            addCard(card);
         deck_ += "</wml>\n";
         if (fault() && random_.chance(0.5)) deck_.resize(random_.below(deck_.size()));
         return std::move(deck_);
     }
 
 private:
-    [[nodiscard]] bool needsCard() const
-    {
-        return !options_.oneCard && deck_.size() + 80 < options_.targetBytes;
-    }
-
     bool fault() { return options_.brokenness > 0 && random_.chance(options_.brokenness); }
-
-    std::string_view pick(std::span<const std::string_view> rows)
-    {
-        return rows[random_.below(rows.size())];
-    }
+    std::string_view pick(Strings rows) { return rows[random_.below(rows.size())]; }
 
     void addWords(std::size_t most)
     {
@@ -70,18 +61,14 @@ private:
         }
     }
 
-    void open(std::initializer_list<std::string_view> tag)
+    void open(std::string tag)
     {
-        std::string text = "<";
-        for (const auto part : tag)
-            text += part;
-        text += '>';
-        const auto quote = text.find('"');
+        const auto quote = tag.find('"');
         if (quote != std::string::npos && fault()) { // unquoted, or without its closing quote
-            text.erase(quote, random_.chance(0.7) ? 1 : 0);
-            if (random_.chance(0.7)) text.erase(text.find('"'), 1);
+            tag.erase(quote, random_.chance(0.7) ? 1 : 0);
+            if (random_.chance(0.7)) tag.erase(tag.find('"'), 1);
         }
-        if (!fault()) deck_ += text;
+        if (!fault()) deck_ += "<" + tag + ">";
     }
 
     void close(std::string_view name)
@@ -90,34 +77,35 @@ private:
         if (fault()) deck_ += pick(kStray);
     }
 
+    /// An element of words; its end is looked for by its name.
+    void addElement(const std::string& tag, std::size_t mostWords)
+    {
+        open(tag);
+        addWords(mostWords);
+        close(std::string_view(tag).substr(0, tag.find(' ')));
+    }
+
     void addCard(int number)
     {
         const auto name = std::to_string(number);
-        open({"card id=\"k", name, R"(" title="Karte )", name, R"(" newcontext="true")"});
+        open("card id=\"k" + name + R"(" title="Karte )" + name + R"(" newcontext="true")");
         deck_ += '\n';
         const auto length = 150 + random_.below(700);
         const auto end = options_.oneCard ? options_.targetBytes : deck_.size() + length;
-        while (deck_.size() < end && deck_.size() + 60 < options_.targetBytes)
-            addParagraph();
-        if (random_.chance(0.7)) addDo(number + 1);
+        while (deck_.size() < end && deck_.size() + 60 < options_.targetBytes) {
+            open(std::string("p").append(pick(kAligns)));
+            for (auto parts = 1 + random_.below(4); parts > 0; --parts)
+                addPart();
+            close("p");
+            deck_ += '\n';
+        }
+        if (random_.chance(0.7)) {
+            open(R"(do type="accept" label="Weiter" name="Sprung")");
+            if (!fault()) deck_ += "<go href=\"#k" + std::to_string(number + 1) + "\"/>";
+            close("do");
+            deck_ += '\n';
+        }
         close("card");
-        deck_ += '\n';
-    }
-
-    void addDo(int target)
-    {
-        open({R"(do type="accept" label="Weiter" name="Sprung")"});
-        if (!fault()) deck_.append("<go href=\"#k").append(std::to_string(target)).append("\"/>");
-        close("do");
-        deck_ += '\n';
-    }
-
-    void addParagraph()
-    {
-        open({"p", pick(kAligns)});
-        for (auto parts = 1 + random_.below(4); parts > 0; --parts)
-            addPart();
-        close("p");
         deck_ += '\n';
     }
 
@@ -127,11 +115,14 @@ private:
         case 0:
             return addTable();
         case 1:
-            return addSelect();
+            open("select name=\"wahl\"");
+            for (auto count = 1 + random_.below(5); count > 0; --count)
+                addElement("option value=\"" + std::to_string(count) + "\"", 2);
+            return close("select");
         case 2:
-            return addLink();
+            return addElement("a href=\"#k" + std::to_string(1 + random_.below(9)) + "\"", 3);
         case 3:
-            return addPicture();
+            return addPicture(std::to_string(random_.below(4)));
         case 4:
             deck_ += "<br/>";
             return;
@@ -143,56 +134,37 @@ private:
         }
     }
 
+    void addPicture(const std::string& number)
+    {
+        open("img src=\"" + std::string(options_.pictures) + number + R"(.wbmp" alt="Bild )"
+            + number + "\"/");
+    }
+
     void addFormat()
     {
         const auto outer = pick(kFormats);
         const auto inner = pick(kFormats);
         const bool nested = outer != inner && random_.chance(0.3);
         const bool overlaps = nested && fault();
-        open({outer});
+        open(std::string(outer));
         addWords(4);
-        if (nested) open({inner});
-        if (nested) addWords(3);
-        if (nested) close(overlaps ? outer : inner);
+        if (nested) {
+            open(std::string(inner));
+            addWords(3);
+            close(overlaps ? outer : inner);
+        }
         close(overlaps ? inner : outer);
         deck_ += ' ';
-    }
-
-    void addLink()
-    {
-        open({"a href=\"#k", std::to_string(1 + random_.below(9)), "\""});
-        addWords(3);
-        close("a");
-    }
-
-    void addPicture()
-    {
-        const auto number = std::to_string(random_.below(4));
-        open({"img src=\"", options_.pictures, number, R"(.wbmp" alt="Bild )", number, "\"/"});
-    }
-
-    void addSelect()
-    {
-        open({"select name=\"wahl\""});
-        for (auto count = 1 + random_.below(5); count > 0; --count) {
-            open({"option value=\"", std::to_string(count), "\""});
-            addWords(2);
-            close("option");
-        }
-        close("select");
     }
 
     void addTable()
     {
         const auto columns = 1 + random_.below(3);
-        open({R"(table title="Plan" columns=")", std::to_string(columns), "\""});
+        open(R"(table title="Plan" columns=")" + std::to_string(columns) + "\"");
         for (auto rows = 1 + random_.below(4); rows > 0; --rows) {
-            open({"tr"});
-            for (std::size_t column = 0; column < columns; ++column) {
-                open({"td"});
-                addWords(2);
-                close("td");
-            }
+            open("tr");
+            for (std::size_t column = 0; column < columns; ++column)
+                addElement("td", 2);
             close("tr");
         }
         close("table");

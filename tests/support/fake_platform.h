@@ -5,8 +5,6 @@
 #include "document/file_system.h"
 #include "document/prompter.h"
 
-#include <algorithm>
-#include <map>
 #include <set>
 #include <stdexcept>
 #include <string>
@@ -43,9 +41,9 @@ public:
     {
         std::vector<std::string> names;
         for (const auto& directory : directories) {
-            if (!directory.starts_with(path)) continue;
-            auto name = directory.substr(path.size());
-            if (name.find_first_of("/\\") == std::string::npos) names.push_back(std::move(name));
+            const bool isDirect = directory.starts_with(path)
+                && directory.find_first_of("/\\", path.size()) == std::string::npos;
+            if (isDirect) names.push_back(directory.substr(path.size()));
         }
         return names;
     }
@@ -79,34 +77,40 @@ public:
     [[nodiscard]] std::string personsRoot() const override { return current; }
 };
 
-/// Gives the answers in their order and keeps the questions as "NUMBER: GAP|GAP". A question that
-/// nobody expected is a failure.
+/// Gives the answers in their order and keeps what was asked and told as "NUMBER: GAP". A question
+/// that nobody expected is a failure.
 class ScriptedPrompter final : public Prompter {
 public:
-    explicit ScriptedPrompter(std::vector<bool> answers = {})
-        : answers_(std::move(answers))
+    explicit ScriptedPrompter(std::vector<bool> theAnswers = {})
+        : answers(std::move(theAnswers))
     {
     }
-    std::vector<std::string> questions;
+    std::vector<bool> answers;
+    std::vector<std::string> log;
 
-    [[nodiscard]] bool ask(int word, std::span<const std::string> gaps, MessageIcon) override
+    [[nodiscard]] bool ask(int word, std::span<const std::string> gaps, MessageIcon icon) override
     {
-        std::string question = std::to_string(word) + ":";
-        for (const auto& gap : gaps)
-            question.append(question.ends_with(':') ? " " : "|").append(gap);
-        if (questions.size() == answers_.size())
-            throw std::logic_error("nobody expected " + question);
-        questions.push_back(std::move(question));
-        return answers_[questions.size() - 1];
+        show(word, gaps, icon);
+        return answer();
     }
-    void show(int, std::span<const std::string>, MessageIcon) override
+    void show(int word, std::span<const std::string> gaps, MessageIcon) override
     {
-        throw std::logic_error("nobody expected a message");
+        log.push_back(std::to_string(word) + ": " + gaps.front());
     }
-    [[nodiscard]] bool showNote(Note) override { throw std::logic_error("nobody expected a note"); }
+    [[nodiscard]] bool showNote(Note note) override
+    {
+        log.push_back("note " + std::to_string(static_cast<int>(note)));
+        return answer();
+    }
 
 private:
-    std::vector<bool> answers_;
+    bool answer()
+    {
+        if (answers.empty()) throw std::logic_error("nobody expected " + log.back());
+        const bool first = answers.front();
+        answers.erase(answers.begin());
+        return first;
+    }
 };
 
 } // namespace quillmere::test

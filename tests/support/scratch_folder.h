@@ -31,11 +31,12 @@ public:
 
     /// With its separator.
     [[nodiscard]] const std::string& path() const { return path_; }
-    /// Makes the file, with its directories.
-    void put(const std::string& name, std::string_view bytes) const
+    /// Makes the file, with its directories, and returns its path.
+    std::string put(const std::string& name, std::string_view bytes) const
     {
         std::filesystem::create_directories(std::filesystem::path(path_ + name).parent_path());
         std::ofstream(path_ + name, std::ios::binary) << bytes;
+        return path_ + name;
     }
     [[nodiscard]] bool has(const std::string& name) const
     {

@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <string>
 
 namespace quillmere::test {
 
@@ -32,5 +33,15 @@ public:
 private:
     std::uint64_t state_;
 };
+
+/// `length` bytes that follow from `seed` alone.
+[[nodiscard]] inline std::string randomBytes(std::size_t length, std::uint64_t seed)
+{
+    SmallRandom random(seed);
+    std::string bytes(length, '\0');
+    for (char& byte : bytes)
+        byte = static_cast<char>(random.below(256));
+    return bytes;
+}
 
 } // namespace quillmere::test
