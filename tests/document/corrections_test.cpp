@@ -49,6 +49,16 @@ template <auto operation> void onBold(std::string& text)
     operation(text, "<b>", "</b>");
 }
 
+void wrapLinks(std::string& text)
+{
+    WrapInParagraph(text, "<a", "</a");
+}
+
+void splitBold(std::string& text)
+{
+    SplitAtParagraphs(text, "<b>", "</b>");
+}
+
 template <auto operation> void onLinks(std::string& text)
 {
     operation(text, "<a", "</a");
@@ -100,10 +110,10 @@ const std::vector<Judged> kCorrections{
     {"RepairParagraphs", RepairParagraphs, literal::RepairParagraphs,
         {"<card>", "</card", "<p>", "</p", ">", "<", "+"}, 6,
         {"</P>", "<p>", "</p", "<", "</", "/p>", "p", "x", ".", "<card a>", "</card>"}},
-    {"WrapInParagraph", onLinks<WrapInParagraph>, onLinks<literal::WrapInParagraph>,
+    {"WrapInParagraph", wrapLinks, onLinks<literal::WrapInParagraph>,
         {"<a", "</A", ">", "<p>", "</p>", "x"}, 6,
         {"<a", "</a>", ">", "<p>", "</P>", "x", "<", "</p", "<a>"}},
-    {"SplitAtParagraphs", onBold<SplitAtParagraphs>, onBold<literal::SplitAtParagraphs>,
+    {"SplitAtParagraphs", splitBold, onBold<literal::SplitAtParagraphs>,
         {"<b>", "</b>", "<p>", "</p", " ", "<"}, 6,
         {"<b>", "</b>", "<p>", "</p>", "<P a>", "x", " ", "<", "</", "b>", "/b>", "<b>"}},
     {"TakeDoBlock", withResult<TakeDoBlock>, withResult<literal::TakeDoBlock>,

@@ -126,13 +126,13 @@ TEST(AddArea, LinksNewAreasForward)
 
 TEST(AddArea, AFailureLeavesTheDeck)
 {
-    StoreSession store;
-    AddArea(store.session, true, "neu.wml", "/decks/");
+    SmallDeck deck;
+    AddArea(deck.session, true, "neu.wml", "/decks/");
     for (int i = 1; i <= 32767; ++i) // no name is left
-        store.workFiles.write("Wml" + std::to_string(i) + ".htm", {});
-    EXPECT_THROW(AddArea(store.session, false), Overflow);
-    EXPECT_EQ(areaCount(store.session.deck), 1U);
-    EXPECT_NO_THROW(WriteDeck(store.session));
+        deck.files.write("Wml" + std::to_string(i) + ".htm", {});
+    EXPECT_THROW(AddArea(deck.session, false), Overflow);
+    EXPECT_EQ(areaCount(deck.session.deck), 1U);
+    EXPECT_NO_THROW(WriteDeck(deck.session));
 }
 
 TEST(WriteDeck, JoinsTheAreas)
