@@ -10,6 +10,8 @@ namespace quillmere {
 namespace {
 
 constexpr std::array kRows = std::to_array<TagRule>({{"<b>"}, {"<br"}, {"</b"}, {"<x"}});
+constexpr std::array kMarkers
+    = std::to_array<TagRule>({{"<!--b"}, {"</b>"}, {"<!--/bb"}, {"<b"}, {"<!--bb"}});
 
 const TagRule* firstContained(std::string_view tag, std::span<const TagRule> rules)
 {
@@ -44,8 +46,6 @@ TEST(RuleFinder, GivesTheFirstRuleWhoseKeyTheTagContains)
 
 TEST(RuleFinder, TellsTagsAndMarkersWithTheSameLetterApart)
 {
-    constexpr std::array kMarkers
-        = std::to_array<TagRule>({{"<!--b"}, {"</b>"}, {"<!--/bb"}, {"<b"}, {"<!--bb"}});
     constexpr std::array<std::string_view, 5> kTokens{"<", ">", "b", "/", "!--"};
     test::forEachSequence(
         kTokens, 6, [](const std::string& text) { expectFirstContained(text, kMarkers); });
