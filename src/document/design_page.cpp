@@ -6,9 +6,9 @@
 #include "document/windows1252.h"
 
 #include <array>
-#include <cmath>
 #include <cstdint>
 #include <cstdio>
+#include <cstdlib>
 
 namespace quillmere {
 namespace {
@@ -18,8 +18,8 @@ constexpr std::array<std::string_view, kHeadLineCount> kHeadLines{
     "<HTML>", "<HEAD>", "</HEAD>", "", "<P>"};
 constexpr std::array<std::string_view, kTailLineCount> kTailLines{"</P>", "</BODY>", "</HTML>"};
 
-constexpr double kDefaultFontTwips = 180;
-constexpr double kTwipsPerPoint = 20;
+constexpr int kDefaultFontTwips = 180;
+constexpr int kTwipsPerPoint = 20;
 constexpr std::string_view kDefaultFamily = "Arial";
 constexpr std::size_t kFamilyFieldLength = 150;
 
@@ -39,11 +39,21 @@ std::string colourDigits(std::int32_t colour)
     return {digits.data(), static_cast<std::size_t>(length)};
 }
 
-// Two attributes of the same name and a size without a unit: the page lies on the surface only.
-std::string bodyLine(
-    std::int32_t colour, double fontTwips, int twipsPerPixel, std::string_view family)
+/// The nearest whole number, and of two equally near ones the even one. In whole numbers, so that
+/// the program needs no library of mathematics.
+int roundedQuotient(int dividend, int divisor)
 {
-    const auto size = std::lrint(fontTwips / twipsPerPixel);
+    const int quotient = dividend / divisor;
+    const int twiceRest = 2 * std::abs(dividend % divisor);
+    const bool isTie = twiceRest == std::abs(divisor);
+    if (twiceRest < std::abs(divisor) || (isTie && quotient % 2 == 0)) return quotient;
+    return quotient + ((dividend < 0) == (divisor < 0) ? 1 : -1);
+}
+
+// Two attributes of the same name and a size without a unit: the page lies on the surface only.
+std::string bodyLine(std::int32_t colour, int fontTwips, int twipsPerPixel, std::string_view family)
+{
+    const int size = roundedQuotient(fontTwips, twipsPerPixel);
     std::string line = R"(<BODY LINK="#0000ff" VLINK="#800080" BGCOLOR="#)";
     line.append(colourDigits(colour)).append(R"(" STYLE="font-size:)");
     line.append(std::to_string(size)).append(R"(" STYLE="font-family:)");

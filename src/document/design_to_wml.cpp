@@ -82,11 +82,13 @@ public:
 
     [[nodiscard]] std::string run()
     {
-        return translateTags(source_, [this](const Tag& tag) { return replacementFor(tag); });
+        return translateTags(source_,
+            [this](std::string& result, const Tag& tag) { return appendReplacement(result, tag); });
     }
 
 private:
-    [[nodiscard]] Replacement replacementFor(const Tag& tag);
+    [[nodiscard]] bool appendReplacement(std::string& result, const Tag& tag);
+    [[nodiscard]] Replacement replacementFor(const TagRule& rule, const Tag& tag);
     [[nodiscard]] Replacement doTag(const Tag& tag);
     [[nodiscard]] Replacement table(const Tag& tag);
     [[nodiscard]] Replacement link(const Tag& tag);
@@ -102,31 +104,37 @@ private:
     DesignImageTags images_;
 };
 
-Replacement Conversion::replacementFor(const Tag& tag)
+bool Conversion::appendReplacement(std::string& result, const Tag& tag)
 {
     const auto* const rule = rules_.find(tag);
-    if (rule == nullptr) return "";
+    if (rule == nullptr) return true; // dropped
     switch (rule->action) {
     case TagAction::Drop:
-        return "";
+        return true;
     case TagAction::Emit:
-        return std::string(rule->text);
+        result.append(rule->text);
+        return true;
     case TagAction::Paragraph:
-        return std::string(paragraphTag(tag.in(lower_)));
-    case TagAction::Table:
-        return table(tag);
-    case TagAction::Do:
-        return doTag(tag);
-    case TagAction::Link:
-        return link(tag);
-    case TagAction::Image:
-        return images_.wmlTag(tag);
+        result.append(paragraphTag(tag.in(lower_)));
+        return true;
     case TagAction::Marker:
-        return asTag(tag.in(source_));
+        appendTag(result, tag.in(source_));
+        return true;
     case TagAction::LowerMarker:
-        return asTag(tag.in(lower_));
+        appendTag(result, tag.in(lower_));
+        return true;
+    default:
+        return append(result, replacementFor(*rule, tag));
     }
-    return std::nullopt;
+}
+
+/// What takes the place of a tag with attributes that matter.
+Replacement Conversion::replacementFor(const TagRule& rule, const Tag& tag)
+{
+    if (rule.action == TagAction::Table) return table(tag);
+    if (rule.action == TagAction::Do) return doTag(tag);
+    if (rule.action == TagAction::Link) return link(tag);
+    return images_.wmlTag(tag);
 }
 
 /// A marker without label stays a comment.
@@ -134,7 +142,9 @@ Replacement Conversion::doTag(const Tag& tag)
 {
     const auto label = label_.behindName(tag);
     if (!label) return std::nullopt;
-    return asTag(lowerBut(text(), tag, *label));
+    std::string result;
+    appendTag(result, lowerBut(text(), tag, *label));
+    return result;
 }
 
 /// A table without title, or with TITLE, stays as the surface wrote it: <TABLE border=1>. By the

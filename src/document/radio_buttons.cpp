@@ -21,43 +21,46 @@ constexpr std::string_view kOption = "<!--option";
 constexpr std::string_view kOptionEnd = "<!--/option";
 constexpr std::string_view kInput = "<input";
 
-/// The first tag at or behind `from` that begins with `key`.
+/// The first tag at or behind `from` that begins with `key`, whose second character has no case.
 std::size_t findTag(std::string_view text, std::string_view key, std::size_t from)
 {
-    auto at = text.find('<', from);
-    while (at != npos && !standsAt(text, at, key))
-        at = text.find('<', at + 1);
-    return at;
+    for (auto at = text.find('<', from); at != npos; at = text.find('<', at + 1)) {
+        const bool mayBegin = at + 1 < text.size() && text[at + 1] == key[1];
+        if (mayBegin && standsAt(text, at, key)) return at;
+    }
+    return npos;
 }
 
-/// What an option marker, without its ">", leads to. A value in quotes that holds a ">" is none:
-/// the button would end at it, and its rest would stay as text. Of `onpick=#a--` without quotes
-/// the dashes of the marker's end are part of the target.
+/// What an option marker, without its ">", leads to. The first value in quotes counts, and else the
+/// first one without. A value in quotes that holds a ">" is none: the button would end at it, and
+/// its rest would stay as text. Of `onpick=#a--` without quotes the dashes of the marker's end are
+/// part of the target.
 std::string_view targetOf(std::string_view marker)
 {
     constexpr std::string_view kKey = "onpick=";
-    constexpr std::string_view kQuotedKey = "onpick=\"";
-    const auto plain = findIgnoringCase(marker, kKey);
-    if (plain == npos) return {};
-    const auto quoted = findIgnoringCase(marker, kQuotedKey, plain);
-    if (quoted != npos) {
-        const auto value = marker.substr(quoted + kQuotedKey.size());
-        const auto close = value.find('"');
-        return close == npos ? std::string_view{} : value.substr(0, close);
+    std::optional<std::string_view> bare;
+    for (auto sign = marker.find('='); sign != npos; sign = marker.find('=', sign + 1)) {
+        const auto behind = sign + 1;
+        if (behind < kKey.size() || !standsAt(marker, behind - kKey.size(), kKey)) continue;
+        const auto value = marker.substr(behind);
+        if (value.starts_with('"')) {
+            const auto close = value.find('"', 1);
+            return close == npos ? std::string_view{} : value.substr(1, close - 1);
+        }
+        if (!bare) bare = value.substr(0, value.find(' '));
     }
-    const auto value = marker.substr(plain + kKey.size());
-    return value.substr(0, value.find(' '));
+    return bare.value_or(std::string_view{});
 }
 
-std::string button(int number, std::string_view target)
+void appendButton(std::string& result, int number, std::string_view target)
 {
-    auto tag = "<input type=radio name=\"TempName" + std::to_string(number) + '"';
+    result.append("<input type=radio name=\"TempName").append(std::to_string(number)).append("\"");
     if (!target.empty()) {
-        tag.append(" onclick=\"javascript:navigate('");
-        std::replace_copy(target.begin(), target.end(), std::back_inserter(tag), '\\', '/');
-        tag.append("')\"");
+        result.append(" onclick=\"javascript:navigate('");
+        std::replace_copy(target.begin(), target.end(), std::back_inserter(result), '\\', '/');
+        result.append("')\"");
     }
-    return tag + '>';
+    result += '>';
 }
 
 /// The text without the inputs that stand between an option and an end; nullopt where one of them
@@ -109,20 +112,23 @@ void InsertTemporaeryRadioButtons(std::string& text)
     const std::string_view source = text;
     auto option = findTag(source, kOption, 0);
     if (option == npos) return;
-    Rewriter result(source);
+    std::string result;
+    std::size_t copied = 0;
     int number = 0;
     while (option != npos) {
         const auto end = source.find('>', option);
         if (end == npos) break;
-        result.insert(end + 1, button(++number, targetOf(source.substr(option, end - option))));
+        result.append(source, copied, end + 1 - copied);
+        copied = end + 1;
+        appendButton(result, ++number, targetOf(source.substr(option, end - option)));
         const auto close = findTag(source, kOptionEnd, end);
         const auto closed = close == npos ? npos : source.find('>', close);
         if (closed == npos) break;
         option = findTag(source, kOption, closed);
     }
-    auto changed = result.take();
-    requireAddressable(changed);
-    text = std::move(changed);
+    result.append(source, copied);
+    requireAddressable(result);
+    text = std::move(result);
 }
 
 void DeleteAllTemporaeryRadioButtons(std::string& text)

@@ -41,20 +41,21 @@ std::string_view paragraphTag(std::string_view lowerTag)
     return kPlain;
 }
 
-std::string asMarker(std::string_view tagBehindOpening)
+void appendMarker(std::string& result, std::string_view tagBehindOpening)
 {
-    std::string marker(kMarkerBegin);
-    marker.append(tagBehindOpening);
-    marker.insert(marker.size() - 1, "--");
-    return marker;
+    const auto last = tagBehindOpening.size() - 1;
+    result.append(kMarkerBegin).append(tagBehindOpening.substr(0, last));
+    result.append("--").append(tagBehindOpening.substr(last));
 }
 
-std::string asTag(std::string_view marker)
+void appendTag(std::string& result, std::string_view marker)
 {
-    std::string tag("<");
-    tag.append(marker.substr(kMarkerBegin.size()));
-    if (tag.ends_with(kMarkerEnd)) tag.erase(tag.size() - kMarkerEnd.size(), 2);
-    return tag;
+    const auto tag = marker.substr(kMarkerBegin.size());
+    result += '<';
+    if (tag.ends_with(kMarkerEnd))
+        result.append(tag.substr(0, tag.size() - kMarkerEnd.size())) += '>';
+    else
+        result.append(tag);
 }
 
 void appendAttribute(std::string& tag, std::string_view key, std::string_view value)

@@ -17,30 +17,38 @@ namespace quillmere {
 /// What takes a tag's place: "" deletes the tag, nullopt keeps it.
 using Replacement = std::optional<std::string>;
 
-/// A copy of `source` in which `replacementFor(tag)` took the place of each tag. What was put in is
-/// not read again; a tag that is kept is scanned again from its second character, since it may hide
-/// a second '<'. Throws Overflow where the text is too long at its begin or after any replacement.
-template <typename ReplacementFor>
-[[nodiscard]] std::string translateTags(std::string_view source, ReplacementFor replacementFor)
+/// A copy of `source` in which something else took the place of each tag:
+/// `appendReplacement(result, tag)` puts it at the end of `result`, or nothing where the tag is
+/// deleted, and is false, with nothing done, where the tag is kept. What was put in is not read
+/// again; a tag that is kept is scanned again from its second character, since it may hide a second
+/// '<'. Throws Overflow where the text is too long at its begin or after any replacement.
+template <typename AppendReplacement>
+[[nodiscard]] std::string translateTags(
+    std::string_view source, AppendReplacement appendReplacement)
 {
     requireAddressable(source);
     std::string result;
     result.reserve(source.size() + source.size() / 8);
     std::size_t copied = 0; // what stands before it is in `result`
-    std::size_t length = source.size(); // of the text as changed so far
     TagScanner tags(source);
     while (const auto tag = tags.next()) {
-        const Replacement replacement = replacementFor(*tag);
-        if (!replacement) {
+        result.append(source, copied, tag->begin - copied);
+        copied = tag->begin;
+        if (!appendReplacement(result, *tag)) {
             tags.resumeAt(tag->begin + 1);
             continue;
         }
-        length = length + replacement->size() - (tag->end - tag->begin);
-        requireAddressableLength(length);
-        result.append(source, copied, tag->begin - copied).append(*replacement);
         copied = tag->end;
+        requireAddressableLength(result.size() + source.size() - copied);
     }
     return result.append(source, copied);
+}
+
+/// Puts the replacement at the end of `result`; false for one that keeps the tag.
+inline bool append(std::string& result, const Replacement& replacement)
+{
+    if (replacement) result.append(*replacement);
+    return replacement.has_value();
 }
 
 /// A text and its copy in lower case: tags are told by the one and their values mostly taken from
@@ -57,13 +65,13 @@ struct CasedText {
 /// names a side counts wherever it stands: `<p id="leftside">` is aligned to the left.
 [[nodiscard]] std::string_view paragraphTag(std::string_view lowerTag);
 
-/// The marker that stands for a tag: `<go href="#a"/>` as `<!--go href="#a"/-->`.
-/// `tagBehindOpening` is the tag without its '<'.
-[[nodiscard]] std::string asMarker(std::string_view tagBehindOpening);
+/// Puts the marker that stands for a tag at the end of `result`: `<go href="#a"/>` as
+/// `<!--go href="#a"/-->`. `tagBehindOpening` is the tag without its '<'.
+void appendMarker(std::string& result, std::string_view tagBehindOpening);
 
-/// The tag that a marker stands for. A marker that another '<' stands ahead of loses its first four
-/// characters all the same.
-[[nodiscard]] std::string asTag(std::string_view marker);
+/// The same for the tag that a marker stands for. A marker that another '<' stands ahead of loses
+/// its first four characters all the same.
+void appendTag(std::string& result, std::string_view marker);
 
 /// Puts ` name="value"` behind what `tag` holds so far; `key` is the name with `="`.
 void appendAttribute(std::string& tag, std::string_view key, std::string_view value);

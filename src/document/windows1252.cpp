@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <array>
 #include <optional>
+#include <span>
 
 namespace quillmere {
 
@@ -159,12 +160,12 @@ std::string lowerCase(std::string_view text)
 {
     std::string result(text);
     constexpr std::size_t kAtATime = 16;
+    const std::span characters(result);
     const auto whole = result.size() - result.size() % kAtATime;
-    std::size_t i = 0;
-    for (; i < whole; ++i)
-        result[i] = static_cast<char>(lowered(code(result[i])));
-    for (; i < result.size(); ++i)
-        result[i] = lowerCase(result[i]);
+    for (char& character : characters.first(whole))
+        character = static_cast<char>(lowered(code(character)));
+    for (char& character : characters.subspan(whole))
+        character = lowerCase(character);
     return result;
 }
 

@@ -67,7 +67,8 @@ private:
 class GapRewriter {
 public:
     explicit GapRewriter(std::string_view text)
-        : gaps_(text)
+        : text_(text)
+        , gaps_(text)
         , rewriter_(text)
     {
     }
@@ -110,12 +111,14 @@ private:
     }
     void replace(std::size_t begin, std::size_t end, std::string_view space)
     {
+        if (text_.substr(begin, end - begin) == space) return;
         inserted_ += space.size();
         requireAddressableLength(inserted_);
         rewriter_.insert(begin, space);
         rewriter_.drop(begin, end);
     }
 
+    std::string_view text_;
     GapWalk gaps_;
     Rewriter rewriter_;
     std::optional<GapSpace> front_; // what the open gap begins with

@@ -80,16 +80,18 @@ public:
 
     [[nodiscard]] std::string run()
     {
-        return translateTags(source_, [this](const Tag& tag) { return replacementFor(tag); });
+        return translateTags(source_,
+            [this](std::string& result, const Tag& tag) { return appendReplacement(result, tag); });
     }
     [[nodiscard]] bool madeCardMarker() const { return madeCardMarker_; }
 
 private:
-    [[nodiscard]] Replacement replacementFor(const Tag& tag);
+    [[nodiscard]] bool appendReplacement(std::string& result, const Tag& tag);
+    [[nodiscard]] Replacement replacementFor(const TagRule& rule, const Tag& tag);
     [[nodiscard]] Replacement doMarker(const Tag& tag);
     [[nodiscard]] std::string table(const Tag& tag);
     [[nodiscard]] Replacement link(const Tag& tag);
-    [[nodiscard]] std::string cardMarkerOrNothing(const Tag& tag);
+    void appendCardMarker(std::string& result, const Tag& tag);
     [[nodiscard]] CasedText text() const { return {source_, lower_}; }
 
     std::string_view source_;
@@ -102,31 +104,40 @@ private:
     bool madeCardMarker_ = false;
 };
 
-Replacement Conversion::replacementFor(const Tag& tag)
+bool Conversion::appendReplacement(std::string& result, const Tag& tag)
 {
     const auto* const rule = rules_.find(tag);
-    if (rule == nullptr) return cardMarkerOrNothing(tag);
+    if (rule == nullptr) {
+        appendCardMarker(result, tag);
+        return true;
+    }
     switch (rule->action) {
     case TagAction::Drop:
-        return "";
+        return true;
     case TagAction::Emit:
-        return std::string(rule->text);
+        result.append(rule->text);
+        return true;
     case TagAction::Paragraph:
-        return std::string(paragraphTag(tag.in(lower_)));
-    case TagAction::Table:
-        return table(tag);
-    case TagAction::Do:
-        return doMarker(tag);
-    case TagAction::Link:
-        return link(tag);
-    case TagAction::Image:
-        return images_.designTag(tag);
+        result.append(paragraphTag(tag.in(lower_)));
+        return true;
     case TagAction::Marker:
-        return asMarker(tag.in(source_).substr(1));
+        appendMarker(result, tag.in(source_).substr(1));
+        return true;
     case TagAction::LowerMarker:
-        return asMarker(tag.in(lower_).substr(1));
+        appendMarker(result, tag.in(lower_).substr(1));
+        return true;
+    default:
+        return append(result, replacementFor(*rule, tag));
     }
-    return std::nullopt;
+}
+
+/// What takes the place of a tag with attributes that matter.
+Replacement Conversion::replacementFor(const TagRule& rule, const Tag& tag)
+{
+    if (rule.action == TagAction::Table) return table(tag);
+    if (rule.action == TagAction::Do) return doMarker(tag);
+    if (rule.action == TagAction::Link) return link(tag);
+    return images_.designTag(tag);
 }
 
 /// A do without label, such as <do type="prev">, stays as it is.
@@ -134,7 +145,9 @@ Replacement Conversion::doMarker(const Tag& tag)
 {
     const auto label = label_.behindName(tag);
     if (!label) return std::nullopt;
-    return asMarker(std::string_view(lowerBut(text(), tag, *label)).substr(1));
+    std::string marker;
+    appendMarker(marker, std::string_view(lowerBut(text(), tag, *label)).substr(1));
+    return marker;
 }
 
 std::string Conversion::table(const Tag& tag)
@@ -157,16 +170,17 @@ Replacement Conversion::link(const Tag& tag)
 /// A card is told by its places of `id="` and "card", counted from 1, having a bit in common: so
 /// <card id="x"> (7 and 2) becomes a marker, while <card title="a" id="x"> (17 and 2) is dropped as
 /// every unknown tag is.
-std::string Conversion::cardMarkerOrNothing(const Tag& tag)
+void Conversion::appendCardMarker(std::string& result, const Tag& tag)
 {
     const auto lower = tag.in(lower_);
     const auto id = lower.find("id=\"") + 1; // 0: not there
     const auto card = lower.find("card") + 1;
     if ((id & card) != 0) {
         madeCardMarker_ = true;
-        return asMarker(tag.in(source_).substr(card - 1));
+        appendMarker(result, tag.in(source_).substr(card - 1));
+    } else if (lower.find("/card") != npos) {
+        result.append("<!--/card-->");
     }
-    return lower.find("/card") != npos ? "<!--/card-->" : "";
 }
 
 } // namespace
