@@ -6,10 +6,13 @@
 
 #include <gtest/gtest.h>
 
+#include <chrono>
 #include <csignal>
 #include <filesystem>
+#include <fstream>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <thread>
 #include <unistd.h>
 
 namespace quillmere {
@@ -87,6 +90,39 @@ TEST(Files, ReadingStopsAtTheLimit)
     EXPECT_EQ(readFile(folder.path() + "a", 5), "12345");
     EXPECT_THROW(static_cast<void>(readFile(folder.path() + "a", 4)), Overflow);
     EXPECT_THROW(static_cast<void>(readFile("/dev/zero", 1000)), Overflow);
+}
+
+TEST(Files, APipeIsReadToItsEnd)
+{
+    const ScratchFolder folder;
+    const auto path = folder.path() + "pipe";
+    ASSERT_EQ(::mkfifo(path.c_str(), 0600), 0);
+    std::thread writer([&path] {
+        std::ofstream pipe(path);
+        pipe << "first" << std::flush;
+        std::this_thread::sleep_for(std::chrono::milliseconds(20));
+        pipe << ", second";
+    });
+    EXPECT_EQ(readFile(path), "first, second");
+    writer.join();
+}
+
+TEST(Files, OneFailureAmongManyReplacementsLeavesTheOthers)
+{
+    const ScratchFolder folder;
+    fs::create_directory(folder.path() + "sub");
+    folder.put("a", "old");
+    {
+        FileReplacements files;
+        files.replace(folder.path() + "a", "new");
+        EXPECT_THROW(files.replace(folder.path() + "sub", "new"), FileFailure);
+        EXPECT_THROW(files.replace(folder.path() + "missing/a", "new"), FileFailure);
+        files.replace(folder.path() + "sub/b", "new");
+        EXPECT_EQ(folder.get("a"), "new") << "before the end already";
+    }
+    EXPECT_EQ(folder.get("sub/b"), "new");
+    EXPECT_EQ(namesIn(folder.path()), 2U);
+    EXPECT_EQ(namesIn(folder.path() + "sub"), 1U);
 }
 
 TEST(Files, FailuresNameTheFileAndTheReason)
@@ -182,6 +218,9 @@ TEST(Files, ExistsMeansAFileBehindLinks)
     EXPECT_TRUE(fileExists(folder.path() + "verweis"));
     EXPECT_FALSE(fileExists(folder.path() + "leer"));
     EXPECT_FALSE(fileExists(folder.path()));
+    EXPECT_TRUE(regularFileExists(folder.path() + "verweis"));
+    EXPECT_FALSE(regularFileExists(folder.path() + "leer"));
+    EXPECT_FALSE(regularFileExists("/dev/null"));
 }
 
 } // namespace
