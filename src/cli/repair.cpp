@@ -29,6 +29,7 @@ struct Run {
     const Arguments& arguments;
     std::string outDir; // with its separator; "" without --out-dir
     FileReplacements files;
+    std::size_t reported = 0; // how many decks
 };
 
 /// Repairs the deck in the session and returns what is to be written.
@@ -111,22 +112,27 @@ void checkIsDeck(const Run& run, const std::string& input, std::string_view read
     complain(reason);
 }
 
-/// Returns the report, "" where none is wanted.
-std::string repairOne(Run& run, const std::string& input, bool first)
+void printReport(Run& run, const std::string& report)
+{
+    run.arguments.json ? printBytes(report) : print(report);
+    finishOutput(); // ahead of the deck, so that none is replaced whose report is lost
+    ++run.reported;
+}
+
+void repairOne(Run& run, const std::string& input)
 {
     const Arguments& arguments = run.arguments;
     CoreSession core(arguments.standardOutput);
     const std::string written = repairInto(core, input);
     checkIsDeck(run, input, readDeckOf(core));
-    std::string report
-        = arguments.report ? reportOf(input, core, written, arguments, first) : std::string();
+    if (arguments.report)
+        printReport(run, reportOf(input, core, written, arguments, run.reported == 0));
     if (arguments.keepWork) keepWorkFiles(core, *arguments.keepWork);
     if (arguments.output == "-") {
         printBytes(written);
     } else {
         run.files.replace(outputPath(run, input), written);
     }
-    return report;
 }
 
 void requireDistinctNames(const std::vector<std::string>& inputs)
@@ -161,16 +167,12 @@ ExitStatus runRepair(const Arguments& arguments)
 {
     checkArguments(arguments);
     if (arguments.outDir) makeDirectory(*arguments.outDir);
-    Run run{arguments, arguments.outDir ? NormalisePath(*arguments.outDir) : "", {}};
+    Run run{arguments, arguments.outDir ? NormalisePath(*arguments.outDir) : "", {}, 0};
     ExitStatus status = ExitStatus::Done;
-    std::size_t reported = 0;
     if (arguments.json) printBytes("[");
     for (const std::string& input : arguments.operands) {
         const ExitStatus one = guarded(input, [&] {
-            const std::string report = repairOne(run, input, reported == 0);
-            if (!arguments.report) return ExitStatus::Done;
-            arguments.json ? printBytes(report) : print(report);
-            ++reported;
+            repairOne(run, input);
             return ExitStatus::Done;
         });
         status = std::max(status, one);

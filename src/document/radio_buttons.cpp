@@ -63,23 +63,26 @@ void appendButton(std::string& result, int number, std::string_view target)
     result += '>';
 }
 
-/// The text without the inputs that stand between an option and an end; nullopt where one of them
-/// does not stand right behind a '>', so that cutting it might join the text around it to a tag.
-std::optional<std::string> withoutPlainInputs(std::string_view text)
+/// The text without the inputs that stand between an option, the first of which is at `option`, and
+/// an end; nullopt where one of them does not stand right behind a '>', so that cutting it might
+/// join the text around it to a tag.
+std::optional<std::string> withoutPlainInputs(std::string_view text, std::size_t option)
 {
     const auto lastEnd = findLastIgnoringCase(text, kOptionEnd);
     if (lastEnd == npos) return std::string(text);
     Rewriter result(text);
     bool isInside = false;
-    for (auto at = text.find('<'); at < lastEnd; at = text.find('<', at + 1)) {
-        if (standsAt(text, at, kOption)) isInside = true;
-        if (standsAt(text, at, kOptionEnd)) isInside = false;
-        if (!isInside || !standsAt(text, at, kInput)) continue;
-        const auto tagEnd = text.find('>', at);
-        if (tagEnd == npos) break;
-        if (text[at - 1] != '>') return std::nullopt;
-        result.drop(at, tagEnd + 1);
-        at = tagEnd;
+    for (auto at = option; at < lastEnd; at = text.find('<', at + 1)) {
+        if (text[at + 1] == '!') { // lastEnd lies behind
+            if (standsAt(text, at, kOption)) isInside = true;
+            if (standsAt(text, at, kOptionEnd)) isInside = false;
+        } else if (isInside && standsAt(text, at, kInput)) {
+            const auto tagEnd = text.find('>', at);
+            if (tagEnd == npos) break;
+            if (text[at - 1] != '>') return std::nullopt;
+            result.drop(at, tagEnd + 1);
+            at = tagEnd;
+        }
     }
     return result.take();
 }
@@ -133,8 +136,9 @@ void InsertTemporaeryRadioButtons(std::string& text)
 
 void DeleteAllTemporaeryRadioButtons(std::string& text)
 {
-    if (findIgnoringCase(text, kInput) == npos) return;
-    auto plain = withoutPlainInputs(text); // as inserted
+    const auto option = findTag(text, kOption, 0);
+    if (option == npos) return;
+    auto plain = withoutPlainInputs(text, option); // as they are inserted
     text = plain ? std::move(*plain) : withoutInputs(std::move(text));
 }
 

@@ -40,7 +40,7 @@ public:
         for (auto tag = ahead_.rbegin(); tag != ahead_.rend() && tag->place + kTagCodeReach > begin;
              ++tag)
             tag->code = noted(codeAt(tag->place));
-        for (auto at = piece.find('<'); at != piece.npos; at = piece.find('<', at + 1))
+        for (auto at = piece.find('<'); at != std::string_view::npos; at = piece.find('<', at + 1))
             append(begin + at, codeAt(begin + at));
     }
 

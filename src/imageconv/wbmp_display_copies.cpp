@@ -4,13 +4,12 @@
 #include "imageconv/wbmp_display_copies.h"
 
 #include "document/failure.h"
+#include "document/files.h"
 #include "imageconv/bmp_writer.h"
 #include "skins/palette.h"
 
 #include <cstddef>
-#include <filesystem>
 #include <optional>
-#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -27,9 +26,8 @@ template <typename Read>
 auto ifReadable(const std::string& path, const OutputRules& rules, Read read)
     -> std::optional<decltype(read(path, rules))>
 {
-    std::error_code none;
     // A deck may name thousands of missing pictures, and an exception for each is slow.
-    if (!std::filesystem::is_regular_file(path, none)) return std::nullopt;
+    if (!regularFileExists(path)) return std::nullopt;
     try {
         return read(path, rules);
     } catch (const FileFailure&) {

@@ -105,7 +105,16 @@ double timeOf(const Operation& operation, const std::string& text)
 }
 
 // Four times the text takes about four times the time, and sixteen times where a search begins
-// again for each tag. What is let through keeps short times out.
+// again for each tag. What is let through keeps short times out, and a busy machine gets some tries.
+bool growsWithTheText(const Operation& operation, const Shape& shape)
+{
+    for (int tries = 0; tries < 6; ++tries) {
+        const double allowed = 9 * timeOf(operation, shaped(shape, 5000)) + 1.5;
+        if (timeOf(operation, shaped(shape, 20000)) < allowed) return true;
+    }
+    return false;
+}
+
 TEST(HostileTexts, TakeTimeThatGrowsWithThemNotWithTheirSquare)
 {
     auto operations = kOperations;
@@ -113,11 +122,9 @@ TEST(HostileTexts, TakeTimeThatGrowsWithThemNotWithTheirSquare)
     operations.push_back({"DeleteAllTemporaeryRadioButtons", DeleteAllTemporaeryRadioButtons});
     operations.push_back({"imageTags", [](std::string& text) { (void)imageTags(text); }});
     for (const Operation& operation : operations) {
-        for (const Shape& shape : kShapes) {
-            SCOPED_TRACE(std::string(operation.name) + " on " + shaped(shape, 30));
-            const double allowed = 9 * timeOf(operation, shaped(shape, 5000)) + 1.5;
-            EXPECT_LT(timeOf(operation, shaped(shape, 20000)), allowed);
-        }
+        for (const Shape& shape : kShapes)
+            EXPECT_TRUE(growsWithTheText(operation, shape))
+                << operation.name << " on " << shaped(shape, 30);
     }
 }
 

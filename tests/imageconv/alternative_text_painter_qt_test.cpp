@@ -42,7 +42,9 @@ TEST_F(AlternativeText, IsDrawnWholeWithAMargin)
         const auto row = text.pixels.substr(
             std::size_t(y) * std::size_t(text.widthPx), std::size_t(text.widthPx));
         EXPECT_EQ(row.front() + row.back(), 0);
-        if (y == 0 || y + 1 == text.heightPx) EXPECT_EQ(row.find_first_not_of('\0'), row.npos);
+        if (y == 0 || y + 1 == text.heightPx) {
+            EXPECT_EQ(row.find_first_not_of('\0'), row.npos);
+        }
     }
 }
 
