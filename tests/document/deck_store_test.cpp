@@ -76,7 +76,7 @@ TEST(LoadDeck, ReadsTheFileOfThePersonAndClearsUpBehindTheDeckItReplaces)
     LoadDeck(session, {"deck.wml", folder.path() + "decks/", "", ""});
     WriteDeck(session);
     const auto written = readFile(files.directory() + session.deck.front().wmlFile);
-    EXPECT_NE(written.find("<p>ae </p>"), std::string::npos) << written;
+    EXPECT_NE(written.find("<p>ae</p>"), std::string::npos) << written;
     EXPECT_EQ(folder.get("decks/deck.wml"), text);
 }
 
