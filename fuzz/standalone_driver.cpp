@@ -17,6 +17,7 @@
 namespace {
 
 using Clock = std::chrono::steady_clock;
+namespace fs = std::filesystem;
 
 void runOne(const std::string& bytes)
 {
@@ -25,49 +26,32 @@ void runOne(const std::string& bytes)
     (void)LLVMFuzzerTestOneInput(copy.data(), copy.size()); // behind the end are seen
 }
 
-void addFile(std::vector<std::string>& seeds, const std::filesystem::path& path)
+void addSeeds(std::vector<std::string>& seeds, const fs::path& path)
 {
-    std::ifstream file(path, std::ios::binary);
-    seeds.emplace_back(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
-}
-
-void addSeeds(std::vector<std::string>& seeds, const std::filesystem::path& path)
-{
-    if (!std::filesystem::is_directory(path)) {
-        if (std::filesystem::exists(path)) addFile(seeds, path);
-        return;
-    }
-    for (const auto& entry : std::filesystem::recursive_directory_iterator(path)) {
-        if (entry.is_regular_file()) addFile(seeds, entry.path());
+    if (fs::is_directory(path)) {
+        for (const auto& entry : fs::directory_iterator(path))
+            addSeeds(seeds, entry.path());
+    } else if (std::ifstream file(path, std::ios::binary); file) {
+        seeds.emplace_back(std::istreambuf_iterator<char>(file), std::istreambuf_iterator<char>());
     }
 }
 
-std::size_t below(std::mt19937& random, std::size_t end)
+// One of: a new byte, a cut, a part said twice, a part of another seed.
+std::string mutated(std::string text, const std::string& other, std::mt19937& random)
 {
-    return end == 0 ? 0 : random() % end;
-}
-
-// One of: a changed byte, a cut, a part said twice, a part of another seed.
-std::string mutated(std::string text, const std::vector<std::string>& seeds, std::mt19937& random)
-{
-    const std::size_t at = below(random, text.size() + 1);
-    const std::size_t length = below(random, 24);
+    const auto place = [&random](const std::string& in) { return random() % (in.size() + 1); };
+    const std::size_t at = place(text);
+    const std::size_t length = random() % 24;
     switch (random() % 4) {
     case 0:
-        text.insert(at, 1, static_cast<char>(random() % 256));
-        break;
+        return text.insert(at, 1, static_cast<char>(random() % 256));
     case 1:
-        text.erase(at, length);
-        break;
+        return text.erase(at, length);
     case 2:
-        text.insert(at, text.substr(at, length));
-        break;
-    default: {
-        const std::string& other = seeds[below(random, seeds.size())];
-        text.insert(at, other.substr(below(random, other.size() + 1), length));
+        return text.insert(at, text.substr(at, length));
+    default:
+        return text.insert(at, other.substr(place(other), length));
     }
-    }
-    return text;
 }
 
 } // namespace
@@ -77,11 +61,10 @@ int main(int count, char** values)
     int seconds = 1;
     std::vector<std::string> seeds{std::string()};
     for (int i = 1; i < count; ++i) {
-        const std::string word = values[i];
-        if (word == "--seconds" && i + 1 < count) {
+        if (std::string(values[i]) == "--seconds" && i + 1 < count) {
             seconds = std::atoi(values[++i]); // NOLINT(cert-err34-c): 0 runs the seeds alone
         } else {
-            addSeeds(seeds, word);
+            addSeeds(seeds, values[i]);
         }
     }
     for (const std::string& seed : seeds)
@@ -90,12 +73,11 @@ int main(int count, char** values)
     std::size_t runs = seeds.size();
     for (const auto end = Clock::now() + std::chrono::seconds(seconds); Clock::now() < end;
          ++runs) {
-        std::string text = seeds[below(random, seeds.size())];
+        std::string text = seeds[random() % seeds.size()];
         for (std::size_t times = 1 + random() % 8; times > 0; --times)
-            text = mutated(std::move(text), seeds, random);
+            text = mutated(std::move(text), seeds[random() % seeds.size()], random);
         runOne(text);
     }
-    std::printf(
-        "%s: %zu inputs, no failure\n", std::filesystem::path(values[0]).filename().c_str(), runs);
+    std::printf("%s: %zu inputs, no failure\n", fs::path(values[0]).filename().c_str(), runs);
     return 0;
 }

@@ -14,7 +14,7 @@ void TagIndex::read(std::string_view text)
     behind_.clear();
     codes_.reset();
     shortCodes_.reset();
-    for (auto at = text.find('<'); at != text.npos; at = text.find('<', at + 1))
+    for (auto at = text.find('<'); at != std::string_view::npos; at = text.find('<', at + 1))
         append(at, tagCode(text.substr(at, kTagCodeReach)));
 }
 

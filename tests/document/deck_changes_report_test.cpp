@@ -57,19 +57,14 @@ TEST(DeckChangesReport, SaysWhereNothingHasChanged)
     auto report = DeckChanges("<wml/>", "<wml></wml>");
     report.stable = true;
     EXPECT_EQ(textReport(report, "a.wml"),
-        "a.wml\n"
-        "  Nichts verloren, nichts hinzugekommen.\n"
-        "Das Ergebnis ist wohlgeformt.\n"
+        "a.wml\n  Nichts verloren, nichts hinzugekommen.\nDas Ergebnis ist wohlgeformt.\n"
         "Eine weitere Korrektur ändert daran nichts.\n");
-    EXPECT_EQ(jsonReport(report, "a\"b\\\n.wml"),
-        R"({"deck": "a\"b\\\u000a.wml", "wellFormed": true, "fault": null, "stable": true, )"
-        R"("summary": [], "changes": []})");
 }
 
 TEST(DeckChangesReport, IsWholeAsJson)
 {
-    EXPECT_EQ(jsonReport(DeckChanges("<p a='\xFC'>1 <b/></p>", "<p a='ue'><b/>1</p><"), "d"),
-        R"({"deck": "d", "wellFormed": false, "fault": {"reason": "Ein „<“ beginnt kein Tag", )"
+    EXPECT_EQ(jsonReport(DeckChanges("<p a='\xFC'>1 <b/></p>", "<p a='ue'><b/>1</p><"), "d\"\\\n"),
+        R"({"deck": "d\"\\\u000a", "wellFormed": false, "fault": {"reason": "Ein „<“ beginnt kein Tag", )"
         R"("line": 1, "column": 20}, "stable": null, "summary": [
   {"subject": "attribute", "name": "p a", "lost": 0, "added": 0, "changed": 1, "moved": 0},
   {"subject": "words", "name": "", "lost": 0, "added": 1, "changed": 0, "moved": 1}], "changes": [

@@ -41,23 +41,14 @@ TEST(LoadDeck, MakesADesignWorkFileForEachCard)
     EXPECT_EQ(deck.design(1), "<!--card id=\"zwei\"-->\r\n\r\n" + kHead + "<p>2</p>\r\n" + kTail);
     const auto& areas = deck.session.deck;
     ASSERT_EQ(areas.size(), 3U);
-    for (std::size_t area = 0; area < 2; ++area) {
-        EXPECT_TRUE(areas[area].inUse);
-        EXPECT_EQ(areas[area].deckDir + areas[area].deckFile, "/nowhere/deck.wml");
-        EXPECT_EQ(areas[area].wmlFile, "given.wml");
-        EXPECT_TRUE(deck.files.exists(areas[area].spareDesignFile));
-    }
-    EXPECT_FALSE(areas[2].inUse);
-}
-
-TEST(LoadDeck, AnyTextGivesAnArea)
-{
+    EXPECT_TRUE(areas[0].inUse && areas[1].inUse && !areas[2].inUse);
+    EXPECT_EQ(
+        areas[1].deckDir + areas[1].deckFile + areas[1].wmlFile, "/nowhere/deck.wmlgiven.wml");
+    EXPECT_TRUE(deck.files.exists(areas[1].spareDesignFile));
     for (const std::string text : {"", "<", "<card", "</card <card", "\xFF\x00\x01>", "nur Text"}) {
-        SCOPED_TRACE(text);
-        SmallDeck deck;
-        deck.load(text);
-        EXPECT_GE(areaCount(deck.session.deck), 1U);
-        EXPECT_EQ(GetCardAttributes(deck.session, 0).id == "Korrigiert", text != "<card");
+        deck.load(text); // any text gives an area
+        EXPECT_GE(areaCount(areas), 1U) << text;
+        EXPECT_EQ(GetCardAttributes(deck.session, 0).id == "Korrigiert", text != "<card") << text;
         EXPECT_FALSE(deck.written().empty());
     }
 }
@@ -65,12 +56,13 @@ TEST(LoadDeck, AnyTextGivesAnArea)
 TEST(LoadDeck, ReadsTheFileOfThePersonAndClearsUpBehindTheDeckItReplaces)
 {
     const test::ScratchFolder folder;
-    folder.put(
-        "deck.wml", "\xEF\xBB\xBF<wml><card id=\"a\"><p>\xC3\xA4\xE2\x82\xAC</p></card></wml>");
+    const std::string text
+        = "\xEF\xBB\xBF<wml><card id=\"a\"><p>\xC3\xA4\xE2\x82\xAC</p></card></wml>";
+    folder.put("decks/deck.wml", text);
     SmallDeck deck;
     const std::string opened = "<wml><card id=\"a\"><p>\xE4\x80</p></card></wml>"; // Windows-1252
     for (int times = 0; times < 2; ++times) {
-        LoadDeck(deck.session, {"deck.wml", folder.path(), "", ""}, 1);
+        LoadDeck(deck.session, {"deck.wml", folder.path() + "decks/", "", ""}, 1);
         const auto& first = deck.session.deck.front();
         EXPECT_EQ(deck.files.read(first.wmlFile), opened);
         EXPECT_EQ(deck.files.read(first.pristineFile), opened);
@@ -78,27 +70,34 @@ TEST(LoadDeck, ReadsTheFileOfThePersonAndClearsUpBehindTheDeckItReplaces)
         EXPECT_EQ(deck.files.all().size(), 4U); // these two, the design and its spare one
         EXPECT_TRUE(deck.files.exists(first.designFile));
     }
+    DiskWorkFiles files(folder.path());
+    DocumentSession session{files, deck.copies, deck.core.prompter, deck.core.settings,
+        deck.core.words, OutputRules(), {}};
+    LoadDeck(session, {"deck.wml", folder.path() + "decks/", "", ""});
+    WriteDeck(session);
+    const auto written = readFile(files.directory() + session.deck.front().wmlFile);
+    EXPECT_NE(written.find("<p>ae</p>"), std::string::npos) << written;
+    EXPECT_EQ(folder.get("decks/deck.wml"), text);
 }
 
 TEST(LoadDeck, AFailureLeavesTheOpenDeck)
 {
     const test::ScratchFolder folder;
-    folder.put("lang.wml", std::string(32768, 'x'));
+    folder.put("ordner/lang.wml", std::string(32768, 'x'));
     folder.put("zitat.wml",
         R"(<card id="a"><p><img src="a.wbmp"/></p></card><card id="b"><img src="b></card>)");
     SmallDeck deck;
     deck.load(R"(<card id="a"><p>alt<img src="b.wbmp"/></p></card>)");
     const auto before = deck.files.all();
-    for (const std::string name : {"lang.wml", "zitat.wml", "fehlt.wml", ""}) {
-        SCOPED_TRACE(name);
-        EXPECT_THROW(LoadDeck(deck.session, {name, folder.path(), "", ""}), Failure);
+    for (const char* name : {"ordner/lang.wml", "zitat.wml", "fehlt.wml", "ordner", ""}) {
+        EXPECT_THROW(LoadDeck(deck.session, {name, folder.path(), "", ""}), Failure) << name;
         EXPECT_EQ(deck.files.all(), before);
         ASSERT_EQ(areaCount(deck.session.deck), 1U);
         EXPECT_EQ(deck.session.deck.front().deckFile, "deck.wml");
     }
 }
 
-TEST(AddArea, LinksNewAreasForward)
+TEST(AddArea, LinksNewAreasForwardAndWriteDeckJoinsThem)
 {
     SmallDeck deck;
     auto& session = deck.session;
@@ -115,13 +114,23 @@ TEST(AddArea, LinksNewAreasForward)
     for (std::size_t area = 0; area < 4; ++area) {
         EXPECT_EQ(GetJump(session, area).target, targets[area]);
         EXPECT_EQ(GetCardAttributes(session, area).id, "Bereich" + std::to_string(area + 1));
-        EXPECT_EQ(session.deck[area].deckDir, "/decks/");
-        EXPECT_EQ(session.deck[area].wmlFile, "Wml0.wml");
+        EXPECT_EQ(session.deck[area].deckDir + session.deck[area].wmlFile, "/decks/Wml0.wml");
     }
-    EXPECT_EQ(GetJump(session, 0).name, "Sprung");
     AddArea(session, true, "neuer.wml", "/decks"); // what was open before is gone
-    EXPECT_EQ(areaCount(session.deck), 1U);
     EXPECT_EQ(deck.files.all().size(), 1U);
+    AddArea(session, false);
+    deck.files.write(
+        session.deck[0].designFile, "?<!--card id=\"a\"-->\r\n?<HTML>\r\n<p>e?ins\r\n?</p></BODY>");
+    deck.files.write(session.deck[1].designFile, "<!--card id=\"b\"-->\n<p>zwei\n?</p>");
+    EXPECT_EQ(deck.written(),
+        kDeckHead
+            + "\r\n<wml>\r\n<card id=\"a\">\r\n<p>e?ins\r\n</p></card>\r\n<card id=\"b\">\r\n"
+              "<p>zwei?\r\n</p></card>\r\n</wml>\r\n");
+    for (int i = 1; i < 40; ++i)
+        appendHistory(session, i % 2 == 0 ? 0 : -1, std::to_string(i));
+    const auto& history = session.deck.front().history;
+    ASSERT_EQ(history.size(), 16U);
+    EXPECT_EQ(history.front() + history.back(), "2439");
 }
 
 TEST(AddArea, AFailureLeavesTheDeck)
@@ -135,56 +144,21 @@ TEST(AddArea, AFailureLeavesTheDeck)
     EXPECT_NO_THROW(WriteDeck(deck.session));
 }
 
-TEST(WriteDeck, JoinsTheAreas)
-{
-    SmallDeck deck;
-    AddArea(deck.session, true, "neu.wml", "/decks/");
-    AddArea(deck.session, false);
-    deck.files.write(deck.session.deck[0].designFile,
-        "?<!--card id=\"a\"-->\r\n?<HTML>\r\n<p>e?ins\r\n?</p></BODY>");
-    deck.files.write(deck.session.deck[1].designFile, "<!--card id=\"b\"-->\n<p>zwei\n?</p>");
-    EXPECT_EQ(deck.written(),
-        kDeckHead
-            + "\r\n<wml>\r\n<card id=\"a\">\r\n<p>e?ins\r\n</p></card>\r\n<card id=\"b\">\r\n"
-              "<p>zwei?\r\n</p></card>\r\n</wml>\r\n");
-}
-
-TEST(WriteDeck, GivesBackTheLayoutOfTheDeckAsOpened)
+TEST(WriteDeck, GivesBackTheLayoutAsOpenedAndNothingWhereItFails)
 {
     SmallDeck deck;
     deck.load(kDeckHead + "\n\n<wml>\n  <card id=\"a\">\n    <p>eins</p>\n\n  </card>\n</wml>");
     const auto once = deck.written();
     EXPECT_NE(once.find("</p>\r\n\r\n  </card>"), std::string::npos) << once;
-    SmallDeck again;
-    again.load(once);
-    EXPECT_EQ(again.written(), once);
-}
-
-TEST(WriteDeck, AFailureWritesNothing)
-{
-    SmallDeck deck;
-    deck.load("<card id=\"a\"><p>eins</p></card>");
-    const auto before = deck.written();
+    deck.load(once);
+    EXPECT_EQ(deck.written(), once);
     const std::string unquoted = R"(<!--do type="x" label="y--><!--go--><!--/do-->)";
     for (const auto& text : {unquoted, std::string(32768, 'x')}) {
         deck.files.write(deck.session.deck.front().designFile, text);
         EXPECT_THROW(WriteDeck(deck.session), RuntimeFailure);
-        EXPECT_EQ(deck.files.read("given.wml"), before);
+        EXPECT_EQ(deck.files.read("given.wml"), once);
     }
-    SmallDeck empty;
-    EXPECT_THROW(WriteDeck(empty.session), InvalidArgument);
-}
-
-TEST(History, KeepsTheLastSixteen)
-{
-    SmallDeck deck;
-    AddArea(deck.session, true, "neu.wml", "/decks/");
-    for (int i = 1; i < 40; ++i)
-        appendHistory(deck.session, i % 2 == 0 ? 0 : -1, std::to_string(i));
-    const auto& history = deck.session.deck.front().history;
-    ASSERT_EQ(history.size(), 16U);
-    EXPECT_EQ(history.front() + history.back(), "2439");
-    EXPECT_THROW(appendHistory(deck.session, 1, ""), InvalidArgument);
+    EXPECT_THROW(WriteDeck(SmallDeck().session), InvalidArgument);
 }
 
 /// A surface that is busy a number of times and logs what it is asked for.
@@ -192,11 +166,7 @@ class LoggingSurface final : public EditingSurface {
 public:
     [[nodiscard]] bool Busy() const override { return busyTimes > 0; }
     void SaveDocument(const std::string& path) override { log += "save " + path + ";"; }
-    void yieldToEvents() override
-    {
-        log += "yield;";
-        --busyTimes;
-    }
+    void yieldToEvents() override { log += "yield " + std::to_string(busyTimes--) + ";"; }
     int busyTimes = 2;
     std::string log;
 };
@@ -213,33 +183,13 @@ TEST(DesignText, IsReadAsOneLineFromItsFirstTagOnAndWaitsForTheSurface)
     EXPECT_THROW(WriteDesignText(deck.session, 0, std::string(32768, 'x')), Overflow);
     EXPECT_THROW(WriteDesignText(deck.session, 1, "x"), InvalidArgument); // the spare record
     EXPECT_EQ(deck.design(0), "");
-
     SaveSurface(deck.session, 0); // no window, nothing to save
     LoggingSurface surface;
     deck.session.surface = &surface;
     SaveSurface(deck.session, 0);
-    EXPECT_EQ(surface.log, "yield;yield;save Wml0.htm;");
     surface.busyTimes = 1;
     EXPECT_EQ(ReadDesignText(deck.session, 0), "");
-    EXPECT_EQ(surface.log, "yield;yield;save Wml0.htm;yield;");
-}
-
-TEST(DeckStore, WorksOnADisk)
-{
-    const test::ScratchFolder folder;
-    const std::string text = "<wml><card id=\"a\"><p>eins</p></card></wml>";
-    folder.put("decks/deck.wml", text);
-    SmallDeck other; // for all but the work files
-    DiskWorkFiles files(folder.path());
-    DocumentSession session{files, other.copies, other.core.prompter, other.core.settings,
-        other.core.words, OutputRules(), {}};
-    LoadDeck(session, {"deck.wml", folder.path() + "decks/", "", ""});
-    WriteDeck(session);
-    const auto& first = session.deck.front();
-    EXPECT_EQ(first.wmlDir, files.directory());
-    EXPECT_NE(readFile(first.wmlDir + first.wmlFile).find("<p>eins</p>"), std::string::npos);
-    EXPECT_THROW(LoadDeck(session, {"decks", folder.path(), "", ""}), FileFailure);
-    EXPECT_EQ(folder.get("decks/deck.wml"), text);
+    EXPECT_EQ(surface.log, "yield 2;yield 1;save Wml0.htm;yield 1;");
 }
 
 } // namespace

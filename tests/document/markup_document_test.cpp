@@ -28,20 +28,15 @@ std::string tokensOf(std::string_view text)
 
 TEST(MarkupDocument, ReadsTokensOfWholeAndBrokenMarkup)
 {
-    const char* const rows[][2] = {
-        {R"(<?xml version='1.0'?><!DOCTYPE a [<!ENTITY b "]>">]><a/>)",
-            R"(I(xml version='1.0')!( a [<!ENTITY b "]>">])X(a))"},
+    const char* const rows[][2] = {{R"(<?xml version='1.0'?><!DOCTYPE a [<!ENTITY b "]>">]><a/>)",
+                                       R"(I(xml version='1.0')!( a [<!ENTITY b "]>">])X(a))"},
         {R"(<a b = "1>2" c='"'>x</a >)", R"(S(a b=1>2 c=")T(x)E(a))"},
-        {"<!-- a > b --><![CDATA[<a>]]>", "C( a > b )D(<a>)"},
-        {"1 < 2 <b>", "T(1 < 2 )S(b)"},
+        {"<!-- a > b --><![CDATA[<a>]]>", "C( a > b )D(<a>)"}, {"1 < 2 <b>", "T(1 < 2 )S(b)"},
         {"<a href=#x/><a href=#y z>", "X(a href=#x)S(a href=#y z=)"},
         {R"(<a href="#x>b</a> <i c='d'>)", "S(a href=#x)T(b)E(a)T( )S(i c=d)"},
-        {R"(<a href="a<b">)", "S(a href=a<b)"},
-        {"<a <a <b>", "S(a)S(a)S(b)"},
+        {R"(<a href="a<b">)", "S(a href=a<b)"}, {"<a <a <b>", "S(a)S(a)S(b)"},
         {"x</>y</ b><", "T(x)E()T(y)E( b=)T(<)"},
-        {"<!-- a <b>c<![CDATA[ d <?e", "C( a <b)T(c)D( d <?e)"},
-        {"<a b=\"", "S(a b=)"},
-    };
+        {"<!-- a <b>c<![CDATA[ d <?e", "C( a <b)T(c)D( d <?e)"}, {"<a b=\"", "S(a b=)"}};
     for (const auto& row : rows)
         EXPECT_EQ(tokensOf(row[0]), row[1]);
 }
@@ -79,47 +74,32 @@ TEST(TextPlaces, CountLinesOfAllEndings)
 
 TEST(WellFormedness, FirstFaultAndItsPlace)
 {
+    using enum MarkupFault;
     const struct {
         MarkupFault fault;
         std::size_t offset;
         const char* name;
         const char* text;
-    } rows[] = {
-        {MarkupFault::StrayLess, 5, "", "<a>1 < 2</a>"},
-        {MarkupFault::UnendedTag, 3, "b", "<a><b <i/></a>"},
-        {MarkupFault::BadTag, 3, "", "<a></>"},
-        {MarkupFault::BadTag, 0, "a", "<a =''></a>"},
-        {MarkupFault::MissingBlank, 8, "a", "<a b='1'c='2'/>"},
-        {MarkupFault::MissingValue, 3, "b", "<a b/>"},
-        {MarkupFault::UnquotedValue, 3, "b", "<a b=1/>"},
-        {MarkupFault::UnendedValue, 3, "b", "<a b=\"1><c/></a>"},
-        {MarkupFault::LessInValue, 3, "b", "<a b='<'/>"},
-        {MarkupFault::DoubleAttribute, 0, "c", "<a c='' b='' c=''/>"},
-        {MarkupFault::UnendedComment, 3, "", "<a><!-- > </a>"},
-        {MarkupFault::DashesInComment, 3, "", "<a><!-- a -- b --></a>"},
-        {MarkupFault::DashesInComment, 3, "", "<a><!-- a ---></a>"},
-        {MarkupFault::UnendedSection, 3, "", "<a><![CDATA[x]></a>"},
-        {MarkupFault::UnendedInstruction, 3, "", "<a><? x?></a>"},
-        {MarkupFault::BadDeclaration, 1, "", " <?xml version='1.0'?><a/>"},
-        {MarkupFault::BadDoctype, 4, "", "<a/><!DOCTYPE a>"},
-        {MarkupFault::BadDoctype, 0, "", "<!DOCTYPE a PUBLIC 'x'><a/>"},
-        {MarkupFault::BadDoctype, 0, "", "<!DOCTYPE a SYSTEM 'x' 'y'><a/>"},
-        {MarkupFault::BadDoctype, 0, "", "<!doctype a><a/>"},
-        {MarkupFault::BadCharacter, 3, "", "<a>\x02</a>"},
-        {MarkupFault::CharacterBeyondEncoding, 3, "", "<a>\xE4</a>"},
-        {MarkupFault::BadReference, 3, "", "<a>&b c</a>"},
-        {MarkupFault::BadReference, 6, "", "<a b='&'/>"},
-        {MarkupFault::UnknownEntity, 3, "nbsp", "<a>&nbsp;</a>"},
-        {MarkupFault::SectionEndInText, 4, "", "<a>x]]></a>"},
-        {MarkupFault::TextOutsideRoot, 5, "", "<a/> x"},
-        {MarkupFault::SecondRoot, 4, "b", "<a/><b/>"},
-        {MarkupFault::NoRoot, 10, "", "<!-- a -->"},
-        {MarkupFault::NoRoot, 0, "", ""},
-        {MarkupFault::WrongEnd, 7, "b", "<b><i>x</b></i>"},
-        {MarkupFault::WrongEnd, 7, "a", "<a></a></a>"},
-        {MarkupFault::WrongEnd, 3, "A", "<a></A>"},
-        {MarkupFault::UnendedElement, 3, "b", "<a><b>"},
-    };
+    } rows[] = {{StrayLess, 5, "", "<a>1 < 2</a>"}, {UnendedTag, 3, "b", "<a><b <i/></a>"},
+        {BadTag, 3, "", "<a></>"}, {BadTag, 0, "a", "<a =''></a>"},
+        {MissingBlank, 8, "a", "<a b='1'c='2'/>"}, {MissingValue, 3, "b", "<a b/>"},
+        {UnquotedValue, 3, "b", "<a b=1/>"}, {UnendedValue, 3, "b", "<a b=\"1><c/></a>"},
+        {LessInValue, 3, "b", "<a b='<'/>"}, {DoubleAttribute, 0, "c", "<a c='' b='' c=''/>"},
+        {UnendedComment, 3, "", "<a><!-- > </a>"},
+        {DashesInComment, 3, "", "<a><!-- a -- b --></a>"},
+        {DashesInComment, 3, "", "<a><!-- a ---></a>"},
+        {UnendedSection, 3, "", "<a><![CDATA[x]></a>"},
+        {UnendedInstruction, 3, "", "<a><? x?></a>"},
+        {BadDeclaration, 1, "", " <?xml version='1.0'?><a/>"},
+        {BadDoctype, 4, "", "<a/><!DOCTYPE a>"}, {BadDoctype, 0, "", "<!DOCTYPE a PUBLIC 'x'><a/>"},
+        {BadDoctype, 0, "", "<!DOCTYPE a SYSTEM 'x' 'y'><a/>"},
+        {BadDoctype, 0, "", "<!doctype a><a/>"}, {BadCharacter, 3, "", "<a>\x02</a>"},
+        {CharacterBeyondEncoding, 3, "", "<a>\xE4</a>"}, {BadReference, 3, "", "<a>&b c</a>"},
+        {BadReference, 6, "", "<a b='&'/>"}, {UnknownEntity, 3, "nbsp", "<a>&nbsp;</a>"},
+        {SectionEndInText, 4, "", "<a>x]]></a>"}, {TextOutsideRoot, 5, "", "<a/> x"},
+        {SecondRoot, 4, "b", "<a/><b/>"}, {NoRoot, 10, "", "<!-- a -->"}, {NoRoot, 0, "", ""},
+        {WrongEnd, 7, "b", "<b><i>x</b></i>"}, {WrongEnd, 7, "a", "<a></a></a>"},
+        {WrongEnd, 3, "A", "<a></A>"}, {UnendedElement, 3, "b", "<a><b>"}};
     for (const auto& row : rows) {
         SCOPED_TRACE(row.text);
         const auto fault = firstFault(row.text, readMarkup(row.text));

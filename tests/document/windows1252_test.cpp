@@ -1,6 +1,5 @@
 #include "document/windows1252.h"
 
-#include "document/text_lines.h"
 #include "document/text_search.h"
 #include "support/token_soup.h"
 
@@ -67,34 +66,6 @@ TEST(Windows1252, LowersLettersWithAccents)
         EXPECT_EQ(toCodePoint(lowerCase(character)), lowerOf(toCodePoint(character)));
     EXPECT_TRUE(equalIgnoringCase("\xC4pfel\x8A", "\xE4PFEL\x9A"));
     EXPECT_FALSE(equalIgnoringCase("ab", "abc"));
-}
-
-/// The lines, each with a bar behind it, taken character by character.
-std::string linesByCharacter(std::string_view text)
-{
-    std::string lines;
-    bool isOpen = false;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text[i] == '\n' && i > 0 && text[i - 1] == '\r') continue;
-        isOpen = text[i] != '\r' && text[i] != '\n';
-        lines += isOpen ? text[i] : '|';
-    }
-    return isOpen ? lines + '|' : lines;
-}
-
-TEST(TextLines, EndAtEachKindOfLineEnd)
-{
-    constexpr std::string_view kPieces[] = {"a", "\r", "\n", "?"};
-    test::forEachSequence(kPieces, 7, [](const std::string& text) {
-        std::string lines;
-        LineReader reader(text);
-        while (const auto line = reader.next())
-            lines.append(*line) += '|';
-        ASSERT_EQ(lines, linesByCharacter(text)) << testing::PrintToString(text);
-        std::erase(lines, '|');
-        ASSERT_EQ(joinLines(text), lines);
-    });
-    EXPECT_EQ(withCrLf("a\nb\r\rc"), "a\r\nb\r\n\r\nc\r\n");
 }
 
 // Long enough for whole blocks, with keys on either side of each border between two.

@@ -50,10 +50,7 @@ TEST_F(AlternativeText, IsDrawnWholeWithAMargin)
 
 TEST_F(AlternativeText, KnowsTheLettersOfWindows1252)
 {
-    const auto letter = painter.paint("a");
-    const auto umlaut = painter.paint("\xE4");
-    EXPECT_EQ(umlaut.widthPx, letter.widthPx);
-    EXPECT_GT(pixelsOf(umlaut, 100), pixelsOf(letter, 100)) << "the dots";
+    EXPECT_GT(pixelsOf(painter.paint("\xE4"), 100), pixelsOf(painter.paint("a"), 100)) << "dots";
     EXPECT_EQ(pixelsOf(painter.paint(" "), 1), 0U);
 }
 

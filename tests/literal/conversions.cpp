@@ -34,16 +34,14 @@ std::size_t closingQuote(const std::string& text, std::size_t begin)
 
 std::string wrap(std::string tag)
 {
-    tag.replace(0, 1, "<!--");
-    return tag.insert(tag.find('>'), "--");
+    return tag.replace(0, 1, "<!--").insert(tag.find('>'), "--");
 }
 
-std::string unwrap(const std::string& tag)
+std::string unwrap(std::string tag)
 {
-    std::string result = tag;
-    result.erase(1, 3); // the first character of a tag is "<"
-    if (const auto end = result.find("-->"); end != npos) result.erase(end, 2);
-    return result;
+    tag.erase(1, 3); // the first character of a tag is "<"
+    if (const auto end = tag.find("-->"); end != npos) tag.erase(end, 2);
+    return tag;
 }
 
 /// The lower tag with the value of `name`, which is 'label=' or 'title=', as it is written.
@@ -55,9 +53,10 @@ std::string lowerButFor(const Source& source, const std::string& name)
         + source.lower.substr(end);
 }
 
+/// Puts the attribute in front of the tag's end.
 void append(std::string& tag, const std::string& attribute)
 {
-    if (!tag.empty()) tag.replace(tag.size() - 1, 1, attribute + ">");
+    tag.insert(tag.size() - 1, attribute);
 }
 
 /// Reads `name` in `tag`: quoted, else up to the next blank or '>'. Whether it is there at all.
@@ -91,33 +90,19 @@ std::string paragraph(const Source& source)
     return "<p>";
 }
 
-std::string wrapSource(const Source& source)
+template <auto change> std::string ofSource(const Source& source)
 {
-    return wrap(source.tag);
-}
-std::string wrapLower(const Source& source)
-{
-    return wrap(source.lower);
-}
-std::string unwrapSource(const Source& source)
-{
-    return unwrap(source.tag);
-}
-std::string unwrapLower(const Source& source)
-{
-    return unwrap(source.lower);
+    return change(source.tag);
 }
 
-std::string doToDesign(const Source& source)
+template <auto change> std::string ofLower(const Source& source)
 {
-    if (source.tag.find("label=") == npos) return "";
-    return wrap(lowerButFor(source, "label="));
+    return change(source.lower);
 }
 
-std::string doToWml(const Source& source)
+template <auto change> std::string ofDo(const Source& source)
 {
-    if (source.tag.find("label=") == npos) return "";
-    return unwrap(lowerButFor(source, "label="));
+    return source.tag.find("label=") == npos ? "" : change(lowerButFor(source, "label="));
 }
 
 std::string tableToDesign(const Source& source)
@@ -157,11 +142,11 @@ std::string linkToWml(const Source& source)
 
 std::string imageToDesign(const Source& source)
 {
-    for (const std::string name : {"src=\"", "alt=\""}) {
-        const std::size_t at = source.lower.find(name);
-        if (at != npos) (void)closingQuote(source.lower, at + 5);
-        if (at == npos && name[0] == 's') return "";
-    }
+    const std::size_t at = source.lower.find("src=\"");
+    if (at == npos) return "";
+    (void)closingQuote(source.lower, at + 5);
+    const std::size_t text = source.lower.find("alt=\"");
+    if (text != npos) (void)closingQuote(source.lower, text + 5);
     return "";
 }
 
@@ -170,21 +155,21 @@ std::string imageToWml(const Source& source)
     const std::size_t at = source.lower.find("src=\"");
     if (at == npos) return "";
     (void)closingQuote(source.lower, at + 5);
-    std::string result;
-    copyAttribute(result, source.lower, "vspace");
-    copyAttribute(result, source.lower, "hspace");
-    return result + "</img>";
+    std::string unused; // without a picture the attributes are read for nothing
+    for (const std::string name : {"vspace", "hspace"})
+        (void)readAttribute(source.lower, name, unused);
+    return "</img>";
 }
 
 constexpr auto kToDesign = std::to_array<Row>({{"<p", "", paragraph}, {"</p>", "</p>"},
     {"<b>", "<b>"}, {"</b>", "</b>"}, {"<big", "<big>"}, {"</big", "</big>"}, {"<small", "<small>"},
     {"</small", "</small>"}, {"<strong", "<strong>"}, {"</strong", "</strong>"}, {"<em", "<em>"},
     {"</em", "</em>"}, {"<i>", "<i>"}, {"</i>", "</i>"}, {"<u>", "<u>"}, {"</u>", "</u>"},
-    {"<br", "<br/>"}, {"</br>", " "}, {"<table", "", tableToDesign}, {"<do type", "", doToDesign},
+    {"<br", "<br/>"}, {"</br>", " "}, {"<table", "", tableToDesign}, {"<do type", "", ofDo<wrap>},
     {"</table>", "</table>"}, {"<tr>", "<tr>"}, {"</tr>", "</tr>"}, {"<td>", "<td>"},
-    {"</td>", "</td>"}, {"</do", "<!--/do-->"}, {"<go", "", wrapSource}, {"</go", "<!--/go-->"},
+    {"</td>", "</td>"}, {"</do", "<!--/do-->"}, {"<go", "", ofSource<wrap>}, {"</go", "<!--/go-->"},
     {"<a", "", linkToDesign}, {"</a>", "</a>"}, {"<img", "", imageToDesign}, {"</img>", " "},
-    {"<option", "", wrapSource}, {"</option", "", wrapLower}, {"<select", "<!--select-->"},
+    {"<option", "", ofSource<wrap>}, {"</option", "", ofLower<wrap>}, {"<select", "<!--select-->"},
     {"</select", "<!--/select-->"}, {"<wml>", " "}, {"</wml>", " "}});
 
 constexpr auto kToWml = std::to_array<Row>({{"<p", "", paragraph}, {"</p>", "</p>"}, {"<b>", "<b>"},
@@ -193,11 +178,11 @@ constexpr auto kToWml = std::to_array<Row>({{"<p", "", paragraph}, {"</p>", "</p
     {"</em", "</i>"}, {"<i>", "<i>"}, {"</i>", "</i>"}, {"<u>", "<u>"}, {"</u>", "</u>"},
     {"<br", "<br/>"}, {"</br>", " "}, {"<table", "", tableToWml}, {"</table>", "</table>"},
     {"<tr>", "<tr>"}, {"</tr>", "</tr>"}, {"<td>", "<td>"}, {"</td>", "</td>"},
-    {"<!--do type", "", doToWml}, {"<!--/do", "</do>"}, {"<!--go", "", unwrapSource},
+    {"<!--do type", "", ofDo<unwrap>}, {"<!--/do", "</do>"}, {"<!--go", "", ofSource<unwrap>},
     {"<!--/go", "</go>"}, {"<a", "", linkToWml}, {"</a", "</a>"}, {"<img", "", imageToWml},
-    {"</img>", " "}, {"<!--option", "", unwrapSource}, {"<!--/option", "", unwrapLower},
+    {"</img>", " "}, {"<!--option", "", ofSource<unwrap>}, {"<!--/option", "", ofLower<unwrap>},
     {"<!--select", "<select>"}, {"<!--/select", "</select>"}, {"<html>", " "}, {"</html>", " "},
-    {"<!--card", "", unwrapSource}, {"<!--/card", "", unwrapLower}});
+    {"<!--card", "", ofSource<unwrap>}, {"<!--/card", "", ofLower<unwrap>}});
 
 /// The replacement by the first row that matches; `otherwise` where none does.
 template <class Otherwise>

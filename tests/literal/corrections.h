@@ -24,5 +24,7 @@ void RepairFormatNesting(std::string& text);
 [[nodiscard]] std::string TakeDoBlock(std::string& text);
 void BreakWmlLines(std::string& text);
 void RestoreWhitespace(std::string& text, std::string_view pristine);
+void InsertTemporaeryRadioButtons(std::string& text);
+void DeleteAllTemporaeryRadioButtons(std::string& text);
 
 } // namespace quillmere::literal

