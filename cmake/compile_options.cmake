@@ -8,6 +8,10 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     target_compile_options(quillmere_options INTERFACE -Wno-restrict)
 endif()
 if(QUILLMERE_SANITIZE)
+    if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+        # With sanitizers g++ 12 takes the library's own std::function for uninitialized.
+        target_compile_options(quillmere_options INTERFACE -Wno-maybe-uninitialized)
+    endif()
     target_compile_options(quillmere_options INTERFACE
         -fsanitize=${QUILLMERE_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
     target_link_options(quillmere_options INTERFACE -fsanitize=${QUILLMERE_SANITIZE})
