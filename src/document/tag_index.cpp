@@ -43,7 +43,7 @@ void TagIndex::read(std::string_view text)
     ahead_.clear(text.size() / kUsualDistance);
     behind_.clear(0);
     seen_.reset();
-    for (auto at = text.find('<'); at != text.npos; at = text.find('<', at + 1))
+    for (auto at = text.find('<'); at != std::string_view::npos; at = text.find('<', at + 1))
         append(at, tagCode(text.substr(at, kTagCodeReach)));
 }
 

@@ -68,7 +68,7 @@ public:
         size_ += piece.size();
         for (auto i = ahead_.size(); i-- > 0 && ahead_[i].distance + kTagCodeReach > begin;)
             ahead_[i].code = noted(codeAt(ahead_[i].distance));
-        for (auto at = piece.find('<'); at != piece.npos; at = piece.find('<', at + 1))
+        for (auto at = piece.find('<'); at != std::string_view::npos; at = piece.find('<', at + 1))
             append(begin + at, codeAt(begin + at));
     }
 

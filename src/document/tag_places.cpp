@@ -11,6 +11,7 @@
 namespace quillmere {
 namespace {
 
+constexpr std::size_t kUsualTags = 32; // of the keys in one text, at most
 constexpr std::size_t kInitials = 0x200;
 
 /// The first letter of the tag that `tag` begins with, with a bit of its own for an end's.
@@ -41,6 +42,7 @@ std::vector<FoundTag> findTags(std::string_view text, std::span<const std::strin
     for (const std::string_view key : keys)
         initials[initial(key)] = true;
     std::vector<FoundTag> found;
+    found.reserve(kUsualTags);
     for (auto at = text.find('<'); at != npos; at = text.find('<', at + 1)) {
         const auto itsInitial = initial(text.substr(at, 3));
         if (!initials[itsInitial]) continue;
@@ -54,8 +56,14 @@ std::vector<FoundTag> findTags(std::string_view text, std::span<const std::strin
 
 std::vector<Places> tagPlaces(std::string_view text, std::span<const std::string_view> keys)
 {
+    const auto found = findTags(text, keys);
+    std::vector<std::size_t> counts(keys.size());
+    for (const FoundTag& tag : found)
+        ++counts[tag.key];
     std::vector<Places> places(keys.size());
-    for (const FoundTag& tag : findTags(text, keys))
+    for (std::size_t i = 0; i < keys.size(); ++i)
+        places[i].reserve(counts[i]);
+    for (const FoundTag& tag : found)
         places[tag.key].push_back(tag.offset);
     return places;
 }
