@@ -24,10 +24,23 @@ void thinOut(std::string& text, char bracket, char opposite)
     if (rewriter.position() > 0) text = rewriter.take();
 }
 
+/// Whether '<' and '>' take turns, as nearly always.
+bool areInPairs(std::string_view text)
+{
+    auto end = text.find('>');
+    for (auto at = text.find('<'); at != npos; end = text.find('>', end + 1)) {
+        if (end == npos || end < at) return false;
+        at = text.find('<', at + 1);
+        if (at < end) return false;
+    }
+    return end == npos;
+}
+
 } // namespace
 
 void thinOutBrackets(EditedText& text)
 {
+    if (areInPairs(text.whole())) return;
     text.rework([](std::string& whole) {
         thinOut(whole, '<', '>');
         thinOut(whole, '>', '<');

@@ -29,27 +29,25 @@ public:
 
     [[nodiscard]] TextEdits edits()
     {
-        const auto lastClose = text_.findLast(close_);
         // Behind the last end no element crosses a paragraph.
-        for (std::size_t at = 0; lastClose != npos; ++at) {
-            const auto open = text_.find(open_, at);
+        const auto lastClose = text_.findLast(close_);
+        std::size_t at = 0;
+        while (lastClose != npos && (at = nextBegin(at)) < lastClose) {
             const auto close = text_.find(close_, at);
-            const auto paragraphEnd = text_.find(kParagraphEnd, at);
-            at = std::min({open, close, paragraphEnd});
-            if (at >= lastClose) break;
-            goTo(at);
-            if (at != open && at != close && isOpen_) splitAt(at);
-            // What was begun has its end here, or no paragraph to go on in.
-            isOpen_ = at == open;
+            at = text_.find(kParagraphEnd, at);
+            if (at < close) splitAt(at);
+            at = std::min(at, close) + 1; // it has its end here, or no paragraph to go on in
         }
         return std::move(edits_);
     }
 
 private:
-    void goTo(std::size_t offset)
+    std::size_t nextBegin(std::size_t from)
     {
-        for (; seen_ < reopened_.size() && reopened_[seen_] <= offset; ++seen_)
-            isOpen_ = true;
+        while (seen_ < reopened_.size() && reopened_[seen_] < from)
+            ++seen_;
+        const auto open = text_.find(open_, from);
+        return seen_ < reopened_.size() ? std::min(open, reopened_[seen_]) : open;
     }
 
     void splitAt(std::size_t paragraphEnd)
@@ -68,7 +66,6 @@ private:
     TextEdits edits_;
     std::vector<std::size_t> reopened_; // where the format begins again, in rising order
     std::size_t seen_ = 0; // how many of reopened_ lie ahead
-    bool isOpen_ = false; // a format has begun in this paragraph
 };
 
 /// Finds what is neither tag nor blank, from places behind a tag that do not go back.

@@ -16,6 +16,7 @@ namespace {
 
 constexpr std::size_t kSmallestGap = 256;
 constexpr std::size_t kBackwardStep = 512; // read forward, which is faster
+constexpr std::size_t kFewTags = 128; // are read again sooner than remembered
 
 } // namespace
 
@@ -45,6 +46,7 @@ std::size_t EditedText::find(const SearchKey& key, std::size_t from, std::size_t
 {
     if (from > size() || from >= limit) return npos;
     if (key.isTag && !tags_.mayHold(key.pattern)) return npos;
+    if (key.isTag && tags_.count() <= kFewTags) return findTag(key, from, limit);
     Search& known = remembered(key);
     if (from < known.from) {
         const auto nearEnd = std::min(limit, known.from);
@@ -65,10 +67,11 @@ std::size_t EditedText::find(const SearchKey& key, std::size_t from, std::size_t
     return known.found ? known.to : npos;
 }
 
-std::size_t EditedText::findLast(const SearchKey& key, std::size_t before) const
+std::size_t EditedText::findLast(const SearchKey& key, std::size_t before, std::size_t from) const
 {
-    for (auto end = std::min(before, size()); end > 0;) {
-        const auto begin = end - std::min(end, kBackwardStep);
+    if (key.isTag) return findLastTag(key, from, before);
+    for (auto end = std::min(before, size()); end > from;) {
+        const auto begin = end - std::min(end - from, kBackwardStep);
         auto last = npos;
         for (auto at = findFrom(key, begin, end); at != npos; at = findFrom(key, at + 1, end))
             last = at;
@@ -156,8 +159,18 @@ std::size_t EditedText::findFrom(const SearchKey& key, std::size_t begin, std::s
 std::size_t EditedText::findTag(const SearchKey& key, std::size_t begin, std::size_t limit) const
 {
     auto at = tags_.find(key.pattern, begin, limit);
-    while (at != npos && !standsHere(key, at))
+    while (at != npos && !key.pattern.isWhole && !standsHere(key, at))
         at = tags_.find(key.pattern, at + 1, limit);
+    return at;
+}
+
+std::size_t EditedText::findLastTag(
+    const SearchKey& key, std::size_t from, std::size_t before) const
+{
+    if (!tags_.mayHold(key.pattern)) return npos;
+    auto at = tags_.findLast(key.pattern, from, before);
+    while (at != npos && !key.pattern.isWhole && !standsHere(key, at))
+        at = tags_.findLast(key.pattern, from, at);
     return at;
 }
 
@@ -183,11 +196,11 @@ std::size_t EditedText::findText(const SearchKey& key, std::size_t begin, std::s
 
 bool EditedText::standsHere(const SearchKey& key, std::size_t offset) const
 {
-    if (size() - offset < key.text.size()) return false;
-    std::size_t i = 0;
-    while (i < key.text.size() && lowerCase((*this)[offset + i]) == key.text[i])
-        ++i;
-    return i == key.text.size();
+    const auto end = offset + key.text.size();
+    if (end > size()) return false;
+    if (end <= gapBegin_) return standsAt(buffer_, offset, key.text);
+    if (offset >= gapBegin_) return standsAt(buffer_, offset + gapEnd_ - gapBegin_, key.text);
+    return standsAt(copy(offset, end), 0, key.text);
 }
 
 TagCode EditedText::tagCodeAt(std::size_t offset) const

@@ -36,8 +36,10 @@ public:
     /// places from there on, and what is known of them is the answer.
     [[nodiscard]] std::size_t find(
         const SearchKey& key, std::size_t from = 0, std::size_t limit = npos);
-    /// The last place ahead of `before` where `key` begins.
-    [[nodiscard]] std::size_t findLast(const SearchKey& key, std::size_t before = npos) const;
+    /// The last place ahead of `before` where `key` begins, of those from `from` on. Nothing of
+    /// this is remembered.
+    [[nodiscard]] std::size_t findLast(
+        const SearchKey& key, std::size_t before = npos, std::size_t from = 0) const;
     /// The offset behind the first '>' at or behind `begin`; npos where there is none.
     [[nodiscard]] std::size_t tagEnd(std::size_t begin);
 
@@ -81,6 +83,8 @@ private:
         const SearchKey& key, std::size_t begin, std::size_t limit) const;
     [[nodiscard]] std::size_t findTag(
         const SearchKey& key, std::size_t begin, std::size_t limit) const;
+    [[nodiscard]] std::size_t findLastTag(
+        const SearchKey& key, std::size_t from, std::size_t before) const;
     [[nodiscard]] std::size_t findText(
         const SearchKey& key, std::size_t begin, std::size_t limit) const;
     [[nodiscard]] bool standsHere(const SearchKey& key, std::size_t offset) const;

@@ -74,6 +74,7 @@ bool needsRepair(std::string_view text, std::span<const TagPair> pairs)
     const auto tags = findTags(text, keysOf(pairs));
     for (std::size_t i = 0; i < pairs.size(); ++i) {
         const auto openKey = kFirstOpenKey + 2 * i;
+        if (!touchesLists(tags, openKey)) continue;
         if (!planCutsInside(tags, openKey).empty()) return true;
         if (!planCutsAround(tags, openKey).empty()) return true;
     }

@@ -25,7 +25,7 @@ constexpr SearchKey kEnd = "</p";
 /// inserted counted in.
 class ParagraphWalk {
 public:
-    explicit ParagraphWalk(EditedText& text)
+    explicit ParagraphWalk(const EditedText& text)
         : text_(text)
     {
     }
@@ -33,8 +33,11 @@ public:
     /// A paragraph without end is open as well.
     [[nodiscard]] bool isOpenAt(std::size_t offset)
     {
-        goThrough(kBegin, offset, lastBegin_);
-        goThrough(kEnd, offset, lastEnd_);
+        lastBegin_ = std::max(lastBegin_, lastBetween(kBegin, readTo_, offset));
+        // Ends ahead of the last begin no longer matter.
+        const auto from = std::max(readTo_, lastBegin_.value_or(0));
+        lastEnd_ = std::max(lastEnd_, lastBetween(kEnd, from, offset));
+        readTo_ = offset;
         for (; seen_ < inserted_.size() && inserted_[seen_] <= offset; ++seen_)
             lastEnd_ = std::max(lastEnd_, std::optional(inserted_[seen_]));
         return lastBegin_ && lastBegin_ >= lastEnd_; // an end that is inserted there comes first
@@ -44,14 +47,15 @@ public:
     void insertEnd(std::size_t offset) { inserted_.push_back(offset); }
 
 private:
-    void goThrough(const SearchKey& key, std::size_t offset, std::optional<std::size_t>& last)
+    [[nodiscard]] std::optional<std::size_t> lastBetween(
+        const SearchKey& key, std::size_t from, std::size_t to) const
     {
-        for (auto at = text_.find(key, last ? *last + 1 : 0); at < offset;
-             at = text_.find(key, at + 1))
-            last = at;
+        const auto at = text_.findLast(key, to, from);
+        return at == npos ? std::nullopt : std::optional(at);
     }
 
-    EditedText& text_;
+    const EditedText& text_;
+    std::size_t readTo_ = 0;
     std::vector<std::size_t> inserted_;
     std::size_t seen_ = 0; // how many of inserted_ lie ahead
     std::optional<std::size_t> lastBegin_;
@@ -117,6 +121,7 @@ void applyTo(
 {
     requireAddressable(text);
     if (openTag.empty() || closeTag.empty()) return;
+    if (findIgnoringCase(text, openTag) == npos) return;
     EditedText edited{std::string(text)};
     operation(edited, openTag, closeTag);
     text = std::move(edited).take();
@@ -137,13 +142,15 @@ void RepairParagraphs(std::string& text)
 
 void WrapInParagraph(EditedText& text, const SearchKey& openTag, const SearchKey& closeTag)
 {
+    auto at = text.find(openTag);
+    if (at == npos) return;
     TextEdits edits;
     ParagraphWalk paragraphs(text);
-    for (auto at = text.find(openTag); at != npos; at = text.find(openTag, at + 1)) {
+    for (; at != npos; at = text.find(openTag, at + 1)) {
+        if (paragraphs.isOpenAt(at)) continue;
         const auto close = text.find(closeTag, at);
         const auto behind = close == npos ? npos : text.tagEnd(close);
         if (behind == npos) break;
-        if (paragraphs.isOpenAt(at)) continue;
         edits.insert(at, "<p>");
         paragraphs.insertBegin(at);
         edits.insert(behind, "</p>");

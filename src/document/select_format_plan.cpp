@@ -147,6 +147,23 @@ std::vector<SelectCut> plan(
 
 } // namespace
 
+bool touchesLists(Tags tags, std::size_t openKey)
+{
+    bool inFormat = false;
+    bool inList = false;
+    for (const FoundTag& tag : tags) {
+        const bool opens = tag.key == openKey;
+        if (opens || tag.key == openKey + 1) {
+            if (inList) return true;
+            inFormat = opens;
+        } else if (tag.key < std::size(kSelectKeys)) {
+            inList = tag.key == 0;
+            if (inList && inFormat) return true;
+        }
+    }
+    return false;
+}
+
 std::vector<SelectCut> planCutsInside(Tags tags, std::size_t openKey, std::size_t from)
 {
     return plan(tags, openKey, from, &CutPlan::takeInside);

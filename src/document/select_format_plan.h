@@ -29,6 +29,10 @@ struct SelectCut {
 using SelectPlan = std::vector<SelectCut> (*)(
     std::span<const FoundTag> tags, std::size_t openKey, std::size_t from);
 
+/// False where no tag of the format stands in a list and none is open where a list begins, so that
+/// no pair can have to go.
+[[nodiscard]] bool touchesLists(std::span<const FoundTag> tags, std::size_t openKey);
+
 /// The pairs of which a tag stands in a list, one after the other until none does.
 [[nodiscard]] std::vector<SelectCut> planCutsInside(
     std::span<const FoundTag> tags, std::size_t openKey, std::size_t from = 0);

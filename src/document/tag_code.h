@@ -9,11 +9,10 @@
 
 namespace quillmere {
 
-/// In 12 bits and without regard to case: whether a tag is a comment marker ("<!--"), whether it is
-/// an end ('/'), and 5 bits of each of the two characters behind that.
+/// In 16 bits and without regard to case: whether a tag is a comment marker ("<!--"), whether it is
+/// an end ('/'), and the two characters behind that. Those beyond ASCII and missing ones count as
+/// 0.
 using TagCode = std::uint16_t;
-
-inline constexpr std::size_t kTagCodes = 0x1000;
 
 /// As much of a tag as its code can depend on: "<!--/op".
 inline constexpr std::size_t kTagCodeReach = 7;
@@ -21,11 +20,11 @@ inline constexpr std::size_t kTagCodeReach = 7;
 namespace tag_code {
 
 inline constexpr std::string_view kComment = "<!--";
-inline constexpr unsigned kCommentBit = 0x800;
-inline constexpr unsigned kEndBit = 0x400;
-inline constexpr unsigned kLetterBits = 5;
-inline constexpr unsigned kFirstLetter = 0x3E0;
-inline constexpr unsigned kSecondLetter = 0x1F;
+inline constexpr unsigned kCommentBit = 0x8000;
+inline constexpr unsigned kEndBit = 0x4000;
+inline constexpr unsigned kLetterBits = 7;
+inline constexpr unsigned kSecondLetter = 0x7F;
+inline constexpr unsigned kFirstLetter = kSecondLetter << kLetterBits;
 
 /// Where the name begins in a tag, and the bits of what stands ahead of it.
 struct Name {
@@ -34,7 +33,7 @@ struct Name {
 
     constexpr explicit Name(std::string_view tag)
     {
-        if (tag.starts_with(kComment)) {
+        if (tag.size() > 1 && tag[1] == kComment[1] && tag.starts_with(kComment)) {
             at = kComment.size();
             marks = kCommentBit;
         }
@@ -45,11 +44,11 @@ struct Name {
     }
 };
 
-/// The same for both cases of a letter. Letters beyond ASCII and missing ones count as 0.
 constexpr unsigned letterBits(std::string_view tag, std::size_t at)
 {
     const unsigned letter = at < tag.size() ? static_cast<unsigned char>(tag[at]) : 0U;
-    return letter < 128 ? letter & kSecondLetter : 0U;
+    if (letter >= 'A' && letter <= 'Z') return letter - 'A' + 'a';
+    return letter <= kSecondLetter ? letter : 0U;
 }
 
 } // namespace tag_code
@@ -62,8 +61,8 @@ constexpr unsigned letterBits(std::string_view tag, std::size_t at)
     return static_cast<TagCode>(name.marks | first | tag_code::letterBits(begin, name.at + 1));
 }
 
-/// What the codes of all tags have in common that begin with a key. Some other tags fit as well:
-/// "<big" fits the key "<bi>" by its code.
+/// What the codes of all tags have in common that begin with a key. With a longer key other tags
+/// fit as well: "<big" fits "<bit".
 struct TagPattern {
     constexpr TagPattern() = default; // each tag fits
     /// `key` is lower case and begins with '<'.
@@ -76,12 +75,14 @@ struct TagPattern {
         const auto second = nameAt + 1 < key.size() ? kSecondLetter : 0U;
         mask = static_cast<TagCode>(kCommentBit | kEndBit | first | second);
         wanted = tagCode(key) & mask;
+        isWhole = first != 0 && nameAt + 2 >= key.size();
     }
     [[nodiscard]] constexpr bool fits(TagCode code) const { return (code & mask) == wanted; }
     [[nodiscard]] constexpr bool operator==(const TagPattern&) const = default;
 
     TagCode mask = 0;
     TagCode wanted = 0;
+    bool isWhole = false; ///< what fits is a tag with the key
 };
 
 /// A text to look for, with its pattern where it is the begin of a tag. It is lower case, not
@@ -100,7 +101,9 @@ struct SearchKey {
     }
     [[nodiscard]] constexpr bool operator==(const SearchKey& other) const
     {
-        return pattern == other.pattern && text == other.text;
+        const bool isSamePlace = text.data() == other.text.data(); // mostly, for a key of its own
+        return pattern == other.pattern && text.size() == other.text.size()
+            && (isSamePlace || text == other.text);
     }
 
     std::string_view text;

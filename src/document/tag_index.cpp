@@ -7,33 +7,73 @@
 #include <algorithm>
 
 namespace quillmere {
+namespace {
+
+constexpr std::size_t kUsualDistance = 12; // from a tag to the next one, at the least
+
+} // namespace
+
+void TagStack::clear(std::size_t expected)
+{
+    tags_.clear();
+    tags_.reserve(expected);
+}
+
+std::size_t TagStack::countCloser(std::size_t distance) const
+{
+    constexpr std::size_t kNearby = 4;
+    if (distance == 0) return 0;
+    auto count = std::min(lastCount_, size());
+    const auto nearby = std::min(count + kNearby, size());
+    if ((count > 0 && tags_[count - 1].distance >= distance)
+        || (nearby < size() && tags_[nearby].distance < distance)) {
+        const auto found = std::ranges::lower_bound(tags_, distance, {}, &Tag::distance);
+        count = static_cast<std::size_t>(found - tags_.begin());
+    } else {
+        while (count < nearby && tags_[count].distance < distance)
+            ++count;
+    }
+    lastCount_ = count;
+    return count;
+}
+
 void TagIndex::read(std::string_view text)
 {
     size_ = text.size();
-    ahead_.clear();
-    behind_.clear();
-    codes_.reset();
-    shortCodes_.reset();
+    ahead_.clear(text.size() / kUsualDistance);
+    behind_.clear(0);
+    seen_.reset();
     for (auto at = text.find('<'); at != std::string_view::npos; at = text.find('<', at + 1))
         append(at, tagCode(text.substr(at, kTagCodeReach)));
 }
 
 std::size_t TagIndex::find(TagPattern pattern, std::size_t begin, std::size_t end) const
 {
-    const auto isAhead = [](const Tag& tag, std::size_t place) { return tag.place < place; };
-    for (auto tag = std::lower_bound(ahead_.begin(), ahead_.end(), begin, isAhead);
-         tag != ahead_.end(); ++tag) {
-        if (tag->place >= end) return std::string_view::npos;
-        if (pattern.fits(tag->code)) return tag->place;
-    }
-    const auto isBehind
-        = [this](std::size_t place, const Tag& tag) { return size_ - tag.place < place; };
-    auto tag = std::upper_bound(behind_.begin(), behind_.end(), begin, isBehind);
-    while (tag != behind_.begin()) {
-        --tag;
-        const auto place = size_ - tag->place;
+    auto i = ahead_.countCloser(begin);
+    const auto iEnd = end < size_ ? ahead_.countCloser(end) : ahead_.size();
+    while (i < iEnd && !pattern.fits(ahead_[i].code))
+        ++i;
+    if (i < iEnd) return ahead_[i].distance;
+    if (iEnd < ahead_.size() || behind_.empty()) return std::string_view::npos;
+    for (auto left = behind_.countCloser(distanceFromEnd(begin) + 1); left-- > 0;) {
+        const auto place = size_ - behind_[left].distance;
         if (place >= end) break;
-        if (pattern.fits(tag->code)) return place;
+        if (pattern.fits(behind_[left].code)) return place;
+    }
+    return std::string_view::npos;
+}
+
+std::size_t TagIndex::findLast(TagPattern pattern, std::size_t begin, std::size_t end) const
+{
+    for (auto i = behind_.countCloser(distanceFromEnd(end) + 1); i < behind_.size(); ++i) {
+        const auto place = size_ - behind_[i].distance;
+        if (place < begin) return std::string_view::npos;
+        if (pattern.fits(behind_[i].code)) return place;
+    }
+    for (auto i = ahead_.countCloser(end); i-- > 0;) {
+        const auto& tag = ahead_[i];
+        if (tag.distance < begin) break;
+        if (pattern.fits(tag.code)) return tag.distance;
     }
     return std::string_view::npos;
 }
@@ -41,20 +81,20 @@ std::size_t TagIndex::find(TagPattern pattern, std::size_t begin, std::size_t en
 void TagIndex::cut(std::size_t begin, std::size_t end)
 {
     moveTo(begin);
-    while (!behind_.empty() && size_ - behind_.back().place < end)
-        behind_.pop_back();
+    while (!behind_.empty() && size_ - behind_.back().distance < end)
+        behind_.pop();
     size_ -= end - begin;
 }
 
 void TagIndex::moveTo(std::size_t offset)
 {
-    const auto fromOtherSide = [this](const Tag& tag) {
-        return Tag{static_cast<std::uint32_t>(size_ - tag.place), tag.code};
+    const auto fromOtherSide = [this](const TagStack::Tag& tag) {
+        return TagStack::Tag{static_cast<std::uint32_t>(size_ - tag.distance), tag.code};
     };
-    for (; !ahead_.empty() && ahead_.back().place >= offset; ahead_.pop_back())
-        behind_.push_back(fromOtherSide(ahead_.back()));
-    for (; !behind_.empty() && size_ - behind_.back().place < offset; behind_.pop_back())
-        ahead_.push_back(fromOtherSide(behind_.back()));
+    for (; !ahead_.empty() && ahead_.back().distance >= offset; ahead_.pop())
+        behind_.push(fromOtherSide(ahead_.back()));
+    for (; !behind_.empty() && size_ - behind_.back().distance < offset; behind_.pop())
+        ahead_.push(fromOtherSide(behind_.back()));
 }
 
 } // namespace quillmere

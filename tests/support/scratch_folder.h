@@ -4,7 +4,7 @@
 #include <fstream>
 #include <iterator>
 #include <stdexcept>
-#include <stdlib.h>
+#include <cstdlib>
 #include <string>
 #include <string_view>
 
