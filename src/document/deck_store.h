@@ -24,7 +24,7 @@ struct DeckLocation {
 /// Adds an area at the end, or starts a new deck with its first one, and links the area ahead of
 /// it forward. A deck that was open before goes with its work files.
 /// Throws FileFailure, Overflow where no name or no room for the link is left, and InvalidArgument
-/// for a further area where no deck is open. A link that cannot be set leaves the new area in place.
+/// for a further area where no deck is open. A link that cannot be set leaves the area in place.
 void AddArea(DocumentSession& session, bool isFirst, const std::string& deckFile = {},
     const std::string& deckDir = {});
 

@@ -2,7 +2,7 @@
 // move little. What a search has read is kept across a change: the places ahead of it stay, those
 // behind it move along, and only the places whose text touches the change are looked at again.
 // Most texts are short and hold few tags, so that a search for a tag mostly ends in the index.
-// Held by edited_text_test.cpp.
+// Held by clean_passes_test.cpp.
 
 #include "document/edited_text.h"
 
