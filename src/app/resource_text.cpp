@@ -1,5 +1,5 @@
 // Entries and attributes are found by searches that ignore case, each going forward only. Held by
-// resource_text_test.cpp, which reads hostile texts against a time limit.
+// word_table_test.cpp, which reads hostile texts against a time limit.
 
 #include "app/resource_text.h"
 

@@ -1,5 +1,5 @@
 // The cleaning is a table of passes; each one leaves a text that the next one counts on. Their
-// order is part of the result. Held by clean_passes_test.cpp and clean_design_html_test.cpp.
+// order is part of the result. Held by clean_passes_test.cpp and clean_passes_test.cpp.
 
 #include "document/clean_design_html.h"
 

@@ -1,4 +1,4 @@
-// Held by complete_url_test.cpp.
+// Held by paths_test.cpp.
 
 #include "document/complete_url.h"
 

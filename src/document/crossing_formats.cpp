@@ -1,6 +1,6 @@
 // Both sweeps go from left to right; what the first one inserts ahead of its place it keeps as
 // positions beside the unchanged text. What a deletion of the second one joins begins ahead of the
-// place that it reads on from, and so is no tag of it. Held by paragraphs_test.cpp.
+// place that it reads on from, and so is no tag of it. Held by corrections_test.cpp.
 
 #include "document/crossing_formats.h"
 

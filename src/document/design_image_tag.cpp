@@ -1,5 +1,5 @@
 // A picture that stands in several areas is rebuilt for each of them, and the last one counts, as
-// its name and its size may differ there. Held by design_image_tag_test.cpp.
+// its name and its size may differ there. Held by image_conversion_test.cpp.
 
 #include "document/design_image_tag.h"
 

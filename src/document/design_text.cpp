@@ -1,4 +1,4 @@
-// Held by design_text_test.cpp.
+// Held by deck_store_test.cpp.
 
 #include "document/design_text.h"
 

@@ -1,4 +1,4 @@
-// Held by work_files_test.cpp, which runs the same checks on the work files in memory.
+// Held by files_test.cpp, which runs the same checks on the work files in memory.
 
 #include "document/disk_work_files.h"
 

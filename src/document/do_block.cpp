@@ -1,5 +1,5 @@
 // All is searched for ahead of the card's end only, so that what follows is not read.
-// Held by do_block_test.cpp.
+// Held by corrections_test.cpp.
 
 #include "document/do_block.h"
 

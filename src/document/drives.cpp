@@ -1,4 +1,4 @@
-// Held by mount_table_test.cpp.
+// Held by paths_test.cpp.
 
 #include "document/drives.h"
 

@@ -1,5 +1,5 @@
 // Questions to the disk never throw: what cannot be looked at is not there. Held by
-// file_system_test.cpp.
+// paths_test.cpp.
 
 #include "document/file_system.h"
 

@@ -1,6 +1,6 @@
 // Each sweep plans its deletions on the tags' offsets and makes them in one rewriting; only where a
 // deleted tag could leave a new one behind is one pair deleted at a time.
-// Held by format_around_select_test.cpp, which repairs with plain searches.
+// Held by corrections_test.cpp, which repairs with plain searches.
 
 #include "document/format_around_select.h"
 

@@ -1,6 +1,6 @@
 // RepairOnePair reads the tags of the pair from left to right and cuts as it goes; what a cut joins
 // is read again. The pairs that may overlap share one look for their tags until something moves.
-// Held by format_nesting_test.cpp, which repairs with plain searches.
+// Held by corrections_test.cpp, which repairs with plain searches.
 
 #include "document/format_nesting.h"
 

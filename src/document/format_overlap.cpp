@@ -1,5 +1,5 @@
 // All moves are planned on the tags' offsets and made in one rewriting; only where a moved tag
-// could leave a new one behind does one move at a time. Held by format_nesting_test.cpp.
+// could leave a new one behind does one move at a time. Held by corrections_test.cpp.
 
 #include "document/format_overlap.h"
 

@@ -1,5 +1,5 @@
 // The search goes on behind the '>' of each tag, so that each part of a text is read once, also
-// where thousands of "<img" share one '>'. Held by image_tags_test.cpp.
+// where thousands of "<img" share one '>'. Held by images_test.cpp.
 
 #include "document/image_tags.h"
 

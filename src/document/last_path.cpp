@@ -1,4 +1,4 @@
-// Held by last_path_test.cpp, in both path styles.
+// Held by paths_test.cpp, in both path styles.
 
 #include "document/last_path.h"
 

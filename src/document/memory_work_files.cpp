@@ -1,4 +1,4 @@
-// Held by work_files_test.cpp, which runs the same checks on the work files of a disk.
+// Held by files_test.cpp, which runs the same checks on the work files of a disk.
 
 #include "document/memory_work_files.h"
 

@@ -1,5 +1,5 @@
 // The kernel's table of mounts (proc(5)) and its flag for removable media (sysfs(5)). A later mount
-// hides an earlier one at the same place. Held by mount_table_test.cpp with tables of its own.
+// hides an earlier one at the same place. Held by paths_test.cpp with tables of its own.
 
 #include "document/mount_table.h"
 

@@ -1,4 +1,4 @@
-// Held by number_texts_test.cpp.
+// Held by paths_test.cpp.
 
 #include "document/number_texts.h"
 

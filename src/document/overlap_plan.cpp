@@ -1,6 +1,6 @@
 // A moved end stays the next one of its kind for all beginnings ahead of it, so the ends keep their
 // order while their places change, and one pass with three indexes sees what a search from each
-// beginning on would see. Held by format_nesting_test.cpp.
+// beginning on would see. Held by corrections_test.cpp.
 
 #include "document/overlap_plan.h"
 

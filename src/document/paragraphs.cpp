@@ -1,5 +1,5 @@
 // All searches go from left to right and see what was inserted ahead of them as positions beside
-// the unchanged text; each operation rewrites the text once. Held by paragraphs_test.cpp, which
+// the unchanged text; each operation rewrites the text once. Held by corrections_test.cpp, which
 // repairs with plain searches.
 
 #include "document/paragraphs.h"

@@ -1,4 +1,4 @@
-// Each character is tested by its code in code page 850, lower-cased. Held by path_checks_test.cpp,
+// Each character is tested by its code in code page 850, lower-cased. Held by paths_test.cpp,
 // which walks all 256 characters.
 
 #include "document/path_checks.h"

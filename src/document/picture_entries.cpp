@@ -1,5 +1,5 @@
 // A deck of hundreds of pictures is asked for hundreds of tags, so that the entries lie in a map.
-// Held by design_image_tag_test.cpp.
+// Held by image_conversion_test.cpp.
 
 #include "document/picture_entries.h"
 

@@ -1,6 +1,6 @@
 // An option and its end are a pair; the search goes on behind each end, so that an option within
 // another has no button of its own. An option without an end has one that stays until the text is
-// cleaned. Held by radio_buttons_test.cpp, which compares with plain repeated searches.
+// cleaned. Held by corrections_test.cpp, which compares with plain repeated searches.
 
 #include "document/radio_buttons.h"
 

@@ -1,6 +1,6 @@
 // Tags that are to be deleted are taken out of rows that still find the nearest tag that is left
 // (union-find with path halving), so lists within lists do not look through the same tags again.
-// Held by format_around_select_test.cpp.
+// Held by corrections_test.cpp.
 
 #include "document/select_format_plan.h"
 

@@ -1,7 +1,7 @@
 // E. W. Myers, "An O(ND) Difference Algorithm and Its Variations" (1986), the greedy method, run
 // in windows: after kMaxEdits edits without an end the path that came furthest is taken as found
 // and the next window begins where it stands. Values that the other side has not are left out
-// ahead of it, since they only cost edits. Held by sequence_match_test.cpp.
+// ahead of it, since they only cost edits. Held by deck_changes_test.cpp.
 
 #include "document/sequence_match.h"
 

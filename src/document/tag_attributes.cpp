@@ -1,5 +1,5 @@
 // Each reader keeps the place that it found last, because tags that are kept are asked again from
-// their second '<' on. Held by tag_attributes_test.cpp.
+// their second '<' on. Held by conversions_literal_test.cpp.
 
 #include "document/tag_attributes.h"
 

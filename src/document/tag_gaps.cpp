@@ -1,5 +1,5 @@
 // The tags of one key in the pristine text are linked, so that each is passed once and a key that
-// is missing does not cost a search through the rest. Held by wml_layout_test.cpp.
+// is missing does not cost a search through the rest. Held by corrections_test.cpp.
 
 #include "document/tag_gaps.h"
 

@@ -1,5 +1,5 @@
 // What a deletion joins was parted by deleted tags only, so it shows as well when all are deleted.
-// Held by format_nesting_test.cpp and format_around_select_test.cpp.
+// Held by corrections_test.cpp and corrections_test.cpp.
 
 #include "document/tag_places.h"
 

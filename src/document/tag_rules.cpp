@@ -1,6 +1,7 @@
 // A tag can hold many '<', and where it is kept, the next tag begins at the second of them and ends
 // at the same '>'. So the openings of such a tag are read once, from its end, each with the best
-// rule of all behind it. Held by tag_rules_test.cpp, which tests every tag against every key.
+// rule of all behind it. Held by conversions_literal_test.cpp, which tests every tag against every
+// key.
 
 #include "document/tag_rules.h"
 

@@ -1,5 +1,5 @@
 // The kept part grows at the front of the text, the unread part lies behind a gap as wide as what
-// was cut. Held by text_edits_test.cpp.
+// was cut. Held by corrections_test.cpp.
 
 #include "document/text_cutter.h"
 

@@ -1,5 +1,5 @@
 // Edits are sorted by counting, since places are few, and written in one pass.
-// Held by text_edits_test.cpp.
+// Held by corrections_test.cpp.
 
 #include "document/text_edits.h"
 

@@ -1,5 +1,5 @@
 // Both characters that end lines are looked for with the library's byte search, each part of the
-// text once. Held by text_lines_test.cpp.
+// text once. Held by deck_store_test.cpp.
 
 #include "document/text_lines.h"
 

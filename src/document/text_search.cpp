@@ -1,5 +1,5 @@
 // Searches look for places where a key's first and last character stand at their distance, many
-// at a time, and compare the key there. Held by text_search_test.cpp.
+// at a time, and compare the key there. Held by operations_test.cpp.
 
 #include "document/text_search.h"
 

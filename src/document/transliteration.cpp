@@ -1,5 +1,5 @@
 // One sweep over the characters; a text of 7 bits is left untouched. Held by
-// clean_design_html_test.cpp.
+// clean_passes_test.cpp.
 
 #include "document/clean_design_html.h"
 

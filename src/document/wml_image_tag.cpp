@@ -1,6 +1,6 @@
 // A tag that is kept is asked again from its second '<' on with the same value, so that a refused
 // name is kept in mind, and the entries of the area are looked up by path, not walked.
-// Held by wml_image_tag_test.cpp.
+// Held by image_conversion_test.cpp.
 
 #include "document/wml_image_tag.h"
 

@@ -1,7 +1,7 @@
 // BreakWmlLines keeps the count of an indent that is never written: it only moves the scan on.
 // RestoreWhitespace walks the tags of both texts; where no '>' stands between two '<' the gap ahead
 // of the second takes in that of the first, so a gap's front is written when the gap has ended.
-// Held by wml_layout_test.cpp, which works with plain searches.
+// Held by corrections_test.cpp, which works with plain searches.
 
 #include "document/wml_layout.h"
 

@@ -1,6 +1,6 @@
 // Each tag is decided by the first row of the table whose key it contains; a text is lower-cased
-// once, and all keys are looked for in that copy. Held by wml_to_design_test.cpp and, against a
-// version that replaces tag after tag in the text itself, by conversions_literal_test.cpp.
+// once, and all keys are looked for in that copy. Held by conversions_literal_test.cpp and, against
+// a version that replaces tag after tag in the text itself, by conversions_literal_test.cpp.
 
 #include "document/wml_to_design.h"
 

@@ -1,5 +1,5 @@
 // The search begins where the last one ended, since a deck of thousands of cards asks for thousands
-// of names. Held by work_files_test.cpp.
+// of names. Held by files_test.cpp.
 
 #include "document/work_names.h"
 

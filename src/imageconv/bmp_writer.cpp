@@ -1,6 +1,6 @@
 // A display copy has few colours, so a palette keeps the files small, and the packed rows of a WBMP
-// become rows of a BMP as they are. Held by bmp_writer_test.cpp and, with a viewer's reader, by
-// alternative_text_painter_qt_test.cpp.
+// become rows of a BMP as they are. Held by wbmp_display_copies_test.cpp and, with a viewer's
+// reader, by alternative_text_painter_qt_test.cpp.
 
 #include "imageconv/bmp_writer.h"
 

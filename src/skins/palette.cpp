@@ -1,4 +1,4 @@
-// The palette of the telephones. Held by palette_test.cpp.
+// The palette of the telephones. Held by skin_files_test.cpp.
 
 #include "skins/palette.h"
 

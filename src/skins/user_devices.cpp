@@ -1,5 +1,5 @@
 // Each line is tested for each tag, wherever in the line it stands, and a value has no quotes
-// around it: it ends at the next blank or '>'. Held by user_devices_test.cpp.
+// around it: it ends at the next blank or '>'. Held by skin_files_test.cpp.
 
 #include "skins/user_devices.h"
 
