@@ -14,7 +14,7 @@ namespace {
 constexpr std::string_view kDo = "<!--do", kDoEnd = "<!--/do", kGo = "<!--go";
 constexpr std::string_view kOption = "<!--option", kOptionEnd = "<!--/option";
 constexpr std::string_view kSelect = "<!--select", kSelectEnd = "<!--/select";
-constexpr std::string_view kCardEnd = "<!--/card"; // Reading: always the first one in the text
+constexpr std::string_view kCardEnd = "<!--/card"; // Always the first one in the text
 
 std::string firstDoBlock(std::string text)
 {
@@ -49,7 +49,7 @@ void endLoneOption(std::string& text, std::size_t o)
         end = text.find('>', tag);
         tag = text.find('<', end);
     }
-    text.insert(std::min(tag, text.size()), "<!--/option-->"); // Reading: else at the text's end
+    text.insert(std::min(tag, text.size()), "<!--/option-->"); // Else at the text's end
 }
 
 void completeOption(std::string& text, std::size_t o)
@@ -194,7 +194,7 @@ std::string behindTheAnchor(std::string text)
     return text;
 }
 
-/// Reading: a position that is lowered below the first character stands ahead of the text.
+/// A position that is lowered below the first character stands ahead of the text.
 std::string mergeParagraphs(std::string text)
 {
     const auto length = [](std::size_t value) { return static_cast<std::ptrdiff_t>(value); };
@@ -242,7 +242,7 @@ void deleteElements(std::string& text, std::string_view open, std::string_view c
         if (deleteThrough(text, a, find(text, close, a)) == 0) ++a;
 }
 
-/// Reading: any character behind code 32 is text, and an element without end is none.
+/// Any character behind code 32 is text, and an element without end is none.
 bool hasText(std::string content)
 {
     deleteElements(content, "<table", "</table");
@@ -253,7 +253,7 @@ bool hasText(std::string content)
 }
 
 /// A card without any paragraph: one around all of its content where there is text in it.
-/// Reading: without a body tag the content begins behind the card's marker, else with the text.
+/// Without a body tag the content begins behind the card's marker, else with the text.
 std::string emptyCard(std::string text)
 {
     const std::size_t card = find(text, kCardEnd);
@@ -271,7 +271,7 @@ std::string textAheadOfCardEnd(std::string text)
 {
     const std::size_t card = find(text, kCardEnd);
     const std::size_t last = card == npos ? npos : findLast(text, "</p", card);
-    // Reading: any '>' from the last "</p" on, not only its own.
+    // Any '>' from the last "</p" on, not only its own.
     for (auto g = text.find('>', last); g < card; g = text.find('>', g + 1)) {
         if (text.find('<', g) - g <= 2) continue;
         text.insert(card, "</p>");
@@ -314,7 +314,7 @@ std::string formatNesting(std::string text)
     return text;
 }
 
-/// Reading: one cut for each bracket, the next one is looked for behind it.
+/// One cut for each bracket, the next one is looked for behind it.
 std::string doubledBrackets(std::string text)
 {
     for (const auto& [bracket, other] : {std::pair('<', '>'), std::pair('>', '<')}) {

@@ -115,7 +115,7 @@ std::string tableToDesign(const Source& source)
 
 std::string tableToWml(const Source& source)
 {
-    // Reading: the title is looked for as it is written, in lower case.
+    // The title is looked for as it is written, in lower case.
     std::string value;
     if (!readAttribute(source.tag, "title", value)) return "";
     std::string result = "<table title=\"" + value + "\">";
@@ -135,7 +135,7 @@ std::string linkToDesign(const Source& source)
 
 std::string linkToWml(const Source& source)
 {
-    // Reading: as with the title.
+    // As with the title.
     std::string value;
     return readAttribute(source.tag, "href", value) ? "<a href=\"" + value + "\">" : "";
 }

@@ -16,7 +16,7 @@ struct Pair {
 constexpr std::array<Pair, 5> kFormats{{{"<big>", "</big>"}, {"<small>", "</small>"},
     {"<i>", "</i>"}, {"<b>", "</b>"}, {"<u>", "</u>"}}};
 
-/// Reading: the codes 48 to 90 and the lower-case letters, so that '<' of any tag counts as well.
+/// The codes 48 to 90 and the lower-case letters, so that '<' of any tag counts as well.
 bool holdsText(std::string_view text)
 {
     return std::any_of(text.begin(), text.end(),
@@ -45,7 +45,7 @@ bool takeInside(std::string& text, Pair pair, bool apply, std::size_t& s)
     const std::size_t inside = find(text, pair.open, s);
     if (e == npos || (inside > e && find(text, pair.close, s) > e)) return false;
     if (!apply) return true;
-    // Reading: the open tag in the list goes first, else the one ahead of it; a tag that its pair
+    // The open tag in the list goes first, else the one ahead of it; a tag that its pair
     // lacks is not deleted.
     const std::size_t open = inside < e ? inside : openAhead(text, pair, s);
     deletePair(text, open, find(text, pair.close, open == npos ? s : open), s);
@@ -106,7 +106,7 @@ std::string mergeGaps(const std::string& fresh, const std::string& old)
     return gap;
 }
 
-/// Reading: within the option's tag, ignoring case; a value without closing quote is no target.
+/// Within the option's tag, ignoring case; a value without closing quote is no target.
 std::string targetOf(const std::string& tag)
 {
     if (const std::size_t quoted = find(tag, "onpick=\""); quoted != npos) {
@@ -167,7 +167,7 @@ void RepairFormatAroundSelect(std::string& text)
 
 void RepairParagraphs(std::string& text)
 {
-    // Reading: without a "<p" behind the card tag the first step has nothing to look through.
+    // Without a "<p" behind the card tag the first step has nothing to look through.
     const std::size_t card = text.find('>', find(text, "<card"));
     const std::size_t first = find(text, "<p", card);
     if (first != npos && holdsText(std::string_view(text).substr(card + 1, first - card - 1)))
@@ -189,10 +189,10 @@ void WrapInParagraph(std::string& text, std::string_view open, std::string_view 
 {
     for (auto o = find(text, open); o != npos; o = find(text, open, o + 1)) {
         const std::size_t paragraph = findLast(text, "<p", o);
-        // Reading: a paragraph without end is open as well.
+        // A paragraph without end is open as well.
         if (paragraph != npos && find(text, "</p", paragraph) > o) continue;
         const std::size_t end = text.find('>', find(text, close, o));
-        if (end == npos) return; // Reading: an element without end gets no paragraph
+        if (end == npos) return; // An element without end gets no paragraph
         text.insert(end + 1, "</p>");
         text.insert(o, "<p>");
         o += 3;
@@ -204,7 +204,7 @@ void SplitAtParagraphs(std::string& text, std::string_view open, std::string_vie
     for (auto a = find(text, open); a != npos; a = find(text, open, a + 1)) {
         const std::size_t end = find(text, "</p", a);
         const std::size_t behind = text.find('>', find(text, "<p", end));
-        // Reading: without a further paragraph the element is left as it is.
+        // Without a further paragraph the element is left as it is.
         if (end >= find(text, close, a) || find(text, close, a) == npos || behind == npos) continue;
         text.insert(behind + 1, open);
         text.insert(end, close);
@@ -254,7 +254,7 @@ std::string TakeDoBlock(std::string& text)
     const std::size_t begin = find(text, "<do");
     if (card == npos || begin >= card) return "";
     const std::size_t last = findLast(text, "</do", card);
-    // Reading: an end ahead of the first do is none.
+    // An end ahead of the first do is none.
     if (last == npos || last < begin) return "";
     const std::size_t end = text.find('>', last);
     if (end >= card) return "";
@@ -298,7 +298,7 @@ void BreakWmlLines(std::string& text)
 
 void RestoreWhitespace(std::string& text, std::string_view pristine)
 {
-    std::size_t from = 0; // Reading: each search begins behind the key that was found last
+    std::size_t from = 0; // Each search begins behind the key that was found last
     for (auto s = text.find('<'); s != npos; s = text.find('<', s + 1)) {
         const std::size_t end = text.find('>', s);
         if (end == npos) return;
@@ -318,18 +318,18 @@ void RestoreWhitespace(std::string& text, std::string_view pristine)
 
 void InsertTemporaeryRadioButtons(std::string& text)
 {
-    int number = 0; // Reading: one count for the whole area
+    int number = 0; // One count for the whole area
     for (auto o = find(text, "<!--option"); o != npos; o = find(text, "<!--option", o)) {
         const std::size_t end = text.find('>', o);
         if (end == npos) return;
         const std::string placed = button(++number, targetOf(text.substr(o, end + 1 - o)));
         text.insert(end + 1, placed);
-        // Reading: the option's end is looked for behind its button; without one the walk ends.
+        // The option's end is looked for behind its button; without one the walk ends.
         o = text.find('>', find(text, "<!--/option", end + 1 + placed.size()));
     }
 }
 
-/// Reading: every button of an option goes, not only its first one.
+/// Every button of an option goes, not only its first one.
 void DeleteAllTemporaeryRadioButtons(std::string& text)
 {
     for (auto o = find(text, "<!--option"); o != npos; o = find(text, "<!--option", o + 1)) {
