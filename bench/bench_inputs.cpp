@@ -4,12 +4,12 @@
 #include "bench_inputs.h"
 
 #include "cli/core_session.h"
-#include "document/clean_design_html.h"
 #include "document/deck_store.h"
 #include "document/design_text.h"
 #include "document/design_to_wml.h"
-#include "document/failure.h"
-#include "document/radio_buttons.h"
+#include "document/repair/clean_design_html.h"
+#include "document/repair/radio_buttons.h"
+#include "document/text/failure.h"
 #include "support/deck_generator.h"
 
 namespace quillmere::bench {

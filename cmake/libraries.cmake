@@ -2,13 +2,13 @@
 # Files that need Qt end in _qt.cpp and go into NAME_qt, so that the core links without Qt.
 function(quillmere_library name folder)
     cmake_parse_arguments(PARSE_ARGV 2 arg "" "" "USES")
-    file(GLOB sources CONFIGURE_DEPENDS ${folder}/*.cpp)
+    file(GLOB_RECURSE sources CONFIGURE_DEPENDS ${folder}/*.cpp)
     list(FILTER sources EXCLUDE REGEX "_qt\\.cpp$")
     add_library(${name} STATIC ${sources})
     target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
     target_link_libraries(${name} PUBLIC quillmere_options ${arg_USES})
 
-    file(GLOB qt_sources CONFIGURE_DEPENDS ${folder}/*_qt.cpp)
+    file(GLOB_RECURSE qt_sources CONFIGURE_DEPENDS ${folder}/*_qt.cpp)
     if(QUILLMERE_QT AND qt_sources)
         find_package(Qt6 6.4 REQUIRED COMPONENTS Gui)
         add_library(${name}_qt STATIC ${qt_sources})

@@ -3,8 +3,8 @@
 
 #include "fuzz_target.h"
 
-#include "document/clean_design_html.h"
-#include "document/failure.h"
+#include "document/repair/clean_design_html.h"
+#include "document/text/failure.h"
 
 #include <algorithm>
 #include <string>

@@ -5,8 +5,8 @@
 #include "cli/core_session.h"
 #include "document/deck_repair.h"
 #include "document/deck_store.h"
-#include "document/failure.h"
-#include "document/limits.h"
+#include "document/text/failure.h"
+#include "document/text/limits.h"
 
 #include <algorithm>
 #include <string>

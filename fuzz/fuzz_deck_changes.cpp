@@ -3,9 +3,9 @@
 
 #include "fuzz_target.h"
 
-#include "document/deck_changes.h"
-#include "document/deck_changes_json.h"
-#include "document/deck_changes_report.h"
+#include "document/changes/deck_changes.h"
+#include "document/changes/deck_changes_json.h"
+#include "document/changes/deck_changes_report.h"
 
 #include <string>
 

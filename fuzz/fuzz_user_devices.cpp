@@ -2,7 +2,7 @@
 
 #include "fuzz_target.h"
 
-#include "document/failure.h"
+#include "document/text/failure.h"
 #include "skins/user_devices.h"
 
 #include <string>

@@ -3,7 +3,7 @@
 
 #include "fuzz_target.h"
 
-#include "document/failure.h"
+#include "document/text/failure.h"
 #include "imageconv/wbmp.h"
 #include "imageconv/wbmp_display_copies.h"
 

@@ -2,8 +2,8 @@
 
 #include "app/form_resources.h"
 
-#include "document/failure.h"
-#include "document/files.h"
+#include "document/platform/files.h"
+#include "document/text/failure.h"
 
 namespace quillmere {
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/form_table.h"
-#include "document/settings_store.h"
+#include "document/platform/settings_store.h"
 
 namespace quillmere {
 

@@ -3,8 +3,8 @@
 #include "app/form_table.h"
 
 #include "app/resource_text.h"
-#include "document/record_fields.h"
-#include "document/windows1252.h"
+#include "document/text/record_fields.h"
+#include "document/text/windows1252.h"
 
 #include <algorithm>
 #include <utility>

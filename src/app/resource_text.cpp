@@ -3,7 +3,7 @@
 
 #include "app/resource_text.h"
 
-#include "document/windows1252.h"
+#include "document/text/windows1252.h"
 
 #include <algorithm>
 #include <charconv>

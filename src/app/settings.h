@@ -1,8 +1,8 @@
 #pragma once
 
-#include "document/drives.h"
-#include "document/file_system.h"
-#include "document/settings_store.h"
+#include "document/platform/drives.h"
+#include "document/platform/file_system.h"
+#include "document/platform/settings_store.h"
 
 #include <functional>
 #include <map>

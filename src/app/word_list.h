@@ -1,6 +1,6 @@
 #pragma once
 
-#include "document/word_ids.h"
+#include "document/platform/word_ids.h"
 
 // Every word that the program asks for, as a list.
 

@@ -2,8 +2,8 @@
 
 #include "app/word_resources.h"
 
-#include "document/failure.h"
-#include "document/files.h"
+#include "document/platform/files.h"
+#include "document/text/failure.h"
 
 #include <vector>
 

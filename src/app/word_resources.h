@@ -1,8 +1,8 @@
 #pragma once
 
 #include "app/word_table.h"
-#include "document/settings_store.h"
-#include "document/words.h"
+#include "document/platform/settings_store.h"
+#include "document/platform/words.h"
 
 #include <initializer_list>
 #include <string>

@@ -4,7 +4,7 @@
 #include "app/word_table.h"
 
 #include "app/resource_text.h"
-#include "document/record_fields.h"
+#include "document/text/record_fields.h"
 
 #include <algorithm>
 #include <utility>

@@ -4,9 +4,9 @@
 #include "cli/terminal.h"
 #include "document/card_attributes.h"
 #include "document/deck_store.h"
-#include "document/json_text.h"
-#include "document/paths.h"
-#include "document/windows1252.h"
+#include "document/platform/paths.h"
+#include "document/text/json_text.h"
+#include "document/text/windows1252.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "app/settings.h"
-#include "document/memory_work_files.h"
+#include "document/platform/memory_work_files.h"
 #include "document/session.h"
 #include "imageconv/wbmp_display_copies.h"
 

@@ -1,8 +1,8 @@
 #include "cli/guarded.h"
 
 #include "cli/terminal.h"
-#include "document/failure.h"
-#include "document/windows1252.h"
+#include "document/text/failure.h"
+#include "document/text/windows1252.h"
 
 namespace quillmere::cli {
 

@@ -2,7 +2,7 @@
 
 #include "cli/terminal.h"
 
-#include "document/failure.h"
+#include "document/text/failure.h"
 
 #include <array>
 #include <clocale>

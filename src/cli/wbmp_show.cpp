@@ -1,7 +1,7 @@
 #include "cli/commands.h"
 #include "cli/terminal.h"
 #include "document/design_page.h"
-#include "document/files.h"
+#include "document/platform/files.h"
 #include "imageconv/wbmp_display_copies.h"
 
 #include <filesystem>

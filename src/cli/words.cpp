@@ -2,9 +2,9 @@
 #include "app/word_resources.h"
 #include "cli/commands.h"
 #include "cli/terminal.h"
-#include "document/failure.h"
-#include "document/paths.h"
-#include "document/windows1252.h"
+#include "document/platform/paths.h"
+#include "document/text/failure.h"
+#include "document/text/windows1252.h"
 
 #include <charconv>
 

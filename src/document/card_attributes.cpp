@@ -4,8 +4,8 @@
 #include "document/card_attributes.h"
 
 #include "document/design_text.h"
-#include "document/text_search.h"
-#include "document/windows1252.h"
+#include "document/text/text_search.h"
+#include "document/text/windows1252.h"
 
 #include <optional>
 

@@ -4,8 +4,8 @@
 
 #include "document/card_splitter.h"
 
-#include "document/do_block.h"
-#include "document/limits.h"
+#include "document/repair/do_block.h"
+#include "document/text/limits.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "document/text_search.h"
+#include "document/text/text_search.h"
 
 #include <cstddef>
 #include <optional>

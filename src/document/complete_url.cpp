@@ -2,9 +2,9 @@
 
 #include "document/complete_url.h"
 
-#include "document/text_search.h"
-#include "document/windows1252.h"
-#include "document/word_ids.h"
+#include "document/platform/word_ids.h"
+#include "document/text/text_search.h"
+#include "document/text/windows1252.h"
 
 #include <array>
 #include <optional>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "document/prompter.h"
+#include "document/platform/prompter.h"
 
 #include <string>
 #include <string_view>

@@ -4,16 +4,16 @@
 #include "document/deck_store.h"
 
 #include "document/card_attributes.h"
-#include "document/clean_design_html.h"
 #include "document/deck_replacement.h"
 #include "document/design_text.h"
 #include "document/design_to_wml.h"
-#include "document/limits.h"
-#include "document/paragraphs.h"
-#include "document/paths.h"
-#include "document/radio_buttons.h"
-#include "document/wml_layout.h"
-#include "document/word_ids.h"
+#include "document/platform/paths.h"
+#include "document/platform/word_ids.h"
+#include "document/repair/clean_design_html.h"
+#include "document/repair/paragraphs.h"
+#include "document/repair/radio_buttons.h"
+#include "document/repair/wml_layout.h"
+#include "document/text/limits.h"
 
 #include <algorithm>
 #include <utility>

@@ -3,9 +3,9 @@
 
 #include "document/design_image_tag.h"
 
-#include "document/clean_design_html.h"
-#include "document/failure.h"
-#include "document/text_search.h"
+#include "document/repair/clean_design_html.h"
+#include "document/text/failure.h"
+#include "document/text/text_search.h"
 
 #include <array>
 

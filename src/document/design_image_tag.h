@@ -1,9 +1,9 @@
 #pragma once
 
-#include "document/output_rules.h"
 #include "document/picture_entries.h"
-#include "document/tag_attributes.h"
 #include "document/tag_translation.h"
+#include "document/text/output_rules.h"
+#include "document/text/tag_attributes.h"
 
 #include <optional>
 #include <string>

@@ -2,8 +2,8 @@
 
 #include "document/design_page.h"
 
-#include "document/text_search.h"
-#include "document/windows1252.h"
+#include "document/text/text_search.h"
+#include "document/text/windows1252.h"
 
 #include <array>
 #include <cstdint>

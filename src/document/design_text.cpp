@@ -2,9 +2,9 @@
 
 #include "document/design_text.h"
 
-#include "document/failure.h"
-#include "document/limits.h"
-#include "document/text_search.h"
+#include "document/text/failure.h"
+#include "document/text/limits.h"
+#include "document/text/text_search.h"
 
 namespace quillmere {
 

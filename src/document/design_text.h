@@ -1,7 +1,7 @@
 #pragma once
 
 #include "document/session.h"
-#include "document/text_lines.h"
+#include "document/text/text_lines.h"
 
 #include <cstddef>
 #include <string>

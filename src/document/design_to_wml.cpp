@@ -5,10 +5,10 @@
 #include "document/design_to_wml.h"
 
 #include "document/design_image_tag.h"
-#include "document/tag_attributes.h"
 #include "document/tag_rules.h"
 #include "document/tag_translation.h"
-#include "document/windows1252.h"
+#include "document/text/tag_attributes.h"
+#include "document/text/windows1252.h"
 
 #include <array>
 #include <utility>

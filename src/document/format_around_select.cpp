@@ -4,11 +4,11 @@
 
 #include "document/format_around_select.h"
 
-#include "document/limits.h"
 #include "document/select_format_plan.h"
-#include "document/tag_places.h"
-#include "document/text_edits.h"
-#include "document/text_search.h"
+#include "document/text/limits.h"
+#include "document/text/tag_places.h"
+#include "document/text/text_edits.h"
+#include "document/text/text_search.h"
 
 #include <array>
 #include <iterator>

@@ -3,7 +3,7 @@
 #include "document/image_index.h"
 
 #include "document/deck.h"
-#include "document/windows1252.h"
+#include "document/text/windows1252.h"
 
 namespace quillmere {
 

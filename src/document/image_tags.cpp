@@ -3,8 +3,8 @@
 
 #include "document/image_tags.h"
 
-#include "document/text_search.h"
-#include "document/windows1252.h"
+#include "document/text/text_search.h"
+#include "document/text/windows1252.h"
 
 namespace quillmere {
 

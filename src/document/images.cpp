@@ -4,13 +4,13 @@
 #include "document/design_page.h"
 
 #include "document/design_text.h"
-#include "document/files.h"
 #include "document/image_tags.h"
-#include "document/paths.h"
-#include "document/tag_attributes.h"
-#include "document/text_search.h"
-#include "document/windows1252.h"
-#include "document/word_ids.h"
+#include "document/platform/files.h"
+#include "document/platform/paths.h"
+#include "document/platform/word_ids.h"
+#include "document/text/tag_attributes.h"
+#include "document/text/text_search.h"
+#include "document/text/windows1252.h"
 
 #include <array>
 #include <filesystem>

@@ -2,7 +2,7 @@
 
 #include "document/last_path.h"
 
-#include "document/text_search.h"
+#include "document/text/text_search.h"
 
 namespace quillmere {
 

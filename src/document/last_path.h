@@ -1,10 +1,10 @@
 #pragma once
 
 #include "document/deck.h"
-#include "document/drives.h"
-#include "document/file_system.h"
-#include "document/paths.h"
-#include "document/settings_store.h"
+#include "document/platform/drives.h"
+#include "document/platform/file_system.h"
+#include "document/platform/paths.h"
+#include "document/platform/settings_store.h"
 
 #include <string>
 #include <string_view>

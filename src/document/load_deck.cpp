@@ -5,12 +5,12 @@
 #include "document/deck_replacement.h"
 #include "document/deck_store.h"
 #include "document/design_text.h"
-#include "document/files.h"
 #include "document/format_around_select.h"
-#include "document/format_nesting.h"
-#include "document/limits.h"
-#include "document/radio_buttons.h"
-#include "document/windows1252.h"
+#include "document/platform/files.h"
+#include "document/repair/format_nesting.h"
+#include "document/repair/radio_buttons.h"
+#include "document/text/limits.h"
+#include "document/text/windows1252.h"
 #include "document/wml_to_design.h"
 
 #include <utility>

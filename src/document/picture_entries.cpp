@@ -3,7 +3,7 @@
 
 #include "document/picture_entries.h"
 
-#include "document/windows1252.h"
+#include "document/text/windows1252.h"
 
 #include <utility>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "document/tag_places.h"
+#include "document/text/tag_places.h"
 
 #include <cstddef>
 #include <span>

@@ -2,11 +2,11 @@
 
 #include "document/deck.h"
 #include "document/display_copies.h"
-#include "document/output_rules.h"
-#include "document/prompter.h"
-#include "document/settings_store.h"
-#include "document/words.h"
-#include "document/work_files.h"
+#include "document/platform/prompter.h"
+#include "document/platform/settings_store.h"
+#include "document/platform/words.h"
+#include "document/platform/work_files.h"
+#include "document/text/output_rules.h"
 
 #include <array>
 #include <cstdint>

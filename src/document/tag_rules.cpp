@@ -5,7 +5,7 @@
 
 #include "document/tag_rules.h"
 
-#include "document/text_search.h"
+#include "document/text/text_search.h"
 
 #include <algorithm>
 

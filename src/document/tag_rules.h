@@ -1,6 +1,6 @@
 #pragma once
 
-#include "document/tag_scanner.h"
+#include "document/text/tag_scanner.h"
 
 #include <array>
 #include <cstddef>

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "document/limits.h"
-#include "document/tag_attributes.h"
-#include "document/tag_scanner.h"
-#include "document/text_search.h"
+#include "document/text/limits.h"
+#include "document/text/tag_attributes.h"
+#include "document/text/tag_scanner.h"
+#include "document/text/text_search.h"
 
 #include <cstddef>
 #include <optional>

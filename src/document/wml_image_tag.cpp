@@ -5,7 +5,7 @@
 #include "document/wml_image_tag.h"
 
 #include "document/images.h"
-#include "document/windows1252.h"
+#include "document/text/windows1252.h"
 
 #include <array>
 

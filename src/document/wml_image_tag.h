@@ -1,8 +1,8 @@
 #pragma once
 
 #include "document/session.h"
-#include "document/tag_attributes.h"
 #include "document/tag_translation.h"
+#include "document/text/tag_attributes.h"
 
 #include <cstddef>
 #include <optional>

@@ -4,10 +4,10 @@
 
 #include "document/wml_to_design.h"
 
-#include "document/tag_attributes.h"
 #include "document/tag_rules.h"
 #include "document/tag_translation.h"
-#include "document/windows1252.h"
+#include "document/text/tag_attributes.h"
+#include "document/text/windows1252.h"
 #include "document/wml_image_tag.h"
 
 #include <array>

@@ -3,7 +3,7 @@
 
 #include "imageconv/alternative_text_painter_qt.h"
 
-#include "document/windows1252.h"
+#include "document/text/windows1252.h"
 
 #include <QFontMetrics>
 #include <QImage>

@@ -3,8 +3,8 @@
 
 #include "imageconv/wbmp.h"
 
-#include "document/failure.h"
-#include "document/windows1252.h"
+#include "document/text/failure.h"
+#include "document/text/windows1252.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "document/output_rules.h"
-#include "document/work_files.h"
+#include "document/platform/work_files.h"
+#include "document/text/output_rules.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -3,8 +3,8 @@
 
 #include "imageconv/wbmp_display_copies.h"
 
-#include "document/failure.h"
-#include "document/files.h"
+#include "document/platform/files.h"
+#include "document/text/failure.h"
 #include "imageconv/bmp_writer.h"
 #include "skins/palette.h"
 

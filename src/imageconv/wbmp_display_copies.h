@@ -1,7 +1,7 @@
 #pragma once
 
 #include "document/display_copies.h"
-#include "document/output_rules.h"
+#include "document/text/output_rules.h"
 #include "imageconv/alternative_text_painter.h"
 #include "imageconv/wbmp.h"
 

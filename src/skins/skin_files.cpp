@@ -3,8 +3,8 @@
 
 #include "skins/skin_files.h"
 
-#include "document/files.h"
-#include "document/record_files.h"
+#include "document/platform/files.h"
+#include "document/platform/record_files.h"
 
 #include <string>
 #include <string_view>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "document/settings_store.h"
+#include "document/platform/settings_store.h"
 #include "skins/skin_records.h"
 
 #include <cstddef>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "document/record_fields.h"
+#include "document/text/record_fields.h"
 
 #include <array>
 #include <cstddef>

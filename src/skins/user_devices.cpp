@@ -3,10 +3,10 @@
 
 #include "skins/user_devices.h"
 
-#include "document/failure.h"
-#include "document/files.h"
-#include "document/text_search.h"
-#include "document/windows1252.h"
+#include "document/platform/files.h"
+#include "document/text/failure.h"
+#include "document/text/text_search.h"
+#include "document/text/windows1252.h"
 
 #include <algorithm>
 #include <array>

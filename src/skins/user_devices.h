@@ -1,6 +1,6 @@
 #pragma once
 
-#include "document/settings_store.h"
+#include "document/platform/settings_store.h"
 
 #include <cstdint>
 #include <string>

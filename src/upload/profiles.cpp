@@ -3,9 +3,9 @@
 
 #include "upload/profiles.h"
 
-#include "document/failure.h"
-#include "document/files.h"
-#include "document/record_files.h"
+#include "document/platform/files.h"
+#include "document/platform/record_files.h"
+#include "document/text/failure.h"
 
 #include <filesystem>
 #include <system_error>

@@ -1,7 +1,7 @@
 #include "app/form_resources.h"
 #include "app/settings.h"
 #include "app/word_resources.h"
-#include "document/failure.h"
+#include "document/text/failure.h"
 #include "support/scratch_folder.h"
 
 #include <gtest/gtest.h>

@@ -1,9 +1,9 @@
 #include "app/resource_text.h"
 #include "app/word_list.h"
 #include "app/word_table.h"
-#include "document/files.h"
-#include "document/path_checks.h"
-#include "document/windows1252.h"
+#include "document/platform/files.h"
+#include "document/platform/path_checks.h"
+#include "document/text/windows1252.h"
 
 #include <gtest/gtest.h>
 
@@ -45,7 +45,7 @@ TEST(ShippedWords, HaveJustTheNumbersThatTheProgramAsksFor)
         asked.insert(use.id);
     EXPECT_EQ(asked, idsOfTheFile());
     EXPECT_EQ(std::set<int>(asked.begin(), asked.end()).size(), asked.size()); // none twice
-    const auto names = readFile(QUILLMERE_SOURCE_DIR "/src/document/word_ids.h");
+    const auto names = readFile(QUILLMERE_SOURCE_DIR "/src/document/platform/word_ids.h");
     EXPECT_EQ(countOf(names, "constexpr int k"), std::size(kWordIds));
 }
 

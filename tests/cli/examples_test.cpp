@@ -1,10 +1,10 @@
 #include "cli/core_session.h"
-#include "document/deck_changes.h"
-#include "document/deck_changes_report.h"
+#include "document/changes/deck_changes.h"
+#include "document/changes/deck_changes_report.h"
+#include "document/changes/markup_document.h"
 #include "document/deck_repair.h"
-#include "document/files.h"
-#include "document/markup_document.h"
-#include "document/windows1252.h"
+#include "document/platform/files.h"
+#include "document/text/windows1252.h"
 
 #include <gtest/gtest.h>
 

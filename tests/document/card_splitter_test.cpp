@@ -1,6 +1,6 @@
 #include "document/card_splitter.h"
 
-#include "document/failure.h"
+#include "document/text/failure.h"
 #include "literal/corrections.h"
 #include "literal/search.h"
 #include "support/token_soup.h"

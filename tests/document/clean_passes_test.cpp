@@ -1,7 +1,7 @@
-#include "document/clean_passes.h"
+#include "document/repair/clean_passes.h"
 
-#include "document/clean_design_html.h"
-#include "document/failure.h"
+#include "document/repair/clean_design_html.h"
+#include "document/text/failure.h"
 #include "literal/cleaning.h"
 #include "support/token_soup.h"
 

@@ -1,5 +1,5 @@
 #include "document/design_to_wml.h"
-#include "document/failure.h"
+#include "document/text/failure.h"
 #include "document/wml_to_design.h"
 #include "literal/conversions.h"
 #include "support/small_deck.h"

@@ -1,7 +1,7 @@
-#include "document/deck_change_counts.h"
-#include "document/deck_changes_json.h"
-#include "document/deck_changes_report.h"
-#include "document/markup_fault_texts.h"
+#include "document/changes/deck_change_counts.h"
+#include "document/changes/deck_changes_json.h"
+#include "document/changes/deck_changes_report.h"
+#include "document/changes/markup_fault_texts.h"
 
 #include <gtest/gtest.h>
 

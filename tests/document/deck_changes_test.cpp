@@ -1,6 +1,6 @@
-#include "document/deck_change_counts.h"
-#include "document/deck_changes.h"
-#include "document/sequence_match.h"
+#include "document/changes/deck_change_counts.h"
+#include "document/changes/deck_changes.h"
+#include "document/changes/sequence_match.h"
 #include "support/deck_generator.h"
 #include "support/small_random.h"
 

@@ -2,9 +2,9 @@
 
 #include "document/card_attributes.h"
 #include "document/design_text.h"
-#include "document/disk_work_files.h"
-#include "document/failure.h"
-#include "document/files.h"
+#include "document/platform/disk_work_files.h"
+#include "document/platform/files.h"
+#include "document/text/failure.h"
 #include "support/scratch_folder.h"
 #include "support/small_deck.h"
 

@@ -1,10 +1,10 @@
-#include "document/files.h"
+#include "document/platform/files.h"
 
-#include "document/disk_work_files.h"
-#include "document/failure.h"
-#include "document/file_system.h"
-#include "document/memory_work_files.h"
-#include "document/windows1252.h"
+#include "document/platform/disk_work_files.h"
+#include "document/platform/file_system.h"
+#include "document/platform/memory_work_files.h"
+#include "document/text/failure.h"
+#include "document/text/windows1252.h"
 #include "support/scratch_folder.h"
 #include "support/small_random.h"
 

@@ -1,6 +1,6 @@
 #include "document/images.h"
 
-#include "document/failure.h"
+#include "document/text/failure.h"
 #include "support/fake_platform.h"
 #include "support/scratch_folder.h"
 #include "support/small_deck.h"

@@ -1,7 +1,7 @@
-#include "document/character_references.h"
-#include "document/markup_document.h"
-#include "document/text_place.h"
-#include "document/well_formedness.h"
+#include "document/changes/character_references.h"
+#include "document/changes/markup_document.h"
+#include "document/changes/well_formedness.h"
+#include "document/text/text_place.h"
 #include "support/deck_generator.h"
 #include "support/small_random.h"
 

@@ -1,12 +1,12 @@
-#include "document/paths.h"
+#include "document/platform/paths.h"
 
 #include "app/settings.h"
 #include "document/complete_url.h"
 #include "document/last_path.h"
-#include "document/mount_table.h"
-#include "document/number_texts.h"
-#include "document/path_checks.h"
-#include "document/windows1252.h"
+#include "document/platform/mount_table.h"
+#include "document/platform/path_checks.h"
+#include "document/text/number_texts.h"
+#include "document/text/windows1252.h"
 #include "support/fake_platform.h"
 
 #include <gtest/gtest.h>

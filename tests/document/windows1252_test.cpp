@@ -1,6 +1,6 @@
-#include "document/windows1252.h"
+#include "document/text/windows1252.h"
 
-#include "document/text_search.h"
+#include "document/text/text_search.h"
 #include "support/token_soup.h"
 
 #include <gtest/gtest.h>

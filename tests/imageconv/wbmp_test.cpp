@@ -1,6 +1,6 @@
 #include "imageconv/wbmp.h"
 
-#include "document/failure.h"
+#include "document/text/failure.h"
 #include "imageconv/bmp_writer.h"
 #include "support/scratch_folder.h"
 #include "support/token_soup.h"

@@ -1,7 +1,7 @@
 #include "skins/skin_files.h"
 
 #include "app/settings.h"
-#include "document/failure.h"
+#include "document/text/failure.h"
 #include "skins/palette.h"
 #include "skins/user_devices.h"
 #include "support/scratch_folder.h"

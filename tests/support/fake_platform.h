@@ -1,9 +1,9 @@
 #pragma once
 
-#include "document/drives.h"
-#include "document/failure.h"
-#include "document/file_system.h"
-#include "document/prompter.h"
+#include "document/platform/drives.h"
+#include "document/platform/file_system.h"
+#include "document/platform/prompter.h"
+#include "document/text/failure.h"
 
 #include <set>
 #include <stdexcept>

@@ -1,6 +1,6 @@
 #include "upload/profiles.h"
 
-#include "document/failure.h"
+#include "document/text/failure.h"
 #include "support/scratch_folder.h"
 #include "support/small_random.h"
 

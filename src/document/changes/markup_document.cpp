@@ -1,0 +1,170 @@
+// One pass from left to right; each character is passed over once. Searches for an end that may be
+// missing ("-->" and the like) are made from places ahead of its last occurrence only, so that a
+// thousand unended comments cost no thousand searches. Tags are read by MarkupTagReader. Held by
+// markup_document_test.cpp.
+
+#include "document/changes/markup_document.h"
+
+#include "document/changes/markup_tag_reader.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace quillmere {
+
+namespace {
+
+using Kind = MarkupToken::Kind;
+constexpr auto kNowhere = std::string_view::npos;
+
+class MarkupReader {
+public:
+    explicit MarkupReader(std::string_view text)
+        : in_(text)
+    {
+    }
+
+    MarkupDocument read()
+    {
+        const auto opened = std::count(in_.text.begin(), in_.text.end(), '<');
+        in_.document.tokens.reserve(static_cast<std::size_t>(opened) * 3 / 2 + 1);
+        while (in_.at < in_.text.size()) {
+            if (!beginsMarkup(in_.at)) {
+                readText();
+            } else if (in_.text[in_.at + 1] == '!') {
+                readDeclaration();
+            } else if (in_.text[in_.at + 1] == '?') {
+                readInstruction();
+            } else {
+                tags_.readTag();
+            }
+        }
+        return std::move(in_.document);
+    }
+
+private:
+    [[nodiscard]] bool beginsMarkup(std::size_t at) const
+    {
+        if (in_.text[at] != '<' || at + 1 >= in_.text.size()) return false;
+        const char next = in_.text[at + 1];
+        return next == '/' || next == '!' || next == '?' || beginsName(next);
+    }
+
+    void add(Kind kind, std::size_t begin, std::string_view name, std::string_view content)
+    {
+        in_.document.tokens.push_back({kind, begin, in_.at, name, content, 0, 0});
+    }
+
+    void readText()
+    {
+        const auto begin = in_.at;
+        while (!in_.atEnd() && !beginsMarkup(in_.at)) {
+            if (in_.text[in_.at] == '<') in_.note(MarkupFault::StrayLess, in_.at);
+            in_.at = std::min(in_.text.find('<', in_.at + 1), in_.text.size());
+        }
+        add(Kind::Text, begin, {}, in_.text.substr(begin, in_.at - begin));
+    }
+
+    void readDeclaration()
+    {
+        const auto rest = in_.text.substr(in_.at);
+        if (rest.starts_with("<!--")) {
+            readDelimited(Kind::Comment, 4, "-->", MarkupFault::UnendedComment, lastComment_);
+            const auto& comment = in_.document.tokens.back();
+            if (comment.content.find("--") != kNowhere || comment.content.ends_with('-'))
+                in_.note(MarkupFault::DashesInComment, comment.begin);
+        } else if (rest.starts_with("<![CDATA[")) {
+            readDelimited(Kind::Section, 9, "]]>", MarkupFault::UnendedSection, lastSection_);
+        } else {
+            readDoctype();
+        }
+    }
+
+    void readInstruction()
+    {
+        readDelimited(
+            Kind::Instruction, 2, "?>", MarkupFault::UnendedInstruction, lastInstruction_);
+        auto& token = in_.document.tokens.back();
+        const auto end = in_.at;
+        in_.at = token.begin + 2;
+        token.name = in_.takeName();
+        if (token.name.empty()) in_.note(MarkupFault::UnendedInstruction, token.begin);
+        token.content.remove_prefix(std::min(token.name.size(), token.content.size()));
+        in_.at = end;
+    }
+
+    /// Without its closing text the token ends at the next '>'.
+    void readDelimited(Kind kind, std::size_t openLength, std::string_view close,
+        MarkupFault missing, std::optional<std::size_t>& last)
+    {
+        const auto begin = in_.at;
+        const auto inner = begin + openLength;
+        if (!last) last = in_.text.rfind(close);
+        auto stop = *last != kNowhere && *last >= inner ? in_.text.find(close, inner) : kNowhere;
+        in_.at = stop + close.size();
+        if (stop == kNowhere) {
+            in_.note(missing, begin);
+            stop = std::min(in_.text.find('>', std::min(inner, in_.text.size())), in_.text.size());
+            in_.at = std::min(stop + 1, in_.text.size());
+        }
+        add(kind, begin, {}, in_.text.substr(inner, stop - inner));
+    }
+
+    /// "<!" up to its '>', which may stand in quotes or behind an internal subset.
+    void readDoctype()
+    {
+        const auto begin = in_.at;
+        constexpr std::string_view kOpen = "<!DOCTYPE";
+        auto stop = doctypeSeen_ ? kNowhere : doctypeEnd();
+        if (!in_.text.substr(begin).starts_with(kOpen) || doctypeSeen_ || stop == kNowhere)
+            in_.note(MarkupFault::BadDoctype, begin);
+        doctypeSeen_ = true; // a further one is a fault and is not searched far
+        if (stop == kNowhere) stop = std::min(in_.text.find('>', begin), in_.text.size());
+        in_.at = std::min(stop + 1, in_.text.size());
+        const auto inner = std::min(begin + kOpen.size(), stop);
+        add(Kind::Doctype, begin, {}, in_.text.substr(inner, stop - inner));
+    }
+
+    [[nodiscard]] std::size_t doctypeEnd() const
+    {
+        bool inSubset = false;
+        for (auto at = in_.at; at < in_.text.size(); ++at) {
+            const char character = in_.text[at];
+            if (character == '"' || character == '\'') at = in_.text.find(character, at + 1);
+            if (at == kNowhere) return kNowhere;
+            if (character == '[' || character == ']') inSubset = character == '[';
+            if (character == '>' && !inSubset) return at;
+        }
+        return kNowhere;
+    }
+
+    MarkupCursor in_;
+    MarkupTagReader tags_{in_};
+    bool doctypeSeen_ = false;
+    std::optional<std::size_t> lastComment_;
+    std::optional<std::size_t> lastSection_;
+    std::optional<std::size_t> lastInstruction_;
+};
+
+} // namespace
+
+MarkupDocument readMarkup(std::string_view text)
+{
+    return MarkupReader(text).read();
+}
+
+bool beginsName(char character)
+{
+    const auto code = static_cast<unsigned char>(character);
+    const bool letter = (code >= 'a' && code <= 'z') || (code >= 'A' && code <= 'Z');
+    return letter || code == '_' || code == ':' || (code >= 0xC0 && code != 0xD7 && code != 0xF7);
+}
+
+bool continuesName(char character)
+{
+    const auto code = static_cast<unsigned char>(character);
+    return beginsName(character) || (code >= '0' && code <= '9') || code == '-' || code == '.'
+        || code == 0xB7;
+}
+
+} // namespace quillmere

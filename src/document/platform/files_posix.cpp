@@ -1,0 +1,160 @@
+// A file is replaced by one that was written whole beside it, so that at each moment the path names
+// either all of the old or all of the new bytes. Held by files_test.cpp.
+
+#include "document/platform/file_failures.h"
+#include "document/platform/files.h"
+#include "document/platform/neighbour_file.h"
+#include "document/platform/posix_file.h"
+#include "document/text/failure.h"
+
+#include <cerrno>
+#include <cstdlib>
+#include <fcntl.h>
+#include <filesystem>
+#include <optional>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace quillmere {
+namespace {
+
+constexpr mode_t kPrivateMode = 0600;
+constexpr mode_t kUsualMode = 0666; // less what the person's mask takes away
+constexpr int kMaxLinks = 40;
+
+/// What stands at `path` itself, be it a link; nullopt where nothing does.
+std::optional<struct stat> statusOf(const std::string& path)
+{
+    struct stat status { };
+    if (::lstat(path.c_str(), &status) == 0) return status;
+    if (errno == ENOENT) return std::nullopt;
+    throw cannotWrite(path, lastError());
+}
+
+bool isDevice(const struct stat& status)
+{
+    return !S_ISREG(status.st_mode) && !S_ISDIR(status.st_mode) && !S_ISLNK(status.st_mode);
+}
+
+bool leadsToDevice(const std::string& path)
+{
+    struct stat status { };
+    return ::stat(path.c_str(), &status) == 0 && isDevice(status);
+}
+
+/// Where a chain of links leads to, be there a file or not.
+std::string behindLinks(const std::string& path)
+{
+    std::error_code error;
+    std::string target = path;
+    for (int i = 0; i < kMaxLinks; ++i) {
+        if (!std::filesystem::is_symlink(target, error)) return target;
+        const auto next = std::filesystem::read_symlink(target, error);
+        if (error) throw cannotWrite(path, error);
+        target = next.is_absolute() ? next.string() : directoryOf(target) + next.string();
+    }
+    throw cannotWrite(path, std::make_error_code(std::errc::too_many_symbolic_link_levels));
+}
+
+void writeToDevice(const std::string& path, std::string_view bytes)
+{
+    PosixFile device(path, O_WRONLY);
+    if (!device.isOpen() || !device.write(bytes) || !device.close())
+        throw cannotWrite(path, lastError());
+}
+
+// The new file stands already: a directory that cannot be flushed is no failure any more.
+void flushDirectory(const std::string& directory)
+{
+    const PosixFile opened(directory, O_RDONLY | O_DIRECTORY);
+    if (opened.isOpen()) static_cast<void>(opened.flush());
+}
+
+void replaceTarget(
+    const std::string& target, const std::optional<struct stat>& old, std::string_view bytes)
+{
+    // A new name in the directory would pass by the write protection of the file.
+    if (old && ::faccessat(AT_FDCWD, target.c_str(), W_OK, AT_EACCESS) != 0)
+        throw cannotWrite(target, lastError());
+    NeighbourFile neighbour(target, old ? kPrivateMode : kUsualMode);
+    neighbour.write(bytes);
+    if (old) neighbour.resemble(*old);
+    neighbour.flush();
+    neighbour.takeTheTargetsPlace();
+}
+
+} // namespace
+
+std::string readFile(const std::string& path, std::size_t maxBytes)
+{
+    const PosixFile file(path, O_RDONLY);
+    std::string bytes;
+    if (!file.isOpen() || !file.readInto(bytes, maxBytes)) throw cannotRead(path, lastError());
+    if (bytes.size() > maxBytes) throw Overflow();
+    return bytes;
+}
+
+bool fileExists(const std::string& path)
+{
+    struct stat status { };
+    return ::stat(path.c_str(), &status) == 0 && !S_ISDIR(status.st_mode);
+}
+
+bool regularFileExists(const std::string& path)
+{
+    struct stat status { };
+    return ::stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode);
+}
+
+FileReplacements::~FileReplacements()
+{
+    for (const auto& directory : directories_)
+        flushDirectory(directory);
+}
+
+void FileReplacements::replace(const std::string& path, std::string_view bytes)
+{
+    auto old = statusOf(path);
+    if (old && S_ISLNK(old->st_mode) && leadsToDevice(path)) return writeToDevice(path, bytes);
+    const bool isLink = old && S_ISLNK(old->st_mode);
+    const auto target = isLink ? behindLinks(path) : path;
+    if (isLink) old = statusOf(target);
+    if (old && S_ISDIR(old->st_mode))
+        throw cannotWrite(path, std::make_error_code(std::errc::is_a_directory));
+    if (old && isDevice(*old)) return writeToDevice(target, bytes);
+    replaceTarget(target, old, bytes);
+    directories_.insert(directoryOf(target));
+}
+
+void replaceFile(const std::string& path, std::string_view bytes)
+{
+    FileReplacements().replace(path, bytes);
+}
+
+std::string makePrivateDirectory(const std::string& parent)
+{
+    auto path = parent + "quillmere-XXXXXX";
+    if (::mkdtemp(path.data()) == nullptr) throw cannotWrite(parent, lastError());
+    return path + '/';
+}
+
+bool createWorkFile(const std::string& path)
+{
+    const PosixFile file(path, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW, kPrivateMode);
+    if (!file.isOpen() && errno != EEXIST) throw cannotWrite(path, lastError());
+    return file.isOpen();
+}
+
+void replaceWorkFile(const std::string& path, std::string_view bytes)
+{
+    NeighbourFile neighbour(path, kPrivateMode);
+    neighbour.write(bytes);
+    neighbour.takeTheTargetsPlace();
+}
+
+void removeFile(const std::string& path)
+{
+    ::unlink(path.c_str());
+}
+
+} // namespace quillmere

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "document/text/edited_text.h"
+
+#include <span>
+#include <string>
+#include <string_view>
+
+namespace quillmere {
+
+/// One pass of the cleaning. Where `apply` throws, the text is half done: callers keep a copy.
+struct CleanPass {
+    std::string_view name;
+    void (*apply)(EditedText&);
+};
+
+/// The passes ahead of the transliteration, in their order.
+[[nodiscard]] std::span<const CleanPass> cleanPasses();
+
+/// Behind the transliteration: cuts text of blanks only, or a line break among blanks, between two
+/// tags, so that they touch.
+void cutBlankText(std::string& text);
+
+/// Cuts the blanks that lead up to a tag with no printable character between.
+void cutBlanksAheadOfTags(std::string& text);
+
+} // namespace quillmere

@@ -1,0 +1,175 @@
+// RepairOnePair reads the tags of the pair from left to right and cuts as it goes; what a cut joins
+// is read again. The pairs that may overlap share one look for their tags until something moves.
+// Held by corrections_test.cpp, which repairs with plain searches.
+
+#include "document/repair/format_nesting.h"
+
+#include "document/repair/format_overlap.h"
+#include "document/text/limits.h"
+#include "document/text/tag_places.h"
+#include "document/text/text_cutter.h"
+#include "document/text/text_search.h"
+
+#include <algorithm>
+#include <array>
+
+namespace quillmere {
+namespace {
+
+constexpr std::array<TagPair, 5> kNestedPairs{{
+    // "<b>" and "<em>" are left out on purpose
+    {"<strong>", "</strong>"},
+    {"<i>", "</i>"},
+    {"<u>", "</u>"},
+    {"<big>", "</big>"},
+    {"<small>", "</small>"},
+}};
+
+class PairRepair {
+public:
+    PairRepair(std::string& text, const TagPair& pair)
+        : text_(text)
+        , pair_(pair)
+        , lastClose_(findLastIgnoringCase(text, pair.close))
+        , cutter_(text)
+    {
+    }
+
+    void run()
+    {
+        for (auto at = text_.find('<'); at != npos; at = text_.find('<', resumeAt_)) {
+            resumeAt_ = at + 1;
+            if (standsAt(text_, at, pair_.open))
+                readOpen(at);
+            else if (standsAt(text_, at, pair_.close))
+                readClose(at);
+        }
+    }
+
+private:
+    enum class State { AheadOfAll, Outside, Inside, NoCloseLeft };
+
+    void readOpen(std::size_t at)
+    {
+        const bool closes = lastClose_ != npos && lastClose_ > at;
+        if (state_ == State::Inside || state_ == State::NoCloseLeft) {
+            cut(at, pair_.open);
+        } else if (closes) {
+            keepThrough(at + pair_.open.size());
+            state_ = State::Inside;
+        } else {
+            keepThrough(at);
+            cut(at, pair_.open);
+            state_ = State::NoCloseLeft;
+        }
+    }
+
+    void readClose(std::size_t at)
+    {
+        if (state_ == State::AheadOfAll)
+            cut(at, pair_.close);
+        else if (state_ == State::Inside)
+            state_ = State::Outside;
+    }
+
+    void keepThrough(std::size_t offset)
+    {
+        cutter_.keepTo(offset);
+        floor_ = cutter_.kept();
+        resumeAt_ = offset;
+    }
+
+    void cut(std::size_t at, std::string_view tag)
+    {
+        cutter_.keepTo(at);
+        cutter_.dropTo(at + tag.size());
+        cutter_.takeBack(std::max(pair_.open.size(), pair_.close.size()) - 1, floor_);
+        resumeAt_ = cutter_.position();
+    }
+
+    std::string& text_;
+    TagPair pair_;
+    std::size_t lastClose_;
+    TextCutter cutter_;
+    State state_ = State::AheadOfAll;
+    std::size_t floor_ = 0; // a tag that a cut joins counts from this kept character on
+    std::size_t resumeAt_ = 0;
+};
+
+/// The five formats that may overlap, in the order in which they are held against each other.
+constexpr std::array<TagPair, 5> kOverlappingPairs{{
+    {"<big>", "</big>"},
+    {"<small>", "</small>"},
+    {"<i>", "</i>"},
+    {"<b>", "</b>"},
+    {"<u>", "</u>"},
+}};
+
+/// The places of the open and the close tag of each pair.
+std::vector<Places> placesOf(std::string_view text, std::span<const TagPair> pairs)
+{
+    std::vector<std::string_view> keys;
+    for (const TagPair& pair : pairs)
+        keys.insert(keys.end(), {pair.open, pair.close});
+    return tagPlaces(text, keys);
+}
+
+/// Whether each open tag has a close tag ahead of the next open one, and the first tag is open.
+bool isWhole(const Places& opens, const Places& closes)
+{
+    auto close = closes.begin();
+    for (auto open = opens.begin(); open != opens.end(); ++open) {
+        const bool isFirst = open == opens.begin();
+        if (isFirst && close != closes.end() && *close < *open) return false;
+        while (close != closes.end() && *close < *open)
+            ++close;
+        if (close == closes.end() || (open + 1 != opens.end() && open[1] < *close)) return false;
+    }
+    return !opens.empty() || closes.empty();
+}
+
+} // namespace
+
+void RepairOnePair(std::string& text, std::string_view openTag, std::string_view closeTag)
+{
+    requireAddressable(text);
+    PairRepair(text, {openTag, closeTag}).run();
+}
+
+void RepairNesting(std::string& text)
+{
+    requireAddressable(text);
+    auto places = placesOf(text, kNestedPairs);
+    for (std::size_t i = 0; i < kNestedPairs.size(); ++i) {
+        if (isWhole(places[2 * i], places[2 * i + 1])) continue;
+        RepairOnePair(text, kNestedPairs[i].open, kNestedPairs[i].close);
+        places = placesOf(text, kNestedPairs);
+    }
+}
+
+void RepairOverlap(std::string& text, std::string_view openA, std::string_view closeA,
+    std::string_view openB, std::string_view closeB)
+{
+    requireAddressable(text);
+    if (findIgnoringCase(openB, openA) != npos) return;
+    const std::array keys{openA, closeA, openB, closeB};
+    const auto places = tagPlaces(text, keys);
+    nestOverlaps(
+        text, {openA, closeA}, {openB, closeB}, {places[0], places[1], places[2], places[3]});
+}
+
+void RepairFormatNesting(std::string& text)
+{
+    requireAddressable(text);
+    auto places = placesOf(text, kOverlappingPairs);
+    for (std::size_t a = 0; a < kOverlappingPairs.size(); ++a) {
+        for (std::size_t b = 0; b < kOverlappingPairs.size(); ++b) {
+            if (a == b) continue;
+            const bool moved = nestOverlaps(text, kOverlappingPairs[a], kOverlappingPairs[b],
+                {places[2 * a], places[2 * a + 1], places[2 * b], places[2 * b + 1]});
+            if (moved) places = placesOf(text, kOverlappingPairs);
+        }
+    }
+}
+
+} // namespace quillmere

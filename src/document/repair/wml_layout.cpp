@@ -1,0 +1,172 @@
+// BreakWmlLines keeps the count of an indent that is never written: it only moves the scan on.
+// RestoreWhitespace walks the tags of both texts; where no '>' stands between two '<' the gap ahead
+// of the second takes in that of the first, so a gap's front is written when the gap has ended.
+// Held by corrections_test.cpp, which works with plain searches.
+
+#include "document/repair/wml_layout.h"
+
+#include "document/repair/tag_gaps.h"
+#include "document/text/limits.h"
+#include "document/text/text_search.h"
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+#include <vector>
+
+namespace quillmere {
+namespace {
+
+constexpr std::string_view kLineBreak = "\r\n";
+
+/// What stays in its line. Compared exactly, so "<I>" gets a line; "<b>" and "<em>" get one as
+/// well.
+constexpr std::string_view kKeptInLine[] = {"<br/", "<td", "</td", "<strong", "</strong", "<i>",
+    "</i>", "<u>", "</u>", "<big", "</big", "<small", "</small"};
+
+/// Whether any tag with this letter, be it behind a '/', may stay in its line.
+bool mayStayInLine(char letter)
+{
+    return letter == 'b' || letter == 's' || letter == 't' || letter == 'i' || letter == 'u';
+}
+
+/// A key is not looked for where the text ends with it: "</i>" as the last tag gets a line.
+bool getsOwnLine(std::string_view text, std::size_t at)
+{
+    const std::string_view rest = text.substr(at);
+    if (rest.size() < 3 || !mayStayInLine(rest[rest[1] == '/' ? 2 : 1])) return true;
+    return std::none_of(
+        std::begin(kKeptInLine), std::end(kKeptInLine), [rest](std::string_view key) {
+            return rest[2] == key[2] && rest.size() > key.size() + 1 && rest.starts_with(key);
+        });
+}
+
+/// The indent that the tags ask for.
+class IndentCount {
+public:
+    /// Counts a tag that gets a line. Returns how many characters behind its '<' the scan passes
+    /// over: a tag that begins there gets no line.
+    std::size_t countLine(bool isClose)
+    {
+        if (!first_ && lastWasOpen_ == isClose) indent_ += isClose ? -2 : 2;
+        const int passed = std::max(indent_, 0);
+        indent_ = passed + (isClose ? -2 : 2);
+        lastWasOpen_ = !isClose;
+        first_ = false;
+        return static_cast<std::size_t>(passed);
+    }
+    void countKeptOpen() { first_ = false; }
+
+private:
+    int indent_ = 0;
+    bool lastWasOpen_ = false;
+    bool first_ = true;
+};
+
+/// Writes a text with other white space at the ends of its gaps.
+class GapRewriter {
+public:
+    explicit GapRewriter(std::string_view text)
+        : text_(text)
+        , gaps_(text)
+        , rewriter_(text)
+    {
+    }
+
+    /// The gap ahead of the '<' at `tag`, which does not go back, gets other white space. Throws
+    /// Overflow where what is put in alone is longer than positions can tell.
+    void setSpace(std::size_t tag, const GapSpace& space)
+    {
+        const auto before = gaps_;
+        gaps_.goAheadOf(tag);
+        if (gaps_.begin() != before.begin()) finishGap(before);
+        if (!gaps_.exists()) return;
+        const bool isBlank = gaps_.leadEnd() == tag;
+        if (!isBlank) trails_.push_back({gaps_.trailBegin(), tag, space.trail});
+        front_ = isBlank ? space : GapSpace{space.lead, {}};
+    }
+
+    [[nodiscard]] std::string take()
+    {
+        finishGap(gaps_);
+        return rewriter_.take();
+    }
+
+private:
+    struct Trail {
+        std::size_t begin;
+        std::size_t end;
+        std::string_view space;
+    };
+
+    void finishGap(const GapWalk& gap)
+    {
+        if (!front_) return;
+        replace(gap.begin(), gap.leadEnd(), front_->lead);
+        replace(gap.leadEnd(), gap.leadEnd(), front_->trail);
+        for (const Trail& trail : trails_)
+            replace(trail.begin, trail.end, trail.space);
+        front_.reset();
+        trails_.clear();
+    }
+    void replace(std::size_t begin, std::size_t end, std::string_view space)
+    {
+        if (text_.substr(begin, end - begin) == space) return;
+        inserted_ += space.size();
+        requireAddressableLength(inserted_);
+        rewriter_.insert(begin, space);
+        rewriter_.drop(begin, end);
+    }
+
+    std::string_view text_;
+    GapWalk gaps_;
+    Rewriter rewriter_;
+    std::optional<GapSpace> front_; // what the open gap begins with
+    std::vector<Trail> trails_; // what stands ahead of the tags behind its front
+    std::size_t inserted_ = 0;
+};
+
+void takeAddressable(std::string& text, std::string result)
+{
+    requireAddressable(result);
+    text = std::move(result);
+}
+
+} // namespace
+
+void BreakWmlLines(std::string& text)
+{
+    requireAddressable(text);
+    Rewriter result(text);
+    IndentCount indent;
+    auto resumeAt = npos;
+    for (auto at = findIgnoringCase(text, "<wml"); at != npos; at = text.find('<', resumeAt)) {
+        resumeAt = at + 1;
+        const bool isClose = at + 1 < text.size() && text[at + 1] == '/';
+        if (getsOwnLine(text, at)) {
+            result.insert(at, kLineBreak);
+            resumeAt += indent.countLine(isClose);
+        } else if (!isClose) {
+            indent.countKeptOpen();
+        }
+    }
+    takeAddressable(text, result.take());
+}
+
+void RestoreWhitespace(std::string& text, std::string_view pristine)
+{
+    requireAddressable(text);
+    PristineWalk pristineTags(pristine);
+    GapRewriter result(text);
+    auto tagEnd = text.find('>');
+    for (auto at = text.find('<'); at != npos; at = text.find('<', at + 1)) {
+        if (tagEnd < at) tagEnd = text.find('>', at);
+        if (tagEnd == npos) break;
+        const auto length = std::min(tagEnd + 1 - at, kTagKeyLength);
+        const auto space = pristineTags.goTo(std::string_view(text).substr(at, length));
+        if (space) result.setSpace(at, *space);
+    }
+    takeAddressable(text, result.take());
+}
+
+} // namespace quillmere

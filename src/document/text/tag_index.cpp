@@ -1,0 +1,100 @@
+// The tags lie in two stacks that meet where the last change was, so that neighbouring changes move
+// few of them, and those behind a change need no new place. Held by tag_index_test.cpp and, under
+// changes, by clean_passes_test.cpp.
+
+#include "document/text/tag_index.h"
+
+#include <algorithm>
+
+namespace quillmere {
+namespace {
+
+constexpr std::size_t kUsualDistance = 12; // from a tag to the next one, at the least
+
+} // namespace
+
+void TagStack::clear(std::size_t expected)
+{
+    tags_.clear();
+    tags_.reserve(expected);
+}
+
+std::size_t TagStack::countCloser(std::size_t distance) const
+{
+    constexpr std::size_t kNearby = 4;
+    if (distance == 0) return 0;
+    auto count = std::min(lastCount_, size());
+    const auto nearby = std::min(count + kNearby, size());
+    if ((count > 0 && tags_[count - 1].distance >= distance)
+        || (nearby < size() && tags_[nearby].distance < distance)) {
+        const auto found = std::ranges::lower_bound(tags_, distance, {}, &Tag::distance);
+        count = static_cast<std::size_t>(found - tags_.begin());
+    } else {
+        while (count < nearby && tags_[count].distance < distance)
+            ++count;
+    }
+    lastCount_ = count;
+    return count;
+}
+
+void TagIndex::read(std::string_view text)
+{
+    size_ = text.size();
+    ahead_.clear(text.size() / kUsualDistance);
+    behind_.clear(0);
+    seen_.reset();
+    for (auto at = text.find('<'); at != std::string_view::npos; at = text.find('<', at + 1))
+        append(at, tagCode(text.substr(at, kTagCodeReach)));
+}
+
+std::size_t TagIndex::find(TagPattern pattern, std::size_t begin, std::size_t end) const
+{
+    auto i = ahead_.countCloser(begin);
+    const auto iEnd = end < size_ ? ahead_.countCloser(end) : ahead_.size();
+    while (i < iEnd && !pattern.fits(ahead_[i].code))
+        ++i;
+    if (i < iEnd) return ahead_[i].distance;
+    if (iEnd < ahead_.size() || behind_.empty()) return std::string_view::npos;
+    for (auto left = behind_.countCloser(distanceFromEnd(begin) + 1); left-- > 0;) {
+        const auto place = size_ - behind_[left].distance;
+        if (place >= end) break;
+        if (pattern.fits(behind_[left].code)) return place;
+    }
+    return std::string_view::npos;
+}
+
+std::size_t TagIndex::findLast(TagPattern pattern, std::size_t begin, std::size_t end) const
+{
+    for (auto i = behind_.countCloser(distanceFromEnd(end) + 1); i < behind_.size(); ++i) {
+        const auto place = size_ - behind_[i].distance;
+        if (place < begin) return std::string_view::npos;
+        if (pattern.fits(behind_[i].code)) return place;
+    }
+    for (auto i = ahead_.countCloser(end); i-- > 0;) {
+        const auto& tag = ahead_[i];
+        if (tag.distance < begin) break;
+        if (pattern.fits(tag.code)) return tag.distance;
+    }
+    return std::string_view::npos;
+}
+
+void TagIndex::cut(std::size_t begin, std::size_t end)
+{
+    moveTo(begin);
+    while (!behind_.empty() && size_ - behind_.back().distance < end)
+        behind_.pop();
+    size_ -= end - begin;
+}
+
+void TagIndex::moveTo(std::size_t offset)
+{
+    const auto fromOtherSide = [this](const TagStack::Tag& tag) {
+        return TagStack::Tag{static_cast<std::uint32_t>(size_ - tag.distance), tag.code};
+    };
+    for (; !ahead_.empty() && ahead_.back().distance >= offset; ahead_.pop())
+        behind_.push(fromOtherSide(ahead_.back()));
+    for (; !behind_.empty() && size_ - behind_.back().distance < offset; behind_.pop())
+        ahead_.push(fromOtherSide(behind_.back()));
+}
+
+} // namespace quillmere

@@ -1,0 +1,110 @@
+#pragma once
+
+#include "document/text/tag_code.h"
+
+#include <bitset>
+#include <cstddef>
+#include <cstdint>
+#include <string_view>
+#include <vector>
+
+// An index of the tags of a text under changes. How each tag begins is read once; where a tag may
+// stand is then told by comparing small numbers instead of reading the text again for each key.
+
+namespace quillmere {
+
+/// Tags by their distance from one end of the text, in rising order.
+class TagStack {
+public:
+    struct Tag {
+        std::uint32_t distance;
+        TagCode code;
+    };
+
+    void clear(std::size_t expected);
+    void push(const Tag& tag) { tags_.push_back(tag); }
+    void pop() { tags_.pop_back(); }
+    [[nodiscard]] bool empty() const { return tags_.empty(); }
+    [[nodiscard]] std::size_t size() const { return tags_.size(); }
+    [[nodiscard]] Tag& operator[](std::size_t index) { return tags_[index]; }
+    [[nodiscard]] const Tag& operator[](std::size_t index) const { return tags_[index]; }
+    [[nodiscard]] const Tag& back() const { return tags_.back(); }
+    /// How many tags are closer than `distance`. Quick where that is about as many as last time.
+    [[nodiscard]] std::size_t countCloser(std::size_t distance) const;
+
+private:
+    std::vector<Tag> tags_;
+    mutable std::size_t lastCount_ = 0;
+};
+
+/// The places and codes of all '<' of a text. The text itself lies elsewhere; each change of it is
+/// told here and costs the number of tags between it and the change before it.
+class TagIndex {
+public:
+    /// Forgets all and reads `text`.
+    void read(std::string_view text);
+
+    /// False where no tag fits; true mostly where one does, and at times where one did.
+    [[nodiscard]] bool mayHold(TagPattern pattern) const
+    {
+        if ((pattern.mask & tag_code::kSecondLetter) != 0) return seen_[hash(pattern.wanted)];
+        if ((pattern.mask & tag_code::kFirstLetter) == 0) return true;
+        return seen_[hashOfFirst(pattern.wanted)];
+    }
+
+    [[nodiscard]] std::size_t count() const { return ahead_.size() + behind_.size(); }
+    /// The first tag that fits, of those at `begin` and ahead of `end`; npos where there is none.
+    [[nodiscard]] std::size_t find(TagPattern pattern, std::size_t begin, std::size_t end) const;
+    /// The last one.
+    [[nodiscard]] std::size_t findLast(
+        TagPattern pattern, std::size_t begin, std::size_t end) const;
+
+    /// Follows a change that has been made: `piece` stands where the text reached from `begin` to
+    /// `end`. `codeAt` tells the code of the tag at an offset of the text as it is now.
+    template <typename CodeAt>
+    void replace(std::size_t begin, std::size_t end, std::string_view piece, CodeAt codeAt)
+    {
+        cut(begin, end);
+        size_ += piece.size();
+        for (auto i = ahead_.size(); i-- > 0 && ahead_[i].distance + kTagCodeReach > begin;)
+            ahead_[i].code = noted(codeAt(ahead_[i].distance));
+        for (auto at = piece.find('<'); at != std::string_view::npos; at = piece.find('<', at + 1))
+            append(begin + at, codeAt(begin + at));
+    }
+
+private:
+    static constexpr std::size_t kHashes = 0x400;
+
+    // The low bits of letters differ in what matters: "<p" and "<P" have the same ones.
+    static constexpr std::size_t hashOfFirst(TagCode code)
+    {
+        return (code >> tag_code::kLetterBits) % (kHashes / 2);
+    }
+    static constexpr std::size_t hash(TagCode code)
+    {
+        return kHashes / 2 + (code ^ (code >> tag_code::kLetterBits) * 5U) % (kHashes / 2);
+    }
+    TagCode noted(TagCode code)
+    {
+        seen_[hash(code)] = true;
+        seen_[hashOfFirst(code)] = true;
+        return code;
+    }
+    void append(std::size_t place, TagCode code)
+    {
+        ahead_.push({static_cast<std::uint32_t>(place), noted(code)});
+    }
+    [[nodiscard]] std::size_t distanceFromEnd(std::size_t place) const
+    {
+        return place < size_ ? size_ - place : 0;
+    }
+    void cut(std::size_t begin, std::size_t end);
+    void moveTo(std::size_t offset);
+
+    std::size_t size_ = 0; // of the text
+    TagStack ahead_; // of the last change, by the distance of their '<' from the begin of the text
+    TagStack behind_; // it, by the distance of their '<' from the end of the text
+    std::bitset<kHashes> seen_; // hashes of the codes that stand in the text or stood there once
+};
+
+} // namespace quillmere
