@@ -45,7 +45,6 @@ std::string_view EditedText::whole()
 std::size_t EditedText::find(const SearchKey& key, std::size_t from, std::size_t limit)
 {
     if (from > size() || from >= limit) return npos;
-    if (key.isTag && !tags_.mayHold(key.pattern)) return npos;
     if (key.isTag && tags_.count() <= kFewTags) return findTag(key, from, limit);
     Search& known = remembered(key);
     if (from < known.from) {
@@ -167,7 +166,6 @@ std::size_t EditedText::findTag(const SearchKey& key, std::size_t begin, std::si
 std::size_t EditedText::findLastTag(
     const SearchKey& key, std::size_t from, std::size_t before) const
 {
-    if (!tags_.mayHold(key.pattern)) return npos;
     auto at = tags_.findLast(key.pattern, from, before);
     while (at != npos && !key.pattern.isWhole && !standsHere(key, at))
         at = tags_.findLast(key.pattern, from, at);
