@@ -89,6 +89,8 @@ std::size_t EditedText::tagEnd(std::size_t begin)
 
 void EditedText::replace(std::size_t begin, std::size_t end, std::string_view piece)
 {
+    if (begin == end && piece.empty()) return;
+    ++changes_;
     moveGap(begin);
     gapEnd_ += end - begin;
     if (gapEnd_ - gapBegin_ < piece.size()) growGap(piece.size());
@@ -120,7 +122,7 @@ void EditedText::apply(TextEdits& edits)
     readAgain();
 }
 
-void EditedText::rework(const std::function<void(std::string&)>& operation)
+void EditedText::rework(void (*operation)(std::string&))
 {
     closeGap();
     const std::string before = buffer_;
@@ -220,6 +222,7 @@ void EditedText::readAgain()
 {
     tags_.read(buffer_);
     searchCount_ = 0;
+    ++changes_;
 }
 
 void EditedText::moveGap(std::size_t offset)
