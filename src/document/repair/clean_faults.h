@@ -12,20 +12,25 @@ using CleanFaults = std::uint32_t;
 namespace clean_fault {
 
 inline constexpr CleanFaults kDoBlock = 1U << 0U; ///< there is one, or a part of one
-inline constexpr CleanFaults kOptions = 1U << 1U; ///< options and their ends do not take turns
-inline constexpr CleanFaults kList = 1U << 2U; ///< some of a list's markers stand nowhere
-inline constexpr CleanFaults kEmptyParagraph = 1U << 3U; ///< filled by the surface
-inline constexpr CleanFaults kTable = 1U << 4U; ///< paragraphs in one, loose rows, or no end
-inline constexpr CleanFaults kParagraphRun = 1U << 5U; ///< one begins in another
-inline constexpr CleanFaults kPlainNeighbours = 1U << 6U; ///< two paragraphs without alignment
-inline constexpr CleanFaults kDoubledEnd = 1U << 7U; ///< a paragraph's end outside of one
-inline constexpr CleanFaults kOpenParagraph = 1U << 8U; ///< no end behind the last one
-inline constexpr CleanFaults kNoParagraph = 1U << 9U;
-inline constexpr CleanFaults kLooseBreak = 1U << 10U; ///< outside of paragraphs
-inline constexpr CleanFaults kLooseElement = 1U << 11U; ///< likewise
-inline constexpr CleanFaults kFormat = 1U << 12U; ///< one crosses a paragraph's end or is empty
-inline constexpr CleanFaults kOverlap = 1U << 13U; ///< formats do not nest
-inline constexpr CleanFaults kAny = 1U << 14U; ///< told of each text
+inline constexpr CleanFaults kOptionInOption = 1U << 1U; ///< or one without end
+inline constexpr CleanFaults kLooseOptionEnd = 1U << 2U; ///< of no option
+inline constexpr CleanFaults kLooseOption = 1U << 3U; ///< outside of lists
+inline constexpr CleanFaults kOpenList = 1U << 4U; ///< no end behind the last one
+inline constexpr CleanFaults kEmptyList = 1U << 5U; ///< without options
+inline constexpr CleanFaults kEmptyParagraph = 1U << 6U; ///< filled by the surface
+inline constexpr CleanFaults kTable = 1U << 7U; ///< holds paragraphs, or has no end
+inline constexpr CleanFaults kLooseRow = 1U << 8U; ///< more than the next row's begin behind it
+inline constexpr CleanFaults kParagraphRun = 1U << 9U; ///< one begins in another
+inline constexpr CleanFaults kOpenParagraph = 1U << 10U; ///< no end behind the last one
+inline constexpr CleanFaults kPlainNeighbours = 1U << 11U; ///< two paragraphs without alignment
+inline constexpr CleanFaults kDoubledEnd = 1U << 12U; ///< a paragraph's end outside of one
+inline constexpr CleanFaults kNoParagraph = 1U << 13U;
+inline constexpr CleanFaults kLooseBreak = 1U << 14U; ///< outside of paragraphs
+inline constexpr CleanFaults kLooseElement = 1U << 15U; ///< likewise
+inline constexpr CleanFaults kCrossingFormat = 1U << 16U; ///< a paragraph ends in one
+inline constexpr CleanFaults kEmptyFormat = 1U << 17U; ///< no text right behind its begin
+inline constexpr CleanFaults kOverlap = 1U << 18U; ///< formats that do not nest
+inline constexpr CleanFaults kAny = 1U << 19U; ///< told of each text
 
 } // namespace clean_fault
 

@@ -14,9 +14,9 @@ namespace quillmere {
 /// compared that share the tag's first letter and marks.
 template <std::size_t count> class TagKeys {
 public:
-    /// The keys are `keyOf(row)` of the rows, each with a name of one to seven characters.
-    template <typename Row, typename KeyOf = std::identity>
-    consteval explicit TagKeys(const Row (&rows)[count], KeyOf keyOf = {})
+    /// The keys are `keyOf(row)` of the first rows, each with a name of one to seven characters.
+    template <typename Row, std::size_t rowCount, typename KeyOf = std::identity>
+    consteval explicit TagKeys(const Row (&rows)[rowCount], KeyOf keyOf = {})
     {
         first_.fill(static_cast<std::uint8_t>(count));
         for (std::size_t i = count; i-- > 0;) {
