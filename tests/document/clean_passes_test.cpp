@@ -42,8 +42,10 @@ std::vector<Judged> judgedPasses()
     }
     all.push_back({"transliteration", [](std::string& text) { TransliterateGerman(text, kUsual); },
         literal::TransliterateGerman});
-    all.push_back({"blank text", cutBlankText, literal::cutBlankGaps});
-    all.push_back({"blanks", cutBlanksAheadOfTags, literal::cutBlanksAheadOfTags});
+    all.push_back({"blanks", cutBlanksAheadOfTags, [](std::string& text) {
+                       literal::cutBlankGaps(text);
+                       literal::cutBlanksAheadOfTags(text);
+                   }});
     all.push_back({"all", [](std::string& text) { CleanDesignHtml(text, kUsual); },
         literal::CleanDesignHtml});
     return all;

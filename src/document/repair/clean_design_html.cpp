@@ -118,7 +118,6 @@ void CleanDesignHtml(std::string& text, const OutputRules& rules)
     applyPasses(edited);
     auto cleaned = std::move(edited).take();
     TransliterateGerman(cleaned, rules);
-    cutBlankText(cleaned);
     cutBlanksAheadOfTags(cleaned);
     text = std::move(cleaned);
 }
