@@ -205,11 +205,9 @@ bool EditedText::standsHere(const SearchKey& key, std::size_t offset) const
 
 TagCode EditedText::tagCodeAt(std::size_t offset) const
 {
-    std::array<char, kTagCodeReach> begin;
-    const auto length = std::min(begin.size(), size() - offset);
-    for (std::size_t i = 0; i < length; ++i)
-        begin[i] = (*this)[offset + i];
-    return tagCode({begin.data(), length});
+    const auto end = std::min(offset + kTagCodeReach, size());
+    if (end > gapBegin_) return tagCode(copy(offset, end));
+    return tagCode(std::string_view(buffer_).substr(offset, gapBegin_ - offset));
 }
 
 void EditedText::closeGap()

@@ -23,6 +23,8 @@ public:
     void clear(std::size_t expected);
     void push(const Tag& tag) { tags_.push_back(tag); }
     void pop() { tags_.pop_back(); }
+    /// Takes all but the `kept` closest tags of the stack of the other end of a text.
+    void takeFrom(TagStack& other, std::size_t kept, std::size_t textSize);
     [[nodiscard]] bool empty() const { return tags_.empty(); }
     [[nodiscard]] std::size_t size() const { return tags_.size(); }
     [[nodiscard]] Tag& operator[](std::size_t index) { return tags_[index]; }
