@@ -77,7 +77,7 @@ constexpr CleanPass kPasses[] = {
     {"empty paragraphs", breakAtEmptyParagraphs, kEmptyParagraph},
     {"tables", settleTables, kTable | kLooseRow},
     {"paragraph runs", mergeParagraphRuns, kParagraphRun | kOpenParagraph},
-    {"trailing paragraphs", dropTrailingParagraphs, kAny},
+    {"trailing paragraphs", dropTrailingParagraphs, kTrailing | kBehindDoBlock},
     {"plain paragraphs", mergePlainParagraphs, kPlainNeighbours},
     {"doubled paragraph ends", dropDoubledParagraphEnds, kDoubledEnd},
     {"last paragraph", closeLastParagraph, kOpenParagraph},

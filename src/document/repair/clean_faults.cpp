@@ -25,38 +25,55 @@ struct Rule {
 constexpr CleanFaults kAtBegin = kDoBlock | kLooseOptionEnd | kLooseOption | kEmptyParagraph
     | kDoubledEnd | kNoParagraph | kLooseElement | kAny;
 constexpr CleanFaults kOfNextTag = kLooseRow | kEmptyFormat; // any tag makes them and leaves them
-constexpr CleanFaults kAtEnd
-    = kOptionInOption | kOpenList | kTable | kOpenParagraph | kNoParagraph | kLooseBreak | kAny;
+constexpr CleanFaults kAtEnd = kOptionInOption | kOpenList | kTable | kOpenParagraph | kNoParagraph
+    | kLooseBreak | kTrailing | kAny;
 
-constexpr CleanFaults kMadeByParagraph = kParagraphRun | kLooseBreak | kTable;
-constexpr CleanFaults kInParagraph = kParagraphRun | kOpenParagraph;
-constexpr CleanFaults kOutsideParagraph = kDoubledEnd | kLooseElement;
-constexpr CleanFaults kWithoutParagraph = kOutsideParagraph | kNoParagraph;
+constexpr CleanFaults kMadeByParagraph = kParagraphRun | kLooseBreak | kTable | kBehindDoBlock;
+constexpr CleanFaults kMadeByPlain = kMadeByParagraph | kPlainNeighbours;
+constexpr CleanFaults kMadeByEnd = kDoubledEnd | kCrossingFormat | kTable | kBehindDoBlock;
+constexpr CleanFaults kInside = kParagraphRun | kOpenParagraph | kTrailing;
+constexpr CleanFaults kInsidePlain = kInside | kPlainNeighbours;
+constexpr CleanFaults kOutside = kDoubledEnd | kLooseElement;
+constexpr CleanFaults kAheadOfFirst = kOutside | kNoParagraph;
 
-// The first key decides.
+// The first key decides. One rule a line:
+// clang-format off
 constexpr Rule kRules[] = {
-    {"<p>&nbsp", kMadeByParagraph | kPlainNeighbours | kEmptyParagraph,
-        kInParagraph | kPlainNeighbours, kWithoutParagraph},
-    {"<p align", kMadeByParagraph, kInParagraph, kWithoutParagraph | kPlainNeighbours},
-    {"<p", kMadeByParagraph | kPlainNeighbours, kInParagraph | kPlainNeighbours, kWithoutParagraph},
-    {"</p", kDoubledEnd | kTable | kCrossingFormat, kOutsideParagraph, kInParagraph | kLooseBreak},
-    {"<br", 0, kLooseBreak, 0},
+    {"<p>&nbsp", kMadeByPlain | kEmptyParagraph, kInsidePlain, kAheadOfFirst},
+    {"<p align", kMadeByParagraph, kInside, kAheadOfFirst | kPlainNeighbours},
+    {"<p", kMadeByPlain, kInsidePlain, kAheadOfFirst},
+    {"</p", kMadeByEnd, kOutside | kTrailing, kInside | kLooseBreak},
+    {"<br", kBehindDoBlock, kLooseBreak | kTrailing, 0},
     {"<!--option", kOptionInOption | kLooseOption, kOptionInOption, kLooseOptionEnd | kEmptyList},
     {"<!--/option", kLooseOptionEnd | kLooseOption, kLooseOptionEnd, kOptionInOption},
     {"<!--select", kLooseElement, kOpenList | kEmptyList, kLooseOption},
-    {"<!--/select", kEmptyList, kLooseOption, kOpenList | kEmptyList}, {"<!--do", kDoBlock, 0, 0},
-    {"<!--/do", kDoBlock, 0, 0}, {"<!--go", kDoBlock, 0, 0}, {"<table", kLooseElement, kTable, 0},
-    {"</table", 0, 0, kTable, kLooseRow}, {"<tr", 0, 0, 0, kLooseRow}, {"</tr><", 0, kLooseRow, 0},
-    {"</tr", kTable, 0, 0}, {"<img", kLooseElement, 0, 0}, {"<a", kLooseElement, 0, 0},
-    {"<strong", kLooseElement, 0, 0}, {"<em>", kLooseElement, 0, 0},
-    {"<big>", 0, kCrossingFormat, 0, kEmptyFormat, 1}, {"</big>", 0, 0, 0, 0, 1},
+    {"<!--/select", kEmptyList, kLooseOption, kOpenList | kEmptyList},
+    {"<!--do", kDoBlock, 0, 0},
+    {"<!--/do", kDoBlock, kBehindDoBlock, kTrailing},
+    {"<!--go", kDoBlock, 0, 0},
+    {"<table", kLooseElement, kTable, 0},
+    {"</table", 0, 0, kTable, kLooseRow},
+    {"<tr", 0, 0, 0, kLooseRow},
+    {"</tr><", 0, kLooseRow, 0},
+    {"</tr", kTable, 0, 0},
+    {"<img", kLooseElement, 0, 0},
+    {"<a", kLooseElement, 0, 0},
+    {"<strong", kLooseElement, 0, 0},
+    {"<em>", kLooseElement, 0, 0},
+    {"<big>", 0, kCrossingFormat, 0, kEmptyFormat, 1},
+    {"</big>", 0, 0, 0, 0, 1},
     {"<small>", kLooseElement, kCrossingFormat, 0, kEmptyFormat, 2},
-    {"<small", kLooseElement, 0, 0}, {"</small>", 0, 0, 0, 0, 2},
-    {"<i>", kLooseElement, kCrossingFormat, 0, kEmptyFormat, 3}, {"</i>", 0, 0, 0, 0, 3},
-    {"<b>", kLooseElement, kCrossingFormat, 0, kEmptyFormat, 4}, {"</b>", 0, 0, 0, 0, 4},
-    {"<u>", kLooseElement, kCrossingFormat, 0, kEmptyFormat, 5}, {"</u>", 0, 0, 0, 0, 5},
+    {"</small>", 0, 0, 0, 0, 2},
+    {"<small", kLooseElement, 0, 0},
+    {"<i>", kLooseElement, kCrossingFormat, 0, kEmptyFormat, 3},
+    {"</i>", 0, 0, 0, 0, 3},
+    {"<b>", kLooseElement, kCrossingFormat, 0, kEmptyFormat, 4},
+    {"</b>", 0, 0, 0, 0, 4},
+    {"<u>", kLooseElement, kCrossingFormat, 0, kEmptyFormat, 5},
+    {"</u>", 0, 0, 0, 0, 5},
     {"<", 0, 0, 0}, // any other
 };
+// clang-format on
 constexpr std::size_t kOther = std::size(kRules) - 1;
 
 class FaultWalk {

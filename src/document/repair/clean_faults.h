@@ -30,7 +30,9 @@ inline constexpr CleanFaults kLooseElement = 1U << 15U; ///< likewise
 inline constexpr CleanFaults kCrossingFormat = 1U << 16U; ///< a paragraph ends in one
 inline constexpr CleanFaults kEmptyFormat = 1U << 17U; ///< no text right behind its begin
 inline constexpr CleanFaults kOverlap = 1U << 18U; ///< formats that do not nest
-inline constexpr CleanFaults kAny = 1U << 19U; ///< told of each text
+inline constexpr CleanFaults kTrailing = 1U << 19U; ///< paragraphs, breaks, and no do block behind
+inline constexpr CleanFaults kBehindDoBlock = 1U << 20U; ///< paragraphs or breaks
+inline constexpr CleanFaults kAny = 1U << 21U; ///< told of each text
 
 } // namespace clean_fault
 
