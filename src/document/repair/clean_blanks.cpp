@@ -2,8 +2,8 @@
 // Held by clean_passes_test.cpp.
 
 #include "document/repair/clean_passes.h"
+#include "document/text/text_cutter.h"
 #include "document/text/text_search.h"
-#include "document/text/windows1252.h"
 
 namespace quillmere {
 namespace {
@@ -33,13 +33,14 @@ std::size_t beginOfCut(std::string_view text, std::size_t tag)
 
 void cutBlanksAheadOfTags(std::string& text)
 {
-    Rewriter rewriter(text);
+    TextCutter cutter(text);
     for (auto tag = text.find('<', 1); tag != npos; tag = text.find('<', tag + 1)) {
         const bool mayBeBlank = text[tag - 1] == ' ' || text[tag - 1] == kLineEnd.back();
         const auto begin = mayBeBlank ? beginOfCut(text, tag) : tag;
-        if (begin < tag) rewriter.drop(begin, tag);
+        if (begin == tag) continue;
+        cutter.keepTo(begin);
+        cutter.dropTo(tag);
     }
-    if (rewriter.position() > 0) text = rewriter.take();
 }
 
 } // namespace quillmere

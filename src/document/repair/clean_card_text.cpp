@@ -61,8 +61,10 @@ std::size_t contentBegin(EditedText& text)
 
 void closeLastParagraph(EditedText& text)
 {
-    for (auto at = text.find(kParagraph); at != npos; at = text.find(kParagraph, at + 1)) {
-        if (text.find(kParagraphEnd, at + 1) != npos) continue;
+    const auto lastEnd = text.findLast(kParagraphEnd);
+    auto at = text.find(kParagraph, lastEnd == npos ? 0 : lastEnd);
+    for (; at != npos; at = text.find(kParagraph, at + 1)) {
+        if (text.find(kParagraphEnd, at + 1) != npos) continue; // since one was closed
         const auto cardEnd = text.find(kCardEnd);
         if (cardEnd == npos) return;
         text.insert(cardEnd, kNewParagraphEnd);
