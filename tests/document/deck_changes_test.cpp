@@ -1,7 +1,7 @@
 #include "document/changes/deck_change_counts.h"
 #include "document/changes/deck_changes.h"
 #include "document/changes/sequence_match.h"
-#include "support/deck_generator.h"
+#include "generator/deck_generator.h"
 #include "support/small_random.h"
 
 #include <gtest/gtest.h>
@@ -101,7 +101,7 @@ TEST(DeckChanges, NumbersOfElementsAddUp)
     for (std::uint64_t seed = 0; seed < 200; ++seed) {
         SCOPED_TRACE("seed " + std::to_string(seed));
         test::SmallRandom random(seed);
-        const auto read = test::generateDeck(seed);
+        const auto read = bench::generateDeck(seed);
         const auto written = thinnedOut(read, random);
         auto balance = startsOf(read);
         for (const auto& [name, count] : startsOf(written))
@@ -119,7 +119,7 @@ TEST(DeckChanges, NumbersOfElementsAddUp)
 TEST(DeckChanges, NothingChangesBetweenADeckAndItself)
 {
     for (std::uint64_t seed = 0; seed < 100; ++seed) {
-        const auto deck = test::generateDeck(seed, {.targetBytes = 800, .brokenness = 0.2});
+        const auto deck = bench::generateDeck(seed, {.targetBytes = 800, .brokenness = 0.2});
         ASSERT_EQ(changesOf(deck, deck), "") << "seed " << seed;
     }
     const auto report = DeckChanges("<p>x", "<p>\n<b>x</p>");
