@@ -127,7 +127,7 @@ TEST(AddArea, LinksNewAreasForwardAndWriteDeckJoinsThem)
             + "\r\n<wml>\r\n<card id=\"a\">\r\n<p>e?ins\r\n</p></card>\r\n<card id=\"b\">\r\n"
               "<p>zwei?\r\n</p></card>\r\n</wml>\r\n");
     for (int i = 1; i < 40; ++i)
-        appendHistory(session, i % 2 == 0 ? 0 : -1, std::to_string(i));
+        PushUndo(session, i % 2 == 0 ? 0 : -1, std::to_string(i));
     const auto& history = session.deck.front().history;
     ASSERT_EQ(history.size(), 16U);
     EXPECT_EQ(history.front() + history.back(), "2439");
