@@ -146,10 +146,11 @@ TEST(SequenceMatch, IsALongestListOfEqualPairs)
 {
     for (std::uint64_t seed = 0; seed < 2000; ++seed) {
         test::SmallRandom random(seed);
+        const bool isLong = seed < 5; // of several windows, which need not give the longest
         std::vector<int> lists[2];
         for (auto& list : lists)
-            for (auto length = random.below(40); length > 0; --length)
-                list.push_back(static_cast<int>(random.below(1 + seed % 7)));
+            for (auto length = isLong ? 900 : random.below(40); length > 0; --length)
+                list.push_back(static_cast<int>(random.below(isLong ? 300 : 1 + seed % 7)));
         const auto pairs = matchSequences(lists[0], lists[1]);
         std::size_t left = 0;
         std::size_t right = 0;
@@ -159,7 +160,8 @@ TEST(SequenceMatch, IsALongestListOfEqualPairs)
             left = pair.left + 1;
             right = pair.right + 1;
         }
-        ASSERT_EQ(pairs.size(), longestCommonLength(lists[0], lists[1])) << "seed " << seed;
+        const auto longest = longestCommonLength(lists[0], lists[1]);
+        ASSERT_TRUE(isLong ? 2 * pairs.size() > longest : pairs.size() == longest) << seed;
     }
 }
 

@@ -95,6 +95,10 @@ TEST(LoadDeck, AFailureLeavesTheOpenDeck)
         ASSERT_EQ(areaCount(deck.session.deck), 1U);
         EXPECT_EQ(deck.session.deck.front().deckFile, "deck.wml");
     }
+    // The text that a person was writing is not lost either.
+    deck.files.write("source.wml", folder.get("zitat.wml"));
+    EXPECT_THROW(LoadDeck(deck.session, {"deck.wml", "", "source.wml", ""}), InvalidArgument);
+    EXPECT_EQ(deck.files.read("source.wml"), folder.get("zitat.wml"));
 }
 
 TEST(AddArea, LinksNewAreasForwardAndWriteDeckJoinsThem)
@@ -137,10 +141,12 @@ TEST(AddArea, AFailureLeavesTheDeck)
 {
     SmallDeck deck;
     AddArea(deck.session, true, "neu.wml", "/decks/");
-    for (int i = 1; i <= 32767; ++i) // no name is left
+    for (int i = 1; i < 32767; ++i)
         deck.files.write("Wml" + std::to_string(i) + ".htm", {});
-    EXPECT_THROW(AddArea(deck.session, false), Overflow);
-    EXPECT_EQ(areaCount(deck.session.deck), 1U);
+    AddArea(deck.session, false);
+    EXPECT_EQ(deck.session.deck[1].designFile, "Wml32767.htm");
+    EXPECT_THROW(AddArea(deck.session, false), Overflow); // no name is left
+    EXPECT_EQ(areaCount(deck.session.deck), 2U);
     EXPECT_NO_THROW(WriteDeck(deck.session));
 }
 

@@ -56,7 +56,7 @@ TEST(MarkupDocument, TokensCoverAnyText)
 
 TEST(MarkupDocument, CharactersOfReferences)
 {
-    EXPECT_EQ(decodeReferences("&lt;&#65;&#x42;&#228;&#x20AC;&nbsp;"), "<AB\xE4\x80\xA0");
+    EXPECT_EQ(decodeReferences("&lt;&#9;&#x42;&#228;&#x20AC;&nbsp;"), "<\tB\xE4\x80\xA0");
     EXPECT_EQ(decodeReferences("&amp;lt; & &; &#; &#x110000; &#1; a&b"),
         "&lt; & &; &#; &#x110000; &#1; a&b");
     EXPECT_EQ(decodeReferences("&#8722;&vdata;"), "\x01#8722;\x01vdata;");
