@@ -70,6 +70,11 @@ TEST(LoadDeck, ReadsTheFileOfThePersonAndClearsUpBehindTheDeckItReplaces)
         EXPECT_EQ(deck.files.all().size(), 4U); // these two, the design and its spare one
         EXPECT_TRUE(deck.files.exists(first.designFile));
     }
+    folder.put("decks/deck.wml", "<wml/>"); // what was opened stays the pristine copy
+    deck.files.write("source.wml", "<card id=\"b\">");
+    LoadDeck(deck.session, {"deck.wml", folder.path() + "decks/", "source.wml", ""});
+    EXPECT_EQ(deck.files.read(deck.session.deck.front().pristineFile), opened);
+    folder.put("decks/deck.wml", text);
     DiskWorkFiles files(folder.path());
     DocumentSession session{files, deck.copies, deck.core.prompter, deck.core.settings,
         deck.core.words, OutputRules(), {}};
@@ -89,11 +94,13 @@ TEST(LoadDeck, AFailureLeavesTheOpenDeck)
     SmallDeck deck;
     deck.load(R"(<card id="a"><p>alt<img src="b.wbmp"/></p></card>)");
     const auto before = deck.files.all();
+    deck.session.imageColour = 5;
     for (const char* name : {"ordner/lang.wml", "zitat.wml", "fehlt.wml", "ordner", ""}) {
         EXPECT_THROW(LoadDeck(deck.session, {name, folder.path(), "", ""}), Failure) << name;
         EXPECT_EQ(deck.files.all(), before);
         ASSERT_EQ(areaCount(deck.session.deck), 1U);
         EXPECT_EQ(deck.session.deck.front().deckFile, "deck.wml");
+        EXPECT_EQ(deck.session.imageColour, 5);
     }
     // The text that a person was writing is not lost either.
     deck.files.write("source.wml", folder.get("zitat.wml"));

@@ -91,8 +91,9 @@ TEST(LastPath, KeepsRootsWholeAndFallsBackToTheDeckAndThePersonsFolder)
     drives.current = "C:\\";
     EXPECT_EQ(last(kWindows), R"(C:\eigene Dateien)");
     deck.resize(2);
-    deck.front().inUse = true;
     deck.front().deckDir = R"(D:\projekt\)";
+    EXPECT_EQ(last(kWindows), R"(C:\eigene Dateien)"); // no deck is open
+    deck.front().inUse = true;
     EXPECT_EQ(last(kWindows), R"(D:\projekt)");
 
     disk.files = {"/p/index.wml"};
@@ -174,8 +175,9 @@ TEST(CompleteUrl, OffersWhatIsMissing)
     const struct {
         const char *text, *offer; // null: nothing is offered
     } rows[] = {{"www.a.de", "http://www.a.de"}, {" WWW.a.de ", "http://WWW.a.de"},
-        {"a.de/b", "http://www.a.de/b"}, {R"(a\b)", R"(http://www.a\b)"}, {"HTTP://a/b", nullptr},
-        {" http:x ", nullptr}, {"#karte", nullptr}, {" Wort ", nullptr}, {"", nullptr}};
+        {"a.de/b", "http://www.a.de/b"}, {R"(a\b)", R"(http://www.a\b)"},
+        {"a.wml", "http://www.a.wml"}, {"HTTP://a/b", nullptr}, {" http:x ", nullptr},
+        {"#karte", nullptr}, {" Wort ", nullptr}, {"", nullptr}};
     for (const auto& row : rows) {
         for (const bool assents : {true, false}) {
             test::ScriptedPrompter person;

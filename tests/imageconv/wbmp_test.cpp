@@ -108,9 +108,11 @@ TEST(ReadWbmp, RefusesByTheStandardWhatIsNone)
             EXPECT_EQ(rowsOf(readWbmp(bytes, kStandard)), (Rows{"....", ".#.#"}));
         }
     }
+    // A side beyond 4096.
     for (const auto& bytes : {std::string("\0\0\xA0\x01\x01\x01", 6),
              std::string("\0\0\x81\x01\xA0\x01", 6), std::string("\0\0\xFF\xFF\xFF\xFF", 6)})
-        EXPECT_THROW((void)readWbmp(bytes, kUsual), BadPicture) << "beyond 4096";
+        for (const auto& rules : {kUsual, kStandard})
+            EXPECT_THROW((void)readWbmp(bytes + std::string(9000, '.'), rules), BadPicture);
     const std::string endless = std::string(2, '\0') + std::string(20, '\xFF') + "\x01\x01";
     EXPECT_THROW((void)readWbmp(endless, kStandard), BadPicture);
 }
