@@ -48,6 +48,12 @@ constexpr TagCode maskOf(std::size_t count, unsigned char marks)
     return std::bit_cast<TagCode>(bytes);
 }
 
+// Made by the compiler; a number put together from bytes at run time takes longer than all else.
+inline constexpr TagCode kAllLetters = maskOf(kLetters, 0);
+/// The marks by their bits.
+inline constexpr std::array<TagCode, 4> kMarks{
+    maskOf(0, 0), maskOf(0, kEndBit), maskOf(0, kCommentBit), maskOf(0, kEndBit | kCommentBit)};
+
 /// Of eight characters at once: capitals become small, those beyond ASCII become 0.
 constexpr TagCode folded(TagCode characters)
 {
@@ -91,9 +97,8 @@ struct Name {
         const auto count = text.size() - std::min(name.at, text.size());
         std::copy_n(text.data() + text.size() - count, count, letters.data());
     }
-    return (tag_code::folded(std::bit_cast<TagCode>(letters))
-               & tag_code::maskOf(tag_code::kLetters, 0))
-        | tag_code::maskOf(0, name.marks);
+    return (tag_code::folded(std::bit_cast<TagCode>(letters)) & tag_code::kAllLetters)
+        | tag_code::kMarks[name.marks];
 }
 
 /// What the codes of all tags have in common that begin with a key.
