@@ -73,7 +73,7 @@ bool RepairReport::wanted() const
     return arguments_.report || arguments_.dryRun;
 }
 
-void RepairReport::begin()
+void RepairReport::begin() const
 {
     if (arguments_.json) printBytes("[");
 }
@@ -104,7 +104,7 @@ void RepairReport::finishDeck(const std::string& input, const std::optional<Prob
     open_ = false;
 }
 
-void RepairReport::end()
+void RepairReport::end() const
 {
     if (arguments_.json) printBytes("]\n");
 }

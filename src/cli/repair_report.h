@@ -22,14 +22,14 @@ public:
 
     /// Whether anything is told.
     [[nodiscard]] bool wanted() const;
-    void begin();
+    void begin() const;
     /// Tells of a deck ahead of its being written, and makes sure that this is taken, so that no
     /// deck is replaced whose report is lost.
     void tell(const std::string& input, const DeckChangesReport& report, const RepairPlan& plan,
         std::string_view written);
     /// Tells how it ended with the deck `input`.
     void finishDeck(const std::string& input, const std::optional<Problem>& problem);
-    void end();
+    void end() const;
 
 private:
     const Arguments& arguments_;

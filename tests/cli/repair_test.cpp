@@ -16,6 +16,25 @@ using test::kDeck;
 constexpr const char* kStray = "<wml>\n<card id=\"a\">\n<p>x</b> y</p>\n</card></wml>";
 constexpr const char* kNoQuote = "<card id=\"a\"><do type=\"x\" label=\"y></do></card>";
 
+TEST_F(Cli, RepairReportsWhatItChanges)
+{
+    folder.put("d.wml", kDeck);
+    folder.put("e.wml", "<wml><card id=\"a\"><p><em>x<i>y</i></em></p></card></wml>");
+    const auto report = [&](Call more) {
+        Call call{"repair", "--report", "--out-dir", "@out", "@d.wml", "@e.wml"};
+        call.insert(call.end(), more.begin(), more.end());
+        return cli(call).output;
+    };
+    const auto text = report({});
+    EXPECT_NE(text.find("Verloren: <em> (Zeile 1, Spalte 22)"), text.npos) << text;
+    const auto stays = text.find("Eine weitere Korrektur ändert daran nichts.");
+    EXPECT_LT(stays, text.find("Eine weitere Korrektur ändert es noch einmal.")) << text;
+    const auto json = report({"--json", "--standard-output"});
+    EXPECT_TRUE(json.starts_with("[{\"deck\": ") && json.ends_with("}]\n")) << json;
+    EXPECT_LT(json.find("\"stable\": true"), json.find("},\n{\"deck\": ")) << json;
+    EXPECT_EQ(json.find("Gruesse"), json.npos);
+}
+
 TEST_F(Cli, RepairWritesWhereItIsTold)
 {
     folder.put("d.wml", kDeck);
@@ -33,7 +52,7 @@ TEST_F(Cli, RepairWritesWhereItIsTold)
     EXPECT_FALSE(folder.has("work/Wml2.htm"));
     // What is no deck becomes one elsewhere, with a warning, but never in its place.
     for (const auto& bytes : {std::string(), std::string("Kein WML"), std::string(100, '\0'),
-             std::string("<card id=\"a\"")}) {
+             std::string("<card>\0</card>", 14), std::string("<card id=\"a\"")}) {
         folder.put("any.wml", bytes);
         const auto converted = cli({"repair", "@any.wml", "-o", "-"});
         EXPECT_NE(converted.output.find("</card>"), bytes.npos);

@@ -28,8 +28,8 @@ inline constexpr std::size_t kAnyFileSize = std::numeric_limits<std::size_t>::ma
 /// Throws FileFailure; the old file is then as it was.
 void replaceFile(const std::string& path, std::string_view bytes);
 
-/// Throws FileFailure where replaceFile() would for a reason that is seen without writing: a folder,
-/// a folder that is missing, a refused access.
+/// Throws FileFailure where replaceFile() would for a reason that is seen without writing: a
+/// folder, a folder that is missing, a refused access.
 void requireReplaceable(const std::string& path);
 
 /// Makes the file `path`, with the mode and the owner of the file `model`. Throws FileFailure, also
