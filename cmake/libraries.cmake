@@ -15,3 +15,18 @@ function(quillmere_library name folder)
         target_link_libraries(${name}_qt PUBLIC ${name} Qt6::Gui)
     endif()
 endfunction()
+
+# quillmere_qt_library(NAME folder USES ...) makes the library of a folder whose files all may use Qt
+# Widgets, without the folders below it.
+function(quillmere_qt_library name folder)
+    cmake_parse_arguments(PARSE_ARGV 2 arg "" "" "USES")
+    if(NOT QUILLMERE_QT)
+        return()
+    endif()
+    find_package(Qt6 6.4 REQUIRED COMPONENTS Widgets)
+    file(GLOB sources CONFIGURE_DEPENDS ${folder}/*.cpp ${folder}/*.h)
+    add_library(${name} STATIC ${sources})
+    set_target_properties(${name} PROPERTIES AUTOMOC ON)
+    target_include_directories(${name} PUBLIC ${PROJECT_SOURCE_DIR}/src)
+    target_link_libraries(${name} PUBLIC quillmere_options Qt6::Widgets ${arg_USES})
+endfunction()

@@ -144,7 +144,7 @@ void SaveSurface(DocumentSession& session, std::size_t areaIndex)
     session.surface->SaveDocument(area.designDir + area.designFile);
 }
 
-void appendHistory(DocumentSession& session, int areaIndex, std::string state)
+void PushUndo(DocumentSession& session, int areaIndex, std::string state)
 {
     const int index = areaIndex < 0 ? session.currentArea : areaIndex;
     auto& history = areaRecord(session, static_cast<std::size_t>(index)).history;

@@ -44,6 +44,6 @@ void SaveSurface(DocumentSession& session, std::size_t areaIndex);
 
 /// Puts a state at the end of the area's list, of which the last 16 are kept. A negative index
 /// means the current area.
-void appendHistory(DocumentSession& session, int areaIndex, std::string state);
+void PushUndo(DocumentSession& session, int areaIndex, std::string state);
 
 } // namespace quillmere

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document/repair/clean_faults.h"
 #include "document/text/edited_text.h"
 
 #include <span>
@@ -12,6 +13,7 @@ namespace quillmere {
 struct CleanPass {
     std::string_view name;
     void (*apply)(EditedText&);
+    CleanFaults mends; ///< without any of these it leaves a text as it is
 };
 
 /// The passes ahead of the transliteration, in their order.

@@ -45,7 +45,6 @@ std::string_view EditedText::whole()
 std::size_t EditedText::find(const SearchKey& key, std::size_t from, std::size_t limit)
 {
     if (from > size() || from >= limit) return npos;
-    if (key.isTag && !tags_.mayHold(key.pattern)) return npos;
     if (key.isTag && tags_.count() <= kFewTags) return findTag(key, from, limit);
     Search& known = remembered(key);
     if (from < known.from) {
@@ -90,6 +89,8 @@ std::size_t EditedText::tagEnd(std::size_t begin)
 
 void EditedText::replace(std::size_t begin, std::size_t end, std::string_view piece)
 {
+    if (begin == end && piece.empty()) return;
+    ++changes_;
     moveGap(begin);
     gapEnd_ += end - begin;
     if (gapEnd_ - gapBegin_ < piece.size()) growGap(piece.size());
@@ -121,7 +122,7 @@ void EditedText::apply(TextEdits& edits)
     readAgain();
 }
 
-void EditedText::rework(const std::function<void(std::string&)>& operation)
+void EditedText::rework(void (*operation)(std::string&))
 {
     closeGap();
     const std::string before = buffer_;
@@ -167,7 +168,6 @@ std::size_t EditedText::findTag(const SearchKey& key, std::size_t begin, std::si
 std::size_t EditedText::findLastTag(
     const SearchKey& key, std::size_t from, std::size_t before) const
 {
-    if (!tags_.mayHold(key.pattern)) return npos;
     auto at = tags_.findLast(key.pattern, from, before);
     while (at != npos && !key.pattern.isWhole && !standsHere(key, at))
         at = tags_.findLast(key.pattern, from, at);
@@ -222,6 +222,7 @@ void EditedText::readAgain()
 {
     tags_.read(buffer_);
     searchCount_ = 0;
+    ++changes_;
 }
 
 void EditedText::moveGap(std::size_t offset)

@@ -42,9 +42,8 @@ void TagIndex::read(std::string_view text)
     size_ = text.size();
     ahead_.clear(text.size() / kUsualDistance);
     behind_.clear(0);
-    seen_.reset();
     for (auto at = text.find('<'); at != std::string_view::npos; at = text.find('<', at + 1))
-        append(at, tagCode(text.substr(at, kTagCodeReach)));
+        append(at, tagCode(text.substr(at)));
 }
 
 std::size_t TagIndex::find(TagPattern pattern, std::size_t begin, std::size_t end) const
@@ -89,7 +88,7 @@ void TagIndex::cut(std::size_t begin, std::size_t end)
 void TagIndex::moveTo(std::size_t offset)
 {
     const auto fromOtherSide = [this](const TagStack::Tag& tag) {
-        return TagStack::Tag{static_cast<std::uint32_t>(size_ - tag.distance), tag.code};
+        return TagStack::Tag{tag.code, static_cast<std::uint32_t>(size_ - tag.distance)};
     };
     for (; !ahead_.empty() && ahead_.back().distance >= offset; ahead_.pop())
         behind_.push(fromOtherSide(ahead_.back()));
