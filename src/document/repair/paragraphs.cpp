@@ -5,11 +5,11 @@
 #include "document/repair/paragraphs.h"
 
 #include "document/repair/crossing_formats.h"
-#include "document/text/byte_words.h"
 #include "document/text/limits.h"
 #include "document/text/text_cutter.h"
 #include "document/text/text_edits.h"
 #include "document/text/text_search.h"
+#include "document/text/windows1252.h"
 
 #include <algorithm>
 #include <optional>
@@ -99,11 +99,11 @@ void dropDoubledEnds(std::string& text)
     TextCutter cutter(text);
     bool ended = false;
     auto resumeAt = npos;
-    for (auto at = findByte(text, '<'); at != npos; at = findByte(text, '<', resumeAt)) {
+    for (auto at = text.find('<'); at != npos; at = text.find('<', resumeAt)) {
         resumeAt = at + 1;
-        const char behind = text[resumeAt]; // the text's final zero, where it ends here
+        const char behind = text[resumeAt]; // a zero where the text ends
         if (behind == 'p' || behind == 'P') ended = false;
-        if (behind != '/' || !standsAt(text, at, kEnd.text)) continue;
+        if (behind != '/' || lowerCase(text[resumeAt + 1]) != 'p') continue;
         if (ended) {
             const auto tagEnd = text.find('>', at);
             if (tagEnd == npos) return;

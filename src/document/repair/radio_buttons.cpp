@@ -4,7 +4,6 @@
 
 #include "document/repair/radio_buttons.h"
 
-#include "document/text/byte_words.h"
 #include "document/text/edited_text.h"
 #include "document/text/limits.h"
 #include "document/text/text_search.h"
@@ -22,10 +21,11 @@ constexpr std::string_view kOption = "<!--option";
 constexpr std::string_view kOptionEnd = "<!--/option";
 constexpr std::string_view kInput = "<input";
 
-/// The first tag at or behind `from` that begins with `key`.
-std::size_t findTag(std::string_view text, std::string_view key, std::size_t from)
+/// The first tag at or behind `from` and ahead of `end` that begins with `key`.
+std::size_t findTag(
+    std::string_view text, std::string_view key, std::size_t from, std::size_t end = npos)
 {
-    for (auto at = findByte(text, '<', from); at != npos; at = findByte(text, '<', at + 1)) {
+    for (auto at = text.find('<', from); at < end; at = text.find('<', at + 1)) {
         const bool mayBegin = at + 1 < text.size() && lowerCase(text[at + 1]) == key[1];
         if (mayBegin && standsAt(text, at, key)) return at;
     }
@@ -76,15 +76,16 @@ std::optional<std::string> withoutPlainInputs(std::string_view text, std::size_t
     while (option != npos) {
         auto end = findTag(text, kOptionEnd, option);
         if (end == npos) break; // what is not closed keeps its inputs
-        for (auto at = findTag(text.substr(0, end), kInput, option); at != npos;
-             at = findTag(text.substr(0, end), kInput, result.position())) {
+        for (auto at = findTag(text, kInput, option, end); at != npos;
+             at = findTag(text, kInput, result.position(), end)) {
             const auto tagEnd = text.find('>', at);
             if (tagEnd == npos) return result.take();
             if (text[at - 1] != '>') return std::nullopt;
             result.drop(at, tagEnd + 1);
-            if (tagEnd > end) end = findTag(text, kOptionEnd, tagEnd);
+            if (tagEnd > end) end = findTag(text, kOptionEnd, tagEnd); // it lay in the input
+            if (end == npos) return result.take();
         }
-        option = end == npos ? npos : findTag(text, kOption, end);
+        option = findTag(text, kOption, end);
     }
     return result.take();
 }

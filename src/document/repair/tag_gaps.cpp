@@ -4,7 +4,6 @@
 
 #include "document/repair/tag_gaps.h"
 
-#include "document/text/byte_words.h"
 #include "document/text/windows1252.h"
 
 #include <utility>
@@ -60,7 +59,7 @@ PristineWalk::PristineWalk(std::string_view text)
 {
     constexpr std::size_t kUsualDistance = 12;
     tags_.reserve(text.size() / kUsualDistance);
-    for (auto at = findByte(text, '<'); at != npos; at = findByte(text, '<', at + 1)) {
+    for (auto at = text.find('<'); at != npos; at = text.find('<', at + 1)) {
         const auto tag = text.substr(at, kTagKeyLength);
         if (tag.size() == kTagKeyLength || tag == "<>")
             tags_.push_back({static_cast<std::uint32_t>(at), kNone, keyOf(tag)});

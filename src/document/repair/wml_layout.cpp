@@ -6,7 +6,6 @@
 #include "document/repair/wml_layout.h"
 
 #include "document/repair/tag_gaps.h"
-#include "document/text/byte_words.h"
 #include "document/text/limits.h"
 #include "document/text/text_search.h"
 
@@ -147,7 +146,7 @@ void BreakWmlLines(std::string& text)
     Rewriter result(text);
     IndentCount indent;
     auto resumeAt = npos;
-    for (auto at = findIgnoringCase(text, "<wml"); at != npos; at = findByte(text, '<', resumeAt)) {
+    for (auto at = findIgnoringCase(text, "<wml"); at != npos; at = text.find('<', resumeAt)) {
         resumeAt = at + 1;
         const bool isClose = at + 1 < text.size() && text[at + 1] == '/';
         if (getsOwnLine(text, at)) {
@@ -166,7 +165,7 @@ void RestoreWhitespace(std::string& text, std::string_view pristine)
     PristineWalk pristineTags(pristine);
     GapRewriter result(text);
     const auto end = text.rfind('>') + 1; // 0 where there is none
-    for (auto at = findByte(text, '<'); at < end; at = findByte(text, '<', at + 1)) {
+    for (auto at = text.find('<'); at < end; at = text.find('<', at + 1)) {
         const auto space = pristineTags.goTo(std::string_view(text).substr(at, kTagKeyLength));
         if (space) result.setSpace(at, *space);
     }

@@ -3,7 +3,6 @@
 
 #include "document/text/tag_places.h"
 
-#include "document/text/byte_words.h"
 #include "document/text/text_search.h"
 
 #include <array>
@@ -52,7 +51,7 @@ private:
 std::string withoutTags(std::string_view text, std::span<const std::string_view> tags)
 {
     Rewriter rewriter(text);
-    for (auto at = findByte(text, '<'); at != npos; at = findByte(text, '<', at + 1)) {
+    for (auto at = text.find('<'); at != npos; at = text.find('<', at + 1)) {
         for (const std::string_view tag : tags) {
             if (standsAt(text, at, tag)) rewriter.drop(at, at + tag.size());
         }
@@ -67,7 +66,7 @@ std::vector<FoundTag> findTags(std::string_view text, std::span<const std::strin
     const KeyTable table(keys);
     std::vector<FoundTag> found;
     found.reserve(kUsualTags);
-    for (auto at = findByte(text, '<'); at != npos; at = findByte(text, '<', at + 1)) {
+    for (auto at = text.find('<'); at != npos; at = text.find('<', at + 1)) {
         auto number = table.first(initialAt(text, at)); // most tags have another one
         for (; number != 0; number = table.behind(number)) {
             if (standsAt(text, at, keys[number - 1]))
