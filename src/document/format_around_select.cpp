@@ -5,6 +5,7 @@
 #include "document/format_around_select.h"
 
 #include "document/select_format_plan.h"
+#include "document/tag_rules.h"
 #include "document/text/limits.h"
 #include "document/text/tag_places.h"
 #include "document/text/text_edits.h"
@@ -68,6 +69,34 @@ bool sweep(std::string& text, const TagPair& pair, SelectPlan plan)
     }
 }
 
+/// The tags of lists, and of each format its open tag and its close tag.
+constexpr TagRule kListsAndFormats[]
+    = {{kSelectKeys[0]}, {kSelectKeys[1]}, // a number below 2 is a list's
+        {"<big>"}, {"</big>"}, {"<small>"}, {"</small>"}, {"<i>"}, {"</i>"}, {"<b>"}, {"</b>"},
+        {"<u>"}, {"</u>"}};
+constexpr TagRules kTags{kListsAndFormats};
+
+/// False where no format's tag stands in a list and no format is open where a list begins, as in
+/// nearly all areas: then nothing has to come off.
+bool touchesLists(std::string_view text)
+{
+    unsigned open = 0; // one bit for each format
+    bool inList = false;
+    for (auto at = text.find('<'); at != npos; at = text.find('<', at + 1)) {
+        const auto tag = kTags.ruleFor(text, at);
+        if (tag == TagRules::kNone) continue;
+        if (tag < std::size(kSelectKeys)) {
+            inList = tag == 0;
+        } else {
+            const unsigned format = 1U << (tag / 2U);
+            open = tag % 2 == 0 ? open | format : open & ~format;
+            if (inList) return true;
+        }
+        if (inList && open != 0) return true;
+    }
+    return false;
+}
+
 /// Whether any of the pairs has to come off a list.
 bool needsRepair(std::string_view text, std::span<const TagPair> pairs)
 {
@@ -103,7 +132,8 @@ bool FormatAroundSelect(
 void RepairFormatAroundSelect(std::string& text, DocumentSession& session)
 {
     requireAddressable(text);
-    if (findIgnoringCase(text, kSelectKeys[0]) == npos || !needsRepair(text, kFormats)) return;
+    if (findIgnoringCase(text, kSelectKeys[0]) == npos || !touchesLists(text)) return;
+    if (!needsRepair(text, kFormats)) return;
     if (isDeclined(session)) return;
     for (const TagPair& pair : kFormats)
         FormatAroundSelect(text, pair.open, pair.close, true);

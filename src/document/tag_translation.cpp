@@ -37,6 +37,9 @@ std::string_view paragraphTag(LowerCaseTags& lower, const Tag& tag)
     if (tag.end - tag.begin == kPlain.size()) return kPlain; // as nearly all are
     const auto words = lower.tag(tag);
     for (const auto& alignment : kAlignments) {
+        if (words == alignment.tag) return alignment.tag; // as nearly all others
+    }
+    for (const auto& alignment : kAlignments) {
         if (words.find(alignment.word) != std::string_view::npos) return alignment.tag;
     }
     return kPlain;

@@ -63,8 +63,8 @@ bool assents(std::string_view path, Prompter& prompter, PathStyle style)
 
 SplitPathResult SplitPath(std::string_view path)
 {
-    const auto last = path.find_last_of(kSeparators);
-    const std::size_t nameAt = last == npos ? 0 : last + 1;
+    // One behind what is not found is 0.
+    const auto nameAt = std::max(path.rfind('/') + 1, path.rfind('\\') + 1);
     return {std::string(path.substr(0, nameAt)), std::string(path.substr(nameAt))};
 }
 

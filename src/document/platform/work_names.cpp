@@ -6,6 +6,7 @@
 #include "document/text/failure.h"
 
 #include <algorithm>
+#include <array>
 #include <charconv>
 #include <cstdint>
 #include <limits>
@@ -34,7 +35,10 @@ std::string WorkNames::first(std::string_view prefix, std::string_view suffix,
 {
     auto& searched = pattern(prefix, suffix);
     for (; searched.lowest <= kMaxNumber; ++searched.lowest) {
-        auto name = searched.prefix + std::to_string(searched.lowest) + searched.suffix;
+        std::array<char, 8> digits{};
+        const auto end = std::to_chars(digits.begin(), digits.end(), searched.lowest).ptr;
+        std::string name(prefix);
+        name.append(digits.begin(), end).append(suffix);
         if (canBeHad(name)) return name;
     }
     throw Overflow();

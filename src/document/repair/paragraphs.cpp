@@ -9,6 +9,7 @@
 #include "document/text/text_cutter.h"
 #include "document/text/text_edits.h"
 #include "document/text/text_search.h"
+#include "document/text/windows1252.h"
 
 #include <algorithm>
 #include <optional>
@@ -100,8 +101,9 @@ void dropDoubledEnds(std::string& text)
     auto resumeAt = npos;
     for (auto at = text.find('<'); at != npos; at = text.find('<', resumeAt)) {
         resumeAt = at + 1;
-        if (standsAt(text, at, kBegin.text)) ended = false;
-        if (!standsAt(text, at, kEnd.text)) continue;
+        const char behind = text[resumeAt]; // a zero where the text ends
+        if (behind == 'p' || behind == 'P') ended = false;
+        if (behind != '/' || lowerCase(text[resumeAt + 1]) != 'p') continue;
         if (ended) {
             const auto tagEnd = text.find('>', at);
             if (tagEnd == npos) return;

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "document/text/byte_words.h"
-
 #include <cstddef>
 #include <optional>
 #include <string_view>
@@ -26,24 +24,21 @@ class TagScanner {
 public:
     explicit TagScanner(std::string_view text)
         : text_(text)
+        , nextBegin_(text.find('<'))
     {
     }
     /// The next tag; nullopt where no complete tag is left.
     [[nodiscard]] std::optional<Tag> next()
     {
-        const bool isHidden = hidden_ != kNowhere && hidden_ >= position_;
-        const auto begin = isHidden ? hidden_ : findByte(text_, '<', position_);
-        if (begin == kNowhere) return std::nullopt;
-        const auto behind = findBracket(text_, begin + 1);
-        const bool hidesAnother = behind != kNowhere && text_[behind] == '<';
-        if (!hidesAnother)
-            end_ = behind;
-        else if (end_ <= begin) // else it is known from the tag that hid this one
-            end_ = findByte(text_, '>', behind);
-        if (end_ == kNowhere) return std::nullopt;
-        hidden_ = hidesAnother ? behind : kNowhere;
-        position_ = end_ + 1;
-        return Tag{begin, position_, hidesAnother};
+        if (nextBegin_ < position_) nextBegin_ = text_.find('<', position_);
+        if (nextBegin_ == kNowhere) return std::nullopt;
+        const auto begin = nextBegin_;
+        // Behind "<" any '>' ends the tag, and all stray '>' ahead of it are passed over.
+        if (nextEnd_ != kNowhere && nextEnd_ <= begin) nextEnd_ = text_.find('>', begin + 1);
+        if (nextEnd_ == kNowhere) return std::nullopt;
+        nextBegin_ = text_.find('<', begin + 1);
+        position_ = nextEnd_ + 1;
+        return Tag{begin, position_, nextBegin_ < nextEnd_};
     }
     /// The next search begins at `offset`, which lies behind the last tag's begin and not behind
     /// the first '<' in it.
@@ -53,8 +48,8 @@ private:
     static constexpr auto kNowhere = std::string_view::npos;
     std::string_view text_;
     std::size_t position_ = 0;
-    std::size_t hidden_ = kNowhere; // the second '<' of the last tag
-    std::size_t end_ = 0; // the '>' of the last tag
+    std::size_t nextBegin_; // the first '<' behind that of the last tag
+    std::size_t nextEnd_ = 0; // the first '>' behind that of the last tag's begin
 };
 
 } // namespace quillmere

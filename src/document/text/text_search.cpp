@@ -3,7 +3,6 @@
 
 #include "document/text/text_search.h"
 
-#include "document/text/byte_words.h"
 #include "document/text/windows1252.h"
 
 #include <algorithm>
@@ -104,7 +103,7 @@ std::size_t findPlaceByPlace(std::string_view text, std::string_view key, std::s
 {
     const bool isTag = key.starts_with('<');
     for (auto at = from; at < text.size(); ++at) {
-        if (isTag) at = findByte(text, '<', at);
+        if (isTag) at = text.find('<', at);
         if (standsAt(text, at, key)) return at;
         if (at == npos) break;
     }
