@@ -242,17 +242,18 @@ private:
     std::vector<DeckChange> changes_;
 };
 
-std::optional<DeckFault> placed(const std::optional<MarkupFaultAt>& fault, const TextPlaces& places)
+DeckFault placed(const MarkupFaultAt& fault, const TextPlaces& places)
 {
-    if (!fault) return std::nullopt;
-    return DeckFault{fault->fault, fault->name, places.at(fault->offset)};
+    return {fault.fault, fault.name, places.at(fault.offset)};
 }
 
 } // namespace
 
 std::optional<DeckFault> deckFault(std::string_view written)
 {
-    return placed(firstFault(written, readMarkup(written)), TextPlaces(written));
+    const auto fault = firstFault(written, readMarkup(written));
+    if (!fault) return std::nullopt;
+    return placed(*fault, TextPlaces(written));
 }
 
 DeckChangesReport DeckChanges(std::string_view read, std::string_view written)
@@ -262,7 +263,8 @@ DeckChangesReport DeckChanges(std::string_view read, std::string_view written)
     const auto match = matchItems(before.deck, after.deck);
     DeckChangesReport report;
     report.changes = ChangeLister(before, after, match).run();
-    report.fault = placed(firstFault(written, after.deck.document), after.places);
+    if (const auto fault = firstFault(written, after.deck.document))
+        report.fault = placed(*fault, after.places);
     return report;
 }
 

@@ -1,6 +1,7 @@
-// One pass from left to right; each character is passed over once. Searches for an end that may be
-// missing ("-->" and the like) are made from places ahead of its last occurrence only, so that a
-// thousand unended comments cost no thousand searches. Tags are read by MarkupTagReader. Held by
+// One pass from left to right; each character is passed over once. After the first search for an
+// end
+// ("-->" and the like) that finds none there is no further one, so that a thousand unended comments
+// cost no thousand searches. Tags are read by MarkupTagReader. Held by
 // markup_document_test.cpp.
 
 #include "document/changes/markup_document.h"
@@ -69,12 +70,12 @@ private:
     {
         const auto rest = in_.text.substr(in_.at);
         if (rest.starts_with("<!--")) {
-            readDelimited(Kind::Comment, 4, "-->", MarkupFault::UnendedComment, lastComment_);
+            readDelimited(Kind::Comment, 4, "-->", MarkupFault::UnendedComment, noComment_);
             const auto& comment = in_.document.tokens.back();
             if (comment.content.find("--") != kNowhere || comment.content.ends_with('-'))
                 in_.note(MarkupFault::DashesInComment, comment.begin);
         } else if (rest.starts_with("<![CDATA[")) {
-            readDelimited(Kind::Section, 9, "]]>", MarkupFault::UnendedSection, lastSection_);
+            readDelimited(Kind::Section, 9, "]]>", MarkupFault::UnendedSection, noSection_);
         } else {
             readDoctype();
         }
@@ -82,8 +83,7 @@ private:
 
     void readInstruction()
     {
-        readDelimited(
-            Kind::Instruction, 2, "?>", MarkupFault::UnendedInstruction, lastInstruction_);
+        readDelimited(Kind::Instruction, 2, "?>", MarkupFault::UnendedInstruction, noInstruction_);
         auto& token = in_.document.tokens.back();
         const auto end = in_.at;
         in_.at = token.begin + 2;
@@ -95,14 +95,14 @@ private:
 
     /// Without its closing text the token ends at the next '>'.
     void readDelimited(Kind kind, std::size_t openLength, std::string_view close,
-        MarkupFault missing, std::optional<std::size_t>& last)
+        MarkupFault missing, bool& noneLeft)
     {
         const auto begin = in_.at;
         const auto inner = begin + openLength;
-        if (!last) last = in_.text.rfind(close);
-        auto stop = *last != kNowhere && *last >= inner ? in_.text.find(close, inner) : kNowhere;
+        auto stop = noneLeft ? kNowhere : in_.text.find(close, inner);
         in_.at = stop + close.size();
         if (stop == kNowhere) {
+            noneLeft = true;
             in_.note(missing, begin);
             stop = std::min(in_.text.find('>', std::min(inner, in_.text.size())), in_.text.size());
             in_.at = std::min(stop + 1, in_.text.size());
@@ -141,9 +141,9 @@ private:
     MarkupCursor in_;
     MarkupTagReader tags_{in_};
     bool doctypeSeen_ = false;
-    std::optional<std::size_t> lastComment_;
-    std::optional<std::size_t> lastSection_;
-    std::optional<std::size_t> lastInstruction_;
+    bool noComment_ = false; // none of these ends from here on
+    bool noSection_ = false;
+    bool noInstruction_ = false;
 };
 
 } // namespace
@@ -151,20 +151,6 @@ private:
 MarkupDocument readMarkup(std::string_view text)
 {
     return MarkupReader(text).read();
-}
-
-bool beginsName(char character)
-{
-    const auto code = static_cast<unsigned char>(character);
-    const bool letter = (code >= 'a' && code <= 'z') || (code >= 'A' && code <= 'Z');
-    return letter || code == '_' || code == ':' || (code >= 0xC0 && code != 0xD7 && code != 0xF7);
-}
-
-bool continuesName(char character)
-{
-    const auto code = static_cast<unsigned char>(character);
-    return beginsName(character) || (code >= '0' && code <= '9') || code == '-' || code == '.'
-        || code == 0xB7;
 }
 
 } // namespace quillmere

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <optional>
 #include <span>
@@ -87,8 +88,30 @@ struct MarkupDocument {
     return character == ' ' || character == '\t' || character == '\r' || character == '\n';
 }
 
-/// A character that may begin a name, and one that may stand in it (Windows-1252).
-[[nodiscard]] bool beginsName(char character);
-[[nodiscard]] bool continuesName(char character);
+/// Characters that may begin a name (Windows-1252), and those that may stand in it.
+inline constexpr auto kNameCharacters = [] {
+    struct {
+        std::array<bool, 256> beginning{};
+        std::array<bool, 256> continuing{};
+    } names;
+    for (unsigned code = 0; code < 256; ++code) {
+        const bool letter = (code >= 'a' && code <= 'z') || (code >= 'A' && code <= 'Z')
+            || (code >= 0xC0 && code != 0xD7 && code != 0xF7);
+        names.beginning[code] = letter || code == '_' || code == ':';
+        names.continuing[code] = names.beginning[code] || (code >= '0' && code <= '9')
+            || code == '-' || code == '.' || code == 0xB7;
+    }
+    return names;
+}();
+
+[[nodiscard]] constexpr bool beginsName(char character)
+{
+    return kNameCharacters.beginning[static_cast<unsigned char>(character)];
+}
+
+[[nodiscard]] constexpr bool continuesName(char character)
+{
+    return kNameCharacters.continuing[static_cast<unsigned char>(character)];
+}
 
 } // namespace quillmere
