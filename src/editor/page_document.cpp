@@ -102,12 +102,13 @@ void insertItems(QTextCursor& cursor, const SurfacePage& page, std::size_t first
     }
 }
 
+// The format of a cell is that of its first block, which is therefore merged and not set.
 void PageWriter::writeBlock(QTextCursor& cursor, std::size_t block)
 {
     const auto& shown = page_.blocks[block];
     const bool isLow = isLineNextToTable(page_, block);
     cursor.setBlockFormat(isLow ? lowBlockFormat() : blockFormat(shown, style_));
-    cursor.setBlockCharFormat(isLow ? lowFormat(style_) : emptyFormat(page_, shown, style_));
+    cursor.mergeBlockCharFormat(isLow ? lowFormat(style_) : emptyFormat(page_, shown, style_));
     insertItems(cursor, page_, shown.firstItem, shown.endItem, style_);
 }
 
@@ -180,7 +181,7 @@ void setCaretInBlock(QTextDocument& document, const SurfacePage& page, std::size
     QTextCursor cursor(document.findBlockByNumber(static_cast<int>(block)));
     if (cursor.blockFormat() == format) return;
     cursor.setBlockFormat(format);
-    cursor.setBlockCharFormat(
+    cursor.mergeBlockCharFormat(
         isLow ? lowFormat(style) : emptyFormat(page, page.blocks[block], style));
 }
 
