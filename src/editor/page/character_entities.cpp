@@ -1,5 +1,5 @@
 // No name of the table begins another one, so the name that a text begins with is the last one
-// that does not sort behind the text. Held by character_entities_test.cpp.
+// that does not sort behind the text. Held by surface_page_test.cpp.
 
 #include "editor/page/character_entities.h"
 

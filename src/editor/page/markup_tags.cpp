@@ -1,5 +1,5 @@
 // One walk over the text; a name is packed into a number and looked up in a sorted table. What is
-// not there ('>' or "-->") is searched in vain only once. Held by markup_tags_test.cpp.
+// not there ('>' or "-->") is searched in vain only once. Held by surface_page_test.cpp.
 
 #include "editor/page/markup_tags.h"
 
