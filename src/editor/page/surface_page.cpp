@@ -25,6 +25,15 @@ std::vector<MarkupTag> tagsOf(std::string_view text)
     return tags;
 }
 
+/// No text has more items than characters outside of its tags, and one for each tag.
+std::size_t mostItems(std::string_view text, const std::vector<MarkupTag>& tags)
+{
+    std::size_t items = text.size() + tags.size();
+    for (const auto& tag : tags)
+        items -= tag.source.end - tag.source.begin;
+    return items;
+}
+
 class PageReader {
 public:
     PageReader(SurfacePage& page, std::vector<MarkupTag>& tags)
@@ -159,6 +168,7 @@ SurfacePage readSurfacePage(std::string text)
     SurfacePage page;
     page.text = std::move(text);
     auto tags = tagsOf(page.text);
+    page.items.reserve(mostItems(page.text, tags));
     page.content = contentOf(page.text, tags);
     PageReader(page, tags).read();
     return page;
