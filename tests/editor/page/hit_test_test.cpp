@@ -170,11 +170,12 @@ TEST(HitTest, IsInsideWhereTheSurfaceShowsTheElement)
         for (const PageItem& item : page.items) {
             SurfaceSelection selection;
             selection.marked = {item.source.begin, item.source.begin};
-            for (const auto& [wanted, kind] : kKinds) {
+            for (const auto& row : kKinds) {
+                const auto& [wanted, kind] = row;
                 const auto hit = HitTester().HitTest(
                     wanted.startTag, wanted.endTag, page.text, selection, true);
                 const auto element = std::ranges::find_if(page.elements, [&](const auto& each) {
-                    return each.kind == kind && each.start.begin < item.source.begin
+                    return each.kind == row.second && each.start.begin < item.source.begin
                         && item.source.begin < each.end.end;
                 });
                 ASSERT_EQ(hit.Inside, element != page.elements.end()) << item.source.begin;
