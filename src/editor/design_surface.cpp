@@ -38,7 +38,6 @@ DesignSurface::DesignSurface(WorkFiles& files, QWidget* parent)
 {
     setAcceptRichText(true);
     setTabChangesFocus(true);
-    setCursorWidth(2);
     setFrameShape(QFrame::NoFrame);
     setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
     setWordWrapMode(QTextOption::WordWrap);

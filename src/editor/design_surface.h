@@ -123,6 +123,8 @@ protected:
     [[nodiscard]] QMimeData* createMimeDataFromSelection() const override;
 
 private:
+    static constexpr int kCaretWidthPx = 2;
+
     struct Range {
         PagePlace from;
         PagePlace to;

@@ -18,6 +18,7 @@ namespace quillmere {
 namespace {
 
 constexpr double kRadioPx = 20;
+constexpr double kRadioGapPx = 4; // ahead of the option's text
 constexpr double kRadioRingPx = 14;
 constexpr double kChipPaddingPx = 9;
 constexpr double kChipGapPx = 2;
@@ -65,7 +66,7 @@ void drawChip(
 void drawRadio(QPainter& painter, const QRectF& place, const SurfaceStyle& style)
 {
     QRectF ring(0, 0, kRadioRingPx, kRadioRingPx);
-    ring.moveCenter(place.center() - QPointF(2, 0)); // the text begins a little further off
+    ring.moveCenter(place.center() - QPointF((kRadioPx - kRadioRingPx + kRadioGapPx) / 2 - 1, 0));
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(style.ink, 1.75));
     painter.setBrush(Qt::NoBrush);
@@ -97,12 +98,28 @@ QSizeF missingSize(const SurfaceStyle& style, const PictureTag& tag)
         asked.height() > 0 ? asked.height() : std::ceil(metrics.height()) + 2 * kMissingPaddingPx};
 }
 
+/// The nearest rectangle whose edges lie between the dots of the device.
+QRectF onDots(const QPainter& painter, const QRectF& place)
+{
+    const auto toDevice = painter.deviceTransform();
+    return toDevice.inverted().mapRect(QRectF(toDevice.mapRect(place).toRect()));
+}
+
+void drawDashedFrame(QPainter& painter, const QRectF& place, const QColor& colour)
+{
+    const double dots = painter.deviceTransform().m11();
+    const double width = std::max(1.0, std::floor(dots)) / dots;
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.setPen(QPen(colour, width, Qt::DashLine));
+    painter.setBrush(Qt::NoBrush);
+    const double half = width / 2;
+    painter.drawRect(onDots(painter, place).adjusted(half, half, -half, -half));
+}
+
 void drawMissing(
     QPainter& painter, const QRectF& place, const SurfaceStyle& style, const PictureTag& tag)
 {
-    painter.setPen(QPen(lineColour(style), 1, Qt::DashLine));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRect(place.adjusted(0.5, 0.5, -0.5, -0.5));
+    drawDashedFrame(painter, place, lineColour(style));
     const auto font = smallFont(style, 80);
     const auto room = place.adjusted(3, 1, -3, -1);
     painter.setFont(font);
@@ -155,7 +172,7 @@ void InlineObjects::attachTo(QTextDocument& document)
 QSizeF InlineObjects::intrinsicSize(QTextDocument*, int, const QTextFormat& format)
 {
     const auto source = objectSource(format);
-    if (format.objectType() == kRadioObject) return {kRadioPx, kRadioPx};
+    if (format.objectType() == kRadioObject) return {kRadioPx + kRadioGapPx, kRadioPx};
     if (format.objectType() == kChipObject) return chipSize(style_, source);
     const auto tag = readPictureTag(viewOf(source));
     const auto image = pictures_.find(tag.path);
@@ -191,7 +208,8 @@ QString chipName(QByteArrayView tag)
     if (name.startsWith(u'<')) name.remove(0, 1);
     const auto end = std::find_if(
         name.cbegin(), name.cend(), [](QChar c) { return c.isSpace() || c == u'>'; });
-    name.truncate(end - name.cbegin());
+    if (end != name.cbegin()) name.truncate(end - name.cbegin());
+    name = name.simplified();
     if (name.size() > kMaxChipName) name = name.left(kMaxChipName - 1) + u'\u2026';
     return name;
 }

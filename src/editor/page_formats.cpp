@@ -11,7 +11,9 @@ namespace {
 
 constexpr int kLineDistancePx = 5;
 constexpr int kLowBlockPx = 6;
-constexpr double kCellPaddingPx = 7;
+constexpr double kCellPaddingPx = 6;
+constexpr int kCellLineDistancePx = 2;
+constexpr double kBelowTablePx = 6;
 
 // By the size step from -2 to 2, in percent of the page's font size.
 constexpr std::array<int, 5> kSizes = {72, 85, 100, 125, 150};
@@ -104,8 +106,10 @@ QTextBlockFormat blockFormat(const PageBlock& block, const SurfaceStyle& look)
 {
     QTextBlockFormat format;
     format.setAlignment(qtAlignment(block.alignment));
-    format.setLineHeight(kLineDistancePx, QTextBlockFormat::LineDistanceHeight);
-    const bool isParagraph = block.paragraph != kNone && block.cell == kNone;
+    const bool isInTable = block.cell != kNone;
+    format.setLineHeight(
+        isInTable ? kCellLineDistancePx : kLineDistancePx, QTextBlockFormat::LineDistanceHeight);
+    const bool isParagraph = block.paragraph != kNone && !isInTable;
     if (isParagraph) format.setBottomMargin(look.fontSizePx / 2.0);
     return format;
 }
@@ -124,6 +128,7 @@ QTextTableFormat tableFormat(const PageTable& table, const SurfaceStyle& look)
     format.setCellSpacing(0);
     format.setBorderCollapse(true);
     format.setBorder(1);
+    format.setBottomMargin(kBelowTablePx);
     format.setBorderStyle(QTextFrameFormat::BorderStyle_Solid);
     format.setBorderBrush(table.border ? lineColour(look) : tone(look, 0.25));
     return format;

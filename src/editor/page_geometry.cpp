@@ -61,7 +61,15 @@ std::optional<PagePlace> itemAt(
 QRectF tableRect(const QTextDocument& document, const SurfacePage& page, std::size_t table)
 {
     auto* shown = textTable(document, page.tables[table]);
-    return shown == nullptr ? QRectF() : layoutOf(document).frameBoundingRect(shown);
+    if (shown == nullptr) return {};
+    // The layout adds the place of the first cell to that of the table, and counts lines that cells
+    // share for each of them.
+    const auto format = shown->format();
+    const auto corner = format.cellPadding() + 1.5 * format.border();
+    const auto shared = 3 * format.border();
+    const auto told = layoutOf(document).frameBoundingRect(shown);
+    return QRectF(told.topLeft() - QPointF(corner, corner),
+        told.size() - QSizeF(shared, shared + format.bottomMargin()));
 }
 
 std::size_t tableBorderAt(const QTextDocument& document, const SurfacePage& page, QPointF point)

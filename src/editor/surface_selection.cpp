@@ -16,8 +16,6 @@
 namespace quillmere {
 namespace {
 
-constexpr int kCaretWidthPx = 2;
-
 /// The name of a start tag in lower case.
 std::string nameOf(std::string_view tag)
 {

@@ -52,6 +52,7 @@ void DesignSurface::rebuild()
     showPage(*fresh, page_, style_);
     objects_.attachTo(*fresh);
     setDocument(fresh);
+    setCursorWidth(kCaretWidthPx); // a property of the document's layout
     connect(fresh, &QTextDocument::contentsChange, this,
         [this](int, int removed, int added) { keepInStep(removed, added); });
     verticalScrollBar()->setValue(scrolled);
