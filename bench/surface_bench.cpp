@@ -26,7 +26,8 @@ namespace quillmere::bench {
 namespace {
 
 constexpr std::size_t kSizes[] = {4000, 8000, 16000, 30000};
-constexpr AreaShape kShapes[] = {AreaShape::Page, AreaShape::Table, AreaShape::Text};
+constexpr AreaShape kShapes[]
+    = {AreaShape::Page, AreaShape::Table, AreaShape::Cells, AreaShape::Text};
 constexpr const char* kFile = "Wml0.htm";
 
 /// A surface that shows an area.
@@ -110,6 +111,7 @@ Round plainSetHtml(const std::string& text)
     const auto plain = std::make_shared<QTextEdit>();
     plain->resize(400, 600);
     plain->show();
+    QApplication::processEvents();
     return [plain, html = QString::fromLatin1(text.data(), static_cast<qsizetype>(text.size()))] {
         plain->setHtml(html);
     };

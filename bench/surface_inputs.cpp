@@ -26,43 +26,61 @@ std::string inFrame(const std::string& content)
         + content + "</BODY></HTML>";
 }
 
-std::string table(std::size_t size)
+std::string table(const std::string& cell)
 {
-    constexpr std::size_t kCell = std::string_view("<td></td>").size();
-    const auto share = size / (kRows * kColumns);
-    const auto cell = "<td>" + words(share > kCell ? share - kCell : 1) + "</td>";
     std::string rows;
     for (int row = 0; row < kRows; ++row) {
         rows += "<tr>";
         for (int column = 0; column < kColumns; ++column)
-            rows += cell;
+            rows.append("<td>").append(cell).append("</td>");
         rows += "</tr>";
     }
     return R"(<table title="T" align="L" columns="10" border="1">)" + rows + "</table>";
+}
+
+std::string cells(std::size_t size)
+{
+    constexpr std::size_t kTags = std::string_view("<td></td>").size();
+    const auto share = size / (kRows * kColumns);
+    return table(words(share > kTags ? share - kTags : 1));
+}
+
+std::string page(std::size_t size)
+{
+    auto text = inputOf({"deck", ""}, Stage::Design, size);
+    InsertTemporaeryRadioButtons(text);
+    return text;
+}
+
+std::string pageWithTable(std::size_t size)
+{
+    constexpr std::size_t kPiece = 1000; // the least that a page can be made of
+    const auto last = table("Zelle");
+    auto text = page(size > last.size() + kPiece ? size - last.size() : 2 * kPiece);
+    return text.insert(text.find("</BODY>"), last);
 }
 
 } // namespace
 
 std::string_view nameOf(AreaShape shape)
 {
-    switch (shape) {
-    case AreaShape::Page:
-        return "page";
-    case AreaShape::Table:
-        return "table";
-    case AreaShape::Text:
-        break;
-    }
-    return "text";
+    constexpr std::string_view kNames[] = {"page", "table", "cells", "text"};
+    return kNames[static_cast<std::size_t>(shape)];
 }
 
 std::string areaOf(AreaShape shape, std::size_t size)
 {
-    if (shape == AreaShape::Table) return inFrame(table(size));
-    if (shape == AreaShape::Text) return inFrame("<p>" + words(size) + "</p>");
-    auto text = inputOf({"deck", ""}, Stage::Design, size);
-    InsertTemporaeryRadioButtons(text);
-    return text;
+    switch (shape) {
+    case AreaShape::Page:
+        return page(size);
+    case AreaShape::Table:
+        return pageWithTable(size);
+    case AreaShape::Cells:
+        return inFrame(cells(size));
+    case AreaShape::Text:
+        break;
+    }
+    return inFrame("<p>" + words(size) + "</p>");
 }
 
 } // namespace quillmere::bench
