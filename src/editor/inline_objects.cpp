@@ -67,7 +67,8 @@ void drawChip(
 void drawRadio(QPainter& painter, const QRectF& place, const SurfaceStyle& style)
 {
     QRectF ring(0, 0, kRadioRingPx, kRadioRingPx);
-    ring.moveCenter(place.center() - QPointF((kRadioPx - kRadioRingPx + kRadioGapPx) / 2 - 1, kAboveMiddlePx));
+    ring.moveCenter(
+        place.center() - QPointF((kRadioPx - kRadioRingPx + kRadioGapPx) / 2 - 1, kAboveMiddlePx));
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(style.ink, 1.75));
     painter.setBrush(Qt::NoBrush);

@@ -46,8 +46,7 @@ bool isMovingKey(const QKeyEvent& event)
 /// Whether a key comes alone, whatever a keypad or a second group of the keyboard adds to it.
 bool comesAlone(const QKeyEvent& event)
 {
-    constexpr auto kIrrelevant
-        = Qt::ShiftModifier | Qt::KeypadModifier | Qt::GroupSwitchModifier;
+    constexpr auto kIrrelevant = Qt::ShiftModifier | Qt::KeypadModifier | Qt::GroupSwitchModifier;
     return (event.modifiers() & ~kIrrelevant) == Qt::NoModifier;
 }
 
