@@ -33,7 +33,7 @@ void DesignSurface::paintEvent(QPaintEvent* event)
     if (!control_) return;
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(style_.link, kFrameWidthPx));
-    painter.drawRoundedRect(controlRect().adjusted(-1, -1, 1, 1), 3, 3);
+    painter.drawRoundedRect(controlRect().adjusted(-2, -2, 2, 2), 3, 3);
 }
 
 } // namespace quillmere
