@@ -1,7 +1,7 @@
 #include "document/changes/deck_change_counts.h"
 #include "document/changes/deck_changes.h"
 #include "document/changes/sequence_match.h"
-#include "support/deck_generator.h"
+#include "generator/deck_generator.h"
 #include "support/small_random.h"
 
 #include <gtest/gtest.h>
@@ -101,7 +101,7 @@ TEST(DeckChanges, NumbersOfElementsAddUp)
     for (std::uint64_t seed = 0; seed < 200; ++seed) {
         SCOPED_TRACE("seed " + std::to_string(seed));
         test::SmallRandom random(seed);
-        const auto read = test::generateDeck(seed);
+        const auto read = bench::generateDeck(seed);
         const auto written = thinnedOut(read, random);
         auto balance = startsOf(read);
         for (const auto& [name, count] : startsOf(written))
@@ -119,7 +119,7 @@ TEST(DeckChanges, NumbersOfElementsAddUp)
 TEST(DeckChanges, NothingChangesBetweenADeckAndItself)
 {
     for (std::uint64_t seed = 0; seed < 100; ++seed) {
-        const auto deck = test::generateDeck(seed, {.targetBytes = 800, .brokenness = 0.2});
+        const auto deck = bench::generateDeck(seed, {.targetBytes = 800, .brokenness = 0.2});
         ASSERT_EQ(changesOf(deck, deck), "") << "seed " << seed;
     }
     const auto report = DeckChanges("<p>x", "<p>\n<b>x</p>");
@@ -146,10 +146,11 @@ TEST(SequenceMatch, IsALongestListOfEqualPairs)
 {
     for (std::uint64_t seed = 0; seed < 2000; ++seed) {
         test::SmallRandom random(seed);
+        const bool isLong = seed < 5; // of several windows, which need not give the longest
         std::vector<int> lists[2];
         for (auto& list : lists)
-            for (auto length = random.below(40); length > 0; --length)
-                list.push_back(static_cast<int>(random.below(1 + seed % 7)));
+            for (auto length = isLong ? 900 : random.below(40); length > 0; --length)
+                list.push_back(static_cast<int>(random.below(isLong ? 300 : 1 + seed % 7)));
         const auto pairs = matchSequences(lists[0], lists[1]);
         std::size_t left = 0;
         std::size_t right = 0;
@@ -159,7 +160,8 @@ TEST(SequenceMatch, IsALongestListOfEqualPairs)
             left = pair.left + 1;
             right = pair.right + 1;
         }
-        ASSERT_EQ(pairs.size(), longestCommonLength(lists[0], lists[1])) << "seed " << seed;
+        const auto longest = longestCommonLength(lists[0], lists[1]);
+        ASSERT_TRUE(isLong ? 2 * pairs.size() > longest : pairs.size() == longest) << seed;
     }
 }
 

@@ -33,7 +33,7 @@ TEST(Windows1252, ReadsUtf8)
         {"\xC3x", "\xC3x"}, {"\xA4", "\xA4"}, // a byte that only goes on
         {"\xC0\xBC\xE0\x80\xBC\xF0\x80\x80\xBC", // longer than needed
             "\xC0\xBC\xE0\x80\xBC\xF0\x80\x80\xBC"},
-        {"\xED\xA0\x80", "\xED\xA0\x80"}, // half of a pair
+        {"\xED\xA0\x80\xED\xBF\xBF", "\xED\xA0\x80\xED\xBF\xBF"}, // halves of pairs
         {"\xF4\x90\x80\x80\xF5", "\xF4\x90\x80\x80\xF5"}, // beyond Unicode
     };
     for (const auto& row : rows)
