@@ -1,30 +1,12 @@
+#include "cli/cli_fixture.h"
 #include "document/platform/word_ids.h"
-#include "support/run_program.h"
-#include "support/scratch_folder.h"
-
-#include <gtest/gtest.h>
 
 namespace quillmere {
 namespace {
 
-using Call = std::vector<std::string>;
-
-constexpr const char* kDeck = "<?xml version=\"1.0\"?>\n<wml>\n<card id=\"a\" title=\"Eins\">\n"
-                              "<do type=\"accept\" label=\"Weiter\"><go href=\"#b\"/></do>\n"
-                              "<p>Gr\xFC\xDF\x65</p>\n</card>\n<card id=\"b\" title=\"Zw\tei\">\n"
-                              "<p>x</p>\n</card>\n</wml>\n";
-
-class Cli : public testing::Test {
-protected:
-    /// A word that begins with "@" is a file of the folder.
-    test::RunResult cli(Call call, const std::string& input = {})
-    {
-        for (auto& word : call)
-            if (word.starts_with('@')) word.replace(0, 1, folder.path());
-        return test::runProgram(QUILLMERE_CLI, call, input);
-    }
-    test::ScratchFolder folder;
-};
+using test::Call;
+using test::Cli;
+using test::kDeck;
 
 TEST_F(Cli, TellsWhatWentWrongAndChangesNothing)
 {
@@ -32,11 +14,15 @@ TEST_F(Cli, TellsWhatWentWrongAndChangesNothing)
         {1,
             {{}, {"nothing"}, {"repair"}, {"repair", "--what"}, {"repair", "-o"},
                 {"repair", "a", "b", "-o", "c"}, {"repair", "x/a.wml", "y/a.wml", "--out-dir", "z"},
-                {"repair", "a", "--json"}, {"repair", "a", "--report", "-o", "-"},
+                {"repair", "a", "--json"}, {"repair", "a", "--backup", "-o", "b"},
+                {"repair", "@d.wml", "-o", "@o.wml", "--output", "@p.wml"},
+                {"repair", "@d.wml", "--out", "@o.wml"}, {"repair", "@d.wml", "--report=x"},
+                {"repair", "a", "--report", "-o", "-"},
                 {"repair", "a", "b", "--out-dir", "c", "--keep-work", "d"},
                 {"repair", "a", "-o", "b", "--out-dir", "c"}, {"areas"}, {"areas", "a", "b"},
                 {"areas", "a", "-o", "b"}, {"step", "Nothing"}, {"step", "WrapInParagraph", "<b>"},
-                {"step", "RestoreWhitespace"}, {"wbmp-show", "a.wbmp"}, {"words", "x"}}},
+                {"step", "RestoreWhitespace"}, {"wbmp-show", "a.wbmp"}, {"words", "x"},
+                {"words", "99999"}}},
         {2,
             {{"repair", "@none.wml"}, {"repair", "@"}, {"areas", "@none.wml"},
                 {"repair", "@d.wml", "-o", "@none/out.wml"}, {"repair", "@d.wml", "-o", "@"},
@@ -105,8 +91,10 @@ TEST_F(Cli, WritesToStandardOutputJustWhatIsAsked)
         {{"step", "RepairNesting"}, "", ""},
         {{"areas", "@d.wml"}, "", areas},
         {{"areas", "--json", "@d.wml"}, "", json},
-        {{"words", "9999"}, "", "\n"},
+        {{"words", "1", "--skins", "@words"}, "", "\n"},
+        {{"--version", "repair"}, "", "quillmere-cli 0.1.0\n"},
     };
+    folder.put("words/ResWords.ini", "<word id=\"1\"></word><word id=\"2\">x</word>");
     folder.put("old.wml", "<wml>\n\n<card>");
     folder.put("d.wml", kDeck);
     for (const auto& row : rows) {
@@ -115,59 +103,29 @@ TEST_F(Cli, WritesToStandardOutputJustWhatIsAsked)
         EXPECT_EQ(result.status, 0) << result.errors;
         EXPECT_EQ(result.output, row.output);
     }
+    EXPECT_TRUE(cli({"repair", "/dev/stdin", "-o", "-"}, kDeck).output.ends_with("</wml>\r\n"));
     EXPECT_NE(cli({"words"}).output.find("136\t"), std::string::npos);
     EXPECT_EQ(cli({"words", std::to_string(word::kNumberRange), "1", "30"}).output,
         "Bitte geben Sie eine Zahl von 1 bis 30 ein.\n");
     EXPECT_EQ(folder.get("d.wml"), kDeck);
 }
 
-TEST_F(Cli, RepairReportsWhatItChanges)
+TEST_F(Cli, MessagesNameFilesAsTheTerminalShowsThem)
 {
-    folder.put("d.wml", kDeck);
-    folder.put("e.wml", "<wml><card id=\"a\"><p><em>x<i>y</i></em></p></card></wml>");
-    const auto report = [&](Call more) {
-        Call call{"repair", "--report", "--out-dir", "@out", "@d.wml", "@e.wml"};
-        call.insert(call.end(), more.begin(), more.end());
-        return cli(call).output;
+    const std::pair<std::string, std::string> rows[] = {
+        {"Gr\u00FC\u00DFe \u2603.wml", "Gr\u00FC\u00DFe \u2603.wml"}, // beyond Windows-1252
+        {"l\xFCt.wml", "l\xFCt.wml"}, // no UTF-8
+        {"zwei\nZeilen\x1B[2J", "zwei?Zeilen?[2J"},
     };
-    const auto text = report({});
-    EXPECT_NE(text.find("Verloren: <em> (Zeile 1, Spalte 22)"), text.npos) << text;
-    const auto stays = text.find("Eine weitere Korrektur ändert daran nichts.");
-    EXPECT_LT(stays, text.find("Eine weitere Korrektur ändert es noch einmal.")) << text;
-    const auto json = report({"--json", "--standard-output"});
-    EXPECT_TRUE(json.starts_with("[{\"deck\": ") && json.ends_with("}]\n")) << json;
-    EXPECT_LT(json.find("\"stable\": true"), json.find("},\n{\"deck\": ")) << json;
-    EXPECT_EQ(json.find("Gruesse"), json.npos);
-}
-
-TEST_F(Cli, RepairWritesWhereItIsTold)
-{
-    folder.put("d.wml", kDeck);
-    EXPECT_EQ(cli({"repair", "@d.wml", "-o", "@out.wml"}).status, 0);
-    const auto written = folder.get("out.wml");
-    EXPECT_NE(written.find("<p>Gruesse</p>"), std::string::npos) << written;
-    EXPECT_EQ(folder.get("d.wml"), kDeck);
-    EXPECT_EQ(cli({"repair", "@d.wml", "--out-dir", "@new/dir"}).status, 0);
-    EXPECT_EQ(folder.get("new/dir/d.wml"), written);
-    EXPECT_EQ(cli({"repair", "@d.wml", "-o", "-"}).output, written);
-    EXPECT_EQ(cli({"repair", "@d.wml", "--keep-work", "@work"}).status, 0);
-    EXPECT_EQ(folder.get("d.wml"), written);
-    EXPECT_TRUE(folder.get("work/Wml0.htm").starts_with("<!--card id=\"a\""));
-    EXPECT_TRUE(folder.get("work/Wml1.htm").starts_with("<!--card id=\"b\""));
-    EXPECT_FALSE(folder.has("work/Wml2.htm"));
-    // What is no deck becomes one elsewhere, with a warning, but never in its place.
-    for (const auto& bytes : {std::string(), std::string("Kein WML"), std::string(100, '\0'),
-             std::string("<card>\0</card>", 14), std::string("<card id=\"a\"")}) {
-        folder.put("any.wml", bytes);
-        const auto converted = cli({"repair", "@any.wml", "-o", "-"});
-        EXPECT_NE(converted.output.find("</card>"), bytes.npos);
-        EXPECT_NE(converted.errors.find("wohl kein WML-Deck"), bytes.npos);
-        EXPECT_EQ(cli({"repair", "@any.wml"}).status, 2);
-        EXPECT_EQ(folder.get("any.wml"), bytes);
+    for (const auto& [name, shown] : rows) {
+        EXPECT_EQ(cli({"areas", name}).errors,
+            "quillmere-cli: Die Datei „" + shown
+                + "“ kann nicht gelesen werden: Datei oder Ordner gibt es nicht. "
+                  "Es wurde nichts geändert.\n");
+        folder.put(name, kDeck);
+        const auto report = cli({"repair", "@" + name, "--dry-run"}).output;
+        EXPECT_TRUE(report.starts_with(folder.path() + shown + "\n")) << report;
     }
-    folder.put("a.wbmp", {"\0\0\x03\x02\xA0\x40", 6});
-    EXPECT_EQ(cli({"wbmp-show", "@a.wbmp", "-o", "@a.bmp"}).status, 0);
-    EXPECT_TRUE(folder.get("a.bmp").starts_with("BM"));
 }
 
 } // namespace

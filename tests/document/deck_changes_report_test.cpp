@@ -21,7 +21,7 @@ TEST(DeckChangesReport, TellsEachChangeTheTableAndTheVerdict)
 {
     auto report = DeckChanges(kRead, kWritten);
     report.stable = false;
-    EXPECT_EQ(textReport(report, "M\xFCller.wml"), R"(Müller.wml
+    EXPECT_EQ(textReport(report, "Müller.wml"), R"(Müller.wml
   Verloren: <do type="prev" name="x"> (Zeile 2, Spalte 1)
   Verloren: <prev/> (Zeile 3, Spalte 11)
   Verloren: Attribut mode="nowrap" von <p> (Zeile 4, Spalte 4)

@@ -11,8 +11,9 @@ namespace {
 constexpr std::string_view kPieces[]
     = {"<", "!", "-", "--", "/", "p", "B", ">", " ", "\xE4", "<!--", "</", "<p"};
 
-constexpr SearchKey kKeys[] = {"<", "<!", "<!-", "<!--", "<!--/", "<!--p", "<!--/pb", "</", "</p",
-    "<p", "<p>", "<pb", "<b/p", "<pbpb/bp", "<!--/pbbp<p<", "<!p", "<!-p", "<//", "<!---", "<!--//"};
+constexpr SearchKey kKeys[]
+    = {"<", "<!", "<!-", "<!--", "<!--/", "<!--p", "<!--/pb", "</", "</p", "<p", "<p>", "<pb",
+        "<b/p", "<pbpb/bp", "<!--/pbbp<p<", "<!p", "<!-p", "<//", "<!---", "<!--//"};
 
 // A pattern may let other tags through, but none with its key may be missed, and what is told to
 // be whole has to be the key.

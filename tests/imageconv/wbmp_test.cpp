@@ -170,8 +170,8 @@ TEST(ReadWbmpFile, NamesTheFileThatItCannotRead)
         FAIL() << "read";
     } catch (const BadPicture& bad) {
         EXPECT_EQ(bad.description(),
-            "Das Bild " + path
-                + " kann nicht gelesen werden. "
+            "Das Bild \x84" + path
+                + "\x93 kann nicht gelesen werden. "
                   "Das Bild ist unvollst\xE4ndig: Die Datei endet zu fr\xFCh.");
     }
 }

@@ -112,6 +112,21 @@ std::string fromUtf8(std::string_view utf8)
     return result;
 }
 
+std::string validUtf8(std::string_view bytes)
+{
+    std::string result;
+    for (std::size_t at = 0; at < bytes.size();) {
+        const auto length = decodeUtf8(bytes, at).length;
+        if (length == 0) {
+            appendUtf8(result, toCodePoint(bytes[at]));
+        } else {
+            result.append(bytes.substr(at, length));
+        }
+        at += std::max<std::size_t>(length, 1);
+    }
+    return result;
+}
+
 std::string toUtf8(std::string_view text)
 {
     std::string result;

@@ -38,6 +38,10 @@ inline constexpr auto kLowerCase = [] {
 /// Windows-1252 as UTF-8.
 [[nodiscard]] std::string toUtf8(std::string_view text);
 
+/// UTF-8 whatever the bytes are, such as those of a file's name: what is UTF-8 stays, each other
+/// byte becomes its Windows-1252 character.
+[[nodiscard]] std::string validUtf8(std::string_view bytes);
+
 /// The bytes of a deck file as Windows-1252: converted where the file is UTF-8 (byte order mark,
 /// XML declaration, or valid UTF-8 with characters of several bytes), else as they are. A byte
 /// order mark is dropped.
