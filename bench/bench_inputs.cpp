@@ -10,7 +10,7 @@
 #include "document/repair/clean_design_html.h"
 #include "document/repair/radio_buttons.h"
 #include "document/text/failure.h"
-#include "support/deck_generator.h"
+#include "generator/deck_generator.h"
 
 namespace quillmere::bench {
 
@@ -61,7 +61,7 @@ constexpr std::string_view kHead = "<?xml version=\"1.0\"?>\n<wml>\n";
 
 std::string cardsDeck(std::size_t size)
 {
-    const auto deck = test::generateDeck(kCardsSeed, {.targetBytes = kPieceBytes});
+    const auto deck = generateDeck(kCardsSeed, {.targetBytes = kPieceBytes});
     const auto cards = between(deck, "<wml>\n", "</wml>");
     return std::string(kHead) + repeated(cards, size) + "</wml>\n";
 }
@@ -69,8 +69,7 @@ std::string cardsDeck(std::size_t size)
 /// A deck of `count` pieces in one card.
 std::string oneCardDeck(std::size_t count)
 {
-    const auto deck
-        = test::generateDeck(kOneCardSeed, {.targetBytes = kPieceBytes, .oneCard = true});
+    const auto deck = generateDeck(kOneCardSeed, {.targetBytes = kPieceBytes, .oneCard = true});
     const auto piece = between(deck, R"(newcontext="true">)", "<do");
     std::string text(kHead);
     text += R"(<card id="k1" title="Karte">)";

@@ -1,7 +1,7 @@
 // make-decks COUNT DIR [--seed N] [--min BYTES] [--max BYTES] [--broken SHARE] [--faults RATE]
 // writes COUNT generated decks as DIR/deck00001.wml and so on, SHARE of them broken.
 
-#include "support/deck_generator.h"
+#include "generator/deck_generator.h"
 #include "support/small_random.h"
 
 #include <charconv>
@@ -17,7 +17,8 @@
 
 namespace {
 
-using namespace quillmere::test;
+using namespace quillmere::bench;
+using quillmere::test::SmallRandom;
 
 struct Arguments {
     std::vector<std::string> plain;

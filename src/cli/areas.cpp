@@ -1,5 +1,6 @@
 #include "cli/commands.h"
 #include "cli/core_session.h"
+#include "cli/deck_check.h"
 #include "cli/guarded.h"
 #include "cli/terminal.h"
 #include "document/card_attributes.h"
@@ -73,6 +74,7 @@ ExitStatus runAreas(const Arguments& arguments)
         const auto [directory, name] = SplitPath(path);
         CoreSession core(arguments.standardOutput);
         LoadDeck(core.session, {name, directory, {}, {}});
+        if (const auto doubt = doubtAbout(path, core.session)) complain(*doubt);
         printRows(rowsOf(core.session), arguments.json);
         return ExitStatus::Done;
     });

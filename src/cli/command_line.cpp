@@ -36,15 +36,21 @@ constexpr Option kOptions[] = {
         "nimmt die Texte aus diesem Ordner"},
     {'r', "report", nullptr, [](Arguments& a, const char*) { a.report = true; },
         "berichtet, was beim Schreiben verloren geht und was hinzukommt"},
+    {'n', "dry-run", nullptr, [](Arguments& a, const char*) { a.dryRun = true; },
+        "schreibt nichts und sagt mit dem Bericht, was geschrieben würde"},
+    {'b', "backup", nullptr, [](Arguments& a, const char*) { a.backup = true; },
+        "behält das alte Deck daneben als DECK.wml.bak (.bak1, ...)"},
     {'j', "json", nullptr, [](Arguments& a, const char*) { a.json = true; },
         "gibt JSON aus (UTF-8)"},
     {'s', "standard-output", nullptr, [](Arguments& a, const char*) { a.standardOutput = true; },
         "schreibt Decks und Bilder nach den öffentlichen Standards"},
     {'h', "help", nullptr, [](Arguments& a, const char*) { a.help = true; }, "zeigt diese Hilfe",
         true},
+    {'V', "version", nullptr, [](Arguments& a, const char*) { a.version = true; },
+        "zeigt die Version des Programms"},
 };
 
-constexpr std::string_view kOptionsOfAll = "sh"; // letters that every command takes
+constexpr std::string_view kOptionsOfAll = "shV"; // letters that every command takes
 
 const Option* optionOf(int letter)
 {
@@ -75,6 +81,33 @@ std::array<option, std::size(kOptions) + 1> longOptions()
     return result;
 }
 
+bool begins(const Option& option, const std::string& given)
+{
+    return given.size() > 2 && ("--" + std::string(option.name)).starts_with(given);
+}
+
+/// What is wrong with a long option that getopt_long() did not take.
+std::string complaintOfLong(const std::string& word, bool isKnown)
+{
+    const auto matching = std::count_if(std::begin(kOptions), std::end(kOptions),
+        [&](const Option& option) { return begins(option, word.substr(0, word.find('='))); });
+    if (isKnown) return "„" + word + "“ nimmt keinen Wert.";
+    if (matching > 1) return "„" + word + "“ kann mehreres heißen.";
+    return "Unbekannte Option: „" + word + "“.";
+}
+
+/// What getopt_long() means by `letter` where it took no option. `word` is what it read last: a
+/// long option, or, where short ones stand together in one word, what stands ahead of that.
+std::string complaintOf(int letter, const std::string& word)
+{
+    const Option* const known = optionOf(optopt);
+    const bool isKnown = known != nullptr && begins(*known, word.substr(0, word.find('=')));
+    const bool isLong = optopt == 0 || isKnown;
+    const std::string shown = isLong ? word : std::string("-") + static_cast<char>(optopt);
+    if (letter == ':') return "Hinter „" + shown + "“ fehlt der Wert.";
+    return isLong ? complaintOfLong(word, isKnown) : "Unbekannte Option: „" + shown + "“.";
+}
+
 struct Parsed {
     Arguments arguments;
     std::string letters; // of the options that were given
@@ -87,15 +120,14 @@ Parsed parse(int count, char** values)
     const std::string letters = shortOptions();
     opterr = 0; // messages are our own
     while (true) {
-        const int seenAt = optind;
         const int letter = getopt_long(count, values, letters.c_str(), options.data(), nullptr);
         if (letter == -1) break;
         const Option* const option = optionOf(letter);
-        const std::string word = values[std::max(seenAt, optind - 1)];
-        if (letter == ':') throw BadArguments{"Hinter „" + word + "“ fehlt der Wert."};
-        if (option == nullptr) throw BadArguments{"Unbekannte Option: „" + word + "“."};
+        if (option == nullptr) throw BadArguments{complaintOf(letter, values[optind - 1])};
         if (option->value != nullptr && *optarg == '\0')
-            throw BadArguments{"„" + word + "“ nennt nichts."};
+            throw BadArguments{std::string("„--") + option->name + "“ nennt nichts."};
+        if (option->value != nullptr && parsed.letters.find(option->letter) != std::string::npos)
+            throw BadArguments{std::string("„--") + option->name + "“ ist zweimal angegeben."};
         option->store(parsed.arguments, optarg);
         parsed.letters += option->letter;
     }
@@ -165,6 +197,10 @@ const Command& commandNamed(const std::string& name)
 ExitStatus runParsed(Parsed parsed)
 {
     Arguments& arguments = parsed.arguments;
+    if (arguments.version) {
+        print("quillmere-cli " QUILLMERE_VERSION "\n");
+        return ExitStatus::Done;
+    }
     if (arguments.operands.empty()) {
         if (!arguments.help) throw BadArguments{"Es fehlt der Befehl."};
         print(generalHelp());

@@ -31,8 +31,11 @@ struct Arguments {
     std::optional<std::string> skins; ///< --skins
     bool report = false;
     bool json = false;
+    bool dryRun = false;
+    bool backup = false;
     bool standardOutput = false;
     bool help = false;
+    bool version = false;
 };
 
 /// One command of the program.

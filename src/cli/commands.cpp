@@ -5,12 +5,18 @@ namespace quillmere::cli {
 namespace {
 
 constexpr Command kCommands[] = {
-    {"repair", "DECK.wml... [-o DATEI | --out-dir ORDNER] [--keep-work ORDNER] [--report [--json]]",
-        "liest Decks, bereinigt sie und schreibt sie wieder", "odkrj",
+    {"repair",
+        "DECK.wml... [-o DATEI | --out-dir ORDNER | --backup]\n"
+        "                            [--keep-work ORDNER] [--report | --dry-run] [--json]",
+        "liest Decks, bereinigt sie und schreibt sie wieder", "odbknrj",
         "Ohne -o und --out-dir wird das Deck selbst ersetzt; „-o -“ schreibt auf die\n"
-        "Standardausgabe. Mehrere Decks gehen mit --out-dir oder jedes an seinen Ort.\n"
-        "Schlägt ein Deck fehl, bleibt seine Datei, wie sie war, und die nächsten folgen.\n"
-        "--keep-work schreibt seine Dateien vor dem Deck.",
+        "Standardausgabe, und „/dev/stdin“ als Deck liest von der Standardeingabe. Mehrere\n"
+        "Decks gehen mit --out-dir oder jedes an seinen Ort. Schlägt ein Deck fehl, bleibt\n"
+        "seine Datei, wie sie war, und die nächsten folgen. Ist ein Ergebnis nicht\n"
+        "wohlgeformt, steht das auf der Standardfehlerausgabe; geschrieben wird es trotzdem.\n"
+        "--keep-work schreibt seine Dateien vor dem Deck, und --backup seine Kopie, wenn das\n"
+        "Deck sich ändert. --json gibt ein einziges JSON-Dokument aus, eine Liste mit einem\n"
+        "Objekt je Deck; was fehlschlug, hat darin „error“.",
         &runRepair},
     {"areas", "DECK.wml [--json]", "zeigt die Bereiche eines Decks", "j",
         "Eine Zeile je Bereich, mit Tabulatoren getrennt: Nummer ab 0, Name (id), Titel,\n"
@@ -20,13 +26,16 @@ constexpr Command kCommands[] = {
     {"step", "OPERATION [ANGABE]...", "führt einen einzelnen Schritt als Filter aus", "p",
         "Liest von der Standardeingabe und schreibt auf die Standardausgabe, ohne ein Zeichen\n"
         "hinzuzufügen. So zeigt sich, welcher Schritt ein Deck verändert hat.\n"
+        "Die Bytes der Eingabe und der Angaben gelten, wie sie sind, als Windows-1252; UTF-8\n"
+        "wird anders als beim Öffnen eines Decks nicht umgesetzt (dafür: iconv -t CP1252).\n"
         "„quillmere-cli step“ ohne Angabe nennt die Operationen.",
         &runStep},
     {"wbmp-show", "BILD.wbmp -o BILD.bmp", "macht aus einem WBMP das Bild der Bearbeitung (BMP)",
         "o", "Zeichnet das Bild auf dem Grund des Geräts, wie die Bearbeitung es zeigt.",
         &runWbmpShow},
     {"words", "[NUMMER [TEXT]...]", "zeigt die Texte des Programms", "w",
-        "Ohne Nummer alle; sonst einen, mit den Texten in seinen Lücken.", &runWords},
+        "Ohne Nummer alle, die nicht leer sind; sonst einen, mit den Texten in seinen Lücken.",
+        &runWords},
 };
 
 } // namespace

@@ -1,43 +1,61 @@
+// The one place that catches. Held by tests/cli.
+
 #include "cli/guarded.h"
 
 #include "cli/terminal.h"
 #include "document/text/failure.h"
-#include "document/text/windows1252.h"
+
+#include <new>
 
 namespace quillmere::cli {
 
 namespace {
 
-ExitStatus refuse(const std::string& about, const std::string& reason)
+Problem refusal(const std::string& about, const std::string& reason)
 {
-    complain((about.empty() ? "" : about + ": ") + reason + " Es wurde nichts geändert.");
-    return ExitStatus::RunFailure;
+    return {ExitStatus::RunFailure,
+        (about.empty() ? "" : about + ": ") + reason + " Es wurde nichts geändert."};
 }
 
 } // namespace
 
-ExitStatus guarded(const std::string& about, const std::function<ExitStatus()>& action)
+std::optional<Problem> problemOf(const std::string& about, const std::function<void()>& action)
 {
     try {
-        return action();
+        action();
+        return std::nullopt;
     } catch (const BadArguments& bad) {
-        complain(bad.message + " Hilfe zeigt „quillmere-cli --help“.");
-        return ExitStatus::BadArguments;
+        return Problem{ExitStatus::BadArguments, bad.message};
     } catch (const Overflow& failure) {
-        return refuse(about,
-            toUtf8(failure.description())
-                + ": Der Text oder sein Ergebnis hat mehr als 32767 Zeichen.");
+        return refusal(
+            about, failure.utf8() + ": Der Text oder sein Ergebnis hat mehr als 32767 Zeichen.");
     } catch (const InvalidArgument& failure) {
-        return refuse(about,
-            toUtf8(failure.description())
-                + ": Dem Text fehlt etwas, etwa ein schließendes Anführungszeichen.");
+        return refusal(about,
+            failure.utf8() + ": Dem Text fehlt etwas, etwa ein schließendes Anführungszeichen.");
     } catch (const RuntimeFailure& failure) {
-        return refuse(
-            about, toUtf8(failure.description()) + ": Eine Größe im Text ist keine Zahl.");
+        return refusal(about, failure.utf8() + ": Eine Größe im Text ist keine Zahl.");
+    } catch (const LostOutput&) {
+        throw;
     } catch (const Failure& failure) {
-        complain(toUtf8(failure.description())); // names its file itself
-        return ExitStatus::FileTrouble;
+        return Problem{ExitStatus::FileTrouble, failure.utf8()}; // names its file itself
+    } catch (const std::bad_alloc&) {
+        return Problem{ExitStatus::FileTrouble, "Der Arbeitsspeicher reicht nicht."};
     }
+}
+
+ExitStatus guarded(const std::string& about, const std::function<ExitStatus()>& action)
+{
+    ExitStatus status = ExitStatus::Done;
+    std::optional<Problem> problem;
+    try {
+        problem = problemOf(about, [&] { status = action(); });
+    } catch (const LostOutput& lost) {
+        problem = Problem{ExitStatus::FileTrouble, lost.utf8()};
+    }
+    if (!problem) return status;
+    const bool isCall = problem->status == ExitStatus::BadArguments;
+    complain(problem->message + (isCall ? " Hilfe zeigt „quillmere-cli --help“." : ""));
+    return problem->status;
 }
 
 } // namespace quillmere::cli

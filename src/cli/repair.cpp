@@ -1,23 +1,21 @@
 // Each deck gets a session of its own, so that one deck cannot touch the next and memory stays that
-// of one deck. Held by tests/cli/cli_test.cpp.
+// of one deck. Held by tests/cli/repair_test.cpp.
 
 #include "cli/commands.h"
 #include "cli/core_session.h"
+#include "cli/deck_check.h"
 #include "cli/guarded.h"
+#include "cli/repair_plan.h"
+#include "cli/repair_report.h"
 #include "cli/terminal.h"
 #include "document/changes/deck_changes.h"
-#include "document/changes/deck_changes_json.h"
 #include "document/changes/deck_changes_report.h"
 #include "document/deck_repair.h"
 #include "document/deck_store.h"
-#include "document/platform/files.h"
 #include "document/platform/paths.h"
-#include "document/text/failure.h"
-#include "document/text/text_search.h"
 #include "document/text/windows1252.h"
 
 #include <algorithm>
-#include <filesystem>
 #include <set>
 
 namespace quillmere::cli {
@@ -27,9 +25,8 @@ namespace {
 /// What the decks of one call have in common.
 struct Run {
     const Arguments& arguments;
-    std::string outDir; // with its separator; "" without --out-dir
+    RepairReport report;
     FileReplacements files;
-    std::size_t reported = 0; // how many decks
 };
 
 /// Repairs the deck in the session and returns what is to be written.
@@ -42,13 +39,6 @@ std::string repairInto(CoreSession& core, const std::string& path)
     return core.workFiles.read(first.wmlDir + first.wmlFile);
 }
 
-/// The deck as the conversion read it.
-std::string readDeckOf(const CoreSession& core)
-{
-    const DeckRecord& first = core.session.deck.front();
-    return core.workFiles.read(first.pristineDir + first.pristineFile);
-}
-
 std::string repairedAgain(
     const std::string& written, const std::string& path, const Arguments& arguments)
 {
@@ -56,67 +46,21 @@ std::string repairedAgain(
     return repairedDeck(core.session, written, SplitPath(path).directory);
 }
 
-void makeDirectory(const std::string& path)
+// No file is written over with what was made of something that is no deck.
+void checkIsDeck(const Arguments& arguments, const std::string& input, const CoreSession& core)
 {
-    AssentingPrompter unasked;
-    MakeDirectories(NormalisePath(path), false, unasked);
+    const auto doubt = doubtAbout(input, core.session);
+    if (!doubt) return;
+    if (arguments.output != "-" && samePlace(outputPath(arguments, input), input))
+        throw FileFailure(*doubt + " Es wurde nichts geändert; umwandeln lässt sie sich mit -o.");
+    complain(*doubt);
 }
 
-void keepWorkFiles(CoreSession& core, const std::string& directory)
+void warnUnlessWellFormed(const Run& run, const std::string& input, std::string_view written)
 {
-    const std::string into = NormalisePath(directory);
-    makeDirectory(into);
-    const Deck& deck = core.session.deck;
-    for (std::size_t area = 0; area < areaCount(deck); ++area) {
-        const DeckRecord& record = deck[area];
-        replaceFile(into + "Wml" + std::to_string(area) + ".htm",
-            core.workFiles.read(record.designDir + record.designFile));
-    }
-}
-
-std::string reportOf(const std::string& path, const CoreSession& core, const std::string& written,
-    const Arguments& arguments, bool first)
-{
-    DeckChangesReport report = DeckChanges(readDeckOf(core), written);
-    report.stable = repairedAgain(written, path, arguments) == written;
-    const std::string name = fromUtf8(path);
-    if (!arguments.json) return (first ? "" : "\n") + textReport(report, name);
-    return (first ? "" : ",\n") + jsonReport(report, name);
-}
-
-std::string outputPath(const Run& run, const std::string& input)
-{
-    if (run.arguments.output) return *run.arguments.output;
-    if (run.arguments.outDir) return run.outDir + SplitPath(input).name;
-    return input;
-}
-
-bool holdsCard(std::string_view text)
-{
-    const auto card = findIgnoringCase(text, "<card");
-    return card != npos && text.find('>', card) != npos && text.find('\0') == npos;
-}
-
-// Any bytes become a deck, with a card of its own where they have none. That is worth a warning,
-// and no file is written over with it.
-void checkIsDeck(const Run& run, const std::string& input, std::string_view read)
-{
-    if (holdsCard(read)) return;
-    const std::string reason = "Die Datei „" + input
-        + "“ enthält keine vollständige Karte (<card>) und ist wohl kein WML-Deck.";
-    std::error_code ignored;
-    const bool overItself = run.arguments.output != "-"
-        && std::filesystem::equivalent(outputPath(run, input), input, ignored);
-    if (overItself)
-        throw FileFailure(reason + " Es wurde nichts geändert; umwandeln lässt sie sich mit -o.");
-    complain(reason);
-}
-
-void printReport(Run& run, const std::string& report)
-{
-    run.arguments.json ? printBytes(report) : print(report);
-    finishOutput(); // ahead of the deck, so that none is replaced whose report is lost
-    ++run.reported;
+    if (run.arguments.json) return; // the document tells it
+    if (const auto fault = deckFault(written))
+        complain(input + ": " + toUtf8(describeFault(*fault)));
 }
 
 void repairOne(Run& run, const std::string& input)
@@ -124,15 +68,16 @@ void repairOne(Run& run, const std::string& input)
     const Arguments& arguments = run.arguments;
     CoreSession core(arguments.standardOutput);
     const std::string written = repairInto(core, input);
-    checkIsDeck(run, input, readDeckOf(core));
-    if (arguments.report)
-        printReport(run, reportOf(input, core, written, arguments, run.reported == 0));
-    if (arguments.keepWork) keepWorkFiles(core, *arguments.keepWork);
-    if (arguments.output == "-") {
-        printBytes(written);
-    } else {
-        run.files.replace(outputPath(run, input), written);
+    const Deck& deck = core.session.deck;
+    checkIsDeck(arguments, input, core);
+    const RepairPlan plan = planRepair(arguments, input, areaCount(deck), written);
+    if (run.report.wanted()) {
+        DeckChangesReport report = DeckChanges(readDeckOf(core.session), written);
+        report.stable = repairedAgain(written, input, arguments) == written;
+        run.report.tell(input, report, plan, written);
     }
+    if (!arguments.dryRun) carryOut(plan, deck, core.workFiles, written, run.files);
+    warnUnlessWellFormed(run, input, written);
 }
 
 void requireDistinctNames(const std::vector<std::string>& inputs)
@@ -145,20 +90,40 @@ void requireDistinctNames(const std::vector<std::string>& inputs)
     }
 }
 
+/// Options that do not go together, or not with what else is asked.
+struct Conflict {
+    bool (*applies)(const Arguments& arguments);
+    const char* message;
+};
+
+constexpr Conflict kConflicts[] = {
+    {[](const Arguments& a) { return a.operands.empty(); }, "Es fehlt das Deck."},
+    {[](const Arguments& a) { return a.output && a.outDir; },
+        "-o und --out-dir gehen nicht zusammen."},
+    {[](const Arguments& a) { return a.operands.size() > 1 && a.output; },
+        "Mehrere Decks gehen nicht in eine Datei; dafür ist --out-dir da."},
+    {[](const Arguments& a) { return a.operands.size() > 1 && a.keepWork; },
+        "--keep-work gilt für ein einzelnes Deck."},
+    {[](const Arguments& a) { return a.backup && (a.output || a.outDir); },
+        "--backup gilt, wo das Deck selbst ersetzt wird, also ohne -o und --out-dir."},
+    {[](const Arguments& a) { return a.json && !a.report && !a.dryRun; },
+        "--json gehört zu --report oder --dry-run."},
+    {[](const Arguments& a) { return a.report && !a.dryRun && a.output == "-"; },
+        "Bericht und Deck gehen nicht beide auf die Standardausgabe."},
+};
+
 void checkArguments(const Arguments& arguments)
 {
-    const auto& inputs = arguments.operands;
-    if (inputs.empty()) throw BadArguments{"Es fehlt das Deck."};
-    if (arguments.output && arguments.outDir)
-        throw BadArguments{"-o und --out-dir gehen nicht zusammen."};
-    if (inputs.size() > 1 && arguments.output)
-        throw BadArguments{"Mehrere Decks gehen nicht in eine Datei; dafür ist --out-dir da."};
-    if (inputs.size() > 1 && arguments.keepWork)
-        throw BadArguments{"--keep-work gilt für ein einzelnes Deck."};
-    if (arguments.json && !arguments.report) throw BadArguments{"--json gehört zu --report."};
-    if (arguments.report && arguments.output == "-")
-        throw BadArguments{"Bericht und Deck gehen nicht beide auf die Standardausgabe."};
-    if (arguments.outDir) requireDistinctNames(inputs);
+    for (const Conflict& conflict : kConflicts)
+        if (conflict.applies(arguments)) throw BadArguments{conflict.message};
+    if (arguments.outDir) requireDistinctNames(arguments.operands);
+}
+
+void makeOutputDirectory(const Arguments& arguments)
+{
+    if (!arguments.outDir || arguments.dryRun) return;
+    AssentingPrompter unasked;
+    MakeDirectories(outputDirectory(arguments), false, unasked);
 }
 
 } // namespace
@@ -166,18 +131,19 @@ void checkArguments(const Arguments& arguments)
 ExitStatus runRepair(const Arguments& arguments)
 {
     checkArguments(arguments);
-    if (arguments.outDir) makeDirectory(*arguments.outDir);
-    Run run{arguments, arguments.outDir ? NormalisePath(*arguments.outDir) : "", {}, 0};
-    ExitStatus status = ExitStatus::Done;
-    if (arguments.json) printBytes("[");
+    Run run{arguments, RepairReport(arguments), {}};
+    const auto noFolder = problemOf("", [&] { makeOutputDirectory(arguments); });
+    if (noFolder) complain(noFolder->message); // once for all decks
+    ExitStatus status = noFolder ? noFolder->status : ExitStatus::Done;
+    run.report.begin();
     for (const std::string& input : arguments.operands) {
-        const ExitStatus one = guarded(input, [&] {
-            repairOne(run, input);
-            return ExitStatus::Done;
-        });
-        status = std::max(status, one);
+        const auto problem = noFolder ? noFolder : problemOf(input, [&] { repairOne(run, input); });
+        run.report.finishDeck(input, problem);
+        if (!problem || noFolder) continue;
+        complain(problem->message);
+        status = std::max(status, problem->status);
     }
-    if (arguments.json) printBytes("]\n");
+    run.report.end();
     return status;
 }
 

@@ -70,27 +70,30 @@ const Step& stepNamed(const std::string& name)
 {
     const auto* const found = std::find_if(
         std::begin(kSteps), std::end(kSteps), [&](const Step& step) { return step.name == name; });
-    if (found == std::end(kSteps)) throw BadArguments{"Unbekannte Operation: „" + name + "“."};
+    if (found == std::end(kSteps))
+        throw BadArguments{
+            "Unbekannte Operation: „" + name + "“. Alle nennt „quillmere-cli step“."};
     return *found;
+}
+
+std::string usage(const Step& step)
+{
+    const std::string name(step.name);
+    return step.operands.empty() ? name : name + " " + std::string(step.operands);
 }
 
 void checkOperands(const Step& step, const Arguments& arguments, std::size_t operandCount)
 {
-    const bool wantsPristine = step.name == "RestoreWhitespace";
-    if (operandCount == step.operandCount && wantsPristine == arguments.pristine.has_value())
+    if (operandCount == step.operandCount && step.wantsPristine == arguments.pristine.has_value())
         return;
-    throw BadArguments{
-        "Aufruf: quillmere-cli step " + std::string(step.name) + " " + std::string(step.operands)};
+    throw BadArguments{"Aufruf: „quillmere-cli step " + usage(step) + "“."};
 }
 
 std::string stepOperations()
 {
     std::string text;
-    for (const Step& step : kSteps) {
-        text += std::string(step.name);
-        if (!step.operands.empty()) text += " " + std::string(step.operands);
-        text += "\n";
-    }
+    for (const Step& step : kSteps)
+        text += usage(step) + "\n";
     return text;
 }
 

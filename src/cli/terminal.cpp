@@ -4,7 +4,9 @@
 
 #include "document/text/failure.h"
 
+#include <algorithm>
 #include <array>
+#include <cerrno>
 #include <clocale>
 #include <cstdio>
 #include <iconv.h>
@@ -29,22 +31,35 @@ public:
         if (usable()) iconv_close(handle_);
     }
 
-    // A character that the encoding has not at all ends the conversion; the text stays UTF-8 then.
+    // What the encoding has not at all passes as it is, and so do bytes that are no UTF-8: they are
+    // of a file's name, which has the terminal's encoding already.
     [[nodiscard]] std::string convert(std::string_view utf8) const
     {
         std::string source(utf8);
-        std::string result(source.size() * 4 + 16, '\0');
+        if (!usable()) return source;
+        std::string result;
         char* from = source.data();
-        char* to = result.data();
-        std::size_t fromLeft = source.size();
-        std::size_t toLeft = result.size();
-        if (!usable() || iconv(handle_, &from, &fromLeft, &to, &toLeft) == kFailed) return source;
-        result.resize(result.size() - toLeft);
+        std::size_t left = source.size();
+        while (left > 0) {
+            if (convertPart(from, left, result) || left == 0) continue;
+            result += *from++;
+            --left;
+        }
         return result;
     }
 
 private:
     static constexpr std::size_t kFailed = static_cast<std::size_t>(-1);
+    // False where it stopped at something that cannot be converted.
+    bool convertPart(char*& from, std::size_t& left, std::string& result) const
+    {
+        std::array<char, 256> part{};
+        char* to = part.data();
+        std::size_t room = part.size();
+        const bool done = iconv(handle_, &from, &left, &to, &room) != kFailed || errno == E2BIG;
+        result.append(part.data(), part.size() - room);
+        return done;
+    }
     [[nodiscard]] bool usable() const { return handle_ != iconv_t(-1); } // NOLINT: its own idiom
     iconv_t handle_;
 };
@@ -66,10 +81,27 @@ std::string inTerminalEncoding(std::string_view utf8)
 void write(std::FILE* stream, std::string_view bytes)
 {
     if (std::fwrite(bytes.data(), 1, bytes.size(), stream) == bytes.size()) return;
-    throw FileFailure("Die Standardausgabe nimmt nichts mehr an.");
+    throw LostOutput();
+}
+
+bool isControl(char character)
+{
+    return static_cast<unsigned char>(character) < 0x20 || character == '\x7F';
 }
 
 } // namespace
+
+LostOutput::LostOutput()
+    : FileFailure("Die Standardausgabe nimmt nichts mehr an.")
+{
+}
+
+std::string inOneLine(std::string_view utf8)
+{
+    std::string line(utf8);
+    std::replace_if(line.begin(), line.end(), isControl, '?');
+    return line;
+}
 
 void print(std::string_view utf8)
 {
@@ -83,7 +115,7 @@ void printBytes(std::string_view bytes)
 
 void complain(std::string_view utf8)
 {
-    const std::string line = inTerminalEncoding("quillmere-cli: " + std::string(utf8) + "\n");
+    const std::string line = inTerminalEncoding("quillmere-cli: " + inOneLine(utf8) + "\n");
     (void)std::fwrite(line.data(), 1, line.size(), stderr); // nowhere is left to tell a failure
 }
 
@@ -101,7 +133,7 @@ std::string readStandardInput(std::size_t maxBytes)
 
 void finishOutput()
 {
-    if (std::fflush(stdout) != 0) throw FileFailure("Die Standardausgabe nimmt nichts mehr an.");
+    if (std::fflush(stdout) != 0) throw LostOutput();
 }
 
 } // namespace quillmere::cli

@@ -52,6 +52,10 @@ ExitStatus runWords(const Arguments& arguments)
         return ExitStatus::Done;
     }
     const int id = numberOf(arguments.operands.front());
+    if (id < 0 || static_cast<std::size_t>(id) >= words.table().size())
+        throw BadArguments{"Einen Text mit der Nummer " + std::to_string(id)
+            + " gibt es nicht; der letzte hat die Nummer "
+            + std::to_string(words.table().size() - 1) + "."};
     std::vector<std::string> texts;
     for (std::size_t i = 1; i < arguments.operands.size(); ++i)
         texts.push_back(fromUtf8(arguments.operands[i]));

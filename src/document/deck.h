@@ -10,19 +10,20 @@ namespace quillmere {
 
 /// A picture of an area and its display copy.
 struct ImageEntry {
-    std::string displayFile; ///< name of the BMP shown on the surface
+    std::string displayFile; ///< name of the BMP that the surface shows
     std::string displayDir;
-    std::string sourceFile; ///< the picture's name as the deck's `src` writes it
-    std::string sourceDir;
+    std::string sourceFile; ///< the name as the deck's `src` writes it, with folders: "img/a.wbmp"
+    std::string sourceDir; ///< ahead of it: the deck's directory, or that of a path of its own
     std::int32_t pictureHeightPx = 0; ///< the picture's own size, from its header
     std::int32_t pictureWidthPx = 0;
     std::int32_t heightPx = 0; ///< the size used in the card
     std::int32_t widthPx = 0;
-    std::string alignment;
+    std::string alignment; ///< as the tag of the picture has it, such as "top"
     bool hasLayout = false; ///< `align`, `height`, `width` are written to the deck
 };
 
-/// One card of a deck. A directory ends in its separator; a path is directory followed by name.
+/// One card of a deck. A directory ends in its separator; a path is directory followed by name. The
+/// files of record 0 are those of the deck; the other records may hold copies of the names.
 struct DeckRecord {
     std::vector<ImageEntry> images = std::vector<ImageEntry>(2); ///< the last one is a spare
     std::string designFile;
@@ -36,9 +37,10 @@ struct DeckRecord {
     std::string pristineFile; ///< of record 0 only: the deck as opened
     std::string pristineDir;
     std::int16_t imageCursor = 0; ///< index in `images` that the image dialog works on
-    bool inUse = false;
+    bool inUse = false; ///< an area; of record 0 also: a deck is open
     std::int16_t surfaceKind = 0; ///< 0 or 1: which device table sets the page of the areas
-    std::vector<std::string> history = std::vector<std::string>(1); ///< at most 16, newest last
+    std::vector<std::string> history = std::vector<std::string>(1); ///< at most 16, newest last; a
+                                                                    ///< new area has one, empty
     ImageIndex imageIndex; ///< finds the entries of `images`
 };
 

@@ -1,5 +1,5 @@
-// A picture that stands in several areas is rebuilt for each of them, and the last one counts, as
-// its name and its size may differ there. Held by image_conversion_test.cpp.
+// Of a picture that stands in several areas the last one counts, as its name and its layout may
+// differ there, while the size is kept in all of them. Held by image_conversion_test.cpp.
 
 #include "document/design_image_tag.h"
 
@@ -31,6 +31,13 @@ std::optional<std::int32_t> pixelsBehind(std::string_view tag, std::string_view 
     return wholeNumber(tag.substr(begin, unit - begin));
 }
 
+void appendLayout(Rewriter& result, const ImageEntry& entry)
+{
+    appendAttribute(result, kAlign, entry.alignment);
+    appendAttribute(result, kHeight, std::to_string(entry.heightPx));
+    appendAttribute(result, kWidth, std::to_string(entry.widthPx));
+}
+
 } // namespace
 
 DesignImageTags::DesignImageTags(
@@ -43,40 +50,43 @@ DesignImageTags::DesignImageTags(
 {
 }
 
-Replacement DesignImageTags::wmlTag(const Tag& tag)
+bool DesignImageTags::replace(Rewriter& result, const Tag& tag)
 {
     const auto src = src_.quoted(tag);
-    if (!src) return std::nullopt;
-    std::string result;
-    for (const auto& place : index_.find(src->in(text_.lower)))
-        result = tagFor(tag, edits_.at(place));
+    if (!src) return false;
+    const auto& places = index_.find(src->in(text_.lower));
+    result.drop(tag.begin, tag.end);
+    if (!places.empty()) appendOpenTag(result, tag, places);
     for (const auto key : kSpaces) {
         const auto space = AttributeReader(text_.lower, key).quotedOrBare(tag);
-        if (!space || result.empty()) continue;
-        appendAttribute(result, key, space->in(text_.lower));
+        if (space && !places.empty()) appendAttribute(result, key, space->in(text_.lower));
     }
-    if (!result.empty()) result += '>';
-    return result += "</img>";
+    result.append(places.empty() ? "</img>" : "></img>");
+    return true;
 }
 
-/// The tag without its '>'.
-std::string DesignImageTags::tagFor(const Tag& tag, ImageEntry& entry)
+/// The tag up to its layout.
+void DesignImageTags::appendOpenTag(
+    Rewriter& result, const Tag& tag, const std::vector<PicturePlace>& places)
 {
-    std::string result("<img");
-    std::string source = entry.sourceFile;
-    if (rules_.writesCharacterReferences()) TransliterateGerman(source, rules_);
-    appendAttribute(result, kSrc, source);
+    const auto alt = AttributeReader(text_.lower, kAlt).quotedOrBare(tag);
+    for (const auto& place : places)
+        readSize(tag, edits_.at(place));
+    const ImageEntry& last = edits_.at(places.back());
+    result.append("<img");
+    appendSource(result, last);
     // The words come out in lower case, unless the standard rules hold.
     const auto words = rules_.keepsAlternativeTextCase() ? text_.source : text_.lower;
-    const auto alt = AttributeReader(text_.lower, kAlt).quotedOrBare(tag);
     if (alt) appendAttribute(result, kAlt, alt->in(words));
-    readSize(tag, entry);
-    if (entry.hasLayout) {
-        appendAttribute(result, kAlign, entry.alignment);
-        appendAttribute(result, kHeight, std::to_string(entry.heightPx));
-        appendAttribute(result, kWidth, std::to_string(entry.widthPx));
-    }
-    return result;
+    if (last.hasLayout) appendLayout(result, last);
+}
+
+void DesignImageTags::appendSource(Rewriter& result, const ImageEntry& entry) const
+{
+    if (!rules_.writesCharacterReferences()) return appendAttribute(result, kSrc, entry.sourceFile);
+    std::string source = entry.sourceFile;
+    TransliterateGerman(source, rules_);
+    appendAttribute(result, kSrc, source);
 }
 
 void DesignImageTags::readSize(const Tag& tag, ImageEntry& entry) const

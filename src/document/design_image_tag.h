@@ -18,12 +18,14 @@ class DesignImageTags {
 public:
     DesignImageTags(const CasedText& text, DisplayCopyIndex& index, PictureEdits& edits,
         const OutputRules& rules);
-    /// The tag of WML; a lone "</img>" for a picture that no area has, nullopt for a tag without
-    /// `src="`. Throws InvalidArgument and TypeMismatch.
-    [[nodiscard]] Replacement wmlTag(const Tag& tag);
+    /// Puts the tag of WML in the place of `tag`, which `text` has in lower case; a lone "</img>"
+    /// for a picture that no area has. False, the tag stays, for one without `src="`. Throws
+    /// InvalidArgument and TypeMismatch.
+    [[nodiscard]] bool replace(Rewriter& result, const Tag& tag);
 
 private:
-    [[nodiscard]] std::string tagFor(const Tag& tag, ImageEntry& entry);
+    void appendOpenTag(Rewriter& result, const Tag& tag, const std::vector<PicturePlace>& places);
+    void appendSource(Rewriter& result, const ImageEntry& entry) const;
     void readSize(const Tag& tag, ImageEntry& entry) const;
 
     CasedText text_;

@@ -63,39 +63,34 @@ constexpr TagRules kTagRules{kTagRows};
 
 constexpr std::string_view kLabel = "label=\"";
 constexpr std::string_view kTitle = "title=\"";
-constexpr std::string_view kHref = "href=\"";
 
 class Conversion {
 public:
     Conversion(std::string_view source, DisplayCopyIndex& pictures, PictureEdits& edits,
         const OutputRules& output)
         : source_(source)
-        , lower_(lowerCase(source))
+        , lower_(source)
         , output_(output)
-        , rules_(lower_, kTagRules)
-        , label_(source_, kLabel)
-        , title_(source_, kTitle)
-        , href_(source_, kHref)
+        , rules_(source, kTagRules)
+        , label_(source, kLabel)
+        , title_(source, kTitle)
+        , href_(source, kHrefKey)
         , images_(text(), pictures, edits, output)
     {
     }
 
-    [[nodiscard]] std::string run()
-    {
-        return translateTags(source_,
-            [this](std::string& result, const Tag& tag) { return appendReplacement(result, tag); });
-    }
+    /// False where the tag is kept.
+    [[nodiscard]] bool replace(Rewriter& result, const Tag& tag);
 
 private:
-    [[nodiscard]] bool appendReplacement(std::string& result, const Tag& tag);
-    [[nodiscard]] Replacement replacementFor(const TagRule& rule, const Tag& tag);
-    [[nodiscard]] Replacement doTag(const Tag& tag);
-    [[nodiscard]] Replacement table(const Tag& tag);
-    [[nodiscard]] Replacement link(const Tag& tag);
-    [[nodiscard]] CasedText text() const { return {source_, lower_}; }
+    [[nodiscard]] bool replaceByValues(Rewriter& result, const Tag& tag, TagAction action);
+    [[nodiscard]] bool replaceDo(Rewriter& result, const Tag& tag);
+    [[nodiscard]] bool replaceTable(Rewriter& result, const Tag& tag);
+    [[nodiscard]] bool replaceLink(Rewriter& result, const Tag& tag);
+    [[nodiscard]] CasedText text() const { return {source_, lower_.all()}; }
 
     std::string_view source_;
-    std::string lower_;
+    LowerCaseTags lower_;
     OutputRules output_;
     RuleFinder rules_;
     AttributeReader label_;
@@ -104,73 +99,79 @@ private:
     DesignImageTags images_;
 };
 
-bool Conversion::appendReplacement(std::string& result, const Tag& tag)
+void replaceByTag(Rewriter& result, const Tag& tag, std::string_view marker)
+{
+    result.drop(tag.begin, tag.end);
+    appendTag(result, marker);
+}
+
+bool Conversion::replace(Rewriter& result, const Tag& tag)
 {
     const auto* const rule = rules_.find(tag);
-    if (rule == nullptr) return true; // dropped
-    switch (rule->action) {
-    case TagAction::Drop:
-        return true;
+    const auto action = rule == nullptr ? TagAction::Drop : rule->action;
+    switch (action) {
     case TagAction::Emit:
-        result.append(rule->text);
+        replaceTag(result, source_, tag, rule->text);
         return true;
     case TagAction::Paragraph:
-        result.append(paragraphTag(tag.in(lower_)));
+        replaceTag(result, source_, tag, paragraphTag(lower_, tag));
         return true;
     case TagAction::Marker:
-        appendTag(result, tag.in(source_));
+        replaceByTag(result, tag, tag.in(source_));
         return true;
     case TagAction::LowerMarker:
-        appendTag(result, tag.in(lower_));
+        replaceByTag(result, tag, lower_.tag(tag));
+        return true;
+    case TagAction::Drop:
+        result.drop(tag.begin, tag.end);
         return true;
     default:
-        return append(result, replacementFor(*rule, tag));
+        return replaceByValues(result, tag, action);
     }
 }
 
-/// What takes the place of a tag with attributes that matter.
-Replacement Conversion::replacementFor(const TagRule& rule, const Tag& tag)
+/// Replaces a tag with attributes that matter.
+bool Conversion::replaceByValues(Rewriter& result, const Tag& tag, TagAction action)
 {
-    if (rule.action == TagAction::Table) return table(tag);
-    if (rule.action == TagAction::Do) return doTag(tag);
-    if (rule.action == TagAction::Link) return link(tag);
-    return images_.wmlTag(tag);
+    lower_.tag(tag);
+    if (action == TagAction::Table) return replaceTable(result, tag);
+    if (action == TagAction::Do) return replaceDo(result, tag);
+    if (action == TagAction::Link) return replaceLink(result, tag);
+    return images_.replace(result, tag);
 }
 
 /// A marker without label stays a comment.
-Replacement Conversion::doTag(const Tag& tag)
+bool Conversion::replaceDo(Rewriter& result, const Tag& tag)
 {
     const auto label = label_.behindName(tag);
-    if (!label) return std::nullopt;
-    std::string result;
-    appendTag(result, lowerBut(text(), tag, *label));
-    return result;
+    if (label) replaceByTag(result, tag, lowerBut(text(), tag, *label));
+    return label.has_value();
 }
 
 /// A table without title, or with TITLE, stays as the surface wrote it: <TABLE border=1>. By the
 /// standard rules it is written as any other, with the title that it has in whichever case.
-Replacement Conversion::table(const Tag& tag)
+bool Conversion::replaceTable(Rewriter& result, const Tag& tag)
 {
     auto title = title_.quotedOrBare(tag);
-    if (!title && !output_.writesUntitledTables()) return std::nullopt;
-    if (!title) title = AttributeReader(lower_, kTitle).quotedOrBare(tag);
-    std::string result("<table");
+    if (!title && !output_.writesUntitledTables()) return false;
+    if (!title) title = AttributeReader(lower_.all(), kTitle).quotedOrBare(tag);
+    result.drop(tag.begin, tag.end);
+    result.append("<table");
     if (title) appendAttribute(result, kTitle, title->in(source_));
     constexpr std::array<std::string_view, 2> kKeys{"align=\"", "columns=\""};
     for (const auto key : kKeys) {
-        const auto value = AttributeReader(lower_, key).quotedOrBare(tag);
-        if (value) appendAttribute(result, key, value->in(lower_));
+        const auto value = AttributeReader(lower_.all(), key).quotedOrBare(tag);
+        if (value) appendAttribute(result, key, value->in(lower_.all()));
     }
-    return result += '>';
+    result.append(">");
+    return true;
 }
 
-Replacement Conversion::link(const Tag& tag)
+bool Conversion::replaceLink(Rewriter& result, const Tag& tag)
 {
     const auto target = href_.quotedOrBare(tag);
-    if (!target) return std::nullopt;
-    std::string result("<a");
-    appendAttribute(result, kHref, target->in(source_));
-    return result += '>';
+    if (target) replaceByLink(result, tag, target->in(source_));
+    return target.has_value();
 }
 
 } // namespace
@@ -184,9 +185,10 @@ void DesignToWml(std::string& text, DocumentSession& session)
 void DesignToWml(std::string& text, DocumentSession& session, DisplayCopyIndex& pictures)
 {
     PictureEdits edits(session.deck);
-    std::string wml = Conversion(text, pictures, edits, session.output).run();
+    Conversion conversion(text, pictures, edits, session.output);
+    translateTags(
+        text, [&](Rewriter& result, const Tag& tag) { return conversion.replace(result, tag); });
     edits.commit();
-    text = std::move(wml);
 }
 
 } // namespace quillmere

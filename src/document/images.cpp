@@ -154,7 +154,7 @@ bool isAddress(std::string_view name)
 std::string RegisterImage(DocumentSession& session, std::size_t areaIndex, const std::string& path,
     std::string_view alternativeText, const DisplayCopyName& chosen)
 {
-    DeckRecord& area = session.deck.at(areaIndex);
+    DeckRecord& area = areaRecord(session, areaIndex);
     if (const auto* const known = area.imageIndex.find(area.images, path))
         return known->displayDir + known->displayFile;
     if (!isPicturePath(path)) return {};
@@ -181,7 +181,7 @@ std::string NewWbmpName(DocumentSession& session)
 void RemoveArea(DocumentSession& session, std::size_t areaIndex, bool withDeckFiles)
 {
     const auto shown = shownElsewhere(session, areaIndex);
-    const DeckRecord& area = session.deck.at(areaIndex);
+    const DeckRecord& area = areaRecord(session, areaIndex);
     removeAreaFiles(session, area, withDeckFiles);
     for (const auto& entry : area.images) {
         if (!shown.contains(lowerCase(entry.displayDir + entry.displayFile)))

@@ -5,39 +5,13 @@
 
 #include "document/tag_rules.h"
 
-#include "document/text/text_search.h"
-
 #include <algorithm>
 
 namespace quillmere {
 
-TagRules::Number TagRules::ruleFor(std::string_view lowerText) const
+TagRules::Number RuleFinder::ruleOfSeveral(const Tag& tag)
 {
-    auto rule = first_[slotOf(lowerText)];
-    while (rule != kNone && !lowerText.starts_with(rows_[rule].key))
-        rule = next_[rule];
-    return rule;
-}
-
-RuleFinder::RuleFinder(std::string_view lowerText, const TagRules& rules)
-    : text_(lowerText)
-    , rules_(rules)
-{
-}
-
-const TagRule* RuleFinder::find(const Tag& tag)
-{
-    const auto rule = ruleOf(tag);
-    return rule == TagRules::kNone ? nullptr : &rules_[rule];
-}
-
-TagRules::Number RuleFinder::ruleOf(const Tag& tag)
-{
-    if (tag.end != tagEnd_) {
-        const auto whole = tag.in(text_); // a key that ends in '>' ends where its tag ends
-        if (whole.find('<', 1) == npos) return rules_.ruleFor(whole);
-        readOpenings(tag);
-    }
+    if (tag.end != tagEnd_) readOpenings(tag);
     while (openings_.back().offset < tag.begin)
         openings_.pop_back();
     return openings_.back().rule;
@@ -50,7 +24,7 @@ void RuleFinder::readOpenings(const Tag& tag)
     auto best = TagRules::kNone;
     for (auto at = tag.end; at-- > tag.begin;) {
         if (text_[at] != '<') continue;
-        const auto rule = rules_.ruleFor(text_.substr(at, tag.end - at));
+        const auto rule = rules_.ruleFor(text_, at);
         if (!openings_.empty() && rule >= best) continue; // the opening behind tells the same
         best = std::min(best, rule);
         openings_.push_back({at, best});

@@ -31,36 +31,48 @@ std::string lowerBut(const CasedText& text, const Tag& tag, const TextRange& kep
     return result;
 }
 
-std::string_view paragraphTag(std::string_view lowerTag)
+std::string_view paragraphTag(LowerCaseTags& lower, const Tag& tag)
 {
     constexpr std::string_view kPlain = "<p>";
-    if (lowerTag == kPlain) return kPlain; // as nearly all are
+    if (tag.end - tag.begin == kPlain.size()) return kPlain; // as nearly all are
+    const auto words = lower.tag(tag);
     for (const auto& alignment : kAlignments) {
-        if (lowerTag.find(alignment.word) != npos) return alignment.tag;
+        if (words.find(alignment.word) != std::string_view::npos) return alignment.tag;
     }
     return kPlain;
 }
 
-void appendMarker(std::string& result, std::string_view tagBehindOpening)
+void replaceByLink(Rewriter& result, const Tag& tag, std::string_view target)
+{
+    result.drop(tag.begin, tag.end);
+    result.append("<a");
+    appendAttribute(result, kHrefKey, target);
+    result.append(">");
+}
+
+void appendMarker(Rewriter& result, std::string_view tagBehindOpening)
 {
     const auto last = tagBehindOpening.size() - 1;
-    result.append(kMarkerBegin).append(tagBehindOpening.substr(0, last));
-    result.append("--").append(tagBehindOpening.substr(last));
+    result.append(kMarkerBegin);
+    result.append(tagBehindOpening.substr(0, last));
+    result.append(kMarkerEnd);
 }
 
-void appendTag(std::string& result, std::string_view marker)
+void appendTag(Rewriter& result, std::string_view marker)
 {
     const auto tag = marker.substr(kMarkerBegin.size());
-    result += '<';
-    if (tag.ends_with(kMarkerEnd))
-        result.append(tag.substr(0, tag.size() - kMarkerEnd.size())) += '>';
-    else
-        result.append(tag);
+    const bool isWhole = tag.ends_with(kMarkerEnd);
+    result.append("<");
+    result.append(tag.substr(0, tag.size() - (isWhole ? kMarkerEnd.size() : 0)));
+    if (isWhole) result.append(">");
 }
 
-void appendAttribute(std::string& tag, std::string_view key, std::string_view value)
+void appendAttribute(Rewriter& result, std::string_view key, std::string_view value)
 {
-    tag.append(" ").append(key).append(value).append("\"");
+    result.append(" ");
+    result.append(key);
+    result.append(value);
+    result.append("\"");
 }
 
 } // namespace quillmere

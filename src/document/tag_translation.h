@@ -4,9 +4,10 @@
 #include "document/text/tag_attributes.h"
 #include "document/text/tag_scanner.h"
 #include "document/text/text_search.h"
+#include "document/text/windows1252.h"
 
+#include <algorithm>
 #include <cstddef>
-#include <optional>
 #include <string>
 #include <string_view>
 
@@ -14,45 +15,60 @@
 
 namespace quillmere {
 
-/// What takes a tag's place: "" deletes the tag, nullopt keeps it.
-using Replacement = std::optional<std::string>;
-
-/// A copy of `source` in which something else took the place of each tag:
-/// `appendReplacement(result, tag)` puts it at the end of `result`, or nothing where the tag is
-/// deleted, and is false, with nothing done, where the tag is kept. What was put in is not read
-/// again; a tag that is kept is scanned again from its second character, since it may hide a second
-/// '<'. Throws Overflow where the text is too long at its begin or after any replacement.
-template <typename AppendReplacement>
-[[nodiscard]] std::string translateTags(
-    std::string_view source, AppendReplacement appendReplacement)
+/// Puts something else in the place of each tag of `text`. `replace(result, tag)` drops the tag and
+/// appends what it wants to, or keeps it: it is false where the tag is to be scanned again from its
+/// second character, since it may hide a second '<'. What was put in is not read again. Throws
+/// Overflow, with the text unchanged, where it is too long at its begin or after any replacement.
+template <typename Replace> void translateTags(std::string& text, Replace replace)
 {
-    requireAddressable(source);
-    std::string result;
-    result.reserve(source.size() + source.size() / 8);
-    std::size_t copied = 0; // what stands before it is in `result`
-    TagScanner tags(source);
+    requireAddressable(text);
+    Rewriter result(text);
+    TagScanner tags(text);
     while (const auto tag = tags.next()) {
-        result.append(source, copied, tag->begin - copied);
-        copied = tag->begin;
-        if (!appendReplacement(result, *tag)) {
+        if (replace(result, *tag))
+            requireAddressableLength(result.length());
+        else
             tags.resumeAt(tag->begin + 1);
-            continue;
-        }
-        copied = tag->end;
-        requireAddressableLength(result.size() + source.size() - copied);
     }
-    return result.append(source, copied);
+    if (!result.isUnchanged()) text = result.take();
 }
 
-/// Puts the replacement at the end of `result`; false for one that keeps the tag.
-inline bool append(std::string& result, const Replacement& replacement)
-{
-    if (replacement) result.append(*replacement);
-    return replacement.has_value();
-}
+/// The lower case of a text: tags are told by it and their values mostly taken from it. Only what
+/// was asked for is there, at the same offsets. The text must outlive it.
+class LowerCaseTags {
+public:
+    explicit LowerCaseTags(std::string_view source)
+        : source_(source)
+        , lower_(source.size(), '\0')
+    {
+    }
+    LowerCaseTags(const LowerCaseTags&) = delete;
+    LowerCaseTags& operator=(const LowerCaseTags&) = delete;
+    LowerCaseTags(LowerCaseTags&&) = delete;
+    LowerCaseTags& operator=(LowerCaseTags&&) = delete;
+    ~LowerCaseTags() = default;
 
-/// A text and its copy in lower case: tags are told by the one and their values mostly taken from
-/// the other.
+    /// All places; only those of the tags that were asked for are filled.
+    [[nodiscard]] std::string_view all() const { return lower_; }
+    /// The tag in lower case. Tags are asked for from left to right.
+    std::string_view tag(const Tag& tag)
+    {
+        if (tag.end != end_) { // else it is a part of the last one
+            end_ = tag.end;
+            const auto written = tag.in(source_);
+            std::transform(written.begin(), written.end(), lower_.data() + tag.begin,
+                [](char character) { return lowerCase(character); });
+        }
+        return tag.in(lower_);
+    }
+
+private:
+    std::string_view source_;
+    std::string lower_;
+    std::size_t end_ = 0;
+};
+
+/// A text and its copy in lower case, which holds the tag that is looked at.
 struct CasedText {
     std::string_view source;
     std::string_view lower;
@@ -61,19 +77,33 @@ struct CasedText {
 /// The tag in lower case but for the part `kept`.
 [[nodiscard]] std::string lowerBut(const CasedText& text, const Tag& tag, const TextRange& kept);
 
-/// The start tag of a paragraph that has the alignment of `lowerTag` and nothing else. A word that
-/// names a side counts wherever it stands: `<p id="leftside">` is aligned to the left.
-[[nodiscard]] std::string_view paragraphTag(std::string_view lowerTag);
+/// The start tag of a paragraph that has the alignment of `tag` and nothing else. A word that names
+/// a side counts wherever it stands: `<p id="leftside">` is aligned to the left.
+[[nodiscard]] std::string_view paragraphTag(LowerCaseTags& lower, const Tag& tag);
+
+/// Puts `text`, which is a constant, in the place of the tag.
+inline void replaceTag(
+    Rewriter& result, std::string_view source, const Tag& tag, std::string_view text)
+{
+    if (tag.in(source) == text) return; // as most are
+    result.drop(tag.begin, tag.end);
+    result.append(text);
+}
+
+inline constexpr std::string_view kHrefKey = "href=\"";
+
+/// Puts a link to `target` with no other attribute in the place of the tag.
+void replaceByLink(Rewriter& result, const Tag& tag, std::string_view target);
 
 /// Puts the marker that stands for a tag at the end of `result`: `<go href="#a"/>` as
 /// `<!--go href="#a"/-->`. `tagBehindOpening` is the tag without its '<'.
-void appendMarker(std::string& result, std::string_view tagBehindOpening);
+void appendMarker(Rewriter& result, std::string_view tagBehindOpening);
 
 /// The same for the tag that a marker stands for. A marker that another '<' stands ahead of loses
 /// its first four characters all the same.
-void appendTag(std::string& result, std::string_view marker);
+void appendTag(Rewriter& result, std::string_view marker);
 
-/// Puts ` name="value"` behind what `tag` holds so far; `key` is the name with `="`.
-void appendAttribute(std::string& tag, std::string_view key, std::string_view value);
+/// Puts ` name="value"` behind what `result` holds so far; `key` is the name with `="`.
+void appendAttribute(Rewriter& result, std::string_view key, std::string_view value);
 
 } // namespace quillmere

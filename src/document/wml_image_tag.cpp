@@ -29,13 +29,17 @@ WmlImageTags::WmlImageTags(const CasedText& text, std::size_t areaIndex, Documen
 {
 }
 
-Replacement WmlImageTags::designTag(const Tag& tag)
+bool WmlImageTags::replace(Rewriter& result, const Tag& tag)
 {
     const auto src = src_.quoted(tag);
-    if (!src) return std::nullopt;
-    const auto path = displayCopy(tag, *src);
-    if (!path) return std::nullopt;
-    return tagFor(tag, *path);
+    const auto path = src ? displayCopy(tag, *src) : std::nullopt;
+    if (!path) return false;
+    result.drop(tag.begin, tag.end);
+    result.append("<img");
+    appendAttribute(result, kSrc, *path);
+    if (auto* const entry = entryOf(trimBlanks(*path))) addAttributes(result, tag, *entry);
+    result.append("></img>");
+    return true;
 }
 
 /// The path of the picture's display copy, which is made where there is none yet.
@@ -64,18 +68,13 @@ ImageEntry* WmlImageTags::entryOf(std::string_view displayPath)
     return found == entries_.end() || displayPath.empty() ? nullptr : &images[found->second];
 }
 
-std::string WmlImageTags::tagFor(const Tag& tag, const std::string& displayPath)
+void WmlImageTags::addAttributes(Rewriter& result, const Tag& tag, ImageEntry& entry)
 {
-    std::string result("<img");
-    appendAttribute(result, kSrc, displayPath);
-    if (auto* const entry = entryOf(trimBlanks(displayPath))) {
-        if (const auto alt = alt_.quoted(tag)) appendAttribute(result, kAlt, alt->in(text_.source));
-        addAlignment(result, tag, *entry);
-        entry->hasLayout = false;
-        addSize(result, tag, *entry);
-        addSpaces(result, tag, *entry);
-    }
-    return result += "></img>";
+    if (const auto alt = alt_.quoted(tag)) appendAttribute(result, kAlt, alt->in(text_.source));
+    addAlignment(result, tag, entry);
+    entry.hasLayout = false;
+    addSize(result, tag, entry);
+    addSpaces(result, tag, entry);
 }
 
 std::optional<std::string_view> WmlImageTags::lowerValue(const Tag& tag, std::string_view key) const
@@ -85,7 +84,7 @@ std::optional<std::string_view> WmlImageTags::lowerValue(const Tag& tag, std::st
     return value->in(text_.lower);
 }
 
-void WmlImageTags::addAlignment(std::string& result, const Tag& tag, ImageEntry& entry)
+void WmlImageTags::addAlignment(Rewriter& result, const Tag& tag, ImageEntry& entry)
 {
     const auto align = lowerValue(tag, kAlign);
     if (!align) return;
@@ -94,20 +93,22 @@ void WmlImageTags::addAlignment(std::string& result, const Tag& tag, ImageEntry&
 }
 
 /// The width alone is lost; a height alone goes with the width that the entry has.
-void WmlImageTags::addSize(std::string& result, const Tag& tag, ImageEntry& entry)
+void WmlImageTags::addSize(Rewriter& result, const Tag& tag, ImageEntry& entry)
 {
     const auto height = lowerValue(tag, "height=\"");
     if (!height) return;
     entry.heightPx = wholeNumber(*height);
-    result.append(" style=\"height: ").append(*height).append("px;");
     const auto width = lowerValue(tag, "width=\"");
     if (width) entry.widthPx = wholeNumber(*width);
-    result.append(" width: ");
-    result.append(width ? std::string(*width) : std::to_string(entry.widthPx)).append("px\"");
+    result.append(" style=\"height: ");
+    result.append(*height);
+    result.append("px; width: ");
+    result.append(width ? *width : std::string_view(std::to_string(entry.widthPx)));
+    result.append("px\"");
     entry.hasLayout = true;
 }
 
-void WmlImageTags::addSpaces(std::string& result, const Tag& tag, ImageEntry& entry)
+void WmlImageTags::addSpaces(Rewriter& result, const Tag& tag, ImageEntry& entry)
 {
     for (const auto key : kSpaces) {
         const auto space = lowerValue(tag, key);

@@ -19,17 +19,18 @@ namespace quillmere {
 class WmlImageTags {
 public:
     WmlImageTags(const CasedText& text, std::size_t areaIndex, DocumentSession& session);
-    /// The surface's tag; nullopt, the tag stays, where it names no WBMP picture or the deck has
-    /// no such area. Throws InvalidArgument, TypeMismatch, and what RegisterImage throws.
-    [[nodiscard]] Replacement designTag(const Tag& tag);
+    /// Puts the surface's tag in the place of `tag`, which `text` has in lower case. False, the tag
+    /// stays, where it names no WBMP picture or the deck has no such area. Throws InvalidArgument,
+    /// TypeMismatch, and what RegisterImage throws.
+    [[nodiscard]] bool replace(Rewriter& result, const Tag& tag);
 
 private:
     [[nodiscard]] std::optional<std::string> displayCopy(const Tag& tag, const TextRange& src);
     [[nodiscard]] ImageEntry* entryOf(std::string_view displayPath);
-    [[nodiscard]] std::string tagFor(const Tag& tag, const std::string& displayPath);
-    void addAlignment(std::string& result, const Tag& tag, ImageEntry& entry);
-    void addSize(std::string& result, const Tag& tag, ImageEntry& entry);
-    void addSpaces(std::string& result, const Tag& tag, ImageEntry& entry);
+    void addAttributes(Rewriter& result, const Tag& tag, ImageEntry& entry);
+    void addAlignment(Rewriter& result, const Tag& tag, ImageEntry& entry);
+    void addSize(Rewriter& result, const Tag& tag, ImageEntry& entry);
+    void addSpaces(Rewriter& result, const Tag& tag, ImageEntry& entry);
     [[nodiscard]] std::optional<std::string_view> lowerValue(
         const Tag& tag, std::string_view key) const;
 

@@ -1,6 +1,7 @@
-// Each tag is decided by the first row of the table whose key it contains; a text is lower-cased
-// once, and all keys are looked for in that copy. Held by conversions_literal_test.cpp and, against
-// a version that replaces tag after tag in the text itself, by conversions_literal_test.cpp.
+// Each tag is decided by the first row of the table whose key it contains. Most tags stay
+// as they are, so that the text between two changes is copied at once. Held by
+// conversions_literal_test.cpp and, against a version that replaces tag after tag in the text
+// itself, by conversions_literal_test.cpp.
 
 #include "document/wml_to_design.h"
 
@@ -63,39 +64,34 @@ constexpr TagRules kTagRules{kTagRows};
 
 constexpr std::string_view kLabel = "label=\"";
 constexpr std::string_view kTitle = "title=\"";
-constexpr std::string_view kHref = "href=\"";
 
 class Conversion {
 public:
     Conversion(std::string_view source, std::size_t areaIndex, DocumentSession& session)
         : source_(source)
-        , lower_(lowerCase(source))
-        , rules_(lower_, kTagRules)
-        , label_(source_, kLabel)
-        , title_(source_, kTitle)
-        , href_(lower_, kHref)
+        , lower_(source)
+        , rules_(source, kTagRules)
+        , label_(source, kLabel)
+        , title_(source, kTitle)
+        , href_(lower_.all(), kHrefKey)
         , images_(text(), areaIndex, session)
     {
     }
 
-    [[nodiscard]] std::string run()
-    {
-        return translateTags(source_,
-            [this](std::string& result, const Tag& tag) { return appendReplacement(result, tag); });
-    }
+    /// False where the tag is kept.
+    [[nodiscard]] bool replace(Rewriter& result, const Tag& tag);
     [[nodiscard]] bool madeCardMarker() const { return madeCardMarker_; }
 
 private:
-    [[nodiscard]] bool appendReplacement(std::string& result, const Tag& tag);
-    [[nodiscard]] Replacement replacementFor(const TagRule& rule, const Tag& tag);
-    [[nodiscard]] Replacement doMarker(const Tag& tag);
-    [[nodiscard]] std::string table(const Tag& tag);
-    [[nodiscard]] Replacement link(const Tag& tag);
-    void appendCardMarker(std::string& result, const Tag& tag);
-    [[nodiscard]] CasedText text() const { return {source_, lower_}; }
+    [[nodiscard]] bool replaceByValues(Rewriter& result, const Tag& tag, TagAction action);
+    [[nodiscard]] bool replaceDo(Rewriter& result, const Tag& tag);
+    [[nodiscard]] bool replaceTable(Rewriter& result, const Tag& tag);
+    [[nodiscard]] bool replaceLink(Rewriter& result, const Tag& tag);
+    void replaceCard(Rewriter& result, const Tag& tag);
+    [[nodiscard]] CasedText text() const { return {source_, lower_.all()}; }
 
     std::string_view source_;
-    std::string lower_;
+    LowerCaseTags lower_;
     RuleFinder rules_;
     AttributeReader label_;
     AttributeReader title_;
@@ -104,77 +100,84 @@ private:
     bool madeCardMarker_ = false;
 };
 
-bool Conversion::appendReplacement(std::string& result, const Tag& tag)
+void replaceByMarker(Rewriter& result, const Tag& tag, std::string_view words)
+{
+    result.drop(tag.begin, tag.end);
+    appendMarker(result, words.substr(1));
+}
+
+bool Conversion::replace(Rewriter& result, const Tag& tag)
 {
     const auto* const rule = rules_.find(tag);
-    if (rule == nullptr) {
-        appendCardMarker(result, tag);
-        return true;
-    }
-    switch (rule->action) {
-    case TagAction::Drop:
-        return true;
+    const auto action = rule == nullptr ? TagAction::Card : rule->action;
+    switch (action) {
     case TagAction::Emit:
-        result.append(rule->text);
+        replaceTag(result, source_, tag, rule->text);
         return true;
     case TagAction::Paragraph:
-        result.append(paragraphTag(tag.in(lower_)));
+        replaceTag(result, source_, tag, paragraphTag(lower_, tag));
         return true;
     case TagAction::Marker:
-        appendMarker(result, tag.in(source_).substr(1));
+        replaceByMarker(result, tag, tag.in(source_));
         return true;
     case TagAction::LowerMarker:
-        appendMarker(result, tag.in(lower_).substr(1));
+        replaceByMarker(result, tag, lower_.tag(tag));
+        return true;
+    case TagAction::Drop:
+        result.drop(tag.begin, tag.end);
         return true;
     default:
-        return append(result, replacementFor(*rule, tag));
+        return replaceByValues(result, tag, action);
     }
 }
 
-/// What takes the place of a tag with attributes that matter.
-Replacement Conversion::replacementFor(const TagRule& rule, const Tag& tag)
+/// Replaces a tag with attributes that matter.
+bool Conversion::replaceByValues(Rewriter& result, const Tag& tag, TagAction action)
 {
-    if (rule.action == TagAction::Table) return table(tag);
-    if (rule.action == TagAction::Do) return doMarker(tag);
-    if (rule.action == TagAction::Link) return link(tag);
-    return images_.designTag(tag);
+    lower_.tag(tag);
+    if (action == TagAction::Table) return replaceTable(result, tag);
+    if (action == TagAction::Do) return replaceDo(result, tag);
+    if (action == TagAction::Link) return replaceLink(result, tag);
+    if (action == TagAction::Image) return images_.replace(result, tag);
+    replaceCard(result, tag);
+    return true;
 }
 
 /// A do without label, such as <do type="prev">, stays as it is.
-Replacement Conversion::doMarker(const Tag& tag)
+bool Conversion::replaceDo(Rewriter& result, const Tag& tag)
 {
     const auto label = label_.behindName(tag);
-    if (!label) return std::nullopt;
-    std::string marker;
-    appendMarker(marker, std::string_view(lowerBut(text(), tag, *label)).substr(1));
-    return marker;
+    if (label) replaceByMarker(result, tag, lowerBut(text(), tag, *label));
+    return label.has_value();
 }
 
-std::string Conversion::table(const Tag& tag)
+bool Conversion::replaceTable(Rewriter& result, const Tag& tag)
 {
     const auto title = title_.behindName(tag);
-    std::string result = title ? lowerBut(text(), tag, *title) : std::string(tag.in(lower_));
-    if (tag.in(lower_).find("border=") == npos) result.insert(result.size() - 1, " border=\"1\"");
-    return result;
+    const bool hasBorder = tag.in(lower_.all()).find("border=") != npos;
+    const auto words = lowerBut(text(), tag, title.value_or(TextRange{tag.end, tag.end}));
+    result.drop(tag.begin, tag.end);
+    result.append(std::string_view(words).substr(0, words.size() - 1));
+    result.append(hasBorder ? ">" : " border=\"1\">");
+    return true;
 }
 
-Replacement Conversion::link(const Tag& tag)
+bool Conversion::replaceLink(Rewriter& result, const Tag& tag)
 {
     const auto target = href_.quotedAndClosed(tag);
-    if (!target) return std::nullopt;
-    std::string result("<a");
-    appendAttribute(result, kHref, target->in(source_));
-    return result += '>';
+    if (target) replaceByLink(result, tag, target->in(source_));
+    return target.has_value();
 }
 
 /// A card is told by its places of `id="` and "card", counted from 1, having a bit in common: so
 /// <card id="x"> (7 and 2) becomes a marker, while <card title="a" id="x"> (17 and 2) is dropped as
 /// every unknown tag is.
-void Conversion::appendCardMarker(std::string& result, const Tag& tag)
+void Conversion::replaceCard(Rewriter& result, const Tag& tag)
 {
-    const auto lower = tag.in(lower_);
+    const auto lower = tag.in(lower_.all());
     const auto id = lower.find("id=\"") + 1; // 0: not there
     const auto card = lower.find("card") + 1;
+    result.drop(tag.begin, tag.end);
     if ((id & card) != 0) {
         madeCardMarker_ = true;
         appendMarker(result, tag.in(source_).substr(card - 1));
@@ -189,8 +192,8 @@ bool WmlToDesign(std::string& text, std::size_t areaIndex, DocumentSession& sess
 {
     if (text.empty()) return false; // many cards have no do block
     Conversion conversion(text, areaIndex, session);
-    std::string design = conversion.run();
-    text = std::move(design);
+    translateTags(
+        text, [&](Rewriter& result, const Tag& tag) { return conversion.replace(result, tag); });
     return conversion.madeCardMarker();
 }
 

@@ -17,6 +17,7 @@
 namespace quillmere {
 namespace {
 
+constexpr double kAboveMiddlePx = 1.5; // the middle of capitals lies above that of the line
 constexpr double kRadioPx = 20;
 constexpr double kRadioGapPx = 4; // ahead of the option's text
 constexpr double kRadioRingPx = 14;
@@ -66,7 +67,8 @@ void drawChip(
 void drawRadio(QPainter& painter, const QRectF& place, const SurfaceStyle& style)
 {
     QRectF ring(0, 0, kRadioRingPx, kRadioRingPx);
-    ring.moveCenter(place.center() - QPointF((kRadioPx - kRadioRingPx + kRadioGapPx) / 2 - 1, 0));
+    ring.moveCenter(
+        place.center() - QPointF((kRadioPx - kRadioRingPx + kRadioGapPx) / 2 - 1, kAboveMiddlePx));
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(style.ink, 1.75));
     painter.setBrush(Qt::NoBrush);

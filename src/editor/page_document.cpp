@@ -115,7 +115,7 @@ void PageWriter::writeBlock(QTextCursor& cursor, std::size_t block)
 void PageWriter::writeTable(QTextCursor& cursor, std::size_t table)
 {
     const auto& shown = page_.tables[table];
-    auto* grid = cursor.insertTable(shown.rows, shown.columns, tableFormat(shown, style_));
+    auto* grid = cursor.insertTable(shown.rows, shown.columns, tableFormat());
     for (const auto index : cells_[table]) {
         const auto& cell = page_.cells[index];
         if (cell.columnSpan > 1) grid->mergeCells(cell.row, cell.column, 1, cell.columnSpan);

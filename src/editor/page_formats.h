@@ -42,7 +42,8 @@ inline constexpr int kSourceProperty = QTextFormat::UserProperty + 1;
 /// The format of an empty line next to a table while the caret is elsewhere.
 [[nodiscard]] QTextBlockFormat lowBlockFormat();
 
-[[nodiscard]] QTextTableFormat tableFormat(const PageTable& table, const SurfaceStyle& look);
+inline constexpr double kTableLinePx = 1;
+[[nodiscard]] QTextTableFormat tableFormat();
 
 /// Text of the design text for the eye: entities read.
 [[nodiscard]] QString shownText(QByteArrayView source);

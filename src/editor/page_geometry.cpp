@@ -2,6 +2,8 @@
 
 #include "editor/page_geometry.h"
 
+#include "editor/page_formats.h"
+
 #include <QAbstractTextDocumentLayout>
 #include <QTextBlock>
 #include <QTextLayout>
@@ -62,14 +64,32 @@ QRectF tableRect(const QTextDocument& document, const SurfacePage& page, std::si
 {
     auto* shown = textTable(document, page.tables[table]);
     if (shown == nullptr) return {};
-    // The layout adds the place of the first cell to that of the table, and counts lines that cells
-    // share for each of them.
+    // The layout adds the place of the first cell's content to that of the table.
     const auto format = shown->format();
-    const auto corner = format.cellPadding() + 1.5 * format.border();
-    const auto shared = 3 * format.border();
+    const auto corner = format.cellPadding() + format.cellSpacing();
     const auto told = layoutOf(document).frameBoundingRect(shown);
-    return QRectF(told.topLeft() - QPointF(corner, corner),
-        told.size() - QSizeF(shared, shared + format.bottomMargin()));
+    return QRectF(
+        told.topLeft() - QPointF(corner, corner), told.size() - QSizeF(0, format.bottomMargin()));
+}
+
+TableLines tableLines(const QTextDocument& document, const SurfacePage& page, std::size_t table)
+{
+    const auto& shown = page.tables[table];
+    const auto outer = tableRect(document, page, table);
+    TableLines lines;
+    lines.rows.resize(static_cast<std::size_t>(shown.rows) + 1, outer.bottom() - kTableLinePx);
+    lines.columns.resize(static_cast<std::size_t>(shown.columns) + 1, outer.right() - kTableLinePx);
+    const auto first = textTable(document, shown);
+    if (first == nullptr) return lines;
+    const auto ahead = first->format().cellPadding() + first->format().cellSpacing();
+    for (const auto& cell : page.cells) {
+        if (cell.table != table) continue;
+        const auto block = document.findBlockByNumber(static_cast<int>(cell.firstBlock));
+        const auto corner = layoutOf(document).blockBoundingRect(block).topLeft();
+        lines.rows[static_cast<std::size_t>(cell.row)] = corner.y() - ahead;
+        lines.columns[static_cast<std::size_t>(cell.column)] = corner.x() - ahead;
+    }
+    return lines;
 }
 
 std::size_t tableBorderAt(const QTextDocument& document, const SurfacePage& page, QPointF point)

@@ -9,6 +9,7 @@
 
 #include <cstddef>
 #include <optional>
+#include <vector>
 
 // Where things of a page lie in the document that shows it, in the document's coordinates.
 
@@ -22,6 +23,15 @@ namespace quillmere {
     const QTextDocument& document, const SurfacePage& page, QPointF point);
 
 [[nodiscard]] QRectF tableRect(
+    const QTextDocument& document, const SurfacePage& page, std::size_t table);
+
+/// Where the lines between the cells of a table begin, those round it included.
+struct TableLines {
+    std::vector<double> rows; ///< from the top, one more than there are rows
+    std::vector<double> columns; ///< from the left, one more than there are columns
+};
+
+[[nodiscard]] TableLines tableLines(
     const QTextDocument& document, const SurfacePage& page, std::size_t table);
 
 /// The innermost table whose outer border a point lies on; kNone for none.

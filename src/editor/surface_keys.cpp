@@ -43,11 +43,22 @@ bool isMovingKey(const QKeyEvent& event)
         kMovingKeys, [&](auto key) { return const_cast<QKeyEvent&>(event).matches(key); });
 }
 
+/// Whether a key comes alone, whatever a keypad or a second group of the keyboard adds to it.
+bool comesAlone(const QKeyEvent& event)
+{
+    constexpr auto kIrrelevant = Qt::ShiftModifier | Qt::KeypadModifier | Qt::GroupSwitchModifier;
+    return (event.modifiers() & ~kIrrelevant) == Qt::NoModifier;
+}
+
 bool isReturn(const QKeyEvent& event)
 {
-    const auto plain = event.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
-    return plain == Qt::NoModifier
-        && (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter);
+    return comesAlone(event) && (event.key() == Qt::Key_Return || event.key() == Qt::Key_Enter);
+}
+
+// Not all desktops have it among their standard keys.
+bool isBackspace(const QKeyEvent& event)
+{
+    return comesAlone(event) && event.key() == Qt::Key_Backspace;
 }
 
 /// What a key types; characters of AltGr come with Ctrl and Alt.
@@ -69,7 +80,6 @@ const DesignSurface::Key* DesignSurface::keyFor(QKeyEvent& event)
         {QKeySequence::Redo, &DesignSurface::redo},
         {QKeySequence::Cut, &DesignSurface::cut},
         {QKeySequence::Paste, &DesignSurface::paste},
-        {QKeySequence::Backspace, &DesignSurface::backspace},
         {QKeySequence::Delete, &DesignSurface::deleteKey},
         {QKeySequence::DeleteStartOfWord, &DesignSurface::wordBackspace},
         {QKeySequence::DeleteEndOfWord, &DesignSurface::wordDelete},
@@ -102,6 +112,8 @@ void DesignSurface::keyPressEvent(QKeyEvent* event)
         editByKey([&] { (this->*key->action)(); });
     else if (event->matches(QKeySequence::Copy))
         trap([this] { copy(); });
+    else if (isBackspace(*event))
+        editByKey([this] { backspace(); });
     else if (isReturn(*event))
         editByKey([this] { typeReturn(); });
     else if (isMovingKey(*event)) {

@@ -1,9 +1,12 @@
-// The frame round a selected object or table. Seen in the pictures of quillmere-gallery.
+// The lines of tables and the frame round a selected object or table. Seen in the pictures of
+// quillmere-gallery.
 
 #include "editor/design_surface.h"
 
 #include "editor/page_geometry.h"
+#include "editor/table_lines.h"
 
+#include <QPaintEvent>
 #include <QPainter>
 #include <QScrollBar>
 
@@ -16,19 +19,21 @@ constexpr double kFrameWidthPx = 2;
 
 QRectF DesignSurface::controlRect() const
 {
-    const auto rect = control_->table == kNone ? itemRect(*document(), control_->item)
-                                               : tableRect(*document(), page_, control_->table);
-    return rect.translated(-documentPoint({0, 0}));
+    if (control_->table != kNone) return tableRect(*document(), page_, control_->table);
+    return itemRect(*document(), control_->item);
 }
 
 void DesignSurface::paintEvent(QPaintEvent* event)
 {
     QTextEdit::paintEvent(event);
-    if (!control_) return;
+    const auto scrolled = documentPoint({0, 0});
     QPainter painter(viewport());
+    painter.translate(-scrolled);
+    drawTableLines(painter, *document(), page_, style_, QRectF(event->rect()).translated(scrolled));
+    if (!control_) return;
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(style_.link, kFrameWidthPx));
-    painter.drawRoundedRect(controlRect().adjusted(-1, -1, 1, 1), 3, 3);
+    painter.drawRoundedRect(controlRect().adjusted(-2, -2, 2, 2), 3, 3);
 }
 
 } // namespace quillmere

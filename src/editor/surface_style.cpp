@@ -33,6 +33,9 @@ QFont pageFont(const SurfaceStyle& style, int sizePx)
 {
     QFont font(style.fontFamily);
     font.setPixelSize(sizePx);
+    // Kerning is not worth twice the time of each key in a large table. Scripts that need shaping
+    // get it all the same.
+    font.setStyleStrategy(QFont::PreferNoShaping);
     return font;
 }
 

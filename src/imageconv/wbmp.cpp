@@ -3,11 +3,12 @@
 
 #include "imageconv/wbmp.h"
 
+#include "document/platform/file_failures.h"
 #include "document/text/failure.h"
-#include "document/text/windows1252.h"
 
 #include <algorithm>
 #include <array>
+#include <cerrno>
 #include <filesystem>
 #include <fstream>
 #include <system_error>
@@ -88,9 +89,15 @@ std::size_t fileRowBytes(const PictureSize& size, const OutputRules& rules)
 void openPicture(std::ifstream& file, const std::string& path)
 {
     std::error_code error;
+    const auto status = std::filesystem::status(path, error);
+    if (error) throw cannotRead(path, error);
+    if (std::filesystem::is_directory(status))
+        throw cannotRead(path, std::make_error_code(std::errc::is_a_directory));
     // Reading a pipe would wait for whoever writes to it.
-    if (std::filesystem::is_regular_file(path, error)) file.open(path, std::ios::binary);
-    if (!file.is_open()) throw FileFailure("Das Bild " + path + " kann nicht geöffnet werden.");
+    if (!std::filesystem::is_regular_file(status))
+        throw FileFailure("Das Bild „" + path + "“ ist keine gewöhnliche Datei.");
+    file.open(path, std::ios::binary);
+    if (!file.is_open()) throw cannotRead(path, {errno, std::generic_category()});
 }
 
 template <typename Read> auto namingFile(const std::string& path, Read read)
@@ -98,8 +105,7 @@ template <typename Read> auto namingFile(const std::string& path, Read read)
     try {
         return read();
     } catch (const BadPicture& bad) {
-        throw BadPicture(
-            "Das Bild " + path + " kann nicht gelesen werden. " + toUtf8(bad.description()));
+        throw BadPicture("Das Bild „" + path + "“ kann nicht gelesen werden. " + bad.utf8());
     }
 }
 
@@ -234,7 +240,7 @@ WbmpPicture ReadWbmpFile(const std::string& path, const OutputRules& rules)
     std::string bytes(error ? 0 : std::min<std::uintmax_t>(length, kMaxFileBytes), '\0');
     file.read(bytes.data(), static_cast<std::streamsize>(bytes.size()));
     bytes.resize(static_cast<std::size_t>(file.gcount()));
-    if (file.bad()) throw FileFailure("Das Bild " + path + " kann nicht gelesen werden.");
+    if (file.bad()) throw FileFailure("Das Bild „" + path + "“ kann nicht gelesen werden.");
     return namingFile(path, [&] { return readWbmp(bytes, rules); });
 }
 

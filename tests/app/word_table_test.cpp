@@ -13,13 +13,13 @@ namespace {
 
 TEST(ResourceText, AttributesReadAlikeWithQuotesAndWithout)
 {
-    const char* const rows[][3] = {{R"(<word id="5" rem="a b">)", "id=", "5"},
-        {R"(<WORD ID = 5 Id= "6">)", "id=", "6"}, {R"(<word id=5 rem="a b">)", "id=", "5"},
-        {R"(<word id="5" rem="a=b > c">)", "rem=", "a=b > c"}, {"<word id=5>", "id=", "5"},
-        {R"(<word rem=a b id=7>)", "rem=", "a"}, {"<word rem= b>", "rem=", ""},
-        {R"(<word formid="a" id="b">)", "id=", "a"}, // the first place, also within a name
-        {R"(<word rem="a b>)", "rem=", "a b"}, {R"(<word rem="a b id=5>)", "rem=", "a b id"},
-        {"<word rem=a", "rem=", "a"}, {"<word rem=", "rem=", ""}, {"<word>", "rem=", ""}};
+    const char* const rows[][3]
+        = {{R"(<word id="5" rem="a b">)", "id=", "5"}, {R"(<WORD ID = 5 Id= "6">)", "id=", "6"},
+            {R"(<word id="5" rem="a=b > c">)", "rem=", "a=b > c"},
+            {R"(<word rem=a b id=7>)", "rem=", "a"}, {"<word rem= b>", "rem=", ""},
+            {R"(<word formid="a" id="b">)", "id=", "a"}, // the first place, also within a name
+            {R"(<word rem="a b id=5>)", "rem=", "a b id"}, {"<word rem=a", "rem=", "a"},
+            {"<word rem=", "rem=", ""}, {"<word>", "rem=", ""}};
     for (const auto& row : rows)
         EXPECT_EQ(resourceAttribute(row[0], row[1]), row[2]) << row[0];
     EXPECT_EQ(shortNumber(" 32767 "), 32767);

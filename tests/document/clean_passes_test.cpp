@@ -32,19 +32,20 @@ std::vector<Judged> judgedPasses()
     const auto slow = literal::cleanPasses();
     for (const auto& pass : cleanPasses()) {
         const auto judge = slow[all.size()].apply;
-        const auto apply = pass.apply;
         all.push_back({std::string(pass.name),
-            [apply](std::string& text) {
+            [&pass](std::string& text) {
                 EditedText edited{std::string(text)};
-                apply(edited);
+                if ((findCleanFaults(edited.tags()) & pass.mends) != 0) pass.apply(edited);
                 text = std::move(edited).take();
             },
             [judge](std::string& text) { text = judge(std::move(text)); }});
     }
     all.push_back({"transliteration", [](std::string& text) { TransliterateGerman(text, kUsual); },
         literal::TransliterateGerman});
-    all.push_back({"blank text", cutBlankText, literal::cutBlankGaps});
-    all.push_back({"blanks", cutBlanksAheadOfTags, literal::cutBlanksAheadOfTags});
+    all.push_back({"blanks", cutBlanksAheadOfTags, [](std::string& text) {
+                       literal::cutBlankGaps(text);
+                       literal::cutBlanksAheadOfTags(text);
+                   }});
     all.push_back({"all", [](std::string& text) { CleanDesignHtml(text, kUsual); },
         literal::CleanDesignHtml});
     return all;
@@ -81,6 +82,10 @@ const std::vector<std::vector<std::string_view>> kAlphabets = {
     {"<p>&nbsp;", "</p>", "<p class=\"a\">", "x", "<b>", "</b>", "</p x>"},
     {" ", "\r\n", "<", ">", "x", "\t", "\xE4"},
     {"<body>", "<!--card-->", "<!--do-->", "x", " ", "<table>", "</table>"},
+    {"<b>", "</b>", "<i>", "</i>", "<p>", "</p>", " ", "x"},
+    {"<p>", "</p>", "<big>", "</big>", "<small>", "</SMALL>", "<br>", "<img", "x>"},
+    {"<table>", "</table>", "<tr>", "</tr>", "<td>", "</tr >", "<p>"},
+    {"<p align=a>", "<P ALIGN=b>", "<p>", "</p>", "<p x", "align>", "<pre>"},
 };
 
 TEST(CleanPasses, AgreeWithRepeatedSearchesOnAllShortTexts)

@@ -95,7 +95,8 @@ const Tokens kInSelect{
 const Tokens kInParagraph{"<a", "</a>", ">", "<p>", "</P>", "</p", "x", "<", "<a>", "<b>", "</b>",
     "<P a>", " ", "</", "b>", "/b>", "<b>", "/p>", "p", ".", "<card a>", "</card>"};
 const Tokens kInDeck{"<wml>", "<p>", "</p>", "<br/>", "<I>", "</td>", "<small>", "x", "some text",
-    "<b>", "</b>", "</p>", "<", "</u>", "<p a>", ">", " ", "\r\n", "<P>", "<>", "\t", "|"};
+    "<b>", "</b>", "</p>", "<", "</u>", "<p a>", ">", " ", "\r\n", "<P>", "<>", "\t", "|", "<td>",
+    "<u>", "<big>", "</big>", "</small>", "<strong>", "</strong>", "<i>", "</i>"};
 
 const std::vector<Operation> kOperations{
     {"RepairOnePair", on<RepairOnePair, 0>, nullptr, on<literal::RepairOnePair, 0>,

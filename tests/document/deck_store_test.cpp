@@ -70,6 +70,11 @@ TEST(LoadDeck, ReadsTheFileOfThePersonAndClearsUpBehindTheDeckItReplaces)
         EXPECT_EQ(deck.files.all().size(), 4U); // these two, the design and its spare one
         EXPECT_TRUE(deck.files.exists(first.designFile));
     }
+    folder.put("decks/deck.wml", "<wml/>"); // what was opened stays the pristine copy
+    deck.files.write("source.wml", "<card id=\"b\">");
+    LoadDeck(deck.session, {"deck.wml", folder.path() + "decks/", "source.wml", ""});
+    EXPECT_EQ(deck.files.read(deck.session.deck.front().pristineFile), opened);
+    folder.put("decks/deck.wml", text);
     DiskWorkFiles files(folder.path());
     DocumentSession session{files, deck.copies, deck.core.prompter, deck.core.settings,
         deck.core.words, OutputRules(), {}};
@@ -89,12 +94,18 @@ TEST(LoadDeck, AFailureLeavesTheOpenDeck)
     SmallDeck deck;
     deck.load(R"(<card id="a"><p>alt<img src="b.wbmp"/></p></card>)");
     const auto before = deck.files.all();
+    deck.session.imageColour = 5;
     for (const char* name : {"ordner/lang.wml", "zitat.wml", "fehlt.wml", "ordner", ""}) {
         EXPECT_THROW(LoadDeck(deck.session, {name, folder.path(), "", ""}), Failure) << name;
         EXPECT_EQ(deck.files.all(), before);
         ASSERT_EQ(areaCount(deck.session.deck), 1U);
         EXPECT_EQ(deck.session.deck.front().deckFile, "deck.wml");
+        EXPECT_EQ(deck.session.imageColour, 5);
     }
+    // The text that a person was writing is not lost either.
+    deck.files.write("source.wml", folder.get("zitat.wml"));
+    EXPECT_THROW(LoadDeck(deck.session, {"deck.wml", "", "source.wml", ""}), InvalidArgument);
+    EXPECT_EQ(deck.files.read("source.wml"), folder.get("zitat.wml"));
 }
 
 TEST(AddArea, LinksNewAreasForwardAndWriteDeckJoinsThem)
@@ -137,10 +148,12 @@ TEST(AddArea, AFailureLeavesTheDeck)
 {
     SmallDeck deck;
     AddArea(deck.session, true, "neu.wml", "/decks/");
-    for (int i = 1; i <= 32767; ++i) // no name is left
+    for (int i = 1; i < 32767; ++i)
         deck.files.write("Wml" + std::to_string(i) + ".htm", {});
-    EXPECT_THROW(AddArea(deck.session, false), Overflow);
-    EXPECT_EQ(areaCount(deck.session.deck), 1U);
+    AddArea(deck.session, false);
+    EXPECT_EQ(deck.session.deck[1].designFile, "Wml32767.htm");
+    EXPECT_THROW(AddArea(deck.session, false), Overflow); // no name is left
+    EXPECT_EQ(areaCount(deck.session.deck), 2U);
     EXPECT_NO_THROW(WriteDeck(deck.session));
 }
 

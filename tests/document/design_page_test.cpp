@@ -20,6 +20,10 @@ TEST(DesignPage, HasAFrameWithTheColourAndFontOfTheDevice)
     EXPECT_EQ(designPageLines(session, 0, PageSection::Tail, "</p"), "</BODY>\r\n</HTML>\r\n");
     for (const int index : {-1, 0, 6})
         EXPECT_EQ(DesignPageLine(session, 0, PageSection::Head, index), "");
+    for (const auto& [twips, size] : {std::pair(8, "size:22\""), std::pair(24, "size:8\"")}) {
+        session.twipsPerPixel = twips; // in the middle the even size
+        EXPECT_NE(DesignPageLine(session, 0, PageSection::Head, 4).find(size), head.npos) << size;
+    }
 
     PageStyle device{0x0000FF, 8, "  Courier New   "};
     session.devices[1] = &device;

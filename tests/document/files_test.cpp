@@ -15,6 +15,8 @@
 #include <optional>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace quillmere {
 namespace {
@@ -110,6 +112,55 @@ TEST(Files, FailuresNameTheFileAndTheReasonAndChangeNothing)
     EXPECT_EQ(failureOf([&] { DiskFileSystem().makeDirectory(folder.path() + "datei/x"); }),
         "Der Ordner „" + folder.path()
             + "datei/x“ kann nicht angelegt werden: ein Teil des Pfades ist kein Ordner.");
+}
+
+/// Ends a child that replaces the file without end once its first neighbour is there.
+int endOfWriter(const ScratchFolder& folder, const std::string& bytes)
+{
+    const pid_t child = ::fork();
+    if (child == 0) {
+        failureOf([&] {
+            while (true)
+                replaceFile(folder.path() + "datei", bytes);
+        });
+        ::_exit(1);
+    }
+    for (int times = 0; times < 50000 && namesIn(folder) < 2; ++times)
+        ::usleep(100);
+    ::kill(child, SIGTERM);
+    int state = 0;
+    ::waitpid(child, &state, 0);
+    return WIFSIGNALED(state) ? WTERMSIG(state) : 0;
+}
+
+TEST(Files, ReplacingLeavesNoNeighbourWhereTheProgramIsEnded)
+{
+    const ScratchFolder folder;
+    folder.put("datei", "alt");
+    const std::string bytes(1 << 20, 'x');
+    for (int i = 0; i < 20; ++i) {
+        ASSERT_EQ(endOfWriter(folder, bytes), SIGTERM);
+        ASSERT_EQ(namesIn(folder), 1);
+        ASSERT_EQ(folder.get("datei"), bytes);
+    }
+}
+
+TEST(Files, CreatingTakesNoNameThatThereIs)
+{
+    const ScratchFolder folder;
+    const auto model = folder.put("deck.wml", "alt");
+    ::chmod(model.c_str(), 0640);
+    createFile(model + ".bak", "kopie", model);
+    EXPECT_EQ(modeOf(model + ".bak"), 0640U);
+    fs::create_symlink("fehlt", folder.path() + "leer");
+    for (const char* name : {"deck.wml.bak", "leer"})
+        EXPECT_NE(failureOf([&] {
+            createFile(folder.path() + name, "x", model);
+        }).find("es gibt schon eine Datei mit diesem Namen"),
+            std::string::npos);
+    EXPECT_EQ(folder.get("deck.wml.bak"), "kopie");
+    failureOnASmallDisk(2, [&] { createFile(folder.path() + "voll", "xyz", model); });
+    EXPECT_EQ(namesIn(folder), 3);
 }
 
 TEST(Files, ReplacingKeepsModeAndLinksAndWriteProtection)

@@ -28,10 +28,8 @@ TEST(Paths, NormaliseToAbsoluteDirectoriesThatStayAsTheyAre)
     } rows[] = {
         {kPosix, "/a//b/./c/", "/home", "/a/b/c/"},
         {kPosix, "x", "/home/me", "/home/me/x/"},
-        {kPosix, "x", "/", "/x/"},
         {kPosix, "../x", "/home", "/home/../x/"}, // what is ahead of ".." may be a link
         {kPosix, R"(a\b)", "/", R"(/a\b/)"}, // a name with a backslash in it
-        {kPosix, "/", "/home", "/"},
         {kPosix, "", "/home", ""},
         {kWindows, "C:", R"(D:\x)", R"(C:\)"},
         {kWindows, R"(C:\a/b)", R"(D:\x)", R"(C:\a\b\)"},
@@ -93,8 +91,9 @@ TEST(LastPath, KeepsRootsWholeAndFallsBackToTheDeckAndThePersonsFolder)
     drives.current = "C:\\";
     EXPECT_EQ(last(kWindows), R"(C:\eigene Dateien)");
     deck.resize(2);
-    deck.front().inUse = true;
     deck.front().deckDir = R"(D:\projekt\)";
+    EXPECT_EQ(last(kWindows), R"(C:\eigene Dateien)"); // no deck is open
+    deck.front().inUse = true;
     EXPECT_EQ(last(kWindows), R"(D:\projekt)");
 
     disk.files = {"/p/index.wml"};
@@ -161,14 +160,12 @@ TEST(CheckedNames, AreCompletedAndCutAtThePoint)
     const struct {
         Checked (*check)(const std::string&);
         const char *text, *wanted; // "": refused
-    } rows[] = {{asName, "Müller.WML", "Müller.wml"}, {asName, "seite", "seite.wml"},
-        {asName, " Über uns .x", "Über uns.wml"}, {asName, ".wml", ".wml"}, {asName, "a.b.c", ""},
-        {asName, "a..", ""}, {asName, "  ", ""}, {onWindows, "C:", R"(C:\)"},
-        {onWindows, "C:daten", R"(C:\daten)"}, {onWindows, R"(C:\daten\x.y\z)", R"(C:\daten\x)"},
-        {onWindows, "C:.x", R"(C:\)"}, {onWindows, R"(C:\\x)", ""}, {onWindows, "daten", ""},
-        {onWindows, "C:/x", ""}, {onPosix, "/", "/"}, {onPosix, "/home/Büro/x.y", "/home/Büro/x"},
-        {onPosix, "//x", ""}, {onPosix, "home", ""}, {onPosix, "", ""},
-        {special, "/B\nüroß", "/Büro"}, {special, "\x02é", ""}, {special, "/a&b", ""}};
+    } rows[] = {{asName, "Müller.WML", "Müller.wml"}, {asName, " Über uns .x", "Über uns.wml"},
+        {asName, ".wml", ".wml"}, {asName, "a.b.c", ""}, {onWindows, "C:", R"(C:\)"},
+        {onWindows, R"(C:\daten\x.y\z)", R"(C:\daten\x)"}, {onWindows, "C:.x", R"(C:\)"},
+        {onWindows, "daten", ""}, {onPosix, "/", "/"}, {onPosix, "/home/Büro/x.y", "/home/Büro/x"},
+        {onPosix, "//x", ""}, {onPosix, "", ""}, {special, "/B\nüroß", "/Büro"},
+        {special, "\x02é", ""}, {special, "/a&b", ""}};
     for (const auto& row : rows)
         EXPECT_EQ(toUtf8(row.check(fromUtf8(row.text)).value_or("")), row.wanted) << row.text;
 }
@@ -178,8 +175,9 @@ TEST(CompleteUrl, OffersWhatIsMissing)
     const struct {
         const char *text, *offer; // null: nothing is offered
     } rows[] = {{"www.a.de", "http://www.a.de"}, {" WWW.a.de ", "http://WWW.a.de"},
-        {"a.de/b", "http://www.a.de/b"}, {R"(a\b)", R"(http://www.a\b)"}, {"HTTP://a/b", nullptr},
-        {" http:x ", nullptr}, {"#karte", nullptr}, {" Wort ", nullptr}, {"", nullptr}};
+        {"a.de/b", "http://www.a.de/b"}, {R"(a\b)", R"(http://www.a\b)"},
+        {"a.wml", "http://www.a.wml"}, {"HTTP://a/b", nullptr}, {" http:x ", nullptr},
+        {"#karte", nullptr}, {" Wort ", nullptr}, {"", nullptr}};
     for (const auto& row : rows) {
         for (const bool assents : {true, false}) {
             test::ScriptedPrompter person;
@@ -198,10 +196,9 @@ TEST(NumberTexts, AreDecimalOrCleaned)
         const char* text;
         bool isDecimal;
         const char* cleaned;
-    } rows[] = {{"12", true, "12"}, {"1,5", true, "15"}, {"7,", true, "7"}, {",5", false, "5"},
-        {"1,2,3", false, ""}, {"12345678901", true, "12345678"}, {"-3", false, "3"},
-        {" 42 ", false, "42"}, {"1.000", false, "1000"}, {"1a", false, ""}, {"", false, ""},
-        {",", false, ""}, {"1-2", false, ""}, {"      1234", false, "12"}};
+    } rows[] = {{"12", true, "12"}, {"1,5", true, "15"}, {",5", false, "5"}, {"1,2,3", false, ""},
+        {"12345678901", true, "12345678"}, {" 42 ", false, "42"}, {"1.000", false, "1000"},
+        {"1a", false, ""}, {",", false, ""}, {"1-2", false, ""}, {"      1234", false, "12"}};
     for (const auto& row : rows) {
         EXPECT_EQ(IsDecimal(row.text), row.isDecimal) << row.text;
         EXPECT_EQ(CleanNumberText(row.text), row.cleaned);

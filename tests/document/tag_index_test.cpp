@@ -11,8 +11,9 @@ namespace {
 constexpr std::string_view kPieces[]
     = {"<", "!", "-", "--", "/", "p", "B", ">", " ", "\xE4", "<!--", "</", "<p"};
 
-constexpr SearchKey kKeys[] = {"<", "<!", "<!-", "<!--", "<!--/", "<!--p", "<!--/pb", "</", "</p",
-    "<p", "<p>", "<pb", "<b/p", "<!p", "<!-p", "<//", "<!---", "<!--//"};
+constexpr SearchKey kKeys[]
+    = {"<", "<!", "<!-", "<!--", "<!--/", "<!--p", "<!--/pb", "</", "</p", "<p", "<p>", "<pb",
+        "<b/p", "<pbpb/bp", "<!--/pbbp<p<", "<!p", "<!-p", "<//", "<!---", "<!--//"};
 
 // A pattern may let other tags through, but none with its key may be missed, and what is told to
 // be whole has to be the key.
@@ -41,8 +42,6 @@ TEST(TagIndex, FindsFirstAndLastOfARange)
     EXPECT_EQ(tags.findLast(key.pattern, 0, npos), 8U);
     EXPECT_EQ(tags.findLast(key.pattern, 0, 8), 0U);
     EXPECT_EQ(tags.findLast(key.pattern, 1, 8), npos);
-    EXPECT_TRUE(tags.mayHold(key.pattern));
-    EXPECT_FALSE(tags.mayHold(SearchKey("<table").pattern));
 }
 
 } // namespace

@@ -33,11 +33,19 @@ TEST(Windows1252, ReadsUtf8)
         {"\xC3x", "\xC3x"}, {"\xA4", "\xA4"}, // a byte that only goes on
         {"\xC0\xBC\xE0\x80\xBC\xF0\x80\x80\xBC", // longer than needed
             "\xC0\xBC\xE0\x80\xBC\xF0\x80\x80\xBC"},
-        {"\xED\xA0\x80", "\xED\xA0\x80"}, // half of a pair
+        {"\xED\xA0\x80\xED\xBF\xBF", "\xED\xA0\x80\xED\xBF\xBF"}, // halves of pairs
         {"\xF4\x90\x80\x80\xF5", "\xF4\x90\x80\x80\xF5"}, // beyond Unicode
     };
     for (const auto& row : rows)
         EXPECT_EQ(fromUtf8(row[0]), row[1]);
+}
+
+TEST(Windows1252, NamesOfFilesBecomeUtf8)
+{
+    const char* const rows[][2] = {{"a\u00E4\u2603\U0001F600", "a\u00E4\u2603\U0001F600"},
+        {"\xFC\u2603\x80", "\u00FC\u2603\u20AC"}, {"\xE2\x98", "\u00E2\u02DC"}};
+    for (const auto& row : rows)
+        EXPECT_EQ(validUtf8(row[0]), row[1]);
 }
 
 TEST(Windows1252, DeckBytesDecideTheirEncoding)

@@ -80,7 +80,7 @@ TEST(ReadWbmp, AgreesWithReadingPixelByPixel)
         auto bytes = test::randomBytes(seed, seed); // files that end early and ones that go on
         bytes.resize(std::max<std::size_t>(bytes.size(), 5));
         const bool isShort = seed % 3 != 0; // one byte for each size, else two
-        bytes[2] = static_cast<char>(isShort ? seed % 35 : 0x80 + seed % 2);
+        bytes[2] = static_cast<char>(isShort ? seed % 35 : 0x7F + seed % 3);
         bytes[isShort ? 3 : 4] = static_cast<char>(isShort ? seed % 11 : seed % 2);
         ASSERT_EQ(rowsOf(readWbmp(bytes, kUsual)), rowsByPixels(bytes)) << "seed " << seed;
     }
@@ -108,9 +108,11 @@ TEST(ReadWbmp, RefusesByTheStandardWhatIsNone)
             EXPECT_EQ(rowsOf(readWbmp(bytes, kStandard)), (Rows{"....", ".#.#"}));
         }
     }
+    // A side beyond 4096.
     for (const auto& bytes : {std::string("\0\0\xA0\x01\x01\x01", 6),
              std::string("\0\0\x81\x01\xA0\x01", 6), std::string("\0\0\xFF\xFF\xFF\xFF", 6)})
-        EXPECT_THROW((void)readWbmp(bytes, kUsual), BadPicture) << "beyond 4096";
+        for (const auto& rules : {kUsual, kStandard})
+            EXPECT_THROW((void)readWbmp(bytes + std::string(9000, '.'), rules), BadPicture);
     const std::string endless = std::string(2, '\0') + std::string(20, '\xFF') + "\x01\x01";
     EXPECT_THROW((void)readWbmp(endless, kStandard), BadPicture);
 }
@@ -168,8 +170,8 @@ TEST(ReadWbmpFile, NamesTheFileThatItCannotRead)
         FAIL() << "read";
     } catch (const BadPicture& bad) {
         EXPECT_EQ(bad.description(),
-            "Das Bild " + path
-                + " kann nicht gelesen werden. "
+            "Das Bild \x84" + path
+                + "\x93 kann nicht gelesen werden. "
                   "Das Bild ist unvollst\xE4ndig: Die Datei endet zu fr\xFCh.");
     }
 }

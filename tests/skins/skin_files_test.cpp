@@ -137,13 +137,14 @@ TEST_F(SkinFiles, WithoutADirectoryTheTableStays)
     EXPECT_EQ(tables.EditorSkins.size(), 5U);
 }
 
-/// A record for each letter: S selected, s so without a model, - not selected; and a spare one.
+/// A record for each letter: S selected, s so without a model, - not selected; and a spare one,
+/// which is never found.
 template <typename Record> std::vector<Record> recordsOf(const std::string& letters)
 {
     std::vector<Record> records;
-    for (const char letter : letters + " ") {
+    for (const char letter : letters + "S") {
         auto& record = records.emplace_back();
-        record.Model.set(letter == 's' || letter == ' ' ? "" : "Modell");
+        record.Model.set(letter == 's' ? "" : "Modell");
         record.Selected = letter == 'S' || letter == 's' ? SkinHead::kSelected : std::int16_t{0};
     }
     return records;

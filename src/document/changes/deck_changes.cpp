@@ -242,7 +242,18 @@ private:
     std::vector<DeckChange> changes_;
 };
 
+std::optional<DeckFault> placed(const std::optional<MarkupFaultAt>& fault, const TextPlaces& places)
+{
+    if (!fault) return std::nullopt;
+    return DeckFault{fault->fault, fault->name, places.at(fault->offset)};
+}
+
 } // namespace
+
+std::optional<DeckFault> deckFault(std::string_view written)
+{
+    return placed(firstFault(written, readMarkup(written)), TextPlaces(written));
+}
 
 DeckChangesReport DeckChanges(std::string_view read, std::string_view written)
 {
@@ -251,8 +262,7 @@ DeckChangesReport DeckChanges(std::string_view read, std::string_view written)
     const auto match = matchItems(before.deck, after.deck);
     DeckChangesReport report;
     report.changes = ChangeLister(before, after, match).run();
-    if (auto fault = firstFault(written, after.deck.document))
-        report.fault = DeckFault{fault->fault, fault->name, after.places.at(fault->offset)};
+    report.fault = placed(firstFault(written, after.deck.document), after.places);
     return report;
 }
 

@@ -46,6 +46,9 @@ struct DeckChangesReport {
     [[nodiscard]] bool wellFormed() const { return !fault; }
 };
 
+/// The first thing that keeps `written` from being well-formed; nullopt where nothing does.
+[[nodiscard]] std::optional<DeckFault> deckFault(std::string_view written);
+
 /// Compares two decks, both as Windows-1252 text, by elements, attributes, comments and the words
 /// of their text. No change are: case of the names of elements and attributes, order and quotes of
 /// attributes, "<br></br>" for "<br/>", white space that does not show, and a reference for its

@@ -27,7 +27,7 @@ template <typename Enum> std::size_t row(Enum value)
 
 void addMember(std::string& json, std::string_view name, std::string_view value)
 {
-    if (!json.ends_with('{')) json += ", ";
+    if (!json.empty() && !json.ends_with('{')) json += ", ";
     json.append("\"").append(name).append("\": ").append(value);
 }
 
@@ -84,14 +84,13 @@ template <typename Items, typename Print> std::string jsonList(const Items& item
 
 std::string jsonReport(const DeckChangesReport& report, std::string_view deckName)
 {
-    std::string json = "{";
-    addMember(json, "deck", jsonString(deckName));
+    std::string json;
     addMember(json, "wellFormed", report.wellFormed() ? "true" : "false");
     addMember(json, "fault", report.fault ? jsonFault(*report.fault) : "null");
     addMember(json, "stable", report.stable ? (*report.stable ? "true" : "false") : "null");
     addMember(json, "summary", jsonList(countChanges(report), jsonCount));
     addMember(json, "changes", jsonList(report.changes, jsonChange));
-    return toUtf8(json + '}');
+    return "{\"deck\": " + jsonString(validUtf8(deckName)) + ", " + toUtf8(json) + '}';
 }
 
 } // namespace quillmere

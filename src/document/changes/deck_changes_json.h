@@ -8,7 +8,8 @@
 namespace quillmere {
 
 /// The report on a deck as one JSON object (RFC 8259) in UTF-8, each change and each row of the
-/// summary on a line of its own, without a line break at the end. `deckName` is Windows-1252.
+/// summary on a line of its own, without a line break at the end. `deckName` is UTF-8; bytes in it
+/// that are none are read as Windows-1252.
 ///
 ///     {"deck": NAME, "wellFormed": BOOL, "fault": null or {"reason", "line", "column"},
 ///      "stable": null or BOOL,

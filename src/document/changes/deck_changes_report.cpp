@@ -140,10 +140,9 @@ std::string tableText(const std::vector<DeckChangeCount>& counts)
 
 std::string verdictText(const DeckChangesReport& report)
 {
-    std::string text = report.fault ? "Das Ergebnis ist nicht wohlgeformt: "
-            + describeFault(report.fault->fault, report.fault->name) + " ("
-            + placeText(report.fault->writtenAt) + " des Ergebnisses).\n"
-                                    : std::string("Das Ergebnis ist wohlgeformt.\n");
+    std::string text
+        = report.fault ? describeFault(*report.fault) : "Das Ergebnis ist wohlgeformt.";
+    text += '\n';
     if (report.stable)
         text += german(*report.stable ? "Eine weitere Korrektur ändert daran nichts.\n"
                                       : "Eine weitere Korrektur ändert es noch einmal.\n");
@@ -158,14 +157,20 @@ std::string describeChange(const DeckChange& change)
         german(kKinds[row(change.kind)]) + ": " + changeText(change) + placesText(change));
 }
 
+std::string describeFault(const DeckFault& fault)
+{
+    return "Das Ergebnis ist nicht wohlgeformt: " + describeFault(fault.fault, fault.name) + " ("
+        + placeText(fault.writtenAt) + " des Ergebnisses).";
+}
+
 std::string textReport(const DeckChangesReport& report, std::string_view deckName)
 {
-    std::string text = std::string(deckName) + '\n';
+    std::string text;
     for (const auto& change : report.changes)
         text += "  " + describeChange(change) + '\n';
     if (report.changes.empty()) text += german("  Nichts verloren, nichts hinzugekommen.\n");
     if (!report.changes.empty()) text += '\n' + tableText(countChanges(report)) + '\n';
-    return toUtf8(text + verdictText(report));
+    return std::string(deckName) + '\n' + toUtf8(text + verdictText(report));
 }
 
 } // namespace quillmere

@@ -76,6 +76,7 @@ public:
         findMoved(readNumbers_.whole, writtenNumbers_.whole, true);
         findMoved(readNumbers_.named, writtenNumbers_.named, true);
         tieEnds();
+        partEnds();
         findMoved(readNumbers_.named, writtenNumbers_.named, false);
         return std::move(match_);
     }
@@ -132,6 +133,23 @@ private:
         if (other != kNoItem) match_.read[other] = kNoItem;
         if (writtenOther != kNoItem) match_.written[writtenOther] = kNoItem;
         pair(end, writtenEnd);
+    }
+
+    /// An end whose start is lost goes with it, and that of a start that is added comes with it. So
+    /// neither is the like of an end that stands without a start: "<b>x</b>" became "x</b>" by
+    /// losing an element and getting an end tag.
+    void partEnds()
+    {
+        for (std::size_t i = 0; i < read_.items.size(); ++i) {
+            const auto j = match_.written[i];
+            if (j == kNoItem || read_.items[i].kind != Kind::End) continue;
+            if (standsAlone(read_.items[i], match_.written)
+                == standsAlone(written_.items[j], match_.read))
+                continue;
+            match_.written[i] = kNoItem;
+            match_.read[j] = kNoItem;
+            match_.moved[i] = false;
+        }
     }
 
     /// Whether the item is told on its own if it is found nowhere.

@@ -28,6 +28,14 @@ inline constexpr std::size_t kAnyFileSize = std::numeric_limits<std::size_t>::ma
 /// Throws FileFailure; the old file is then as it was.
 void replaceFile(const std::string& path, std::string_view bytes);
 
+/// Throws FileFailure where replaceFile() would for a reason that is seen without writing: a
+/// folder, a folder that is missing, a refused access.
+void requireReplaceable(const std::string& path);
+
+/// Makes the file `path`, with the mode and the owner of the file `model`. Throws FileFailure, also
+/// where the name is taken; there is then no new file.
+void createFile(const std::string& path, std::string_view bytes, const std::string& model);
+
 /// Replaces many files, each as replaceFile() does, but flushes every directory just once, at its
 /// own end. Until then a crash of the machine may bring back some of the old files, each whole.
 class FileReplacements {

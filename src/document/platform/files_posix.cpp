@@ -3,6 +3,7 @@
 
 #include "document/platform/file_failures.h"
 #include "document/platform/files.h"
+#include "document/platform/held_signals.h"
 #include "document/platform/neighbour_file.h"
 #include "document/platform/posix_file.h"
 #include "document/text/failure.h"
@@ -70,12 +71,16 @@ void flushDirectory(const std::string& directory)
     if (opened.isOpen()) static_cast<void>(opened.flush());
 }
 
+void requireAccess(const std::string& path, const std::string& target)
+{
+    if (::faccessat(AT_FDCWD, path.c_str(), W_OK, AT_EACCESS) != 0)
+        throw cannotWrite(target, lastError());
+}
+
 void replaceTarget(
     const std::string& target, const std::optional<struct stat>& old, std::string_view bytes)
 {
-    // A new name in the directory would pass by the write protection of the file.
-    if (old && ::faccessat(AT_FDCWD, target.c_str(), W_OK, AT_EACCESS) != 0)
-        throw cannotWrite(target, lastError());
+    if (old) requireAccess(target, target); // else a new name would pass by its write protection
     NeighbourFile neighbour(target, old ? kPrivateMode : kUsualMode);
     neighbour.write(bytes);
     if (old) neighbour.resemble(*old);
@@ -129,6 +134,32 @@ void FileReplacements::replace(const std::string& path, std::string_view bytes)
 void replaceFile(const std::string& path, std::string_view bytes)
 {
     FileReplacements().replace(path, bytes);
+}
+
+void requireReplaceable(const std::string& path)
+{
+    const auto target = leadsToDevice(path) ? path : behindLinks(path);
+    const auto old = statusOf(target);
+    if (old && S_ISDIR(old->st_mode))
+        throw cannotWrite(path, std::make_error_code(std::errc::is_a_directory));
+    if (old) requireAccess(target, target);
+    if (!leadsToDevice(path)) requireAccess(directoryOf(target), target);
+}
+
+void createFile(const std::string& path, std::string_view bytes, const std::string& model)
+{
+    struct stat like { };
+    if (::stat(model.c_str(), &like) != 0) throw cannotRead(model, lastError());
+    const HeldSignals held;
+    // An empty file takes the name, so that the one that replaces it is never over another's.
+    if (!createWorkFile(path))
+        throw cannotWrite(path, std::make_error_code(std::errc::file_exists));
+    try {
+        replaceTarget(path, like, bytes);
+    } catch (const FileFailure&) {
+        removeFile(path);
+        throw;
+    }
 }
 
 std::string makePrivateDirectory(const std::string& parent)

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document/platform/held_signals.h"
 #include "document/platform/posix_file.h"
 
 #include <optional>
@@ -10,8 +11,8 @@
 namespace quillmere {
 
 /// A new file beside `target`, which takes the target's place once it stands whole, and is removed
-/// at the end where it has not. Failures are FileFailure with the target's name. The target's name
-/// must outlive it.
+/// at the end where it has not. Signals that end the program wait until then. Failures are
+/// FileFailure with the target's name. The target's name must outlive it.
 class NeighbourFile {
 public:
     NeighbourFile(const std::string& target, mode_t mode);
@@ -31,6 +32,7 @@ public:
 private:
     void require(bool done) const;
 
+    HeldSignals held_; // the first to come and the last to go
     const std::string& target_;
     std::string path_; // empty once there is nothing to remove
     std::optional<PosixFile> file_;

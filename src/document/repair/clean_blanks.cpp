@@ -2,8 +2,8 @@
 // Held by clean_passes_test.cpp.
 
 #include "document/repair/clean_passes.h"
+#include "document/text/text_cutter.h"
 #include "document/text/text_search.h"
-#include "document/text/windows1252.h"
 
 namespace quillmere {
 namespace {
@@ -17,43 +17,30 @@ std::size_t skipBlanksBack(std::string_view text, std::size_t end)
     return end;
 }
 
-// Where the blanks ahead of `end` begin, a single line end among them counted in.
-std::size_t beginOfBlankText(std::string_view text, std::size_t end)
+// Where what is cut ahead of the '<' at `tag` begins. A line end goes along from between two tags
+// and from among blanks: in "a\r\n <" it stays and the blank goes.
+std::size_t beginOfCut(std::string_view text, std::size_t tag)
 {
-    const auto begin = skipBlanksBack(text, end);
+    const auto begin = skipBlanksBack(text, tag);
     if (!text.substr(0, begin).ends_with(kLineEnd)) return begin;
-    return skipBlanksBack(text, begin - kLineEnd.size());
-}
-
-// Cuts from `beginOfCut(text, tag)` up to each '<' at `tag`.
-template <typename BeginOfCut> void cutAheadOfTags(std::string& text, BeginOfCut beginOfCut)
-{
-    Rewriter rewriter(text);
-    for (auto tag = text.find('<', 1); tag != npos; tag = text.find('<', tag + 1)) {
-        const bool mayBeBlank = text[tag - 1] == ' ' || text[tag - 1] == kLineEnd.back();
-        const auto begin = mayBeBlank ? beginOfCut(text, tag) : tag;
-        if (begin < tag) rewriter.drop(begin, tag);
-    }
-    if (rewriter.position() > 0) text = rewriter.take();
+    const auto lineEnd = begin - kLineEnd.size();
+    const auto beginOfLine = skipBlanksBack(text, lineEnd);
+    const bool isBehindTag = beginOfLine > 0 && text[beginOfLine - 1] == '>';
+    return isBehindTag || beginOfLine < lineEnd ? beginOfLine : begin;
 }
 
 } // namespace
 
-void cutBlankText(std::string& text)
-{
-    cutAheadOfTags(text, [](std::string_view source, std::size_t tag) {
-        const auto begin = beginOfBlankText(source, tag);
-        return begin > 0 && source[begin - 1] == '>' ? begin : tag;
-    });
-}
-
 void cutBlanksAheadOfTags(std::string& text)
 {
-    cutAheadOfTags(text, [](std::string_view source, std::size_t tag) {
-        const auto begin = beginOfBlankText(source, tag);
-        // A line end counts among blanks only: in "a\r\n <" it stays and the blank goes.
-        return source[begin] == ' ' ? begin : skipBlanksBack(source, tag);
-    });
+    TextCutter cutter(text);
+    for (auto tag = text.find('<', 1); tag != npos; tag = text.find('<', tag + 1)) {
+        const bool mayBeBlank = text[tag - 1] == ' ' || text[tag - 1] == kLineEnd.back();
+        const auto begin = mayBeBlank ? beginOfCut(text, tag) : tag;
+        if (begin == tag) continue;
+        cutter.keepTo(begin);
+        cutter.dropTo(tag);
+    }
 }
 
 } // namespace quillmere

@@ -61,8 +61,10 @@ std::size_t contentBegin(EditedText& text)
 
 void closeLastParagraph(EditedText& text)
 {
-    for (auto at = text.find(kParagraph); at != npos; at = text.find(kParagraph, at + 1)) {
-        if (text.find(kParagraphEnd, at + 1) != npos) continue;
+    const auto lastEnd = text.findLast(kParagraphEnd);
+    auto at = text.find(kParagraph, lastEnd == npos ? 0 : lastEnd);
+    for (; at != npos; at = text.find(kParagraph, at + 1)) {
+        if (text.find(kParagraphEnd, at + 1) != npos) continue; // since one was closed
         const auto cardEnd = text.find(kCardEnd);
         if (cardEnd == npos) return;
         text.insert(cardEnd, kNewParagraphEnd);
@@ -90,10 +92,11 @@ void wrapTrailingText(EditedText& text)
     if (cardEnd == npos) return;
     const auto last = text.findLast(kParagraphEnd, cardEnd);
     if (last == npos) return;
-    const auto behindLast = text.tagEnd(last);
-    for (auto at = text.find(">", last); at < cardEnd; at = text.find(">", at + 1)) {
+    const auto whole = text.whole();
+    const auto behindLast = whole.find('>', last) + 1;
+    for (auto at = behindLast - 1; at < cardEnd; at = whole.find('>', at + 1)) {
         // A single character does not count, as the blank in "</p> <!--/card-->".
-        if (text.find("<", at) - at <= 2) continue;
+        if (whole.find('<', at) - at <= 2) continue;
         text.insert(cardEnd, kNewParagraphEnd);
         text.insert(behindLast, kNewParagraph);
         return;

@@ -1,5 +1,6 @@
 // The cleaning is a table of passes; each one leaves a text that the next one counts on. Their
-// order is part of the result. Held by clean_passes_test.cpp and clean_passes_test.cpp.
+// order is part of the result. A pass whose faults the text has not is left out.
+// Held by clean_passes_test.cpp.
 
 #include "document/repair/clean_design_html.h"
 
@@ -13,7 +14,6 @@
 #include "document/repair/paragraphs.h"
 #include "document/text/limits.h"
 
-#include <algorithm>
 #include <string>
 #include <utility>
 
@@ -59,37 +59,50 @@ void splitFormats(EditedText& text)
         SplitAtParagraphs(text, pair.open, pair.close);
 }
 
-// An end moves for another format's end, so with the ends of one format only nothing does.
 void nestFormats(EditedText& text)
 {
-    const auto hasEnd = [&text](const TagPair& pair) { return text.find(pair.close) != npos; };
-    if (std::ranges::count_if(kFormatsOfOneParagraph, hasEnd) > 1) text.rework(RepairFormatNesting);
+    text.rework(RepairFormatNesting);
 }
 
+using namespace clean_fault;
+
 constexpr CleanPass kPasses[] = {
-    {"broken do block", dropBrokenDoBlock},
-    {"early option ends", dropEarlyOptionEnds},
-    {"option pairs", completeOptions},
-    {"select start", openSelect},
-    {"select end", closeSelect},
-    {"empty selects", dropEmptySelects},
-    {"card end", closeCard},
-    {"empty paragraphs", breakAtEmptyParagraphs},
-    {"tables", settleTables},
-    {"paragraph runs", mergeParagraphRuns},
-    {"trailing paragraphs", dropTrailingParagraphs},
-    {"plain paragraphs", mergePlainParagraphs},
-    {"doubled paragraph ends", dropDoubledParagraphEnds},
-    {"last paragraph", closeLastParagraph},
-    {"card without paragraph", ensureParagraph},
-    {"trailing text", wrapTrailingText},
-    {"loose breaks", dropLooseBreaks},
-    {"elements in paragraphs", wrapElements},
-    {"formats of one paragraph", splitFormats},
-    {"format nesting", nestFormats},
-    {"doubled paragraph ends again", dropDoubledParagraphEnds},
-    {"doubled brackets", thinOutBrackets},
+    {"broken do block", dropBrokenDoBlock, kDoBlock},
+    {"early option ends", dropEarlyOptionEnds, kLooseOptionEnd},
+    {"option pairs", completeOptions, kOptionInOption | kLooseOptionEnd},
+    {"select start", openSelect, kLooseOption},
+    {"select end", closeSelect, kLooseOption | kOpenList},
+    {"empty selects", dropEmptySelects, kEmptyList | kOpenList},
+    {"card end", closeCard, kAny},
+    {"empty paragraphs", breakAtEmptyParagraphs, kEmptyParagraph},
+    {"tables", settleTables, kTable | kLooseRow},
+    {"paragraph runs", mergeParagraphRuns, kParagraphRun | kOpenParagraph},
+    {"trailing paragraphs", dropTrailingParagraphs, kTrailing | kBehindDoBlock},
+    {"plain paragraphs", mergePlainParagraphs, kPlainNeighbours},
+    {"doubled paragraph ends", dropDoubledParagraphEnds, kDoubledEnd},
+    {"last paragraph", closeLastParagraph, kOpenParagraph},
+    {"card without paragraph", ensureParagraph, kNoParagraph},
+    {"trailing text", wrapTrailingText, kAny},
+    {"loose breaks", dropLooseBreaks, kLooseBreak},
+    {"elements in paragraphs", wrapElements, kLooseElement},
+    {"formats of one paragraph", splitFormats, kCrossingFormat | kEmptyFormat | kOverlap},
+    {"format nesting", nestFormats, kOverlap},
+    {"doubled paragraph ends again", dropDoubledParagraphEnds, kDoubledEnd},
+    {"doubled brackets", thinOutBrackets, kAny},
 };
+
+void applyPasses(EditedText& text)
+{
+    CleanFaults faults = 0;
+    auto knownAt = npos; // how many changes the text had then
+    for (const auto& pass : kPasses) {
+        if (knownAt != text.changes()) faults = findCleanFaults(text.tags());
+        knownAt = text.changes();
+        if ((faults & pass.mends) == 0) continue;
+        pass.apply(text);
+        requireAddressableLength(text.size());
+    }
+}
 
 } // namespace
 
@@ -102,13 +115,9 @@ void CleanDesignHtml(std::string& text, const OutputRules& rules)
 {
     requireAddressable(text);
     EditedText edited{std::string(text)};
-    for (const auto& pass : kPasses) {
-        pass.apply(edited);
-        requireAddressableLength(edited.size());
-    }
+    applyPasses(edited);
     auto cleaned = std::move(edited).take();
     TransliterateGerman(cleaned, rules);
-    cutBlankText(cleaned);
     cutBlanksAheadOfTags(cleaned);
     text = std::move(cleaned);
 }

@@ -38,16 +38,13 @@ void dropBrokenDoBlock(EditedText& text)
 
 void closeCard(EditedText& text)
 {
+    constexpr std::string_view kCardEnd = "<!--/card-->";
     const auto begin = text.find(kDo);
-    if (begin != npos && text.find(kDoEnd, begin + 1) != npos) {
-        const auto end = text.tagEnd(text.findLast(kDoEnd));
-        if (end != npos) {
-            const auto block = text.copy(begin, end);
-            text.cut(begin, end);
-            text.insert(text.size(), block);
-        }
-    }
-    text.insert(text.size(), "<!--/card-->");
+    const bool hasEnd = begin != npos && text.find(kDoEnd, begin + 1) != npos;
+    const auto end = hasEnd ? text.tagEnd(text.findLast(kDoEnd)) : npos;
+    if (end == npos) return text.insert(text.size(), kCardEnd);
+    text.insert(text.size(), text.copy(begin, end).append(kCardEnd));
+    text.cut(begin, end);
 }
 
 } // namespace quillmere

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document/repair/clean_faults.h"
 #include "document/text/edited_text.h"
 
 #include <span>
@@ -12,16 +13,15 @@ namespace quillmere {
 struct CleanPass {
     std::string_view name;
     void (*apply)(EditedText&);
+    CleanFaults mends; ///< without any of these it leaves a text as it is
 };
 
 /// The passes ahead of the transliteration, in their order.
 [[nodiscard]] std::span<const CleanPass> cleanPasses();
 
-/// Behind the transliteration: cuts text of blanks only, or a line break among blanks, between two
-/// tags, so that they touch.
-void cutBlankText(std::string& text);
-
-/// Cuts the blanks that lead up to a tag with no printable character between.
+/// Behind the transliteration: cuts the blanks ahead of each tag, with a single line end among
+/// them. Between two tags that have nothing else between them a line end goes without blanks as
+/// well.
 void cutBlanksAheadOfTags(std::string& text);
 
 } // namespace quillmere

@@ -6,6 +6,7 @@
 
 #include "document/repair/format_overlap.h"
 #include "document/text/limits.h"
+#include "document/text/tag_keys.h"
 #include "document/text/tag_places.h"
 #include "document/text/text_cutter.h"
 #include "document/text/text_search.h"
@@ -16,14 +17,9 @@
 namespace quillmere {
 namespace {
 
-constexpr std::array<TagPair, 5> kNestedPairs{{
-    // "<b>" and "<em>" are left out on purpose
-    {"<strong>", "</strong>"},
-    {"<i>", "</i>"},
-    {"<u>", "</u>"},
-    {"<big>", "</big>"},
-    {"<small>", "</small>"},
-}};
+/// The open and the close tag of each pair; "<b>" and "<em>" are left out on purpose.
+constexpr SearchKey kNestedTags[] = {"<strong>", "</strong>", "<i>", "</i>", "<u>", "</u>", "<big>",
+    "</big>", "<small>", "</small>"};
 
 class PairRepair {
 public:
@@ -114,18 +110,21 @@ std::vector<Places> placesOf(std::string_view text, std::span<const TagPair> pai
     return tagPlaces(text, keys);
 }
 
-/// Whether each open tag has a close tag ahead of the next open one, and the first tag is open.
-bool isWhole(const Places& opens, const Places& closes)
+/// One bit for each pair whose open and close tags do not take turns up to a last close tag.
+unsigned brokenPairs(std::string_view text)
 {
-    auto close = closes.begin();
-    for (auto open = opens.begin(); open != opens.end(); ++open) {
-        const bool isFirst = open == opens.begin();
-        if (isFirst && close != closes.end() && *close < *open) return false;
-        while (close != closes.end() && *close < *open)
-            ++close;
-        if (close == closes.end() || (open + 1 != opens.end() && open[1] < *close)) return false;
+    static constexpr TagKeys<std::size(kNestedTags)> kKeys(kNestedTags);
+    unsigned open = 0;
+    unsigned broken = 0;
+    for (auto at = text.find('<'); at != npos; at = text.find('<', at + 1)) {
+        const auto key = kKeys.find(tagCode(text.substr(at)));
+        if (key == std::size(kNestedTags)) continue;
+        const auto pair = 1U << key / 2;
+        const auto expected = key % 2 == 0 ? 0U : pair;
+        if ((open & pair) != expected) broken |= pair;
+        open ^= pair;
     }
-    return !opens.empty() || closes.empty();
+    return broken | open;
 }
 
 } // namespace
@@ -139,11 +138,11 @@ void RepairOnePair(std::string& text, std::string_view openTag, std::string_view
 void RepairNesting(std::string& text)
 {
     requireAddressable(text);
-    auto places = placesOf(text, kNestedPairs);
-    for (std::size_t i = 0; i < kNestedPairs.size(); ++i) {
-        if (isWhole(places[2 * i], places[2 * i + 1])) continue;
-        RepairOnePair(text, kNestedPairs[i].open, kNestedPairs[i].close);
-        places = placesOf(text, kNestedPairs);
+    auto broken = brokenPairs(text);
+    for (std::size_t open = 0; broken != 0 && open < std::size(kNestedTags); open += 2) {
+        if ((broken >> open / 2 & 1U) == 0) continue;
+        RepairOnePair(text, kNestedTags[open].text, kNestedTags[open + 1].text);
+        broken = brokenPairs(text);
     }
 }
 

@@ -5,6 +5,7 @@
 #include "document/repair/paragraphs.h"
 
 #include "document/repair/crossing_formats.h"
+#include "document/text/byte_words.h"
 #include "document/text/limits.h"
 #include "document/text/text_cutter.h"
 #include "document/text/text_edits.h"
@@ -98,10 +99,11 @@ void dropDoubledEnds(std::string& text)
     TextCutter cutter(text);
     bool ended = false;
     auto resumeAt = npos;
-    for (auto at = text.find('<'); at != npos; at = text.find('<', resumeAt)) {
+    for (auto at = findByte(text, '<'); at != npos; at = findByte(text, '<', resumeAt)) {
         resumeAt = at + 1;
-        if (standsAt(text, at, kBegin.text)) ended = false;
-        if (!standsAt(text, at, kEnd.text)) continue;
+        const char behind = text[resumeAt]; // the text's final zero, where it ends here
+        if (behind == 'p' || behind == 'P') ended = false;
+        if (behind != '/' || !standsAt(text, at, kEnd.text)) continue;
         if (ended) {
             const auto tagEnd = text.find('>', at);
             if (tagEnd == npos) return;

@@ -4,12 +4,13 @@
 
 #include "document/repair/radio_buttons.h"
 
+#include "document/text/byte_words.h"
 #include "document/text/edited_text.h"
 #include "document/text/limits.h"
 #include "document/text/text_search.h"
+#include "document/text/windows1252.h"
 
 #include <algorithm>
-#include <iterator>
 #include <optional>
 #include <string_view>
 #include <utility>
@@ -21,11 +22,11 @@ constexpr std::string_view kOption = "<!--option";
 constexpr std::string_view kOptionEnd = "<!--/option";
 constexpr std::string_view kInput = "<input";
 
-/// The first tag at or behind `from` that begins with `key`, whose second character has no case.
+/// The first tag at or behind `from` that begins with `key`.
 std::size_t findTag(std::string_view text, std::string_view key, std::size_t from)
 {
-    for (auto at = text.find('<', from); at != npos; at = text.find('<', at + 1)) {
-        const bool mayBegin = at + 1 < text.size() && text[at + 1] == key[1];
+    for (auto at = findByte(text, '<', from); at != npos; at = findByte(text, '<', at + 1)) {
+        const bool mayBegin = at + 1 < text.size() && lowerCase(text[at + 1]) == key[1];
         if (mayBegin && standsAt(text, at, key)) return at;
     }
     return npos;
@@ -52,15 +53,18 @@ std::string_view targetOf(std::string_view marker)
     return bare.value_or(std::string_view{});
 }
 
-void appendButton(std::string& result, int number, std::string_view target)
+void appendButton(Rewriter& result, int number, std::string_view target)
 {
-    result.append("<input type=radio name=\"TempName").append(std::to_string(number)).append("\"");
+    result.append("<input type=radio name=\"TempName");
+    result.append(std::to_string(number));
     if (!target.empty()) {
-        result.append(" onclick=\"javascript:navigate('");
-        std::replace_copy(target.begin(), target.end(), std::back_inserter(result), '\\', '/');
-        result.append("')\"");
+        std::string path(target);
+        std::replace(path.begin(), path.end(), '\\', '/');
+        result.append("\" onclick=\"javascript:navigate('");
+        result.append(path);
+        result.append("')");
     }
-    result += '>';
+    result.append("\">");
 }
 
 /// The text without the inputs that stand between an option, the first of which is at `option`, and
@@ -68,21 +72,19 @@ void appendButton(std::string& result, int number, std::string_view target)
 /// join the text around it to a tag.
 std::optional<std::string> withoutPlainInputs(std::string_view text, std::size_t option)
 {
-    const auto lastEnd = findLastIgnoringCase(text, kOptionEnd);
-    if (lastEnd == npos) return std::string(text);
     Rewriter result(text);
-    bool isInside = false;
-    for (auto at = option; at < lastEnd; at = text.find('<', at + 1)) {
-        if (text[at + 1] == '!') { // lastEnd lies behind
-            if (standsAt(text, at, kOption)) isInside = true;
-            if (standsAt(text, at, kOptionEnd)) isInside = false;
-        } else if (isInside && standsAt(text, at, kInput)) {
+    while (option != npos) {
+        auto end = findTag(text, kOptionEnd, option);
+        if (end == npos) break; // what is not closed keeps its inputs
+        for (auto at = findTag(text.substr(0, end), kInput, option); at != npos;
+             at = findTag(text.substr(0, end), kInput, result.position())) {
             const auto tagEnd = text.find('>', at);
-            if (tagEnd == npos) break;
+            if (tagEnd == npos) return result.take();
             if (text[at - 1] != '>') return std::nullopt;
             result.drop(at, tagEnd + 1);
-            at = tagEnd;
+            if (tagEnd > end) end = findTag(text, kOptionEnd, tagEnd);
         }
+        option = end == npos ? npos : findTag(text, kOption, end);
     }
     return result.take();
 }
@@ -115,23 +117,20 @@ void InsertTemporaeryRadioButtons(std::string& text)
     const std::string_view source = text;
     auto option = findTag(source, kOption, 0);
     if (option == npos) return;
-    std::string result;
-    std::size_t copied = 0;
+    Rewriter result(source);
     int number = 0;
     while (option != npos) {
         const auto end = source.find('>', option);
         if (end == npos) break;
-        result.append(source, copied, end + 1 - copied);
-        copied = end + 1;
+        result.keepTo(end + 1);
         appendButton(result, ++number, targetOf(source.substr(option, end - option)));
         const auto close = findTag(source, kOptionEnd, end);
         const auto closed = close == npos ? npos : source.find('>', close);
         if (closed == npos) break;
         option = findTag(source, kOption, closed);
     }
-    result.append(source, copied);
-    requireAddressable(result);
-    text = std::move(result);
+    requireAddressableLength(result.length());
+    text = result.take();
 }
 
 void DeleteAllTemporaeryRadioButtons(std::string& text)

@@ -1,11 +1,12 @@
-// The tags of one key in the pristine text are linked, so that each is passed once and a key that
-// is missing does not cost a search through the rest. Held by corrections_test.cpp.
+// The tags of the pristine text are linked by what their keys have in common, so that each is
+// passed once; a key that is missed once is missing for good, as the walk never goes back. Held by
+// corrections_test.cpp.
 
 #include "document/repair/tag_gaps.h"
 
+#include "document/text/byte_words.h"
 #include "document/text/windows1252.h"
 
-#include <bit>
 #include <utility>
 
 namespace quillmere {
@@ -20,13 +21,15 @@ bool isWhite(char character)
 
 void GapWalk::goAheadOf(std::size_t tag)
 {
+    auto begin = tag;
+    while (begin > tag_ && text_[begin - 1] != '>')
+        --begin;
+    if (begin > tag_) { // else the gap takes in that of the last tag
+        begin_ = leadEnd_ = begin;
+        while (isWhite(text_[leadEnd_]))
+            ++leadEnd_; // ends at the tag at last
+    }
     tag_ = tag;
-    if (nextEnd_ >= tag) return;
-    for (; nextEnd_ < tag; nextEnd_ = text_.find('>', begin_))
-        begin_ = nextEnd_ + 1;
-    leadEnd_ = begin_;
-    while (isWhite(text_[leadEnd_]))
-        ++leadEnd_; // ends at the tag at last
 }
 
 std::size_t GapWalk::trailBegin() const
@@ -44,67 +47,43 @@ GapSpace GapWalk::space() const
 }
 
 /// "<>" is a key of its own; no tag is known by "<>" and a third character.
-PristineWalk::Key PristineWalk::packed(std::string_view key)
+PristineWalk::Key PristineWalk::keyOf(std::string_view tag)
 {
-    const auto code = [key](std::size_t i) {
-        return static_cast<unsigned>(static_cast<unsigned char>(lowerCase(key[i])));
+    const auto code = [tag](std::size_t i) {
+        return static_cast<unsigned>(static_cast<unsigned char>(lowerCase(tag[i])));
     };
-    return static_cast<Key>(key[1] == '>' ? code(1) << 8U : code(1) << 8U | code(2));
+    return static_cast<Key>(tag[1] == '>' ? code(1) << 8U : code(1) << 8U | code(2));
 }
 
 PristineWalk::PristineWalk(std::string_view text)
     : gaps_(text)
 {
-    addTags(text);
-    buckets_.assign(std::bit_ceil(tags_.size() + 1), kNone);
-    for (auto i = static_cast<Index>(tags_.size()); i-- > 0;) {
-        const auto key = text.substr(tags_[i].offset, kTagKeyLength);
-        if (key.size() == kTagKeyLength || key == "<>") linkTag(i, packed(key));
-    }
-}
-
-void PristineWalk::addTags(std::string_view text)
-{
-    constexpr std::size_t kUsualDistance = 16;
+    constexpr std::size_t kUsualDistance = 12;
     tags_.reserve(text.size() / kUsualDistance);
-    for (auto at = text.find('<'); at != npos; at = text.find('<', at + 1))
-        tags_.push_back({static_cast<std::uint32_t>(at), kNone});
-}
-
-void PristineWalk::linkTag(Index tag, Key key)
-{
-    if (auto* const known = find(key)) {
-        tags_[tag].nextOfKey = std::exchange(known->first, tag);
-    } else {
-        auto& bucket = bucketOf(key);
-        keys_.push_back({key, tag, bucket});
-        bucket = static_cast<Index>(keys_.size() - 1);
+    for (auto at = findByte(text, '<'); at != npos; at = findByte(text, '<', at + 1)) {
+        const auto tag = text.substr(at, kTagKeyLength);
+        if (tag.size() == kTagKeyLength || tag == "<>")
+            tags_.push_back({static_cast<std::uint32_t>(at), kNone, keyOf(tag)});
     }
+    buckets_.fill(kNone);
+    for (auto i = static_cast<Index>(tags_.size()); i-- > 0;)
+        tags_[i].nextInBucket = std::exchange(bucketOf(tags_[i].key), i);
 }
 
-PristineWalk::Index& PristineWalk::bucketOf(Key key)
+std::optional<GapSpace> PristineWalk::goTo(std::string_view tag)
 {
-    return buckets_[static_cast<unsigned>(key ^ (key >> 8U)) & (buckets_.size() - 1)];
-}
-
-PristineWalk::TagsOfKey* PristineWalk::find(Key key)
-{
-    auto at = bucketOf(key);
-    while (at != kNone && keys_[at].key != key)
-        at = keys_[at].nextInBucket;
-    return at == kNone ? nullptr : &keys_[at];
-}
-
-std::optional<GapSpace> PristineWalk::goTo(std::string_view key)
-{
-    auto* const known = find(packed(key));
-    if (known == nullptr) return std::nullopt;
-    auto& tag = known->first;
-    while (tag != kNone && tags_[tag].offset < from_)
-        tag = tags_[tag].nextOfKey;
-    if (tag == kNone) return std::nullopt;
-    from_ = tags_[tag].offset + 1;
-    gaps_.goAheadOf(tags_[tag].offset);
+    const auto key = keyOf(tag);
+    if (missing_[key]) return std::nullopt;
+    auto& first = bucketOf(key);
+    while (first != kNone && tags_[first].offset < from_)
+        first = tags_[first].nextInBucket;
+    auto found = first;
+    while (found != kNone && tags_[found].key != key)
+        found = tags_[found].nextInBucket;
+    missing_[key] = found == kNone;
+    if (found == kNone) return std::nullopt;
+    from_ = tags_[found].offset + 1;
+    gaps_.goAheadOf(tags_[found].offset);
     if (!gaps_.exists()) return std::nullopt;
     return gaps_.space();
 }

@@ -2,6 +2,8 @@
 
 #include "document/text/text_search.h"
 
+#include <array>
+#include <bitset>
 #include <cstddef>
 #include <cstdint>
 #include <optional>
@@ -25,7 +27,6 @@ class GapWalk {
 public:
     explicit GapWalk(std::string_view text)
         : text_(text)
-        , nextEnd_(text.find('>'))
     {
     }
 
@@ -42,7 +43,6 @@ public:
 
 private:
     std::string_view text_;
-    std::size_t nextEnd_; // the first '>' from begin_ on
     std::size_t tag_ = 0;
     std::size_t begin_ = 0;
     std::size_t leadEnd_ = 0;
@@ -56,10 +56,10 @@ inline constexpr std::size_t kTagKeyLength = 3;
 class PristineWalk {
 public:
     explicit PristineWalk(std::string_view text);
-    /// Goes to the next tag that begins with `key`, ignoring case: the first three characters of a
-    /// tag, or "<>". Returns the white space ahead of it; nullopt where there is no such tag, which
-    /// leaves the walk where it is, or no gap ahead of the tag.
-    [[nodiscard]] std::optional<GapSpace> goTo(std::string_view key);
+    /// Goes to the next tag that begins as `tag` does, ignoring case: with the first three
+    /// characters of a tag, or "<>". Returns the white space ahead of it; nullopt where there is no
+    /// such tag, which leaves the walk where it is, or no gap ahead of the tag.
+    [[nodiscard]] std::optional<GapSpace> goTo(std::string_view tag);
 
 private:
     using Key = std::uint16_t; // of the characters behind the '<'
@@ -67,25 +67,17 @@ private:
     static constexpr Index kNone = 0xFFFFFFFF;
     struct Tag {
         std::uint32_t offset;
-        Index nextOfKey;
-    };
-
-    /// The tags of one key. Keys of one bucket are linked.
-    struct TagsOfKey {
-        Key key;
-        Index first; // behind the place of the walk or ahead of it
         Index nextInBucket;
+        Key key;
     };
 
-    [[nodiscard]] static Key packed(std::string_view key);
-    [[nodiscard]] Index& bucketOf(Key key);
-    [[nodiscard]] TagsOfKey* find(Key key);
-    void addTags(std::string_view text);
-    void linkTag(Index tag, Key key);
+    [[nodiscard]] static Key keyOf(std::string_view tag);
+    /// Letters have different low bits, so that mostly one key has the bucket.
+    [[nodiscard]] Index& bucketOf(Key key) { return buckets_[(key & 31U) | (key >> 3U & 0x3E0U)]; }
 
     std::vector<Tag> tags_; // in the order of the text
-    std::vector<TagsOfKey> keys_;
-    std::vector<Index> buckets_; // a power of two, more than tags, so that few keys share one
+    std::array<Index, 1024> buckets_; // the first tag that the walk may not have passed
+    std::bitset<0x10000> missing_; // keys of which none is left
     std::size_t from_ = 0;
     GapWalk gaps_;
 };

@@ -6,6 +6,7 @@
 #include "document/repair/wml_layout.h"
 
 #include "document/repair/tag_gaps.h"
+#include "document/text/byte_words.h"
 #include "document/text/limits.h"
 #include "document/text/text_search.h"
 
@@ -77,33 +78,39 @@ public:
     /// Overflow where what is put in alone is longer than positions can tell.
     void setSpace(std::size_t tag, const GapSpace& space)
     {
-        const auto before = gaps_;
         gaps_.goAheadOf(tag);
-        if (gaps_.begin() != before.begin()) finishGap(before);
+        if (front_ && gaps_.begin() != front_->begin) finishGap();
         if (!gaps_.exists()) return;
         const bool isBlank = gaps_.leadEnd() == tag;
         if (!isBlank) trails_.push_back({gaps_.trailBegin(), tag, space.trail});
-        front_ = isBlank ? space : GapSpace{space.lead, {}};
+        front_ = {
+            gaps_.begin(), gaps_.leadEnd(), space.lead, isBlank ? space.trail : std::string_view()};
     }
 
     [[nodiscard]] std::string take()
     {
-        finishGap(gaps_);
+        finishGap();
         return rewriter_.take();
     }
 
 private:
+    struct Front {
+        std::size_t begin;
+        std::size_t end;
+        std::string_view lead;
+        std::string_view trail; // of a blank gap, right behind
+    };
     struct Trail {
         std::size_t begin;
         std::size_t end;
         std::string_view space;
     };
 
-    void finishGap(const GapWalk& gap)
+    void finishGap()
     {
         if (!front_) return;
-        replace(gap.begin(), gap.leadEnd(), front_->lead);
-        replace(gap.leadEnd(), gap.leadEnd(), front_->trail);
+        replace(front_->begin, front_->end, front_->lead);
+        replace(front_->end, front_->end, front_->trail);
         for (const Trail& trail : trails_)
             replace(trail.begin, trail.end, trail.space);
         front_.reset();
@@ -121,7 +128,7 @@ private:
     std::string_view text_;
     GapWalk gaps_;
     Rewriter rewriter_;
-    std::optional<GapSpace> front_; // what the open gap begins with
+    std::optional<Front> front_; // what the open gap begins with
     std::vector<Trail> trails_; // what stands ahead of the tags behind its front
     std::size_t inserted_ = 0;
 };
@@ -140,7 +147,7 @@ void BreakWmlLines(std::string& text)
     Rewriter result(text);
     IndentCount indent;
     auto resumeAt = npos;
-    for (auto at = findIgnoringCase(text, "<wml"); at != npos; at = text.find('<', resumeAt)) {
+    for (auto at = findIgnoringCase(text, "<wml"); at != npos; at = findByte(text, '<', resumeAt)) {
         resumeAt = at + 1;
         const bool isClose = at + 1 < text.size() && text[at + 1] == '/';
         if (getsOwnLine(text, at)) {
@@ -158,12 +165,9 @@ void RestoreWhitespace(std::string& text, std::string_view pristine)
     requireAddressable(text);
     PristineWalk pristineTags(pristine);
     GapRewriter result(text);
-    auto tagEnd = text.find('>');
-    for (auto at = text.find('<'); at != npos; at = text.find('<', at + 1)) {
-        if (tagEnd < at) tagEnd = text.find('>', at);
-        if (tagEnd == npos) break;
-        const auto length = std::min(tagEnd + 1 - at, kTagKeyLength);
-        const auto space = pristineTags.goTo(std::string_view(text).substr(at, length));
+    const auto end = text.rfind('>') + 1; // 0 where there is none
+    for (auto at = findByte(text, '<'); at < end; at = findByte(text, '<', at + 1)) {
+        const auto space = pristineTags.goTo(std::string_view(text).substr(at, kTagKeyLength));
         if (space) result.setSpace(at, *space);
     }
     takeAddressable(text, result.take());

@@ -45,7 +45,6 @@ std::string_view EditedText::whole()
 std::size_t EditedText::find(const SearchKey& key, std::size_t from, std::size_t limit)
 {
     if (from > size() || from >= limit) return npos;
-    if (key.isTag && !tags_.mayHold(key.pattern)) return npos;
     if (key.isTag && tags_.count() <= kFewTags) return findTag(key, from, limit);
     Search& known = remembered(key);
     if (from < known.from) {
@@ -90,6 +89,8 @@ std::size_t EditedText::tagEnd(std::size_t begin)
 
 void EditedText::replace(std::size_t begin, std::size_t end, std::string_view piece)
 {
+    if (begin == end && piece.empty()) return;
+    ++changes_;
     moveGap(begin);
     gapEnd_ += end - begin;
     if (gapEnd_ - gapBegin_ < piece.size()) growGap(piece.size());
@@ -121,7 +122,7 @@ void EditedText::apply(TextEdits& edits)
     readAgain();
 }
 
-void EditedText::rework(const std::function<void(std::string&)>& operation)
+void EditedText::rework(void (*operation)(std::string&))
 {
     closeGap();
     const std::string before = buffer_;
@@ -167,7 +168,6 @@ std::size_t EditedText::findTag(const SearchKey& key, std::size_t begin, std::si
 std::size_t EditedText::findLastTag(
     const SearchKey& key, std::size_t from, std::size_t before) const
 {
-    if (!tags_.mayHold(key.pattern)) return npos;
     auto at = tags_.findLast(key.pattern, from, before);
     while (at != npos && !key.pattern.isWhole && !standsHere(key, at))
         at = tags_.findLast(key.pattern, from, at);
@@ -205,11 +205,9 @@ bool EditedText::standsHere(const SearchKey& key, std::size_t offset) const
 
 TagCode EditedText::tagCodeAt(std::size_t offset) const
 {
-    std::array<char, kTagCodeReach> begin;
-    const auto length = std::min(begin.size(), size() - offset);
-    for (std::size_t i = 0; i < length; ++i)
-        begin[i] = (*this)[offset + i];
-    return tagCode({begin.data(), length});
+    const auto end = std::min(offset + kTagCodeReach, size());
+    if (end > gapBegin_) return tagCode(copy(offset, end));
+    return tagCode(std::string_view(buffer_).substr(offset, gapBegin_ - offset));
 }
 
 void EditedText::closeGap()
@@ -222,6 +220,7 @@ void EditedText::readAgain()
 {
     tags_.read(buffer_);
     searchCount_ = 0;
+    ++changes_;
 }
 
 void EditedText::moveGap(std::size_t offset)

@@ -6,7 +6,6 @@
 
 #include <array>
 #include <cstddef>
-#include <functional>
 #include <string>
 #include <string_view>
 
@@ -56,7 +55,12 @@ public:
     /// tell. Throws Overflow, with the text unchanged, where it would get longer.
     void apply(TextEdits& edits);
     /// Hands all of the text to an operation that works in place.
-    void rework(const std::function<void(std::string&)>& operation);
+    void rework(void (*operation)(std::string&));
+
+    /// The tags of the text as it is.
+    [[nodiscard]] const TagIndex& tags() const { return tags_; }
+    /// How many changes were made so far: the same number, the same text.
+    [[nodiscard]] std::size_t changes() const { return changes_; }
 
     /// Gives the text away.
     [[nodiscard]] std::string take() &&;
@@ -101,6 +105,7 @@ private:
     TagIndex tags_;
     std::array<Search, 8> searches_; // more keys than that take the place of the oldest
     std::size_t searchCount_ = 0;
+    std::size_t changes_ = 0;
 };
 
 } // namespace quillmere

@@ -6,6 +6,7 @@ namespace quillmere {
 
 Failure::Failure(std::string_view description)
     : description_(fromUtf8(description))
+    , utf8_(description)
 {
 }
 

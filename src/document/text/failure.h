@@ -13,11 +13,14 @@ public:
     /// `description` is UTF-8, as literals in the source are.
     explicit Failure(std::string_view description);
     [[nodiscard]] const std::string& description() const { return description_; }
+    /// The description as it was given: names of files may have more than Windows-1252 has.
+    [[nodiscard]] const std::string& utf8() const { return utf8_; }
     /// The description in Windows-1252.
     [[nodiscard]] const char* what() const noexcept override { return description_.c_str(); }
 
 private:
     std::string description_;
+    std::string utf8_;
 };
 
 /// A failure of the run of an operation that lies in its input: the operation has changed nothing.

@@ -5,8 +5,8 @@
 
 namespace quillmere {
 
-/// `text` as a JSON string (RFC 8259) with its quotes. Windows-1252 in and out, so that a whole
-/// document is turned into UTF-8 at once.
+/// `text` as a JSON string (RFC 8259) with its quotes. Characters beyond ASCII stay as they are, be
+/// they UTF-8 or Windows-1252; a document of the latter is turned into UTF-8 at once, when whole.
 [[nodiscard]] std::string jsonString(std::string_view text);
 
 } // namespace quillmere

@@ -1,35 +1,69 @@
 #pragma once
 
+#include <algorithm>
+#include <array>
+#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
 
-// How tags begin, in small numbers that can be compared and counted at no cost. They only tell
-// where a tag may stand; whether it does is then read in the text.
+// How tags begin, in numbers that can be compared at no cost. A key with a name of up to seven
+// characters is told by them alone; for a longer one the text has to be read.
 
 namespace quillmere {
 
-/// In 16 bits and without regard to case: whether a tag is a comment marker ("<!--"), whether it is
-/// an end ('/'), and the two characters behind that. Those beyond ASCII and missing ones count as
-/// 0.
-using TagCode = std::uint16_t;
+/// Without regard to case: the first seven characters from the name on, which may reach into what
+/// follows it ("<tr><td" counts "tr><td"), and in the last byte whether the tag is a comment marker
+/// ("<!--") and whether it is an end ('/'). Characters beyond ASCII and missing ones count as 0.
+using TagCode = std::uint64_t;
 
-/// As much of a tag as its code can depend on: "<!--/op".
-inline constexpr std::size_t kTagCodeReach = 7;
+/// As much of a tag as its code can depend on: "<!--/option-".
+inline constexpr std::size_t kTagCodeReach = 12;
 
 namespace tag_code {
 
 inline constexpr std::string_view kComment = "<!--";
-inline constexpr unsigned kCommentBit = 0x8000;
-inline constexpr unsigned kEndBit = 0x4000;
-inline constexpr unsigned kLetterBits = 7;
-inline constexpr unsigned kSecondLetter = 0x7F;
-inline constexpr unsigned kFirstLetter = kSecondLetter << kLetterBits;
+inline constexpr std::size_t kLetters = 7;
+inline constexpr unsigned char kEndBit = 1;
+inline constexpr unsigned char kCommentBit = 2;
 
-/// Where the name begins in a tag, and the bits of what stands ahead of it.
+using Bytes = std::array<unsigned char, sizeof(TagCode)>;
+
+constexpr TagCode ofEach(unsigned char byte)
+{
+    return TagCode{0x0101010101010101} * byte;
+}
+
+constexpr unsigned char byteAt(TagCode code, std::size_t index)
+{
+    return std::bit_cast<Bytes>(code)[index];
+}
+
+/// All bits of the first `count` letters, and of the marks behind them if wanted.
+constexpr TagCode maskOf(std::size_t count, unsigned char marks)
+{
+    Bytes bytes{};
+    std::fill_n(bytes.begin(), count, static_cast<unsigned char>(0xFF));
+    bytes[kLetters] = marks;
+    return std::bit_cast<TagCode>(bytes);
+}
+
+/// Of eight characters at once: capitals become small, those beyond ASCII become 0.
+constexpr TagCode folded(TagCode characters)
+{
+    constexpr TagCode kHighBits = ofEach(0x80);
+    const auto ascii = characters & ~kHighBits;
+    const auto fromA = ascii + ofEach(0x80 - 'A'); // the high bit tells
+    const auto behindZ = ascii + ofEach(0x80 - 'Z' - 1);
+    const auto capitals = fromA & ~behindZ & kHighBits;
+    const auto beyond = ((characters & kHighBits) >> 7U) * 0xFF;
+    return (ascii | capitals >> 2U) & ~beyond;
+}
+
+/// Where the name begins in a tag, and the marks of what stands ahead of it.
 struct Name {
     std::size_t at = 1;
-    unsigned marks = 0;
+    unsigned char marks = 0;
 
     constexpr explicit Name(std::string_view tag)
     {
@@ -44,25 +78,25 @@ struct Name {
     }
 };
 
-constexpr unsigned letterBits(std::string_view tag, std::size_t at)
-{
-    const unsigned letter = at < tag.size() ? static_cast<unsigned char>(tag[at]) : 0U;
-    if (letter >= 'A' && letter <= 'Z') return letter - 'A' + 'a';
-    return letter <= kSecondLetter ? letter : 0U;
-}
-
 } // namespace tag_code
 
-/// The code of the tag that `begin` begins with.
-[[nodiscard]] constexpr TagCode tagCode(std::string_view begin)
+/// The code of the tag that `text` begins with.
+[[nodiscard]] constexpr TagCode tagCode(std::string_view text)
 {
-    const tag_code::Name name(begin);
-    const auto first = tag_code::letterBits(begin, name.at) << tag_code::kLetterBits;
-    return static_cast<TagCode>(name.marks | first | tag_code::letterBits(begin, name.at + 1));
+    const tag_code::Name name(text);
+    std::array<char, sizeof(TagCode)> letters{};
+    if (name.at + letters.size() <= text.size()) {
+        std::copy_n(text.data() + name.at, letters.size(), letters.data()); // a single load
+    } else {
+        const auto count = text.size() - std::min(name.at, text.size());
+        std::copy_n(text.data() + text.size() - count, count, letters.data());
+    }
+    return (tag_code::folded(std::bit_cast<TagCode>(letters))
+               & tag_code::maskOf(tag_code::kLetters, 0))
+        | tag_code::maskOf(0, name.marks);
 }
 
-/// What the codes of all tags have in common that begin with a key. With a longer key other tags
-/// fit as well: "<big" fits "<bit".
+/// What the codes of all tags have in common that begin with a key.
 struct TagPattern {
     constexpr TagPattern() = default; // each tag fits
     /// `key` is lower case and begins with '<'.
@@ -70,19 +104,19 @@ struct TagPattern {
     {
         using namespace tag_code;
         if (kComment.starts_with(key)) return; // "<!" may begin "<!--" as well as "<!x"
-        const auto nameAt = Name(key).at;
-        const auto first = nameAt < key.size() ? kFirstLetter : 0U;
-        const auto second = nameAt + 1 < key.size() ? kSecondLetter : 0U;
-        mask = static_cast<TagCode>(kCommentBit | kEndBit | first | second);
+        const auto letters = key.substr(std::min(Name(key).at, key.size()));
+        mask = maskOf(std::min(letters.size(), kLetters), 0xFF);
         wanted = tagCode(key) & mask;
-        isWhole = first != 0 && nameAt + 2 >= key.size();
+        const bool isAscii = std::ranges::all_of(
+            letters, [](char letter) { return static_cast<unsigned char>(letter) < 0x80; });
+        isWhole = !letters.empty() && letters.size() <= kLetters && isAscii;
     }
     [[nodiscard]] constexpr bool fits(TagCode code) const { return (code & mask) == wanted; }
     [[nodiscard]] constexpr bool operator==(const TagPattern&) const = default;
 
     TagCode mask = 0;
     TagCode wanted = 0;
-    bool isWhole = false; ///< what fits is a tag with the key
+    bool isWhole = false; ///< what fits is a tag with the key, and nothing else is
 };
 
 /// A text to look for, with its pattern where it is the begin of a tag. It is lower case, not

@@ -37,14 +37,24 @@ std::size_t TagStack::countCloser(std::size_t distance) const
     return count;
 }
 
+void TagStack::takeFrom(TagStack& other, std::size_t kept, std::size_t textSize)
+{
+    auto place = tags_.size();
+    tags_.resize(place + other.size() - kept);
+    for (auto i = other.size(); i-- > kept; ++place) {
+        const auto& [code, distance] = other.tags_[i];
+        tags_[place] = {code, static_cast<std::uint32_t>(textSize - distance)};
+    }
+    other.tags_.resize(kept);
+}
+
 void TagIndex::read(std::string_view text)
 {
     size_ = text.size();
     ahead_.clear(text.size() / kUsualDistance);
     behind_.clear(0);
-    seen_.reset();
     for (auto at = text.find('<'); at != std::string_view::npos; at = text.find('<', at + 1))
-        append(at, tagCode(text.substr(at, kTagCodeReach)));
+        append(at, tagCode(text.substr(at)));
 }
 
 std::size_t TagIndex::find(TagPattern pattern, std::size_t begin, std::size_t end) const
@@ -88,13 +98,8 @@ void TagIndex::cut(std::size_t begin, std::size_t end)
 
 void TagIndex::moveTo(std::size_t offset)
 {
-    const auto fromOtherSide = [this](const TagStack::Tag& tag) {
-        return TagStack::Tag{static_cast<std::uint32_t>(size_ - tag.distance), tag.code};
-    };
-    for (; !ahead_.empty() && ahead_.back().distance >= offset; ahead_.pop())
-        behind_.push(fromOtherSide(ahead_.back()));
-    for (; !behind_.empty() && size_ - behind_.back().distance < offset; behind_.pop())
-        ahead_.push(fromOtherSide(behind_.back()));
+    behind_.takeFrom(ahead_, ahead_.countCloser(offset), size_);
+    ahead_.takeFrom(behind_, behind_.countCloser(distanceFromEnd(offset) + 1), size_);
 }
 
 } // namespace quillmere

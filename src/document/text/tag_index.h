@@ -2,7 +2,6 @@
 
 #include "document/text/tag_code.h"
 
-#include <bitset>
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
@@ -17,13 +16,15 @@ namespace quillmere {
 class TagStack {
 public:
     struct Tag {
-        std::uint32_t distance;
         TagCode code;
+        std::uint32_t distance;
     };
 
     void clear(std::size_t expected);
     void push(const Tag& tag) { tags_.push_back(tag); }
     void pop() { tags_.pop_back(); }
+    /// Takes all but the `kept` closest tags of the stack of the other end of a text.
+    void takeFrom(TagStack& other, std::size_t kept, std::size_t textSize);
     [[nodiscard]] bool empty() const { return tags_.empty(); }
     [[nodiscard]] std::size_t size() const { return tags_.size(); }
     [[nodiscard]] Tag& operator[](std::size_t index) { return tags_[index]; }
@@ -44,15 +45,15 @@ public:
     /// Forgets all and reads `text`.
     void read(std::string_view text);
 
-    /// False where no tag fits; true mostly where one does, and at times where one did.
-    [[nodiscard]] bool mayHold(TagPattern pattern) const
-    {
-        if ((pattern.mask & tag_code::kSecondLetter) != 0) return seen_[hash(pattern.wanted)];
-        if ((pattern.mask & tag_code::kFirstLetter) == 0) return true;
-        return seen_[hashOfFirst(pattern.wanted)];
-    }
-
     [[nodiscard]] std::size_t count() const { return ahead_.size() + behind_.size(); }
+    /// Calls `visit` with the code of each tag, in the order of the text.
+    template <typename Visit> void forEachCode(Visit visit) const
+    {
+        for (std::size_t i = 0; i < ahead_.size(); ++i)
+            visit(ahead_[i].code);
+        for (auto i = behind_.size(); i-- > 0;)
+            visit(behind_[i].code);
+    }
     /// The first tag that fits, of those at `begin` and ahead of `end`; npos where there is none.
     [[nodiscard]] std::size_t find(TagPattern pattern, std::size_t begin, std::size_t end) const;
     /// The last one.
@@ -67,32 +68,15 @@ public:
         cut(begin, end);
         size_ += piece.size();
         for (auto i = ahead_.size(); i-- > 0 && ahead_[i].distance + kTagCodeReach > begin;)
-            ahead_[i].code = noted(codeAt(ahead_[i].distance));
+            ahead_[i].code = codeAt(ahead_[i].distance);
         for (auto at = piece.find('<'); at != std::string_view::npos; at = piece.find('<', at + 1))
             append(begin + at, codeAt(begin + at));
     }
 
 private:
-    static constexpr std::size_t kHashes = 0x400;
-
-    // The low bits of letters differ in what matters: "<p" and "<P" have the same ones.
-    static constexpr std::size_t hashOfFirst(TagCode code)
-    {
-        return (code >> tag_code::kLetterBits) % (kHashes / 2);
-    }
-    static constexpr std::size_t hash(TagCode code)
-    {
-        return kHashes / 2 + (code ^ (code >> tag_code::kLetterBits) * 5U) % (kHashes / 2);
-    }
-    TagCode noted(TagCode code)
-    {
-        seen_[hash(code)] = true;
-        seen_[hashOfFirst(code)] = true;
-        return code;
-    }
     void append(std::size_t place, TagCode code)
     {
-        ahead_.push({static_cast<std::uint32_t>(place), noted(code)});
+        ahead_.push({code, static_cast<std::uint32_t>(place)});
     }
     [[nodiscard]] std::size_t distanceFromEnd(std::size_t place) const
     {
@@ -104,7 +88,6 @@ private:
     std::size_t size_ = 0; // of the text
     TagStack ahead_; // of the last change, by the distance of their '<' from the begin of the text
     TagStack behind_; // it, by the distance of their '<' from the end of the text
-    std::bitset<kHashes> seen_; // hashes of the codes that stand in the text or stood there once
 };
 
 } // namespace quillmere

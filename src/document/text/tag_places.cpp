@@ -3,30 +3,56 @@
 
 #include "document/text/tag_places.h"
 
+#include "document/text/byte_words.h"
 #include "document/text/text_search.h"
 
-#include <bitset>
+#include <array>
 #include <string>
+#include <utility>
 
 namespace quillmere {
 namespace {
 
 constexpr std::size_t kUsualTags = 32; // of the keys in one text, at most
-constexpr std::size_t kInitials = 0x200;
 
-/// The first letter of the tag that `tag` begins with, with a bit of its own for an end's.
-std::size_t initial(std::string_view tag)
+/// What tags are first told apart by: their first letter, with a bit of its own for an end's.
+/// Setting one bit makes a capital small.
+std::size_t initial(char first, char second)
 {
-    const std::size_t at = tag.size() > 2 && tag[1] == '/' ? 2 : 1;
-    if (at >= tag.size()) return 0;
-    // Setting this bit makes a capital small.
-    return (static_cast<unsigned char>(tag[at]) | 0x20U) + (at - 1) * 0x100;
+    constexpr unsigned kSmall = 0x20;
+    if (first == '/') return (static_cast<unsigned char>(second) | kSmall) + 0x100U;
+    return static_cast<unsigned char>(first) | kSmall;
 }
+
+std::size_t initialAt(std::string_view text, std::size_t tag)
+{
+    const auto at = [text](std::size_t i) { return i < text.size() ? text[i] : '\0'; };
+    return initial(at(tag + 1), at(tag + 2));
+}
+
+/// The keys by their initials. There are no more than fit a number.
+class KeyTable {
+public:
+    explicit KeyTable(std::span<const std::string_view> keys)
+        : next_(keys.size())
+    {
+        for (auto i = keys.size(); i-- > 0;)
+            next_[i] = std::exchange(first_[initialAt(keys[i], 0)], static_cast<Number>(i + 1));
+    }
+    /// The first key with this initial, counted from 1; 0 where there is none.
+    [[nodiscard]] std::size_t first(std::size_t initial) const { return first_[initial]; }
+    [[nodiscard]] std::size_t behind(std::size_t number) const { return next_[number - 1]; }
+
+private:
+    using Number = std::uint8_t;
+    std::array<Number, 0x200> first_{};
+    std::vector<Number> next_;
+};
 
 std::string withoutTags(std::string_view text, std::span<const std::string_view> tags)
 {
     Rewriter rewriter(text);
-    for (auto at = text.find('<'); at != npos; at = text.find('<', at + 1)) {
+    for (auto at = findByte(text, '<'); at != npos; at = findByte(text, '<', at + 1)) {
         for (const std::string_view tag : tags) {
             if (standsAt(text, at, tag)) rewriter.drop(at, at + tag.size());
         }
@@ -38,17 +64,15 @@ std::string withoutTags(std::string_view text, std::span<const std::string_view>
 
 std::vector<FoundTag> findTags(std::string_view text, std::span<const std::string_view> keys)
 {
-    std::bitset<kInitials> initials; // of the keys: most tags have another one
-    for (const std::string_view key : keys)
-        initials[initial(key)] = true;
+    const KeyTable table(keys);
     std::vector<FoundTag> found;
     found.reserve(kUsualTags);
-    for (auto at = text.find('<'); at != npos; at = text.find('<', at + 1)) {
-        const auto itsInitial = initial(text.substr(at, 3));
-        if (!initials[itsInitial]) continue;
-        for (std::size_t i = 0; i < keys.size(); ++i) {
-            if (initial(keys[i]) == itsInitial && standsAt(text, at, keys[i]))
-                found.push_back({static_cast<TagOffset>(at), static_cast<std::uint16_t>(i)});
+    for (auto at = findByte(text, '<'); at != npos; at = findByte(text, '<', at + 1)) {
+        auto number = table.first(initialAt(text, at)); // most tags have another one
+        for (; number != 0; number = table.behind(number)) {
+            if (standsAt(text, at, keys[number - 1]))
+                found.push_back(
+                    {static_cast<TagOffset>(at), static_cast<std::uint16_t>(number - 1)});
         }
     }
     return found;

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "document/text/byte_words.h"
+
 #include <cstddef>
 #include <optional>
 #include <string_view>
@@ -10,6 +12,7 @@ namespace quillmere {
 struct Tag {
     std::size_t begin = 0;
     std::size_t end = 0;
+    bool hidesAnother = false; ///< whether a second '<' stands within
     [[nodiscard]] std::string_view in(std::string_view text) const
     {
         return text.substr(begin, end - begin);
@@ -28,22 +31,30 @@ public:
     /// The next tag; nullopt where no complete tag is left.
     [[nodiscard]] std::optional<Tag> next()
     {
-        constexpr auto kNowhere = std::string_view::npos;
-        const auto begin = text_.find('<', position_);
+        const bool isHidden = hidden_ != kNowhere && hidden_ >= position_;
+        const auto begin = isHidden ? hidden_ : findByte(text_, '<', position_);
         if (begin == kNowhere) return std::nullopt;
-        // Behind "<" any '>' ends the tag, and all stray '>' ahead of it are passed over.
-        if (nextEnd_ != kNowhere && nextEnd_ <= begin) nextEnd_ = text_.find('>', begin + 1);
-        if (nextEnd_ == kNowhere) return std::nullopt;
-        position_ = nextEnd_ + 1;
-        return Tag{begin, nextEnd_ + 1};
+        const auto behind = findBracket(text_, begin + 1);
+        const bool hidesAnother = behind != kNowhere && text_[behind] == '<';
+        if (!hidesAnother)
+            end_ = behind;
+        else if (end_ <= begin) // else it is known from the tag that hid this one
+            end_ = findByte(text_, '>', behind);
+        if (end_ == kNowhere) return std::nullopt;
+        hidden_ = hidesAnother ? behind : kNowhere;
+        position_ = end_ + 1;
+        return Tag{begin, position_, hidesAnother};
     }
-    /// The next search begins at `offset`, which does not lie ahead of the last tag's begin.
+    /// The next search begins at `offset`, which lies behind the last tag's begin and not behind
+    /// the first '<' in it.
     void resumeAt(std::size_t offset) { position_ = offset; }
 
 private:
+    static constexpr auto kNowhere = std::string_view::npos;
     std::string_view text_;
     std::size_t position_ = 0;
-    std::size_t nextEnd_ = 0; // the first '>' at or behind position_ once it was looked for
+    std::size_t hidden_ = kNowhere; // the second '<' of the last tag
+    std::size_t end_ = 0; // the '>' of the last tag
 };
 
 } // namespace quillmere

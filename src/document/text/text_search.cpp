@@ -3,6 +3,7 @@
 
 #include "document/text/text_search.h"
 
+#include "document/text/byte_words.h"
 #include "document/text/windows1252.h"
 
 #include <algorithm>
@@ -103,7 +104,7 @@ std::size_t findPlaceByPlace(std::string_view text, std::string_view key, std::s
 {
     const bool isTag = key.starts_with('<');
     for (auto at = from; at < text.size(); ++at) {
-        if (isTag) at = text.find('<', at);
+        if (isTag) at = findByte(text, '<', at);
         if (standsAt(text, at, key)) return at;
         if (at == npos) break;
     }
@@ -156,34 +157,16 @@ std::size_t ForwardFinder::next(std::size_t from)
     return answer_;
 }
 
-Rewriter::Rewriter(std::string_view source)
-    : source_(source)
+void Rewriter::grow(std::size_t atLeast)
 {
-    result_.reserve(source.size() + source.size() / 8);
-}
-
-void Rewriter::keepTo(std::size_t offset)
-{
-    if (offset <= copied_) return;
-    result_.append(source_, copied_, offset - copied_);
-    copied_ = std::min(offset, source_.size());
-}
-
-void Rewriter::drop(std::size_t begin, std::size_t end)
-{
-    keepTo(begin);
-    copied_ = std::max(copied_, std::min(end, source_.size()));
-}
-
-void Rewriter::insert(std::size_t offset, std::string_view text)
-{
-    keepTo(offset);
-    result_.append(text);
+    const auto usual = std::max(source_.size() + source_.size() / 4, 2 * length_);
+    result_.resize(std::max(usual, length_ + atLeast));
 }
 
 std::string Rewriter::take()
 {
     keepTo(source_.size());
+    result_.resize(length_);
     return std::move(result_);
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <algorithm>
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -37,25 +38,57 @@ private:
     std::size_t answer_ = 0;
 };
 
-/// Builds a changed copy of a text from left to right: each part of it is kept or dropped once.
-/// The text must outlive the rewriter.
+/// Builds a changed copy of a text from left to right: each part of it is kept or dropped once. It
+/// is written into memory taken beforehand. The text must outlive the rewriter.
 class Rewriter {
 public:
-    explicit Rewriter(std::string_view source);
+    explicit Rewriter(std::string_view source)
+        : source_(source)
+    {
+    }
     /// Keeps all up to `offset`. An offset that was passed already changes nothing.
-    void keepTo(std::size_t offset);
+    void keepTo(std::size_t offset)
+    {
+        if (offset <= copied_) return;
+        const auto kept = source_.substr(copied_, offset - copied_);
+        copied_ += kept.size();
+        write(kept);
+    }
     /// Keeps all up to `begin` and drops what stands from there up to `end`.
-    void drop(std::size_t begin, std::size_t end);
+    void drop(std::size_t begin, std::size_t end)
+    {
+        keepTo(begin);
+        copied_ = std::max(copied_, std::min(end, source_.size()));
+    }
     /// Keeps all up to `offset` and puts `text` in there.
-    void insert(std::size_t offset, std::string_view text);
+    void insert(std::size_t offset, std::string_view text)
+    {
+        keepTo(offset);
+        write(text);
+    }
+    /// Puts `text` in where the last call ended.
+    void append(std::string_view text) { write(text); }
+    /// How long the result will be where the rest is kept.
+    [[nodiscard]] std::size_t length() const { return length_ + source_.size() - copied_; }
     /// The offset in the source up to which all is decided.
     [[nodiscard]] std::size_t position() const { return copied_; }
+    /// Whether nothing was decided so far.
+    [[nodiscard]] bool isUnchanged() const { return copied_ == 0 && length_ == 0; }
     /// Keeps the rest and gives the result away.
     [[nodiscard]] std::string take();
 
 private:
+    void write(std::string_view piece)
+    {
+        if (result_.size() - length_ < piece.size()) grow(piece.size());
+        piece.copy(result_.data() + length_, piece.size());
+        length_ += piece.size();
+    }
+    void grow(std::size_t atLeast);
+
     std::string_view source_;
-    std::string result_;
+    std::string result_; // with memory behind what was written
+    std::size_t length_ = 0; // of what was written
     std::size_t copied_ = 0;
 };
 

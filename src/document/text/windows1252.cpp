@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <array>
 #include <optional>
-#include <span>
 
 namespace quillmere {
 
@@ -88,26 +87,6 @@ bool isUtf8(std::string_view bytes)
     return true;
 }
 
-// All in bytes and without a branch, so that the compiler can lower many characters at a time.
-constexpr unsigned char lowered(unsigned char c)
-{
-    using Byte = unsigned char;
-    const bool isLetter = static_cast<Byte>(c - 'A') <= 'Z' - 'A'
-        || (static_cast<Byte>(c - 0xC0) <= 0xDE - 0xC0 && c != 0xD7);
-    const bool isEarlyLetter = c == 0x8A || c == 0x8C || c == 0x8E;
-    const Byte letter = isLetter ? 0x20 : 0;
-    const Byte earlyLetter = isEarlyLetter ? 0x10 : 0;
-    const Byte last = c == 0x9F ? 0x60 : 0;
-    return static_cast<Byte>(c + static_cast<Byte>(letter | earlyLetter | last));
-}
-
-constexpr auto kLower = [] {
-    std::array<char, 256> table{};
-    for (unsigned i = 0; i < 256; ++i)
-        table[i] = static_cast<char>(lowered(static_cast<unsigned char>(i)));
-    return table;
-}();
-
 } // namespace
 
 char32_t toCodePoint(char character)
@@ -133,6 +112,21 @@ std::string fromUtf8(std::string_view utf8)
     return result;
 }
 
+std::string validUtf8(std::string_view bytes)
+{
+    std::string result;
+    for (std::size_t at = 0; at < bytes.size();) {
+        const auto length = decodeUtf8(bytes, at).length;
+        if (length == 0) {
+            appendUtf8(result, toCodePoint(bytes[at]));
+        } else {
+            result.append(bytes.substr(at, length));
+        }
+        at += std::max<std::size_t>(length, 1);
+    }
+    return result;
+}
+
 std::string toUtf8(std::string_view text)
 {
     std::string result;
@@ -151,20 +145,10 @@ std::string textFromDeckBytes(std::string_view bytes)
     return fromUtf8(bytes);
 }
 
-char lowerCase(char character)
-{
-    return kLower[code(character)];
-}
-
 std::string lowerCase(std::string_view text)
 {
     std::string result(text);
-    constexpr std::size_t kAtATime = 16;
-    const std::span characters(result);
-    const auto whole = result.size() - result.size() % kAtATime;
-    for (char& character : characters.first(whole))
-        character = static_cast<char>(lowered(code(character)));
-    for (char& character : characters.subspan(whole))
+    for (char& character : result)
         character = lowerCase(character);
     return result;
 }

@@ -94,7 +94,7 @@ std::optional<ShownCharacter> byNumber(std::string_view rest)
 /// `rest` stands behind "&".
 std::optional<ShownCharacter> byName(std::string_view rest)
 {
-    const auto behind
+    const auto* const behind
         = std::ranges::upper_bound(kNames, rest.substr(0, kLongestName), {}, &NamedCharacter::name);
     if (behind == kNames.begin()) return std::nullopt;
     const auto& row = *std::prev(behind);

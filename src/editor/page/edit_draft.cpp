@@ -4,6 +4,7 @@
 
 #include "editor/page/edit_draft.h"
 
+#include "editor/page/markup_tags.h"
 #include "editor/page/neighbour_guards.h"
 #include "editor/page/page_places.h"
 #include "editor/page/typed_text.h"
@@ -31,6 +32,16 @@ bool shows(const PageItem& item, char16_t wanted)
 {
     const char16_t shown = item.kind == ItemKind::Blank ? u' ' : item.shown;
     return shown == wanted && item.kind != ItemKind::Chip;
+}
+
+bool beginsWhite(std::string_view text)
+{
+    return !text.empty() && isWhite(text.front());
+}
+
+bool endsWhite(std::string_view text)
+{
+    return !text.empty() && isWhite(text.back());
 }
 
 std::size_t tablesRound(const SurfacePage& page, std::size_t block)
@@ -74,15 +85,19 @@ EditDraft::EditDraft(const SurfacePage& page, PagePlace from, PagePlace to, Firs
 
 void EditDraft::putText(std::u16string_view typed)
 {
-    const auto& run = parts_.front().run;
-    const auto* ahead = itemAhead(page_, run.from);
-    const auto* behind = itemBehind(page_, run.to);
-    const auto isBlank
-        = [](const PageItem* item) { return item != nullptr && item->kind == ItemKind::Blank; };
+    const auto& part = parts_.front();
+    const auto* ahead = itemAhead(page_, part.run.from);
+    const auto* behind = itemBehind(page_, part.run.to);
+    const std::string_view text = page_.text;
     const bool lineBegins = ahead == nullptr || ahead->kind == ItemKind::LineBreak;
-    auto text = typedText(typed, {lineBegins || isBlank(ahead), isBlank(behind)});
-    changes_.insert(parts_.front().typeAt, std::move(text.markup));
-    shown_ = std::move(text.shown);
+    TypedBorders borders;
+    borders.blankHidesAhead = lineBegins || ahead->kind == ItemKind::Blank
+        || endsWhite(text.substr(0, part.between.begin));
+    borders.blankBehind = (behind != nullptr && behind->kind == ItemKind::Blank)
+        || beginsWhite(text.substr(part.between.end));
+    auto put = typedText(typed, borders);
+    changes_.insert(part.typeAt, std::move(put.markup));
+    shown_ = std::move(put.shown);
 }
 
 void EditDraft::putMarkup(std::string_view markup)

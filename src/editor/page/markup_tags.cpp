@@ -111,8 +111,8 @@ MarkupTag element(SourceRange source, std::string_view written)
         tag.name = TagName::Declaration;
         return tag;
     }
-    const auto begin = written.begin() + (tag.isEnd ? 2 : 1);
-    const auto end = std::find_if(begin, written.end(), endsName);
+    const auto* const begin = written.begin() + (tag.isEnd ? 2 : 1);
+    const auto* const end = std::find_if(begin, written.end(), endsName);
     tag.name = nameIn(kElements, {begin, end}, TagName::Other);
     return tag;
 }
@@ -123,7 +123,7 @@ std::string_view markerName(std::string_view comment)
 {
     comment.remove_prefix(std::min(comment.size(), kCommentStart.size()));
     if (comment.starts_with('/')) comment.remove_prefix(1);
-    const auto end = std::ranges::find_if_not(comment, isLetter);
+    const auto* const end = std::ranges::find_if_not(comment, isLetter);
     return {comment.begin(), end};
 }
 

@@ -4,7 +4,7 @@
 
 #include "editor/page/neighbour_guards.h"
 
-#include <algorithm>
+#include <string>
 #include <string_view>
 
 namespace quillmere {
@@ -35,7 +35,7 @@ public:
             const auto source = sourceOf(i - 1);
             if (source == "&") return changes_.replace(page_.items[i - 1].source, "&amp;");
             if (source.starts_with('&') && source.back() != ';')
-                return changes_.insert(page_.items[i - 1].source.end, ";");
+                return changes_.replace(page_.items[i - 1].source, std::string(source) + ";");
             if (source.size() != 1 || !isOfReference(source.front())) return;
         }
     }

@@ -20,7 +20,8 @@ constexpr std::size_t slotOf(TagName name)
 
 std::size_t lookNumber(const TextStyle& style)
 {
-    const auto size = static_cast<std::size_t>(style.sizeStep + kMaxSizeStep);
+    const int sizeNumber = style.sizeStep + kMaxSizeStep;
+    const auto size = static_cast<std::size_t>(sizeNumber);
     return size * 8 + (style.bold ? 4U : 0U) + (style.italic ? 2U : 0U)
         + (style.underlined ? 1U : 0U);
 }

@@ -3,7 +3,6 @@
 #include "editor/page/page_frame.h"
 
 #include <algorithm>
-#include <ranges>
 
 namespace quillmere {
 
@@ -62,12 +61,12 @@ bool endsCard(std::string_view text, const MarkupTag& tag)
 std::size_t endOf(std::string_view text, const Tags& tags, std::size_t begin)
 {
     for (const auto name : {TagName::Body, TagName::Html}) {
-        for (const auto& tag : tags | std::views::reverse)
-            if (tag.name == name && tag.isEnd && tag.source.begin >= begin) return tag.source.begin;
+        const auto last = std::find_if(tags.rbegin(), tags.rend(),
+            [name](const MarkupTag& tag) { return tag.name == name && tag.isEnd; });
+        if (last != tags.rend() && last->source.begin >= begin) return last->source.begin;
     }
-    const bool isCut
-        = !tags.empty() && tags.back().source.begin >= begin && endsCard(text, tags.back());
-    return isCut ? tags.back().source.begin : text.size();
+    if (tags.empty() || tags.back().source.begin < begin) return text.size();
+    return endsCard(text, tags.back()) ? tags.back().source.begin : text.size();
 }
 
 } // namespace

@@ -7,7 +7,6 @@
 #include "editor/page/markup_tags.h"
 
 #include <algorithm>
-#include <ranges>
 
 namespace quillmere {
 
@@ -16,7 +15,7 @@ namespace {
 std::size_t behindWhite(std::string_view text, SourceRange range)
 {
     const auto piece = range.in(text);
-    const auto end = std::ranges::find_if_not(piece, isWhite);
+    const auto* const end = std::ranges::find_if_not(piece, isWhite);
     return range.begin + static_cast<std::size_t>(end - piece.begin());
 }
 
@@ -75,6 +74,20 @@ std::size_t offsetBehind(const SurfacePage& page, const PageBlock& block, std::s
     return behindLinkEnd(page.text, ahead.source.end, limit);
 }
 
+/// How many of the numbers from 0 up to but not `count` the test holds for; it fails for all behind
+/// the first that it fails for.
+template <class Test> std::size_t countWhile(std::size_t count, const Test& test)
+{
+    std::size_t first = 0;
+    while (count > 0) {
+        const auto half = count / 2;
+        const bool holds = test(first + half);
+        if (holds) first += half + 1;
+        count = holds ? count - half - 1 : half;
+    }
+    return first;
+}
+
 } // namespace
 
 std::size_t offsetAt(const SurfacePage& page, PagePlace place)
@@ -89,17 +102,15 @@ std::size_t offsetAt(const SurfacePage& page, PagePlace place)
 PagePlace placeAt(const SurfacePage& page, std::size_t offset)
 {
     const auto isReached = [&](PagePlace place) { return offsetAt(page, place) <= offset; };
-    const auto blocks = std::views::iota(std::size_t{0}, page.blocks.size());
-    const auto behind = std::ranges::partition_point(blocks, [&](std::size_t block) {
+    const auto blocks = countWhile(page.blocks.size(), [&](std::size_t block) {
         return isReached({block, 0});
     });
-    if (behind == blocks.begin()) return firstPlace(page);
-    const auto block = static_cast<std::size_t>(behind - blocks.begin()) - 1;
-    const auto items = std::views::iota(std::size_t{0}, itemCount(page.blocks[block]));
-    const auto next = std::ranges::partition_point(items, [&](std::size_t item) {
+    if (blocks == 0) return firstPlace(page);
+    const auto block = blocks - 1;
+    const auto items = countWhile(itemCount(page.blocks[block]), [&](std::size_t item) {
         return isReached({block, item + 1});
     });
-    return {block, static_cast<std::size_t>(next - items.begin())};
+    return {block, items};
 }
 
 PagePlace firstPlace(const SurfacePage&)

@@ -6,6 +6,7 @@
 #include "editor/page/format_pieces.h"
 #include "editor/page/going_tags.h"
 #include "editor/page/markup_tags.h"
+#include "editor/page/neighbour_guards.h"
 #include "editor/page/page_edits.h"
 #include "editor/page/page_places.h"
 #include "editor/page/splice_list.h"
@@ -34,7 +35,7 @@ public:
         }
     }
 
-    std::vector<Splice> take()
+    SpliceList take()
     {
         for (std::size_t i = 0; i < reformatted_.size(); ++i)
             if (reformatted_[i]) rewrite(page_.elements[i]);
@@ -45,7 +46,7 @@ public:
             splices.insert(start.removed.begin, std::move(start.inserted));
         for (const auto tag : removed_)
             splices.remove(tag);
-        return std::move(splices).take();
+        return splices;
     }
 
 private:
@@ -99,6 +100,29 @@ private:
     std::vector<SourceRange> removed_;
 };
 
+bool areAlike(const PageItem& one, const PageItem& other)
+{
+    return one.kind == other.kind && one.shown == other.shown;
+}
+
+/// Keeps items apart that only tags kept apart so far: the blanks of "a <b> b</b>".
+void guardBorders(
+    SpliceList& changes, const SurfacePage& page, std::size_t firstItem, std::size_t endItem)
+{
+    for (std::size_t block = 0; block < page.blocks.size(); ++block) {
+        const auto first = std::max(firstItem, page.blocks[block].firstItem + 1);
+        for (auto i = first; i < page.blocks[block].endItem && i <= endItem; ++i) {
+            const auto& ahead = page.items[i - 1];
+            if (ahead.source.end == page.items[i].source.begin) continue;
+            const PagePlace place{block, i - page.blocks[block].firstItem};
+            const bool areBlanks
+                = ahead.kind == ItemKind::Blank && page.items[i].kind == ItemKind::Blank;
+            addGuard(changes, page, runBetween(page, place, place),
+                areBlanks ? Guard::Blanks : Guard::References);
+        }
+    }
+}
+
 } // namespace
 
 SurfaceEdit removeFormats(const SurfacePage& page, PagePlace from, PagePlace to)
@@ -108,8 +132,14 @@ SurfaceEdit removeFormats(const SurfacePage& page, PagePlace from, PagePlace to)
     const auto end = runs.back().endItem;
     const PagePlace caret = std::max(placeOnPage(page, from), placeOnPage(page, to));
     if (first >= end) return {{}, offsetAt(page, caret)};
-    SurfaceEdit edit{FormatRemoval(page, first, end).take()};
-    const auto after = readSurfacePage(spliced(page.text, edit.splices));
+    SpliceList changes = FormatRemoval(page, first, end).take();
+    SurfaceEdit edit{SpliceList(changes).take()};
+    auto after = readSurfacePage(spliced(page.text, edit.splices));
+    if (!std::ranges::equal(page.items, after.items, areAlike)) {
+        guardBorders(changes, page, first, end);
+        edit.splices = std::move(changes).take();
+        after = readSurfacePage(spliced(page.text, edit.splices));
+    }
     edit.caret = offsetAt(after, placeOnPage(after, caret));
     return edit;
 }

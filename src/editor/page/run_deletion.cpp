@@ -44,7 +44,7 @@ public:
 
     RunDeletion take()
     {
-        RunDeletion result{{}, run_, between_.begin, firstPlaceOfText()};
+        RunDeletion result{{}, run_, between_, between_.begin, firstPlaceOfText()};
         if (joinsParagraphs()) result.pasteAt = result.typeAt = between_.end;
         takeTags();
         takeBetween();
@@ -188,8 +188,9 @@ private:
 
 RunDeletion deletionOf(const SurfacePage& page, const CoveredRun& run, FirstFormats formats)
 {
-    if (run.from == run.to) return {{}, run, offsetAt(page, run.from), offsetAt(page, run.from)};
-    return Deletion(page, run, formats).take();
+    if (run.from != run.to) return Deletion(page, run, formats).take();
+    const auto place = offsetAt(page, run.from);
+    return {{}, run, {place, place}, place, place};
 }
 
 } // namespace quillmere

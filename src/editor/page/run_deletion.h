@@ -13,6 +13,7 @@ enum class FirstFormats { Go, Stay };
 struct RunDeletion {
     SpliceList splices;
     CoveredRun run; ///< with the options that go with their radio buttons
+    SourceRange between; ///< what it takes from the text, but for tags that stay
     std::size_t pasteAt = 0; ///< where markup goes in instead
     std::size_t typeAt = 0; ///< where text goes in that takes the place of the run's first item
 };

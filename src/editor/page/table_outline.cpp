@@ -67,11 +67,10 @@ void TableWalk::see(std::uint32_t index)
 {
     const auto& tag = tags_[index];
     if (isComment(tag.name)) return;
+    const bool isEnd = tag.isEnd && tag.name != TagName::RowGroup;
     if (!isTablePart(tag.name))
         interrupt();
-    else if (tag.name == TagName::RowGroup)
-        startPart(index);
-    else if (tag.isEnd)
+    else if (isEnd)
         end(index);
     else if (tag.name == TagName::Table)
         start(index);

@@ -57,6 +57,21 @@ void forEachDeckText(const std::function<void(const std::string&)>& check)
     }
 }
 
+/// As other editors left them.
+void forEachOldText(const std::function<void(const std::string&)>& check)
+{
+    check(
+        "<HTML><BODY BGCOLOR=white>\r\n<CENTER><FONT SIZE=+1><B>Kino</B></FONT></CENTER>\r\n<P>\r\n"
+        "Heute&nbsp;&#150; &quot;M&auml;rz&quot &amp Mai\r\n<P "
+        "ALIGN=right>Ende<BR>\r\n<HR></BODY>");
+    check(
+        "<TABLE BORDER=0 WIDTH=\"90%\">\r\n<TBODY>\r\n<TR VALIGN=top>\r\n<TD> 1\r\n<TD><P>2</P>\r\n"
+        "  <TABLE><TR><TH>3</TABLE>\r\n<TR><TD COLSPAN=2>4  5</TABLE>\r\n</HTML>");
+    check("<p>a<b>b<i>c</b>d</i></font>e</td><!--option onpick=\"#a\"--><a name=x>f</p></a>"
+          "<!-- <p> --><p>\t<img src=x.bmp align=top>g  h<p></td></tr><!--/select-->&lt;i &l;");
+    check("<p><table><tr><td><b></b></td></tr></table></p><!--select--><p><!--option--></p>");
+}
+
 void expectInside(SourceRange range, SourceRange outer)
 {
     EXPECT_LE(outer.begin, range.begin);
@@ -150,6 +165,7 @@ TEST(PageProperties, AllRangesLieInTheTextInTheirOrder)
     };
     forEachText(check);
     forEachDeckText(check);
+    forEachOldText(check);
 }
 
 // No reference has this letter in it, so it melts into none.
@@ -169,13 +185,13 @@ public:
     }
     [[nodiscard]] bool isAsBefore() const
     {
-        return hasTheLetter() && hasTheItems() && hasTheBlocks() && hasTheCells()
+        return hasTheLetter() && hasTheStyle() && hasTheItems() && hasTheBlocks() && hasTheCells()
             && hasTheElements();
     }
     [[nodiscard]] std::string text() const { return after_.text; }
 
 private:
-    [[nodiscard]] SourceRange moved(SourceRange range, bool isBehind) const
+    [[nodiscard]] static SourceRange moved(SourceRange range, bool isBehind)
     {
         return isBehind ? SourceRange{range.begin + 1, range.end + 1} : range;
     }
@@ -184,6 +200,12 @@ private:
         if (after_.items.size() != before_.items.size() + 1) return false;
         const auto& item = after_.items[item_];
         return item.shown == kTyped && item.source == SourceRange{offset_, offset_ + 1};
+    }
+    [[nodiscard]] bool hasTheStyle() const
+    {
+        const auto& block = before_.blocks[place_.block];
+        const auto& typed = after_.styles[after_.items[item_].style];
+        return itemCount(block) > 0 || typed == before_.styles[block.style];
     }
     [[nodiscard]] bool hasTheItems() const
     {
@@ -250,6 +272,7 @@ TEST(PageProperties, WhatIsTypedShowsUpThereAndChangesNothingElse)
 {
     forEachText(expectExactTyping);
     forEachDeckText(expectExactTyping);
+    forEachOldText(expectExactTyping);
 }
 
 std::string repeated(std::string_view text, std::size_t length)

@@ -148,7 +148,7 @@ TEST(SurfacePage, NestsTablesToALimit)
 {
     std::string text = "x";
     for (int i = 0; i < 17; ++i)
-        text = "<table><tr><td>" + text + "</td></tr></table>";
+        text = std::string("<table><tr><td>").append(text).append("</td></tr></table>");
     const auto page = readSurfacePage(text);
     EXPECT_EQ(page.tables.size(), 16U);
     EXPECT_EQ(page.cells.back().table, 15U);

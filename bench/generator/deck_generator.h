@@ -5,7 +5,7 @@
 #include <string>
 #include <string_view>
 
-namespace quillmere::test {
+namespace quillmere::bench {
 
 struct DeckOptions {
     std::size_t targetBytes = 1500; ///< the deck is as long, give or take the last element
@@ -21,4 +21,4 @@ struct DeckOptions {
 /// in text, cards without tag or end, and a cut end.
 [[nodiscard]] std::string generateDeck(std::uint64_t seed, const DeckOptions& options = {});
 
-} // namespace quillmere::test
+} // namespace quillmere::bench

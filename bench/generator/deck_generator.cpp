@@ -1,11 +1,11 @@
-#include "support/deck_generator.h"
+#include "generator/deck_generator.h"
 
 #include "support/small_random.h"
 
 #include <span>
 #include <utility>
 
-namespace quillmere::test {
+namespace quillmere::bench {
 namespace {
 
 using namespace std::string_view_literals;
@@ -170,7 +170,7 @@ private:
         close("table");
     }
 
-    SmallRandom random_;
+    test::SmallRandom random_;
     const DeckOptions& options_;
     std::string deck_;
 };
@@ -182,4 +182,4 @@ std::string generateDeck(std::uint64_t seed, const DeckOptions& options)
     return Generator(seed, options).run();
 }
 
-} // namespace quillmere::test
+} // namespace quillmere::bench

@@ -1,0 +1,25 @@
+// Held by tests/cli.
+
+#include "cli/deck_check.h"
+
+#include "document/text/text_search.h"
+
+namespace quillmere::cli {
+
+std::optional<std::string> doubtAbout(const std::string& path, const DocumentSession& session)
+{
+    const std::string text = readDeckOf(session);
+    const auto card = findIgnoringCase(text, "<card");
+    const bool holdsCard = card != npos && text.find('>', card) != npos;
+    if (holdsCard && text.find('\0') == npos) return std::nullopt;
+    return "Die Datei „" + path
+        + "“ enthält keine vollständige Karte (<card>) und ist wohl kein WML-Deck.";
+}
+
+std::string readDeckOf(const DocumentSession& session)
+{
+    const DeckRecord& first = session.deck.front();
+    return session.workFiles.read(first.pristineDir + first.pristineFile);
+}
+
+} // namespace quillmere::cli

@@ -1,0 +1,116 @@
+// Held by tests/cli/repair_test.cpp.
+
+#include "cli/repair_plan.h"
+
+#include "cli/core_session.h"
+#include "cli/terminal.h"
+#include "document/platform/paths.h"
+
+#include <filesystem>
+
+namespace quillmere::cli {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string freeBackupName(const std::string& path)
+{
+    const std::string first = path + ".bak";
+    std::string name = first;
+    std::error_code ignored;
+    for (int i = 1; fs::symlink_status(name, ignored).type() != fs::file_type::not_found; ++i)
+        name = first + std::to_string(i);
+    return name;
+}
+
+std::vector<std::string> workFileNames(const std::string& directory, std::size_t areas)
+{
+    std::vector<std::string> names;
+    for (std::size_t area = 0; area < areas; ++area)
+        names.push_back(NormalisePath(directory) + "Wml" + std::to_string(area) + ".htm");
+    return names;
+}
+
+void requireOthersThan(const RepairPlan& plan, const std::string& input)
+{
+    for (const std::string& name : plan.workFiles) {
+        const bool isInput = samePlace(name, input);
+        if (!isInput && (plan.output == "-" || !samePlace(name, plan.output))) continue;
+        throw BadArguments{"Die Arbeitsdatei „" + name + "“ käme an die Stelle "
+            + (isInput ? "des Decks" : "des Ergebnisses")
+            + "; --keep-work braucht einen anderen Ordner. Es wurde nichts geändert."};
+    }
+}
+
+// A folder that is still to be made is not asked.
+void requireWritable(const Arguments& arguments, const RepairPlan& plan)
+{
+    if (plan.output == "-" || (arguments.outDir && !fs::is_directory(*arguments.outDir))) return;
+    requireReplaceable(plan.output);
+}
+
+void keepWorkFiles(const RepairPlan& plan, const Deck& deck, WorkFiles& files)
+{
+    if (plan.workFiles.empty()) return;
+    AssentingPrompter unasked;
+    MakeDirectories(SplitPath(plan.workFiles.front()).directory, false, unasked);
+    for (std::size_t area = 0; area < plan.workFiles.size(); ++area)
+        replaceFile(plan.workFiles[area], files.read(deck[area].designDir + deck[area].designFile));
+}
+
+} // namespace
+
+std::string outputDirectory(const Arguments& arguments)
+{
+    return arguments.outDir ? NormalisePath(*arguments.outDir) : "";
+}
+
+std::string outputPath(const Arguments& arguments, const std::string& input)
+{
+    if (arguments.output) return *arguments.output;
+    if (arguments.outDir) return outputDirectory(arguments) + SplitPath(input).name;
+    return input;
+}
+
+bool samePlace(const std::string& left, const std::string& right)
+{
+    std::error_code ignored;
+    if (fs::equivalent(left, right, ignored)) return true;
+    std::error_code error; // of a path that leads nowhere, which is the place of nothing
+    const auto place = [&](const std::string& path) {
+        return fs::weakly_canonical(fs::absolute(path, error), error); // folders may be missing yet
+    };
+    return place(left) == place(right) && !error;
+}
+
+RepairPlan planRepair(const Arguments& arguments, const std::string& input, std::size_t areas,
+    std::string_view written)
+{
+    RepairPlan plan{outputPath(arguments, input), {}, {}};
+    if (plan.output == input && !regularFileExists(input))
+        throw BadArguments{
+            "„" + input + "“ ist keine gewöhnliche Datei; das Ergebnis braucht -o oder --out-dir."};
+    // What stays as it is needs no second copy, however often the call is repeated.
+    if (arguments.backup && readFile(input) != written) plan.backup = freeBackupName(input);
+    if (arguments.keepWork) plan.workFiles = workFileNames(*arguments.keepWork, areas);
+    requireOthersThan(plan, input);
+    if (arguments.dryRun) requireWritable(arguments, plan);
+    return plan;
+}
+
+void carryOut(const RepairPlan& plan, const Deck& deck, WorkFiles& files, std::string_view written,
+    FileReplacements& replacements)
+{
+    keepWorkFiles(plan, deck, files);
+    if (plan.output == "-") return printBytes(written);
+    if (plan.backup) createFile(*plan.backup, readFile(plan.output), plan.output);
+    try {
+        replacements.replace(plan.output, written);
+    } catch (const FileFailure&) {
+        if (plan.backup) removeFile(*plan.backup); // the deck has its bytes still
+        throw;
+    }
+}
+
+} // namespace quillmere::cli

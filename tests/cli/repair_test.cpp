@@ -1,0 +1,197 @@
+#include "cli/cli_fixture.h"
+
+#include <csignal>
+#include <filesystem>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace quillmere {
+namespace {
+
+namespace fs = std::filesystem;
+using test::Call;
+using test::Cli;
+using test::kDeck;
+
+constexpr const char* kStray = "<wml>\n<card id=\"a\">\n<p>x</b> y</p>\n</card></wml>";
+constexpr const char* kNoQuote = "<card id=\"a\"><do type=\"x\" label=\"y></do></card>";
+
+TEST_F(Cli, RepairReportsWhatItChanges)
+{
+    folder.put("d.wml", kDeck);
+    folder.put("e.wml", "<wml><card id=\"a\"><p><em>x<i>y</i></em></p></card></wml>");
+    const auto report = [&](Call more) {
+        Call call{"repair", "--report", "--out-dir", "@out", "@d.wml", "@e.wml"};
+        call.insert(call.end(), more.begin(), more.end());
+        return cli(call).output;
+    };
+    const auto text = report({});
+    EXPECT_NE(text.find("Verloren: <em> (Zeile 1, Spalte 22)"), text.npos) << text;
+    const auto stays = text.find("Eine weitere Korrektur ändert daran nichts.");
+    EXPECT_LT(stays, text.find("Eine weitere Korrektur ändert es noch einmal.")) << text;
+    const auto json = report({"--json", "--standard-output"});
+    EXPECT_TRUE(json.starts_with("[{\"deck\": ") && json.ends_with("}]\n")) << json;
+    EXPECT_LT(json.find("\"stable\": true"), json.find("},\n{\"deck\": ")) << json;
+    EXPECT_EQ(json.find("Gruesse"), json.npos);
+}
+
+TEST_F(Cli, RepairWritesWhereItIsTold)
+{
+    folder.put("d.wml", kDeck);
+    EXPECT_EQ(cli({"repair", "@d.wml", "-o", "@out.wml"}).status, 0);
+    const auto written = folder.get("out.wml");
+    EXPECT_NE(written.find("<p>Gruesse</p>"), std::string::npos) << written;
+    EXPECT_EQ(folder.get("d.wml"), kDeck);
+    EXPECT_EQ(cli({"repair", "@d.wml", "--out-dir", "@new/dir"}).status, 0);
+    EXPECT_EQ(folder.get("new/dir/d.wml"), written);
+    EXPECT_EQ(cli({"repair", "@d.wml", "-o", "-"}).output, written);
+    EXPECT_EQ(cli({"repair", "@d.wml", "--keep-work", "@work"}).status, 0);
+    EXPECT_EQ(folder.get("d.wml"), written);
+    EXPECT_TRUE(folder.get("work/Wml0.htm").starts_with("<!--card id=\"a\""));
+    EXPECT_TRUE(folder.get("work/Wml1.htm").starts_with("<!--card id=\"b\""));
+    EXPECT_FALSE(folder.has("work/Wml2.htm"));
+    // What is no deck becomes one elsewhere, with a warning, but never in its place.
+    for (const auto& bytes : {std::string(), std::string("Kein WML"), std::string(100, '\0'),
+             std::string("<card>\0</card>", 14), std::string("<card id=\"a\"")}) {
+        folder.put("any.wml", bytes);
+        const auto converted = cli({"repair", "@any.wml", "-o", "-"});
+        EXPECT_NE(converted.output.find("</card>"), bytes.npos);
+        EXPECT_NE(converted.errors.find("wohl kein WML-Deck"), bytes.npos);
+        EXPECT_EQ(cli({"repair", "@any.wml"}).status, 2);
+        EXPECT_EQ(folder.get("any.wml"), bytes);
+    }
+    folder.put("a.wbmp", {"\0\0\x03\x02\xA0\x40", 6});
+    EXPECT_EQ(cli({"wbmp-show", "@a.wbmp", "-o", "@a.bmp"}).status, 0);
+    EXPECT_TRUE(folder.get("a.bmp").starts_with("BM"));
+}
+
+TEST_F(Cli, KeepWorkNeverTakesThePlaceOfDeckOrResult)
+{
+    for (const char* name : {"d.wml", "Wml0.htm", "w/Wml1.htm"})
+        folder.put(name, kDeck);
+    folder.put("v/other", "");
+    fs::create_symlink("../d.wml", folder.path() + "v/Wml0.htm");
+    const Call rows[] = {
+        {"@Wml0.htm", "--keep-work", "@"}, // the deck
+        {"@Wml0.htm", "-o", "@o.wml", "--keep-work", "@w/.."},
+        {"@w/Wml1.htm", "--keep-work", "@w"}, // the second area's
+        {"@d.wml", "-o", "@neu/Wml0.htm", "--keep-work", "@neu"}, // the result, not there yet
+        {"@d.wml", "--out-dir", "@v", "--keep-work", "@v"}, // through a link
+    };
+    for (auto call : rows) {
+        SCOPED_TRACE(testing::PrintToString(call));
+        call.insert(call.begin(), "repair");
+        const auto result = cli(call);
+        EXPECT_EQ(result.status, 1);
+        EXPECT_NE(result.errors.find("käme an die Stelle des "), std::string::npos);
+    }
+    for (const char* name : {"d.wml", "Wml0.htm", "w/Wml1.htm"})
+        EXPECT_EQ(folder.get(name), kDeck) << name;
+    EXPECT_FALSE(folder.has("o.wml") || folder.has("neu"));
+}
+
+TEST_F(Cli, BackupKeepsTheOldBytesAndNoOther)
+{
+    folder.put("d.wml", kDeck);
+    folder.put("d.wml.bak", "alt");
+    EXPECT_EQ(cli({"repair", "@d.wml", "--backup"}).status, 0);
+    EXPECT_NE(folder.get("d.wml"), kDeck);
+    EXPECT_EQ(folder.get("d.wml.bak"), "alt");
+    EXPECT_EQ(folder.get("d.wml.bak1"), kDeck);
+    EXPECT_EQ(cli({"repair", "@d.wml", "--backup"}).status, 0); // changes nothing any more
+    EXPECT_FALSE(folder.has("d.wml.bak2"));
+}
+
+TEST_F(Cli, DryRunWritesNothingAndTellsWhat)
+{
+    folder.put("d.wml", kDeck);
+    fs::create_directory(folder.path() + "folder");
+    const auto path = folder.path();
+    const struct {
+        Call call;
+        std::string told;
+    } rows[] = {
+        {{"--backup"},
+            "„" + path + "d.wml“ würde durch 290 Byte ersetzt.\nDas alte Deck bliebe als „" + path
+                + "d.wml.bak“.\n"},
+        {{"-o", "-"}, "Auf die Standardausgabe kämen 290 Byte.\n"},
+        {{"--out-dir", "@neu", "--keep-work", "@w"},
+            "„" + path + "neu/d.wml“ würde mit 290 Byte angelegt.\nArbeitsdateien: „" + path
+                + "w/Wml0.htm“ bis „" + path + "w/Wml1.htm“.\n"},
+    };
+    for (const auto& row : rows) {
+        Call call{"repair", "@d.wml", "--dry-run"};
+        call.insert(call.end(), row.call.begin(), row.call.end());
+        const auto result = cli(call);
+        EXPECT_EQ(result.status, 0) << result.errors;
+        EXPECT_TRUE(
+            result.output.ends_with("\n" + row.told + "Geschrieben wurde nichts (--dry-run).\n"))
+            << result.output;
+    }
+    EXPECT_EQ(cli({"repair", "@d.wml", "--dry-run", "-o", "@folder"}).status, 2);
+    EXPECT_EQ(cli({"repair", "@d.wml", "--dry-run", "-o", "@none/x"}).status, 2);
+    EXPECT_EQ(folder.get("d.wml"), kDeck);
+    EXPECT_FALSE(folder.has("d.wml.bak") || folder.has("neu") || folder.has("w"));
+}
+
+/// The members behind each "deck", from "output" on or, without it, all of them.
+std::string endsOf(const std::string& json)
+{
+    std::string ends;
+    for (std::size_t at = json.find("{\"deck\": "); at != std::string::npos;) {
+        const auto next = json.find("{\"deck\": ", at + 1);
+        const auto object = json.substr(at, next == std::string::npos ? next : next - at);
+        const auto output = object.find(", \"output\"");
+        ends += output == std::string::npos ? object : object.substr(output);
+        at = next;
+    }
+    return ends;
+}
+
+TEST_F(Cli, JsonHasTheDecksThatFailed)
+{
+    folder.put("d.wml", kStray);
+    folder.put("q\u2603.wml", kNoQuote);
+    fs::create_directory(folder.path() + "out");
+    fs::create_directory(folder.path() + "out/x.wml");
+    folder.put("x.wml", kStray);
+    const auto result = cli({"repair", "--report", "--json", "--out-dir", "@out", "@q\u2603.wml",
+        "@d.wml", "@x.wml", "@n\xFC\n.wml"});
+    const auto path = folder.path();
+    EXPECT_EQ(result.status, 3);
+    EXPECT_TRUE(result.output.starts_with("[{\"deck\": \"") && result.output.ends_with("}]\n"));
+    EXPECT_EQ(result.errors.find("wohlgeformt"), std::string::npos) << result.errors;
+    const std::string unchanged = "Es wurde nichts geändert.\"}";
+    EXPECT_EQ(endsOf(result.output),
+        "{\"deck\": \"" + path + "q\u2603.wml\", \"written\": false, \"error\": \"" + path
+            + "q\u2603.wml: Ungültiger Prozeduraufruf oder ungültiges Argument: Dem Text fehlt "
+              "etwas, etwa ein schließendes Anführungszeichen. "
+            + unchanged + ",\n, \"output\": \"" + path
+            + "out/d.wml\", \"bytes\": 170, \"backup\": null, \"workFiles\": [], "
+              "\"written\": true, \"error\": null},\n, \"output\": \""
+            + path
+            + "out/x.wml\", \"bytes\": 170, \"backup\": null, \"workFiles\": [], "
+              "\"written\": false, \"error\": \"Die Datei „"
+            + path + "out/x.wml“ kann nicht geschrieben werden: es ist ein Ordner. " + unchanged
+            + ",\n{\"deck\": \"" + path
+            + "nü\\u000a.wml\", \"written\": false, \"error\": \"Die Datei „" + path
+            + "nü\\u000a.wml“ kann nicht gelesen werden: Datei oder Ordner gibt es nicht. "
+            + unchanged + "]\n");
+    const auto noFolder
+        = cli({"repair", "@d.wml", "@x.wml", "--out-dir", "@d.wml/x", "--report", "--json"});
+    EXPECT_EQ(noFolder.status, 2);
+    EXPECT_TRUE(noFolder.output.starts_with("[{\"deck\"") && noFolder.output.ends_with("}]\n"));
+}
+
+TEST_F(Cli, SaysOnceOnStandardErrorWhatIsNotWellFormed)
+{
+    folder.put("i.wml", kStray);
+    const auto line = "quillmere-cli: " + folder.path()
+        + "i.wml: Das Ergebnis ist nicht wohlgeformt: </b> beendet nicht das Element, das gerade "
+          "offen ist (Zeile 4, Spalte 5 des Ergebnisses).\n";
+    EXPECT_EQ(cli({"repair", "@i.wml", "-o", "-"}).errors, line);
+    EXPECT_EQ(cli({"repair", "@i.wml", "-o", "@o.wml", "--report"}).errors, line);
+}
+
+} // namespace
+} // namespace quillmere
