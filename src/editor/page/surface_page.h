@@ -82,9 +82,10 @@ struct PageCell {
     SourceRange content;
 };
 
-/// A table. A block stands ahead of each table and one behind it, in the same cell or outside.
+/// A table. A block stands ahead of each table and one behind it, in the same cell or outside. So a
+/// <table> whose last cell has no end at all, behind which nothing could stand, is a chip.
 struct PageTable {
-    SourceRange source; ///< from '<' of <table> to behind </table>
+    SourceRange source; ///< from '<' of <table> to behind </table>, or its last tag without that
     SourceRange startTag;
     std::size_t outerCell = kNone; ///< of a table within a table
     int rows = 0;
@@ -135,10 +136,14 @@ struct SurfacePage {
     std::vector<PageElement> elements; ///< by their start
 };
 
-/// Reads a design text (Windows-1252, any length, however broken). The frame, white space between
-/// blocks, comments and the tags of elements that fit take no place among the items. A tag that is
-/// not known or that fits nowhere (a stray end, a <td> outside of a table) is a Chip; a '<' without
-/// '>' and a '&' that begins no entity are characters.
+/// Reads a design text (Windows-1252, any length, however broken). The frame, comments and the tags
+/// of elements that fit take no place among the items. A tag that is not known or that fits nowhere
+/// (a stray end, a <td> outside of a table) is a Chip; a '<' without '>' and a '&' that begins no
+/// entity are characters.
+/// White space between blocks and between the parts of a table shows nothing, nor does the layout
+/// of the file: white space with a line end in it, directly at the start or end of a block. All
+/// other white space of a block is seen. So no character that is typed makes other items come or
+/// go.
 [[nodiscard]] SurfacePage readSurfacePage(std::string text);
 
 /// The value of an attribute of a start tag, quoted by " or ' or not at all, entities as written;

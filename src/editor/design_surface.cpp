@@ -1,0 +1,137 @@
+// The operations of the surface. What they show is in surface_view.cpp, what they change in
+// surface_edits.cpp, and a person's part in surface_keys.cpp and surface_mouse.cpp. Held by
+// design_surface_test.cpp.
+
+#include "editor/design_surface.h"
+
+#include "document/text/failure.h"
+#include "document/text/text_search.h"
+#include "editor/page/page_places.h"
+
+#include <QCoreApplication>
+
+#include <utility>
+
+namespace quillmere {
+namespace {
+
+constexpr std::string_view kEmptyArea;
+
+std::string withoutScheme(const std::string& path)
+{
+    constexpr std::string_view kScheme = "file://";
+    return findIgnoringCase(path, kScheme) == 0 ? path.substr(kScheme.size()) : path;
+}
+
+/// The directory of a path, with its separator.
+std::string directoryOf(const std::string& path)
+{
+    return path.substr(0, path.find_last_of("/\\") + 1);
+}
+
+} // namespace
+
+DesignSurface::DesignSurface(WorkFiles& files, QWidget* parent)
+    : QTextEdit(parent)
+    , files_(files)
+    , page_(readSurfacePage(std::string(kEmptyArea)))
+{
+    setAcceptRichText(true);
+    setTabChangesFocus(true);
+    setFrameShape(QFrame::NoFrame);
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    setWordWrapMode(QTextOption::WordWrap);
+    viewport()->setMouseTracking(true);
+    connect(this, &QTextEdit::cursorPositionChanged, this, &DesignSurface::caretMoved);
+    connect(this, &QTextEdit::selectionChanged, this, &DesignSurface::caretMoved);
+    restyle();
+}
+
+void DesignSurface::ExecCommand(int id)
+{
+    switch (id) {
+    case surface_command::kCopy:
+        return copy();
+    case surface_command::kCut:
+        return cut();
+    case surface_command::kPaste:
+        return paste();
+    case surface_command::kUndo:
+        return undo();
+    case surface_command::kRemoveFormat:
+        if (hasSelection()) apply(removeFormats(page_, selectedRange().from, selectedRange().to));
+        return;
+    default:
+        return;
+    }
+}
+
+int DesignSurface::QueryStatus(int id) const
+{
+    constexpr int kDisabled = 1, kEnabled = 3;
+    return id == surface_command::kItalic && control_ ? kDisabled : kEnabled;
+}
+
+void DesignSurface::SaveDocument(const std::string& path)
+{
+    files_.write(path, page_.text);
+}
+
+void DesignSurface::LoadURL(const std::string& path)
+{
+    const auto plain = withoutScheme(path);
+    auto text = files_.read(plain);
+    pictures_.reset(directoryOf(plain));
+    setDocumentHTML(std::move(text));
+}
+
+void DesignSurface::NewDocument()
+{
+    setDocumentHTML(std::string(kEmptyArea));
+}
+
+void DesignSurface::setDocumentHTML(std::string text)
+{
+    undo_.clear();
+    page_ = readSurfacePage(std::move(text));
+    rebuild();
+    setCaret(firstPlace(page_));
+    emit changed();
+}
+
+void DesignSurface::yieldToEvents()
+{
+    QCoreApplication::processEvents();
+}
+
+void DesignSurface::setLook(const SurfaceStyle& look)
+{
+    style_ = look;
+    restyle();
+}
+
+void DesignSurface::setFgColor(const QColor& colour)
+{
+    style_.ink = colour;
+    restyle();
+}
+
+void DesignSurface::setBgColor(const QColor& colour)
+{
+    style_.ground = colour;
+    restyle();
+}
+
+void DesignSurface::setFontFamily(const QString& family)
+{
+    style_.fontFamily = family.trimmed();
+    restyle();
+}
+
+void DesignSurface::setFontSizePx(int size)
+{
+    style_.fontSizePx = size;
+    restyle();
+}
+
+} // namespace quillmere

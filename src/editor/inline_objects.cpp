@@ -1,0 +1,219 @@
+// Pictures are drawn in whole multiples of their own dots wherever their size is one, so that the
+// lines of a black and white picture stay even at every resolution. Held by inline_objects_test.cpp
+// and seen in the pictures of quillmere-gallery.
+
+#include "editor/inline_objects.h"
+
+#include "editor/page_formats.h"
+#include "editor/picture_tag.h"
+
+#include <QAbstractTextDocumentLayout>
+#include <QFontMetricsF>
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+namespace quillmere {
+namespace {
+
+constexpr double kAboveMiddlePx = 1.5; // the middle of capitals lies above that of the line
+constexpr double kRadioPx = 20;
+constexpr double kRadioGapPx = 4; // ahead of the option's text
+constexpr double kRadioRingPx = 14;
+constexpr double kChipPaddingPx = 9;
+constexpr double kChipGapPx = 2;
+constexpr qsizetype kMaxChipName = 24;
+constexpr double kMissingPaddingPx = 6;
+constexpr double kMissingMaxTextPx = 220;
+
+std::string_view viewOf(const QByteArray& bytes)
+{
+    return {bytes.data(), static_cast<std::size_t>(bytes.size())};
+}
+
+QFont smallFont(const SurfaceStyle& style, int percent)
+{
+    return pageFont(style, std::max(9, style.fontSizePx * percent / 100));
+}
+
+QFont chipFont(const SurfaceStyle& style)
+{
+    auto font = smallFont(style, 80);
+    font.setWeight(QFont::Medium);
+    return font;
+}
+
+QSizeF chipSize(const SurfaceStyle& style, const QByteArray& tag)
+{
+    const QFontMetricsF metrics(chipFont(style));
+    return {metrics.horizontalAdvance(chipName(tag)) + 2 * (kChipPaddingPx + kChipGapPx),
+        metrics.height() + 4};
+}
+
+void drawChip(
+    QPainter& painter, const QRectF& place, const SurfaceStyle& style, const QByteArray& tag)
+{
+    const auto body = place.adjusted(kChipGapPx, 0, -kChipGapPx, 0);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    painter.setBrush(chipColour(style));
+    painter.drawRoundedRect(body, 6, 6);
+    painter.setPen(style.ink);
+    painter.setFont(chipFont(style));
+    painter.drawText(body, Qt::AlignCenter, chipName(tag));
+}
+
+void drawRadio(QPainter& painter, const QRectF& place, const SurfaceStyle& style)
+{
+    QRectF ring(0, 0, kRadioRingPx, kRadioRingPx);
+    ring.moveCenter(
+        place.center() - QPointF((kRadioPx - kRadioRingPx + kRadioGapPx) / 2 - 1, kAboveMiddlePx));
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(style.ink, 1.75));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawEllipse(ring);
+}
+
+/// The size that the tag asks for; one side alone keeps the picture's proportion.
+QSizeF wantedSize(const PictureTag& tag, const QSizeF& own)
+{
+    if (tag.widthPx && tag.heightPx) return QSizeF(*tag.widthPx, *tag.heightPx);
+    if (own.isEmpty()) return QSizeF(tag.widthPx.value_or(0), tag.heightPx.value_or(0));
+    if (tag.widthPx) return own * (*tag.widthPx / own.width());
+    if (tag.heightPx) return own * (*tag.heightPx / own.height());
+    return own;
+}
+
+QString missingText(const PictureTag& tag)
+{
+    const auto text = shownText(tag.alternativeText).trimmed();
+    return text.isEmpty() ? QStringLiteral("Bild") : text;
+}
+
+QSizeF missingSize(const SurfaceStyle& style, const PictureTag& tag)
+{
+    const auto asked = wantedSize(tag, {});
+    const QFontMetricsF metrics(smallFont(style, 80));
+    const auto text = std::min(metrics.horizontalAdvance(missingText(tag)), kMissingMaxTextPx);
+    return {asked.width() > 0 ? asked.width() : std::ceil(text) + 2 * kMissingPaddingPx,
+        asked.height() > 0 ? asked.height() : std::ceil(metrics.height()) + 2 * kMissingPaddingPx};
+}
+
+/// The nearest rectangle whose edges lie between the dots of the device.
+QRectF onDots(const QPainter& painter, const QRectF& place)
+{
+    const auto toDevice = painter.deviceTransform();
+    return toDevice.inverted().mapRect(QRectF(toDevice.mapRect(place).toRect()));
+}
+
+void drawDashedFrame(QPainter& painter, const QRectF& place, const QColor& colour)
+{
+    const double dots = painter.deviceTransform().m11();
+    const double width = std::max(1.0, std::floor(dots)) / dots;
+    painter.setRenderHint(QPainter::Antialiasing, false);
+    painter.setPen(QPen(colour, width, Qt::DashLine));
+    painter.setBrush(Qt::NoBrush);
+    const double half = width / 2;
+    painter.drawRect(onDots(painter, place).adjusted(half, half, -half, -half));
+}
+
+void drawMissing(
+    QPainter& painter, const QRectF& place, const SurfaceStyle& style, const PictureTag& tag)
+{
+    drawDashedFrame(painter, place, lineColour(style));
+    const auto font = smallFont(style, 80);
+    const auto room = place.adjusted(3, 1, -3, -1);
+    painter.setFont(font);
+    painter.setPen(style.ink);
+    painter.drawText(room, Qt::AlignCenter,
+        QFontMetricsF(font).elidedText(missingText(tag), Qt::ElideRight, room.width()));
+}
+
+/// How often each dot of the picture is to be repeated on the device; 0 where the size is no
+/// whole multiple of the picture's own.
+int wholeMultiple(const QSizeF& size, const QSize& own, double devicePixels)
+{
+    const double multiple = size.width() / own.width();
+    const bool isWhole = std::abs(multiple - std::round(multiple)) < 0.01
+        && std::abs(size.height() - own.height() * multiple) < 0.5;
+    if (!isWhole || multiple < 0.5) return 0;
+    return std::max(1, static_cast<int>(std::floor(multiple * devicePixels + 0.01)));
+}
+
+void drawPicture(QPainter& painter, const QRectF& place, const QImage& image)
+{
+    const auto toDevice = painter.deviceTransform();
+    const auto mapped = toDevice.mapRect(place);
+    QRect device(mapped.topLeft().toPoint(), mapped.size().toSize());
+    const double devicePixels = mapped.width() / std::max(1.0, place.width());
+    const int multiple = wholeMultiple(place.size(), image.size(), devicePixels);
+    if (multiple > 0) {
+        const auto centre = device.center();
+        device.setSize(image.size() * multiple);
+        device.moveCenter(centre);
+    }
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, multiple == 0);
+    painter.drawImage(toDevice.inverted().mapRect(QRectF(device)), image);
+}
+
+} // namespace
+
+InlineObjects::InlineObjects(PictureCache& pictures, QObject* parent)
+    : QObject(parent)
+    , pictures_(pictures)
+{
+}
+
+void InlineObjects::attachTo(QTextDocument& document)
+{
+    for (const int type : {kPictureObject, kRadioObject, kChipObject})
+        document.documentLayout()->registerHandler(type, this);
+}
+
+QSizeF InlineObjects::intrinsicSize(QTextDocument*, int, const QTextFormat& format)
+{
+    const auto source = objectSource(format);
+    if (format.objectType() == kRadioObject) return {kRadioPx + kRadioGapPx, kRadioPx};
+    if (format.objectType() == kChipObject) return chipSize(style_, source);
+    const auto tag = readPictureTag(viewOf(source));
+    const auto image = pictures_.find(tag.path);
+    const auto size = image.isNull() ? missingSize(style_, tag) : wantedSize(tag, image.size());
+    return size + 2 * QSizeF(tag.horizontalSpacePx, tag.verticalSpacePx);
+}
+
+void InlineObjects::drawObject(
+    QPainter* painter, const QRectF& place, QTextDocument*, int, const QTextFormat& format)
+{
+    painter->save();
+    const auto source = objectSource(format);
+    if (format.objectType() == kRadioObject) {
+        drawRadio(*painter, place, style_);
+    } else if (format.objectType() == kChipObject) {
+        drawChip(*painter, place, style_, source);
+    } else {
+        const auto tag = readPictureTag(viewOf(source));
+        const auto image = pictures_.find(tag.path);
+        const auto inner = place.adjusted(tag.horizontalSpacePx, tag.verticalSpacePx,
+            -tag.horizontalSpacePx, -tag.verticalSpacePx);
+        if (image.isNull())
+            drawMissing(*painter, inner, style_, tag);
+        else
+            drawPicture(*painter, inner, image);
+    }
+    painter->restore();
+}
+
+QString chipName(QByteArrayView tag)
+{
+    auto name = QString::fromLatin1(tag);
+    if (name.startsWith(u'<')) name.remove(0, 1);
+    const auto end = std::find_if(
+        name.cbegin(), name.cend(), [](QChar c) { return c.isSpace() || c == u'>'; });
+    if (end != name.cbegin()) name.truncate(end - name.cbegin());
+    name = name.simplified();
+    if (name.size() > kMaxChipName) name = name.left(kMaxChipName - 1) + u'\u2026';
+    return name;
+}
+
+} // namespace quillmere

@@ -1,0 +1,121 @@
+// One walk over the text notes the pieces that nothing may go into, each by its begin: a tag, a
+// comment, an entity. The piece of a start tag grows to the end of its element once that is seen.
+// insert_position_test.cpp tries every position against the rules one by one.
+
+#include "editor/page/hit_test.h"
+
+#include "document/text/limits.h"
+#include "document/text/text_search.h"
+#include "editor/page/character_entities.h"
+#include "editor/page/markup_tags.h"
+
+#include <algorithm>
+#include <array>
+#include <utility>
+#include <vector>
+
+namespace quillmere {
+
+namespace {
+
+struct ClosedElement {
+    TagName name;
+    bool nests; ///< else a start tag takes the place of one that was not ended
+};
+
+constexpr ClosedElement kClosedElements[] = {
+    {TagName::Table, true},
+    {TagName::Select, false},
+    {TagName::Option, false},
+    {TagName::Do, false},
+    {TagName::Picture, false},
+    {TagName::Link, false},
+};
+
+/// Behind the last '>' from `offset` on that no '<' stands ahead of; `offset` where there is none.
+std::size_t behindStrayEnds(std::string_view text, std::size_t offset)
+{
+    const auto plain = text.substr(offset, text.find('<', offset) - offset);
+    const auto last = plain.rfind('>');
+    return last == npos ? offset : offset + last + 1;
+}
+
+class ClosedPieces {
+public:
+    explicit ClosedPieces(std::string_view text)
+        : text_(text)
+    {
+    }
+
+    /// By their begins; they may lie in one another and overlap.
+    std::vector<SourceRange> find()
+    {
+        MarkupScanner tags(text_);
+        std::size_t passed = 0;
+        while (const auto tag = tags.next()) {
+            noteEntities({passed, tag->source.begin});
+            noteTag(*tag);
+            passed = tag->source.end;
+        }
+        noteEntities({passed, text_.size()});
+        return std::move(pieces_);
+    }
+
+private:
+    void noteEntities(SourceRange plain)
+    {
+        const auto text = plain.in(text_);
+        for (auto at = text.find('&'); at != npos; at = text.find('&', at + 1)) {
+            const auto length = shownReference(text.substr(at)).length;
+            pieces_.push_back({plain.begin + at, plain.begin + at + length});
+        }
+    }
+
+    void noteTag(const MarkupTag& tag)
+    {
+        pieces_.push_back({tag.source.begin, behindStrayEnds(text_, tag.source.end)});
+        const auto* const element
+            = std::ranges::find(kClosedElements, tag.name, &ClosedElement::name);
+        if (element == std::end(kClosedElements)) return;
+        auto& open = open_[static_cast<std::size_t>(element - std::begin(kClosedElements))];
+        if (tag.isEnd) return end(open, tag.source.end);
+        if (!element->nests) open.clear();
+        open.push_back(pieces_.size() - 1);
+    }
+
+    void end(std::vector<std::size_t>& open, std::size_t offset)
+    {
+        if (open.empty()) return;
+        auto& piece = pieces_[open.back()];
+        piece.end = std::max(piece.end, offset);
+        open.pop_back();
+    }
+
+    std::string_view text_;
+    std::vector<SourceRange> pieces_;
+    std::array<std::vector<std::size_t>, std::size(kClosedElements)> open_; // their pieces
+};
+
+std::size_t behindCardMarker(std::string_view text)
+{
+    const auto marker = findIgnoringCase(text, "<!--card");
+    const auto end = marker == npos ? npos : text.find('>', marker);
+    return end == npos ? 0 : end + 1;
+}
+
+} // namespace
+
+int ValidInsertPosition(int position, std::string_view text)
+{
+    requireAddressable(text);
+    if (position >= static_cast<int>(text.size())) return position;
+    auto offset = std::max({static_cast<std::size_t>(std::max(position, 0)), behindCardMarker(text),
+        behindStrayEnds(text, 0)});
+    // A piece that holds the end of another one and begins ahead of it was met before it, so that
+    // one round is enough.
+    for (const SourceRange& piece : ClosedPieces(text).find())
+        if (piece.begin < offset) offset = std::max(offset, piece.end);
+    return static_cast<int>(offset);
+}
+
+} // namespace quillmere

@@ -1,0 +1,164 @@
+// The changes of the text that keys and commands make. Held by surface_typing_test.cpp.
+
+#include "editor/design_surface.h"
+
+#include "editor/page/page_places.h"
+#include "editor/surface_clipboard.h"
+
+#include <QApplication>
+#include <QClipboard>
+
+#include <algorithm>
+#include <utility>
+
+namespace quillmere {
+namespace {
+
+void addSplices(SurfaceEdit& edit, SurfaceEdit further)
+{
+    std::ranges::move(further.splices, std::back_inserter(edit.splices));
+}
+
+/// Where an offset of the text lies behind the edit.
+std::size_t offsetBehind(const SurfaceEdit& edit, std::size_t offset)
+{
+    auto moved = offset;
+    for (const auto& splice : edit.splices)
+        if (splice.removed.end <= offset)
+            moved = moved - (splice.removed.end - splice.removed.begin) + splice.inserted.size();
+    return moved;
+}
+
+} // namespace
+
+void DesignSurface::apply(const SurfaceEdit& edit, SurfaceUndo::Kind kind)
+{
+    if (edit.splices.empty()) return;
+    auto text = edited(page_.text, edit); // refuses what is too long; all is as it was then
+    undo_.add(page_.text, edit, caretOffset(), kind);
+    showText(std::move(text), edit.caret);
+    ensureCursorVisible();
+}
+
+void DesignSurface::goTo(const std::optional<SurfaceUndo::State>& state)
+{
+    if (!state) return;
+    showText(state->text, state->caret);
+    ensureCursorVisible();
+}
+
+void DesignSurface::undo()
+{
+    goTo(undo_.undo(page_.text, caretOffset()));
+}
+
+void DesignSurface::redo()
+{
+    goTo(undo_.redo(page_.text, caretOffset()));
+}
+
+/// Takes out what is selected. The caret of the first cell that is emptied holds for all.
+SurfaceEdit DesignSurface::deletion() const
+{
+    const auto cells = selectedCells();
+    if (cells.empty()) return deleteRange(page_, selectedRange().from, selectedRange().to);
+    auto edit = deleteRange(page_, cells.front().from, cells.front().to);
+    for (auto cell = cells.begin() + 1; cell != cells.end(); ++cell)
+        addSplices(edit, deleteRange(page_, cell->from, cell->to));
+    return edit;
+}
+
+void DesignSurface::type(const QString& text, SurfaceUndo::Kind kind)
+{
+    if (text.isEmpty()) return;
+    const auto cells = selectedCells();
+    const auto first = cells.empty() ? selectedRange() : cells.front();
+    auto edit = typeText(page_, first.from, first.to, text.toStdU16String());
+    for (std::size_t cell = 1; cell < cells.size(); ++cell)
+        addSplices(edit, deleteRange(page_, cells[cell].from, cells[cell].to));
+    apply(edit, kind);
+}
+
+void DesignSurface::pasteHTML(std::string_view markup)
+{
+    const auto range = selectedRange();
+    apply(pasteMarkup(page_, range.from, range.to, markup));
+}
+
+void DesignSurface::deleteOr(const std::function<SurfaceEdit(PagePlace)>& edit)
+{
+    apply(hasSelection() ? deletion() : edit(caretPlace()));
+}
+
+/// Takes out the text up to the next border of a word in the block, else what a single key takes.
+void DesignSurface::deleteWord(QTextCursor::MoveOperation to)
+{
+    const auto caret = caretPlace();
+    auto cursor = textCursor();
+    cursor.movePosition(to);
+    const auto end = placeAtPosition(cursor.position());
+    if (end.block == caret.block && end != caret)
+        return apply(deleteRange(page_, std::min(caret, end), std::max(caret, end)));
+    const bool isBack = to == QTextCursor::PreviousWord;
+    apply(isBack ? deleteBackward(page_, caret) : deleteForward(page_, caret));
+}
+
+/// Takes out what is selected and puts it in at another place, as one step.
+void DesignSurface::moveSelectionTo(PagePlace target)
+{
+    const auto range = selectedRange();
+    if (range.empty() || (range.from <= target && target <= range.to)) return;
+    const auto out = deletion();
+    const auto markup = selectedMarkup();
+    const auto textBetween = edited(page_.text, out);
+    const auto pageBetween = readSurfacePage(textBetween);
+    const auto place = placeAt(pageBetween, offsetBehind(out, offsetAt(page_, target)));
+    const auto in = pasteMarkup(pageBetween, place, place, markup);
+    auto text = edited(textBetween, in);
+    undo_.add(page_.text, out, caretOffset(), SurfaceUndo::Kind::Other);
+    undo_.add(textBetween, in, out.caret, SurfaceUndo::Kind::SameStep);
+    showText(std::move(text), in.caret);
+}
+
+void DesignSurface::copy() const
+{
+    if (hasSelection()) QApplication::clipboard()->setMimeData(createMimeDataFromSelection());
+}
+
+void DesignSurface::cut()
+{
+    if (!hasSelection()) return;
+    copy();
+    apply(deletion());
+}
+
+void DesignSurface::paste()
+{
+    const auto* clip = QApplication::clipboard()->mimeData();
+    if (clip != nullptr) insertClip(*clip);
+}
+
+void DesignSurface::insertClip(const QMimeData& clip)
+{
+    const auto content = contentOf(clip);
+    if (const auto* markup = std::get_if<std::string>(&content)) pasteHTML(*markup);
+    if (const auto* text = std::get_if<QString>(&content)) type(*text, SurfaceUndo::Kind::Other);
+}
+
+bool DesignSurface::canInsertFromMimeData(const QMimeData* source) const
+{
+    return source != nullptr && holdsContent(*source);
+}
+
+// Comes from the middle button, which pastes what is marked elsewhere.
+void DesignSurface::insertFromMimeData(const QMimeData* source)
+{
+    if (source != nullptr) editByKey([this, source] { insertClip(*source); });
+}
+
+QMimeData* DesignSurface::createMimeDataFromSelection() const
+{
+    return clipOf(selectedMarkup(), selectedText()).release();
+}
+
+} // namespace quillmere

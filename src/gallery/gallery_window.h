@@ -1,0 +1,32 @@
+#pragma once
+
+#include "document/platform/work_files.h"
+
+#include <QMainWindow>
+
+class QLabel;
+class QPlainTextEdit;
+
+namespace quillmere {
+
+class DesignSurface;
+
+/// An area on the surface with its design text beside it, live. The caret's place is marked there
+/// and its offset told below.
+class GalleryWindow : public QMainWindow {
+    Q_OBJECT
+
+public:
+    explicit GalleryWindow(WorkFiles& files, QWidget* parent = nullptr);
+    [[nodiscard]] DesignSurface& surface() { return *surface_; }
+
+private:
+    void showText();
+    void showCaret();
+
+    DesignSurface* surface_;
+    QPlainTextEdit* text_;
+    QLabel* offset_;
+};
+
+} // namespace quillmere

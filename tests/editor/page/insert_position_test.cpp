@@ -1,0 +1,253 @@
+#include "editor/page/hit_test.h"
+
+#include "document/text/failure.h"
+#include "document/text/text_lines.h"
+#include "document/text/text_search.h"
+#include "support/deck_generator.h"
+#include "support/small_deck.h"
+#include "support/stopwatch.h"
+#include "support/token_soup.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cctype>
+#include <functional>
+
+namespace quillmere {
+namespace {
+
+std::string moved(std::string drawn)
+{
+    const auto at = drawn.find('|');
+    drawn.erase(at, 1);
+    const int position = ValidInsertPosition(static_cast<int>(at), drawn);
+    return drawn.insert(static_cast<std::size_t>(position), 1, '|');
+}
+
+TEST(ValidInsertPosition, MovesBehindWhatMayNotBeBroken)
+{
+    const struct {
+        const char* name;
+        std::string before;
+        std::string after;
+    } rows[] = {
+        {"in text", "<p>x|y</p>", "<p>x|y</p>"},
+        {"in a format", "<b>|x</b>", "<b>|x</b>"},
+        {"in a tag", "x<b|r/>y", "x<br/>|y"},
+        {"in an end tag", "<p>x</|p>y", "<p>x</p>|y"},
+        {"ahead of a link", "x|<a 1>y</a>", "x|<a 1>y</a>"},
+        {"in a link", "<a 1>y|</a>z", "<a 1>y</a>|z"},
+        {"in a link's tag", "<|a 1>y</a>z", "<a 1>y</a>|z"},
+        {"a link without end", "<a 1>x|y<a 2>z</a>", "<a 1>x|y<a 2>z</a>"},
+        {"an end without link", "x|y</a>", "x|y</a>"},
+        {"another name", "<abbr>x|</abbr><a 1></a>", "<abbr>x|</abbr><a 1></a>"},
+        {"in a picture", "<img 1>|</img>x", "<img 1></img>|x"},
+        {"in a cell", "<TABLE><tr><td>|x</td></tr></TABLE>y",
+            "<TABLE><tr><td>x</td></tr></TABLE>|y"},
+        {"in nested tables", "<table><table>|</table></table>x",
+            "<table><table></table></table>|x"},
+        {"behind an inner table", "<table><table></table>|</table>x",
+            "<table><table></table></table>|x"},
+        {"between options", "<!--select--><!--option-->A<!--/option-->|<!--/select--><br/>",
+            "<!--select--><!--option-->A<!--/option--><!--/select-->|<br/>"},
+        {"in a lone option", "<!--option 1-->A|<!--/option-->x",
+            "<!--option 1-->A<!--/option-->|x"},
+        {"in a do block", "<!--do 1-->|<!--go 2/--><!--/do-->x",
+            "<!--do 1--><!--go 2/--><!--/do-->|x"},
+        {"overlapping", "<a 1>|<table></a>x</table>y", "<a 1><table></a>x</table>|y"},
+        {"ahead of the card", "|<!--card 1--><HTML>", "<!--card 1-->|<HTML>"},
+        {"in the card's marker", "<!--ca|rd 1--><HTML>", "<!--card 1-->|<HTML>"},
+        {"in the frame", "<!--card 1--><BO|DY>x", "<!--card 1--><BODY>|x"},
+        {"in a comment", "<!-- a |<b> c -->x", "<!-- a <b> c -->|x"},
+        {"a comment without end", "<!-- a| <b> c", "<!-- a <b>| c"},
+        {"in an entity", "a&au|ml;b c", "a&auml;|b c"},
+        {"a name that needs no end", "a&au|ml b", "a&auml| b"},
+        {"in a number", "a&#8|722;b", "a&#8722;|b"},
+        {"an & in text", "R&|D x", "R&|D x"},
+        {"a stray bracket", "<b>x| > y > z</b>", "<b>x > y >| z</b>"},
+        {"no tag at all", "3 <| 5", "3 <| 5"},
+        {"at the end", "<a 1>x</a|", "<a 1>x</a|"},
+        {"behind all", "<b>x|", "<b>x|"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        EXPECT_EQ(moved(row.before), row.after);
+    }
+    EXPECT_EQ(ValidInsertPosition(-5, "xy"), 0);
+    EXPECT_EQ(ValidInsertPosition(99, "<a>"), 99);
+}
+
+// Slowly, one rule after the other and one place at a time.
+
+using Pieces = std::vector<SourceRange>;
+
+Pieces tagsOf(const std::string& text)
+{
+    Pieces tags;
+    for (std::size_t at = text.find('<'); at != npos;) {
+        auto end = text.find('>', at);
+        if (end == npos) break;
+        ++end;
+        if (text.compare(at, 4, "<!--") == 0 && text.find("-->", at + 2) != npos)
+            end = text.find("-->", at + 2) + 3;
+        tags.push_back({at, end});
+        at = text.find('<', end);
+    }
+    return tags;
+}
+
+struct Kind {
+    std::string start;
+    std::string end;
+    bool nests;
+};
+
+/// Where the element that begins with the tag `first` ends; npos where it does not.
+std::size_t elementEnd(
+    const std::string& text, const Pieces& tags, std::size_t first, const Kind& kind)
+{
+    const auto is = [&](const SourceRange& tag, const std::string& key) {
+        const auto behind = static_cast<unsigned char>(text[tag.begin + key.size()]);
+        return standsAt(text, tag.begin, key) && std::isalnum(behind) == 0;
+    };
+    if (!is(tags[first], kind.start)) return npos;
+    int depth = 1;
+    for (auto i = first + 1; i < tags.size(); ++i) {
+        if (is(tags[i], kind.start) && !kind.nests) return npos;
+        if (is(tags[i], kind.start)) ++depth;
+        if (is(tags[i], kind.end) && --depth == 0) return tags[i].end;
+    }
+    return npos;
+}
+
+Pieces closedPieces(const std::string& text)
+{
+    const Kind kinds[] = {{"<table", "</table", true}, {"<a", "</a", false},
+        {"<img", "</img", false}, {"<!--select", "<!--/select", false},
+        {"<!--option", "<!--/option", false}, {"<!--do", "<!--/do", false}};
+    const auto tags = tagsOf(text);
+    auto pieces = tags;
+    for (std::size_t i = 0; i < tags.size(); ++i) {
+        for (const Kind& kind : kinds) {
+            const auto end = elementEnd(text, tags, i, kind);
+            if (end != npos) pieces.push_back({tags[i].begin, end});
+        }
+    }
+    for (const std::string entity : {"&lt;", "&amp;", "&nbsp;", "&auml;"})
+        for (auto at = text.find(entity); at != npos; at = text.find(entity, at + 1))
+            pieces.push_back({at, at + entity.size()});
+    return pieces;
+}
+
+bool mayGoIn(const std::string& text, const Pieces& closed, std::size_t place)
+{
+    const auto card = text.find("<!--card");
+    const auto cardEnd = card == npos ? npos : text.find('>', card);
+    if (cardEnd != npos && place <= cardEnd) return false;
+    if (text.find('>', place) < text.find('<', place)) return false;
+    return std::ranges::none_of(
+        closed, [&](const SourceRange& piece) { return piece.begin < place && place < piece.end; });
+}
+
+/// The first place at or behind each place of the text where markup may go in.
+void expectFirstPlaces(const std::string& text)
+{
+    const auto closed = closedPieces(text);
+    auto expected = text.size();
+    for (auto place = text.size(); place-- > 0;) {
+        if (mayGoIn(text, closed, place)) expected = place;
+        ASSERT_EQ(ValidInsertPosition(static_cast<int>(place), text), static_cast<int>(expected))
+            << text << " at " << place;
+    }
+}
+
+TEST(ValidInsertPosition, IsTheFirstPlaceByAllRules)
+{
+    constexpr std::string_view kShort[]
+        = {"<a>", "</a>", "<table>", "</table>", "&lt;", "<", ">", "<!--", "-->", "x"};
+    test::forEachSequence(kShort, 4, expectFirstPlaces);
+    constexpr std::string_view kLong[] = {"<a href=\"#b\">", "</a>", "<TABLE>", "</table>", "<td>",
+        "<img src=\"x\">", "</img>", "<!--card id=\"a\"-->", "<!--select-->", "<!--/select-->",
+        "<!--option-->", "<!--/option-->", "<!--do-->", "<!--/do-->", "<!--", "-->", "&amp;", "&",
+        "<abbr>", "<p>", "</p>", "<", ">", "Text", " "};
+    for (std::uint64_t seed = 0; seed < 500; ++seed)
+        expectFirstPlaces(test::randomSoup(seed, kLong, 30));
+}
+
+/// Calls `use` with the design texts of generated decks, every other one broken.
+void forEachArea(const std::function<void(const std::string&)>& use)
+{
+    int areas = 0;
+    for (std::uint64_t seed = 0; seed < 40; ++seed) {
+        SCOPED_TRACE(seed);
+        test::SmallDeck deck;
+        try {
+            deck.load(test::generateDeck(seed, {.brokenness = seed % 2 == 0 ? 0 : 0.2}));
+        } catch (const RuntimeFailure&) {
+            continue;
+        }
+        for (std::size_t area = 0; area + 1 < deck.session.deck.size(); ++area, ++areas)
+            use(joinLines(deck.design(area)));
+    }
+    EXPECT_GT(areas, 40);
+}
+
+TEST(ValidInsertPosition, IsTheFirstPlaceInAreasOfDecks)
+{
+    forEachArea(expectFirstPlaces);
+}
+
+/// What the surface shows of a text, white space left out.
+std::u16string shownOf(const std::string& text)
+{
+    std::u16string shown;
+    for (const PageItem& item : readSurfacePage(text).items)
+        if (item.kind != ItemKind::Blank) shown += item.shown;
+    return shown;
+}
+
+bool hasOpenTable(const std::string& text)
+{
+    return std::ranges::any_of(readSurfacePage(text).elements, [](const PageElement& element) {
+        return element.kind == PageElement::Kind::Table && element.end.empty();
+    });
+}
+
+TEST(ValidInsertPosition, LetsMarkupInThatBreaksNothing)
+{
+    constexpr std::string_view kTag = "<hr/>"; // shown as one object
+    forEachArea([&](const std::string& text) {
+        if (hasOpenTable(text)) return; // between its rows any place is as good as another
+        const auto before = shownOf(text);
+        for (std::size_t place = 0; place < text.size(); place += 7) {
+            const auto position = ValidInsertPosition(static_cast<int>(place), text);
+            auto changed = text;
+            const auto after = shownOf(changed.insert(static_cast<std::size_t>(position), kTag));
+            const auto same = std::ranges::mismatch(before, after).in1 - before.begin();
+            auto expected = before;
+            expected.insert(static_cast<std::size_t>(same), 1, u'\uFFFC');
+            // Nothing is shown of the frame around the content.
+            ASSERT_TRUE(after == expected || after == before) << changed;
+        }
+    });
+}
+
+TEST(ValidInsertPosition, TakesNoLongerForHostileTexts)
+{
+    for (const std::string_view piece :
+        {"<", "<!--", "<!---", "&", "&#1", "<a", "<a>", "<table>", "<a><table>", "x>", "</a>"}) {
+        SCOPED_TRACE(piece);
+        std::string text;
+        while (text.size() + piece.size() <= 32767)
+            text += piece;
+        const auto time = [&](const std::string& whole) {
+            return test::millisecondsOf([&] { (void)ValidInsertPosition(1, whole); }, 3);
+        };
+        EXPECT_LT(time(text), 20);
+        EXPECT_LT(time(text.substr(0, text.size() - 1) + ">"), 20);
+    }
+}
+
+} // namespace
+} // namespace quillmere

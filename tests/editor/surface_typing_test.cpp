@@ -1,0 +1,221 @@
+#include "editor/surface_fixture.h"
+
+#include "document/text/limits.h"
+#include "editor/page/page_places.h"
+#include "support/area_texts.h"
+
+#include <QClipboard>
+#include <QInputMethodEvent>
+#include <QMimeData>
+
+#include <gtest/gtest.h>
+
+#include <functional>
+
+namespace quillmere {
+namespace {
+
+using test::ShownSurface;
+
+constexpr auto kControl = Qt::ControlModifier;
+constexpr auto kShift = Qt::ShiftModifier;
+
+void putIntoClipboard(const QString& text)
+{
+    QApplication::clipboard()->setText(text);
+}
+
+TEST(SurfaceTyping, PutsIntoTheTextWhatKeysMean)
+{
+    struct Row {
+        const char* name;
+        const char* before;
+        std::function<void(ShownSurface&)> keys;
+        const char* after;
+    };
+    const Row rows[] = {
+        {"umlauts", "<p>a|b</p>", [](auto& s) { s.type("\u00e4\u00df"); }, "<p>a\xe4\xdf|b</p>"},
+        {"escapes", "<p>|</p>", [](auto& s) { s.type("<&>"); }, "<p>&lt;&amp;&gt;|</p>"},
+        {"in a cell", "<td>x</td><table><tr><td>a|b<td>c</table>", [](auto& s) { s.type("x"); },
+            "<td>x</td><table><tr><td>ax|b<td>c</table>"},
+        {"Return twice", "<p>a|b</p>",
+            [](auto& s) {
+                s.press(Qt::Key_Return);
+                s.press(Qt::Key_Enter, Qt::KeypadModifier);
+            },
+            "<p>a<br/><br/>|b</p>"},
+        {"Shift and Return", "<p>a|</p>", [](auto& s) { s.press(Qt::Key_Return, kShift); },
+            "<p>a<br/>|</p>"},
+        {"Backspace over a picture", "<p>a<img src=\"x\"></img>|b</p>",
+            [](auto& s) { s.press(Qt::Key_Backspace); }, "<p>a|b</p>"},
+        {"Delete of an entity", "<p>a|&auml;b</p>", [](auto& s) { s.press(Qt::Key_Delete); },
+            "<p>a|b</p>"},
+        {"Ctrl and Backspace", "<p>eins zwei|</p>",
+            [](auto& s) { s.press(Qt::Key_Backspace, kControl); }, "<p>eins |</p>"},
+        {"Ctrl and Delete", "<p>|eins zwei</p>", [](auto& s) { s.press(Qt::Key_Delete, kControl); },
+            "<p>|zwei</p>"},
+        {"typing over a mark", "<p>a|bc|d</p>", [](auto& s) { s.type("x"); }, "<p>ax|d</p>"},
+        {"Shift, arrows and Delete", "<p>a|bcd</p>",
+            [](auto& s) {
+                s.press(Qt::Key_Right, kShift);
+                s.press(Qt::Key_Right, kShift);
+                s.press(Qt::Key_Delete);
+            },
+            "<p>a|d</p>"},
+        {"End and Home", "<p>a|b</p>",
+            [](auto& s) {
+                s.press(Qt::Key_End);
+                s.type("x");
+                s.press(Qt::Key_Home);
+                s.type("y");
+            },
+            "<p>y|abx</p>"},
+        {"keys that are no text", "<p>a|b</p>",
+            [](auto& s) {
+                s.press(Qt::Key_Escape, Qt::NoModifier, "\x1b");
+                s.press(Qt::Key_K, kControl, "\x0b");
+                s.press(Qt::Key_F5);
+                s.press(Qt::Key_B, kControl, "\x02");
+            },
+            "<p>a|b</p>"},
+        {"AltGr", "<p>|</p>", [](auto& s) { s.press(Qt::Key_At, kControl | Qt::AltModifier, "@"); },
+            "<p>@|</p>"},
+        {"undo of typing and of Return", "<p>a|</p>",
+            [](auto& s) {
+                s.type("bc");
+                s.press(Qt::Key_Return);
+                s.type("de");
+                s.press(Qt::Key_Z, kControl);
+                s.press(Qt::Key_Z, kControl);
+            },
+            "<p>abc|</p>"},
+        {"undo of all, then redo", "<p>a|b|</p>",
+            [](auto& s) {
+                s.type("xyz");
+                s.press(Qt::Key_Z, kControl);
+                s.press(Qt::Key_Z, kControl);
+                s.press(Qt::Key_Z, kControl | kShift);
+            },
+            "<p>axyz|</p>"},
+        {"cut and paste", "<p>a|b|<b>c</b></p>",
+            [](auto& s) {
+                s.press(Qt::Key_X, kControl);
+                s.press(Qt::Key_End);
+                s.press(Qt::Key_V, kControl);
+            },
+            "<p>a<b>cb|</b></p>"},
+        {"paste of plain text", "<p>a|b</p>",
+            [](auto& s) {
+                putIntoClipboard("<1>\nzwei");
+                s.press(Qt::Key_V, kControl);
+            },
+            "<p>a&lt;1&gt;<br/>zwei|b</p>"},
+        {"all", "<p>a|b</p><p>c</p>",
+            [](auto& s) {
+                s.press(Qt::Key_A, kControl);
+                s.type("x");
+            },
+            "<p>x|</p>"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        ShownSurface surface;
+        surface.give(row.before);
+        row.keys(surface);
+        EXPECT_EQ(surface.told(), row.after);
+        EXPECT_TRUE(surface.failures.isEmpty());
+    }
+}
+
+TEST(SurfaceTyping, TakesFromAnInputMethodWhatIsDecidedAndNothingElse)
+{
+    ShownSurface surface;
+    surface.give("<p>a|b</p>");
+    QInputMethodEvent composing("\u00a8", {});
+    QApplication::sendEvent(&surface, &composing);
+    EXPECT_EQ(surface.told(), "<p>a|b</p>");
+    QInputMethodEvent decided;
+    decided.setCommitString("\u00fc");
+    QApplication::sendEvent(&surface, &decided);
+    EXPECT_EQ(surface.told(), "<p>a\xfc|b</p>");
+    QInputMethodEvent corrected;
+    corrected.setCommitString("ue", -1, 1);
+    QApplication::sendEvent(&surface, &corrected);
+    EXPECT_EQ(surface.told(), "<p>aue|b</p>");
+    EXPECT_EQ(surface.document()->toPlainText(), "aueb");
+}
+
+TEST(SurfaceTyping, RefusesWhatIsTooLongAndLosesNothing)
+{
+    ShownSurface surface;
+    const std::string full = "<p>" + std::string(kMaxTextLength - 7, 'x') + "</p>";
+    surface.give(full);
+    surface.type("y");
+    EXPECT_EQ(surface.failures.size(), 1);
+    EXPECT_EQ(surface.DocumentHTML(), full);
+    EXPECT_EQ(surface.document()->characterCount(), static_cast<int>(kMaxTextLength - 7) + 1);
+    putIntoClipboard(QString(40000, u'z'));
+    surface.press(Qt::Key_V, kControl);
+    EXPECT_EQ(surface.failures.size(), 2);
+    EXPECT_EQ(surface.DocumentHTML(), full);
+    surface.press(Qt::Key_Delete);
+    EXPECT_EQ(surface.DocumentHTML().size(), full.size() - 1);
+}
+
+TEST(SurfaceTyping, TypesAtEveryPlaceWhereTheOffsetTells)
+{
+    ShownSurface surface;
+    test::forEachAreaText([&](const std::string& name, const std::string& text) {
+        if (text.size() > 1200) return;
+        SCOPED_TRACE(name);
+        const auto page = readSurfacePage(text);
+        for (std::size_t block = 0; block < page.blocks.size(); ++block)
+            for (std::size_t i = 0; i <= itemCount(page.blocks[block]); i += 3) {
+                surface.setDocumentHTML(text);
+                const auto offset = offsetAt(page, {block, i});
+                surface.setCaretOffset(offset);
+                ASSERT_EQ(surface.caretPlace(), (PagePlace{block, i}));
+                surface.type("x");
+                ASSERT_EQ(surface.DocumentHTML(), std::string(text).insert(offset, 1, 'x'));
+                surface.press(Qt::Key_Z, kControl);
+                ASSERT_EQ(surface.DocumentHTML(), text);
+            }
+    });
+}
+
+TEST(SurfaceTyping, StepsOverAtomsWhole)
+{
+    ShownSurface surface;
+    test::forEachAreaText([&](const std::string& name, const std::string& text) {
+        if (text.size() > 1200) return;
+        SCOPED_TRACE(name);
+        surface.setDocumentHTML(text);
+        std::size_t places = 0;
+        for (auto ahead = surface.textCursor().position() - 1;
+             ahead < surface.textCursor().position(); ++places) {
+            const auto offset = surface.caretOffset();
+            for (const auto& item : surface.page().items)
+                ASSERT_FALSE(item.source.begin < offset && offset < item.source.end);
+            ahead = surface.textCursor().position();
+            surface.press(Qt::Key_Right);
+        }
+        EXPECT_GE(places, surface.page().items.size() / 2);
+        EXPECT_EQ(surface.DocumentHTML(), text);
+    });
+}
+
+TEST(SurfaceTyping, TellsOfKeysAheadOfTheirEditAndBehindIt)
+{
+    ShownSurface surface;
+    surface.give("<p>|</p>");
+    std::vector<std::string> seen;
+    QObject::connect(&surface, &DesignSurface::onkeypress, &surface,
+        [&] { seen.push_back("press " + surface.DocumentHTML()); });
+    QObject::connect(&surface, &DesignSurface::onkeyup, &surface,
+        [&] { seen.push_back("up " + surface.DocumentHTML()); });
+    surface.type("x");
+    EXPECT_EQ(seen, (std::vector<std::string>{"press <p></p>", "up <p>x</p>"}));
+}
+
+} // namespace
+} // namespace quillmere

@@ -1,0 +1,19 @@
+#pragma once
+
+#include <functional>
+#include <string>
+
+// Design texts that what holds for every text is tried on.
+
+namespace quillmere::test {
+
+using UseText = std::function<void(const std::string&)>;
+
+/// Some thousand short texts of tags, markers, references and white space in any order, and all
+/// short sequences of a few of them.
+void forEachSoup(const UseText& use);
+
+/// The areas of generated decks with so many faults per element, 0 for none.
+void forEachDeckText(double faults, const UseText& use);
+
+} // namespace quillmere::test
