@@ -12,8 +12,9 @@ namespace {
 
 struct Candidate {
     std::uint32_t lastTag = 0;
-    bool hasCells = false;
     bool isWrong = false;
+    std::size_t rows = 0; // that have a cell
+    std::size_t columns = 0;
 };
 
 struct OpenTable {
@@ -21,6 +22,7 @@ struct OpenTable {
     bool rowIsOpen = false;
     bool cellIsOpen = false;
     bool isInterrupted = false;
+    std::size_t cellsInRow = 0;
 };
 
 class TableWalk {
@@ -38,6 +40,7 @@ private:
     void own(std::uint32_t index);
     void start(std::uint32_t index);
     void startPart(std::uint32_t index);
+    void startRow();
     void startCell();
     void end(std::uint32_t index);
     bool endPart(bool OpenTable::*part, std::size_t openParts);
@@ -92,7 +95,7 @@ void TableWalk::start(std::uint32_t index)
 {
     interrupt();
     open_.push_back({static_cast<std::uint32_t>(candidates_.size())});
-    candidates_.push_back({index, false, open_.size() > kMaxTableDepth});
+    candidates_.push_back({index, open_.size() > kMaxTableDepth});
     own(index);
 }
 
@@ -107,17 +110,24 @@ void TableWalk::startPart(std::uint32_t index)
     if (name != TagName::Row)
         startCell();
     else
-        openPart(&OpenTable::rowIsOpen, openRows_);
+        startRow();
+}
+
+void TableWalk::startRow()
+{
+    openPart(&OpenTable::rowIsOpen, openRows_);
+    open_.back().cellsInRow = 0;
 }
 
 void TableWalk::startCell()
 {
-    auto& candidate = candidates_[open_.back().candidate];
-    candidate.hasCells = true;
-    if (open_.back().rowIsOpen)
-        openPart(&OpenTable::cellIsOpen, openCells_);
-    else
+    auto& table = open_.back();
+    auto& candidate = candidates_[table.candidate];
+    if (table.cellsInRow++ == 0) ++candidate.rows;
+    candidate.columns = std::max(candidate.columns, table.cellsInRow);
+    if (!table.rowIsOpen || candidate.rows * candidate.columns > kMaxTableArea)
         candidate.isWrong = true;
+    if (table.rowIsOpen) openPart(&OpenTable::cellIsOpen, openCells_);
 }
 
 void TableWalk::end(std::uint32_t index)
@@ -171,7 +181,7 @@ std::vector<TableOutline> TableWalk::finish()
     for (auto& tag : tags_) {
         if (tag.table == kNoTag) continue;
         const auto& candidate = candidates_[tag.table];
-        if (candidate.isWrong || !candidate.hasCells) tag.table = kNoTag;
+        if (candidate.isWrong || candidate.rows == 0) tag.table = kNoTag;
     }
     std::vector<TableOutline> outlines;
     for (const auto& candidate : candidates_)

@@ -8,8 +8,10 @@
 
 namespace quillmere {
 
-/// Tables deeper than this within each other are chips.
-inline constexpr std::size_t kMaxTableDepth = 16;
+/// Tables deeper than this within each other are chips: each one doubles the time of a text layout.
+inline constexpr std::size_t kMaxTableDepth = 4;
+/// A table with more rows times columns is chips as well.
+inline constexpr std::size_t kMaxTableArea = 2000;
 
 /// The last tag of a table that fits: its </table>, or where that is missing the last </td>, </tr>
 /// or the like.
