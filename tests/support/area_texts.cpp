@@ -1,7 +1,7 @@
 #include "support/area_texts.h"
 
 #include "document/platform/files.h"
-#include "support/deck_generator.h"
+#include "generator/deck_generator.h"
 #include "support/small_deck.h"
 #include "support/token_soup.h"
 
@@ -49,9 +49,9 @@ void forEachAreaText(const Use& use)
     useFiles("/examples", ".wml",
         [&](const std::string& name, const std::string& text) { useDeck(name, text, use); });
     for (std::uint64_t seed = 1; seed <= kDecks; ++seed) {
-        DeckOptions options;
+        bench::DeckOptions options;
         options.brokenness = seed % 2 == 0 ? 0 : 0.3;
-        useDeck("deck " + std::to_string(seed), generateDeck(seed, options), use);
+        useDeck("deck " + std::to_string(seed), bench::generateDeck(seed, options), use);
     }
     for (std::uint64_t seed = 1; seed <= kSoups; ++seed)
         use("tags " + std::to_string(seed), randomSoup(seed, kTokens, 10 + seed));

@@ -1,6 +1,6 @@
 #include "support/design_samples.h"
 
-#include "support/deck_generator.h"
+#include "generator/deck_generator.h"
 #include "support/small_deck.h"
 #include "support/token_soup.h"
 
@@ -44,7 +44,7 @@ void forEachDeckText(double faults, const UseText& use)
 {
     for (std::uint64_t seed = 0; seed < 30; ++seed) {
         SmallDeck deck;
-        deck.load(generateDeck(seed, {.targetBytes = 1200, .brokenness = faults}));
+        deck.load(bench::generateDeck(seed, {.targetBytes = 1200, .brokenness = faults}));
         for (std::size_t area = 0; area + 1 < deck.session.deck.size(); ++area)
             use(deck.design(area));
     }

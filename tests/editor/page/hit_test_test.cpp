@@ -4,7 +4,7 @@
 #include "document/text/limits.h"
 #include "document/text/text_lines.h"
 #include "document/text/windows1252.h"
-#include "support/deck_generator.h"
+#include "generator/deck_generator.h"
 #include "support/small_deck.h"
 #include "support/token_soup.h"
 
@@ -165,7 +165,7 @@ TEST(HitTest, IsInsideWhereTheSurfaceShowsTheElement)
     for (std::uint64_t seed = 0; seed < 10; ++seed) {
         SCOPED_TRACE(seed);
         test::SmallDeck deck;
-        deck.load(test::generateDeck(seed, {.oneCard = true}));
+        deck.load(bench::generateDeck(seed, {.oneCard = true}));
         const auto page = readSurfacePage(joinLines(deck.design(0)));
         for (const PageItem& item : page.items) {
             SurfaceSelection selection;

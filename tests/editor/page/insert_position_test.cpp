@@ -3,7 +3,7 @@
 #include "document/text/failure.h"
 #include "document/text/text_lines.h"
 #include "document/text/text_search.h"
-#include "support/deck_generator.h"
+#include "generator/deck_generator.h"
 #include "support/small_deck.h"
 #include "support/stopwatch.h"
 #include "support/token_soup.h"
@@ -183,7 +183,7 @@ void forEachArea(const std::function<void(const std::string&)>& use)
         SCOPED_TRACE(seed);
         test::SmallDeck deck;
         try {
-            deck.load(test::generateDeck(seed, {.brokenness = seed % 2 == 0 ? 0 : 0.2}));
+            deck.load(bench::generateDeck(seed, {.brokenness = seed % 2 == 0 ? 0 : 0.2}));
         } catch (const RuntimeFailure&) {
             continue;
         }

@@ -1,7 +1,7 @@
 // What holds for every page, whatever its text.
 
 #include "editor/page/page_places.h"
-#include "support/deck_generator.h"
+#include "generator/deck_generator.h"
 #include "support/small_deck.h"
 #include "support/small_random.h"
 #include "support/stopwatch.h"
@@ -50,7 +50,7 @@ void forEachDeckText(const std::function<void(const std::string&)>& check)
     for (std::uint64_t seed = 0; seed < 30; ++seed) {
         SCOPED_TRACE(seed);
         test::SmallDeck deck;
-        deck.load(test::generateDeck(
+        deck.load(bench::generateDeck(
             seed, {.targetBytes = 1200, .brokenness = seed % 3 == 0 ? 0.2 : 0.0}));
         for (std::size_t area = 0; area + 1 < deck.session.deck.size(); ++area)
             check(deck.design(area));

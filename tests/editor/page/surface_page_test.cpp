@@ -1,4 +1,5 @@
 #include "editor/page/surface_page.h"
+#include "editor/page/table_outline.h"
 
 #include "support/page_drawing.h"
 
@@ -147,11 +148,11 @@ TEST(SurfacePage, ShowsTablesThatFit)
 TEST(SurfacePage, NestsTablesToALimit)
 {
     std::string text = "x";
-    for (int i = 0; i < 17; ++i)
+    for (std::size_t i = 0; i <= kMaxTableDepth; ++i)
         text = std::string("<table><tr><td>").append(text).append("</td></tr></table>");
     const auto page = readSurfacePage(text);
-    EXPECT_EQ(page.tables.size(), 16U);
-    EXPECT_EQ(page.cells.back().table, 15U);
+    EXPECT_EQ(page.tables.size(), kMaxTableDepth);
+    EXPECT_EQ(page.cells.back().table, kMaxTableDepth - 1);
     const auto& innermost = page.blocks[page.cells.back().firstBlock];
     EXPECT_EQ(innermost.content.in(text), "<table><tr><td>x</td></tr></table>");
 }
