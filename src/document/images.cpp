@@ -55,6 +55,14 @@ SplitPathResult splitSource(const std::string& path, const std::string& deckDire
     return {deckDirectory, path.substr(deckDirectory.size())};
 }
 
+/// The name that the file of a picture has. A deck names it in its own characters, while the disk
+/// has it in UTF-8 mostly.
+std::string nameOnDisk(const std::string& directory, const std::string& name)
+{
+    std::string utf8 = toUtf8(name);
+    return utf8 == name || fileExists(directory + name) ? name : utf8;
+}
+
 ImageEntry newEntry(
     const DisplayCopyName& display, const SplitPathResult& source, const DisplayCopy& copy)
 {
@@ -126,8 +134,9 @@ bool isSameFile(const std::string& left, const std::string& right)
 void copyPicture(const std::string& name, const std::string& fromDirectory,
     const std::string& toDirectory, Prompter& prompter)
 {
-    const std::string source = fromDirectory + name;
-    const std::string target = toDirectory + name;
+    const std::string file = nameOnDisk(fromDirectory, name);
+    const std::string source = fromDirectory + file;
+    const std::string target = toDirectory + file;
     const std::array<std::string, 1> gaps{name};
     if (!fileExists(source)) {
         prompter.show(word::kPictureNotCopied, gaps, MessageIcon::Warning);
@@ -159,11 +168,14 @@ std::string RegisterImage(DocumentSession& session, std::size_t areaIndex, const
         return known->displayDir + known->displayFile;
     if (!isPicturePath(path)) return {};
 
-    DisplayCopy copy = session.displayCopies.draw(path, alternativeText, groundOf(session));
+    const auto source = splitSource(path, area.deckDir);
+    DisplayCopy copy
+        = session.displayCopies.draw(source.directory + nameOnDisk(source.directory, source.name),
+            alternativeText, groundOf(session));
     const auto display = displayName(session, chosen);
     session.workFiles.write(display.directory + display.file, std::move(copy.bmp));
     session.imageColour = copy.imageColour;
-    area.images.back() = newEntry(display, splitSource(path, area.deckDir), copy);
+    area.images.back() = newEntry(display, source, copy);
     area.images.emplace_back();
     return display.directory + display.file;
 }
