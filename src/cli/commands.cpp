@@ -14,8 +14,9 @@ constexpr Command kCommands[] = {
         "Decks gehen mit --out-dir oder jedes an seinen Ort. Schlägt ein Deck fehl, bleibt\n"
         "seine Datei, wie sie war, und die nächsten folgen. Ist ein Ergebnis nicht\n"
         "wohlgeformt, steht das auf der Standardfehlerausgabe; geschrieben wird es trotzdem.\n"
-        "--keep-work schreibt seine Dateien vor dem Deck, und --backup seine Kopie, wenn das\n"
-        "Deck sich ändert. --json gibt ein einziges JSON-Dokument aus, eine Liste mit einem\n"
+        "--keep-work schreibt seine Dateien vor dem Deck und ersetzt, was schon so heißt; was\n"
+        "von einem Deck mit mehr Bereichen daliegt, bleibt. --backup schreibt seine Kopie, wenn\n"
+        "das Deck sich ändert. --json gibt ein einziges JSON-Dokument aus, eine Liste mit einem\n"
         "Objekt je Deck; was fehlschlug, hat darin „error“.",
         &runRepair},
     {"areas", "DECK.wml [--json]", "zeigt die Bereiche eines Decks", "j",

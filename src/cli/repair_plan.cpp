@@ -43,10 +43,20 @@ void requireOthersThan(const RepairPlan& plan, const std::string& input)
     }
 }
 
-// A folder that is still to be made is not asked.
+/// Whether the folder comes about ahead of the result in it.
+bool isStillToBeMade(const std::string& folder, const Arguments& arguments)
+{
+    std::error_code ignored;
+    if (folder.empty() || fs::is_directory(folder, ignored)) return false;
+    if (arguments.outDir) return true;
+    return arguments.keepWork
+        && NormalisePath(*arguments.keepWork).starts_with(NormalisePath(folder));
+}
+
 void requireWritable(const Arguments& arguments, const RepairPlan& plan)
 {
-    if (plan.output == "-" || (arguments.outDir && !fs::is_directory(*arguments.outDir))) return;
+    if (plan.output == "-") return;
+    if (isStillToBeMade(SplitPath(plan.output).directory, arguments)) return;
     requireReplaceable(plan.output);
 }
 
@@ -95,7 +105,8 @@ RepairPlan planRepair(const Arguments& arguments, const std::string& input, std:
     if (arguments.backup && readFile(input) != written) plan.backup = freeBackupName(input);
     if (arguments.keepWork) plan.workFiles = workFileNames(*arguments.keepWork, areas);
     requireOthersThan(plan, input);
-    if (arguments.dryRun) requireWritable(arguments, plan);
+    // Work files must not be left of a deck that then cannot be written.
+    if (arguments.dryRun || arguments.keepWork) requireWritable(arguments, plan);
     return plan;
 }
 

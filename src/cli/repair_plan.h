@@ -32,7 +32,8 @@ struct RepairPlan {
 
 /// Where `written`, the repaired deck `input`, and its areas' work files go. Throws BadArguments
 /// where a work file would be the deck or the result, and where what is no ordinary file would be
-/// replaced by itself.
+/// replaced by itself; FileFailure where it is seen that the result cannot be written, as far as a
+/// dry run or work files ask for it.
 [[nodiscard]] RepairPlan planRepair(const Arguments& arguments, const std::string& input,
     std::size_t areas, std::string_view written);
 
