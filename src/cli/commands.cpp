@@ -35,7 +35,9 @@ constexpr Command kCommands[] = {
         "o", "Zeichnet das Bild auf dem Grund des Geräts, wie die Bearbeitung es zeigt.",
         &runWbmpShow},
     {"words", "[NUMMER [TEXT]...]", "zeigt die Texte des Programms", "w",
-        "Ohne Nummer alle, die nicht leer sind; sonst einen, mit den Texten in seinen Lücken.",
+        "Ohne Nummer alle, die nicht leer sind; sonst einen, mit den Texten in seinen Lücken.\n"
+        "Gelesen wird ResWords.res oder, wo sie fehlt, ResWords.ini, aus der sie dann entsteht:\n"
+        "Eine geänderte ResWords.ini gilt, sobald ResWords.res gelöscht ist.",
         &runWords},
 };
 
