@@ -1,10 +1,11 @@
 // Everything that can fail stands ahead of the first change of the deck. Held by images_test.cpp.
 
 #include "document/images.h"
-#include "document/design_page.h"
 
+#include "document/design_page.h"
 #include "document/design_text.h"
 #include "document/image_tags.h"
+#include "document/picture_name.h"
 #include "document/platform/files.h"
 #include "document/platform/paths.h"
 #include "document/platform/word_ids.h"
@@ -53,14 +54,6 @@ SplitPathResult splitSource(const std::string& path, const std::string& deckDire
 {
     if (!path.starts_with(deckDirectory)) return SplitPath(path);
     return {deckDirectory, path.substr(deckDirectory.size())};
-}
-
-/// The name that the file of a picture has. A deck names it in its own characters, while the disk
-/// has it in UTF-8 mostly.
-std::string nameOnDisk(const std::string& directory, const std::string& name)
-{
-    std::string utf8 = toUtf8(name);
-    return utf8 == name || fileExists(directory + name) ? name : utf8;
 }
 
 ImageEntry newEntry(
