@@ -255,7 +255,7 @@ std::optional<DeckFault> deckFault(std::string_view written)
     const auto verdict = verdictOnPlainMarkup(written);
     const auto fault = verdict ? verdict->fault : firstFault(written, readMarkup(written));
     if (!fault) return std::nullopt;
-    return placed(*fault, TextPlaces(written));
+    return placed(*fault, TextPlaces(written.substr(0, fault->offset + 1)));
 }
 
 DeckChangesReport DeckChanges(std::string_view read, std::string_view written)
