@@ -51,8 +51,8 @@ public:
     /// (enabled).
     [[nodiscard]] int QueryStatus(int id) const;
     void SaveDocument(const std::string& path) override;
-    /// Shows a design work file; "file://" ahead of its path is dropped. Where it is the one that is
-    /// shown, the caret stays at what it stands at. Nothing can be undone then.
+    /// Shows a design work file; "file://" ahead of its path is dropped. Where it is the one that
+    /// is shown, the caret stays at what it stands at. Nothing can be undone then.
     void LoadURL(const std::string& path);
     void NewDocument();
     [[nodiscard]] const std::string& DocumentHTML() const { return page_.text; }
@@ -87,8 +87,8 @@ public:
     void setFontFamily(const QString& family);
     void setFontSizePx(int size);
 
-    /// Where the element that the mouse pressed on was put into a table, the text of the press comes
-    /// back, elementMovedIntoTable() is sent, and the answer is true.
+    /// Where the element that the mouse pressed on was put into a table, the text of the press
+    /// comes back, elementMovedIntoTable() is sent, and the answer is true.
     bool CheckElementMovedIntoTable();
 
     [[nodiscard]] const SurfacePage& page() const { return page_; }

@@ -143,8 +143,7 @@ DesignSurface::Element DesignSurface::controlElement(const Control& control) con
     if (item == nullptr) return elementOf("body", {});
     const auto source = item->source;
     const auto end = page_.text.find('>', source.begin);
-    return elementOf(
-        nameOf(source.in(page_.text)), {source.begin, std::min(end + 1, source.end)});
+    return elementOf(nameOf(source.in(page_.text)), {source.begin, std::min(end + 1, source.end)});
 }
 
 SurfaceSelection DesignSurface::selection() const
