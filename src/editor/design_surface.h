@@ -120,6 +120,8 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void dropEvent(QDropEvent* event) override;
+    /// Whether a drop is of what was dragged on this surface.
+    [[nodiscard]] virtual bool comesFromHere(const QDropEvent& event) const;
     void paintEvent(QPaintEvent* event) override;
     bool viewportEvent(QEvent* event) override;
     [[nodiscard]] bool canInsertFromMimeData(const QMimeData* source) const override;
@@ -165,6 +167,7 @@ private:
     [[nodiscard]] Element elementOf(std::string tag, SourceRange source) const;
     [[nodiscard]] Element controlElement(const Control& control) const;
     [[nodiscard]] Element elementAt(QPoint viewportPoint) const;
+    [[nodiscard]] SourceRange sourceOf(const Range& range) const;
     [[nodiscard]] SourceRange joined(SourceRange range) const;
     [[nodiscard]] Element told(Element element) const;
     [[nodiscard]] QRectF controlRect() const;

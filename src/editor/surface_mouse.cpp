@@ -158,7 +158,7 @@ void DesignSurface::dropEvent(QDropEvent* event)
     QDragLeaveEvent leave; // takes the caret that shows the target away
     QTextEdit::dragLeaveEvent(&leave);
     const auto target = placeAtPosition(cursorForPosition(event->position().toPoint()).position());
-    const bool isInside = event->source() == this || event->source() == viewport();
+    const bool isInside = comesFromHere(*event);
     droppedInside_ = isInside;
     if (!canInsertFromMimeData(event->mimeData())) return event->ignore();
     const bool done = editByKey([&] {
@@ -174,6 +174,11 @@ void DesignSurface::dropEvent(QDropEvent* event)
     }
     CheckElementMovedIntoTable();
     emit onkeyup(elementOf("body", {}));
+}
+
+bool DesignSurface::comesFromHere(const QDropEvent& event) const
+{
+    return event.source() == this || event.source() == viewport();
 }
 
 bool DesignSurface::CheckElementMovedIntoTable()

@@ -159,8 +159,18 @@ SurfaceSelection DesignSurface::selection() const
         told.type = SurfaceSelection::Type::Text;
     }
     told.event = event_;
-    told.marked = joined({offsetAt(page_, range.from), offsetAt(page_, range.to)});
+    told.marked = joined(sourceOf(range));
     return told;
+}
+
+/// From the first to the last item that is marked, without the tags round them: so it begins and
+/// ends in the same link or option wherever they do.
+SourceRange DesignSurface::sourceOf(const Range& range) const
+{
+    const auto first = page_.blocks[range.from.block].firstItem + range.from.offset;
+    const auto end = page_.blocks[range.to.block].firstItem + range.to.offset;
+    if (first >= end) return {offsetAt(page_, range.from), offsetAt(page_, range.to)};
+    return {page_.items[first].source.begin, page_.items[end - 1].source.end};
 }
 
 /// An element as it is told to others, who know the text with its lines joined.
