@@ -49,6 +49,14 @@ inline constexpr SettingRule kSettings[] = {
     {"HelpFileBigFont", SeedWhen::Never, ""},
     {"LastPath1", SeedWhen::Never, ""},
     {"LastKonverterChoicePath", SeedWhen::Never, ""},
+    {"RecentDeck1", SeedWhen::Never, ""},
+    {"RecentDeck2", SeedWhen::Never, ""},
+    {"RecentDeck3", SeedWhen::Never, ""},
+    {"RecentDeck4", SeedWhen::Never, ""},
+    {"RecentDeck5", SeedWhen::Never, ""},
+    {"RecentDeck6", SeedWhen::Never, ""},
+    {"RecentDeck7", SeedWhen::Never, ""},
+    {"RecentDeck8", SeedWhen::Never, ""},
 };
 
 /// What the seeds are made of and tested against.
