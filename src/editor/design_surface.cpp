@@ -109,9 +109,10 @@ void DesignSurface::setDocumentHTML(std::string text)
     showAnew(std::move(text), 0);
 }
 
+// Keys and clicks wait until the operation is done, so that none of them meets half of it.
 void DesignSurface::yieldToEvents()
 {
-    QCoreApplication::processEvents();
+    QCoreApplication::processEvents(QEventLoop::ExcludeUserInputEvents);
 }
 
 void DesignSurface::setLook(const SurfaceStyle& look)
