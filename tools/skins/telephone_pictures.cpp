@@ -21,7 +21,7 @@ void drawShadow(QPainter& painter, const QRectF& place, double corner)
 {
     constexpr int kReach = 8;
     painter.setPen(Qt::NoPen);
-    painter.setBrush(QColor(0, 0, 0, 9));
+    painter.setBrush(QColor(0, 0, 0, 6));
     for (int step = kReach; step > 0; --step) {
         const auto spread = place.adjusted(-step, -step, step, step).translated(0, 3);
         painter.drawRoundedRect(spread, corner + step, corner + step);

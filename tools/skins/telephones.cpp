@@ -15,7 +15,7 @@ constexpr int kPreviewWidth = 400; // of the window round a telephone that is no
 constexpr BodyPart kKeypadBody[] = {{{20, 8, 260, 616}, 58}};
 constexpr BodyPart kWideBody[] = {{{12, 8, 656, 344}, 40}};
 constexpr BodyPart kFoldingBody[] = {{{20, 8, 260, 292}, 34}, {{20, 312, 260, 320}, 34},
-    {{58, 292, 56, 28}, 12}, {{122, 290, 56, 32}, 12}, {{186, 292, 56, 28}, 12}};
+    {{46, 292, 64, 28}, 12}, {{118, 292, 64, 28}, 12}, {{190, 292, 64, 28}, 12}};
 
 constexpr Telephone kTelephones[] = {
     {
@@ -48,7 +48,7 @@ constexpr Telephone kTelephones[] = {
         .picture = {20, 64, 680, 366},
         .body = kWideBody,
         .engraving = {40, 24, 452, 20},
-        .speaker = {596, 44, 6, 40},
+        .speaker = {560, 60, 40, 6},
         .bezel = {36, 48, 468, 212},
         .bezelCorner = 16,
         .screen = {48, 60, 444, 188},
