@@ -104,7 +104,7 @@ private:
     void wireSurface();
     void makeTools();
     [[nodiscard]] ToolLabel* makeLabel(const char* name);
-    void placeFreely(const SkinRecord& skin);
+    void takeSkin(const SkinRecord& skin);
     void makeMenus();
     void makeKeys();
     void Form_Activate();
@@ -257,6 +257,7 @@ private:
 
     std::string surfaceShows_; ///< the design work file that the surface was loaded from
     std::optional<SurfaceStyle> skinLook_; ///< of the surface, by the skin
+    PageStyle pageStyle_;
     QRegion outline_;
     QTimer idle_;
     bool idleFailed_ = false; ///< and was told
