@@ -70,6 +70,7 @@ std::string quoted(const std::string& path)
 void showDeck(Session& session, bool isChanged)
 {
     session.document.currentArea = 0;
+    session.deckFile.remember(placeOf(session).path());
     session.window->SetScriptUndoFlagsBack();
     session.window->setDocChanged(isChanged);
     session.window->RefreshSurface();
@@ -183,16 +184,21 @@ bool writeDeck(Session& session, const DeckPlace& old)
 /// The main window saves to where the records point. So the old file is never touched.
 bool saveAt(Session& session, const DeckPlace& place, const DeckPlace& old)
 {
-    bool isSaved = false;
-    setPlace(session.document.deck, place);
-    try {
-        isSaved = writeDeck(session, old);
-    } catch (...) {
+    const auto oldFile = session.deckFile;
+    const auto goBack = [&] {
         setPlace(session.document.deck, old);
+        session.deckFile = oldFile;
+    };
+    setPlace(session.document.deck, place);
+    session.deckFile.remember(place.path()); // what stands there may be replaced
+    try {
+        if (!writeDeck(session, old)) return goBack(), false;
+    } catch (...) {
+        goBack();
         throw;
     }
-    if (!isSaved) setPlace(session.document.deck, old);
-    return isSaved;
+    session.deckFile.remember(place.path());
+    return true;
 }
 
 bool mayReplace(Session& session, const DeckPlace& place, int word)
