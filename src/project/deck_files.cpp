@@ -82,8 +82,8 @@ void requireOrdinaryFile(const std::string& path)
 {
     if (!fileExists(path) || regularFileExists(path)) return;
     throw FileFailure("Die Datei " + quoted(path)
-        + " kann nicht geöffnet werden: sie ist keine gewöhnliche "
-          "Datei. Es wurde nichts geändert.");
+        + " kann nicht geöffnet werden: sie ist keine gewöhnliche Datei. Es wurde nichts "
+          "geändert.");
 }
 
 // A picture or a program, or text in 16 bits a character.
@@ -100,15 +100,17 @@ void requireText(const DocumentSession& session, const std::string& path)
 /// The failure of a deck with its file's name in it.
 RuntimeFailure named(const RuntimeFailure& failure, const std::string& path)
 {
-    return RuntimeFailure("Das Dokument in der Datei " + quoted(path)
-        + " kann nicht geöffnet werden: " + failure.utf8() + ". Es wurde nichts geändert.");
+    const auto text = "Das Dokument in der Datei " + quoted(path)
+        + " kann nicht geöffnet werden: " + failure.utf8() + ". Es wurde nichts geändert.";
+    return RuntimeFailure{text};
 }
 
 RuntimeFailure tooLong(const std::string& path)
 {
-    return RuntimeFailure("Das Dokument in der Datei " + quoted(path)
+    const auto text = "Das Dokument in der Datei " + quoted(path)
         + " ist zu lang (Überlauf): ein Dokument kann höchstens 32767 Zeichen haben. Es wurde "
-          "nichts geändert.");
+          "nichts geändert.";
+    return RuntimeFailure{text};
 }
 
 void load(Session& session, const DeckPlace& place)
