@@ -92,14 +92,27 @@ private:
             joinBehind(end);
     }
 
+    /// Puts a paragraph round lines that have none. A <br> to a line beside them goes, since the
+    /// paragraph's border takes its place.
     void wrap(std::size_t first, std::size_t end)
     {
         const auto begin = lines_[first].source.begin;
         const auto last = lines_[end - 1].source.end;
-        splices_.push_back({{begin, begin},
+        const auto ahead
+            = first > 0 && hasBreakBetween(first) ? lines_[first - 1].source.end : begin;
+        const auto behind = hasBreakBetween(end) ? lines_[end].source.begin : last;
+        splices_.push_back({{ahead, begin},
             CloseOpenParagraphs(page_, kNone, begin, paragraphTag(wanted_)), true});
         splices_.push_back(
-            {{last, last}, CloseOpenParagraphs(page_, kNone, last, kParagraphEnd), false});
+            {{last, behind}, CloseOpenParagraphs(page_, kNone, last, kParagraphEnd), false});
+    }
+
+    /// Whether a <br> and nothing else parts a line from the one ahead, and neither is empty.
+    [[nodiscard]] bool hasBreakBetween(std::size_t line) const
+    {
+        return line < lines_.size() && !lines_[line].source.empty()
+            && !lines_[line - 1].source.empty()
+            && standsAt(page_.text, lines_[line - 1].source.end, "<br");
     }
 
     /// Puts the border of two paragraphs between a line and the one ahead of it.

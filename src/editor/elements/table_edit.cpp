@@ -116,7 +116,8 @@ std::vector<Row> rowsOf(std::string_view text, SourceRange table)
 {
     std::vector<Row> rows;
     for (const auto source : piecesOf(text, "<tr>", "</tr", table)) {
-        Row row{source, piecesOf(text, "<td>", "</td", source), false};
+        const auto rowEnd = std::min(findIgnoringCase(text, "</tr", source.begin), source.end);
+        Row row{source, piecesOf(text, "<td>", "</td", {source.begin, rowEnd}), false};
         const auto all = countOf(text, "<td", source) + countOf(text, "<th", source);
         row.hasOtherCells = all > row.cells.size();
         rows.push_back(std::move(row));

@@ -5,6 +5,7 @@
 
 #include "editor/elements/text_formats.h"
 
+#include "document/text/failure.h"
 #include "document/text/limits.h"
 #include "editor/elements/format_units.h"
 #include "editor/page/page_edits.h"
@@ -129,26 +130,36 @@ std::string rewritten(std::string_view text, const FormatRegion& region)
 }
 
 /// The items that are no blanks, which no format makes or takes.
-std::vector<SourceRange> firmItems(const SurfacePage& page)
+std::vector<PageItem> firmItems(const SurfacePage& page)
 {
-    std::vector<SourceRange> items;
+    std::vector<PageItem> items;
     for (const auto& item : page.items)
-        if (item.kind != ItemKind::Blank) items.push_back(item.source);
+        if (item.kind != ItemKind::Blank) items.push_back(item);
     return items;
 }
 
-/// The place in the changed text of what was marked.
+void requireSameItems(const std::vector<PageItem>& before, const std::vector<PageItem>& now)
+{
+    const bool areSame = std::ranges::equal(before, now, {}, &PageItem::shown, &PageItem::shown);
+    if (!areSame)
+        throw RuntimeFailure("Der Text lässt sich an dieser Stelle nicht formatieren, weil ein "
+                             "einzelnes „<“ darin steht. Er ist unverändert.");
+}
+
+/// The place in the changed text of what was marked. Throws where the text is not the same: a tag
+/// that went may have kept a stray "<" ahead of it apart from what follows.
 SourceRange markedIn(const std::string& changed, const SurfacePage& before, SourceRange marked)
 {
     const auto firm = firmItems(before);
-    const auto first
-        = std::ranges::find_if(firm, [&](SourceRange item) { return item.end > marked.begin; });
-    const auto last
-        = std::ranges::find_if(firm, [&](SourceRange item) { return item.begin >= marked.end; });
     const auto now = firmItems(readSurfacePage(changed));
-    if (first >= last || now.size() != firm.size()) return {marked.begin, marked.begin};
-    return {now[static_cast<std::size_t>(first - firm.begin())].begin,
-        now[static_cast<std::size_t>(last - firm.begin()) - 1].end};
+    requireSameItems(firm, now);
+    const auto first = std::ranges::find_if(
+        firm, [&](const PageItem& item) { return item.source.end > marked.begin; });
+    const auto last = std::ranges::find_if(
+        firm, [&](const PageItem& item) { return item.source.begin >= marked.end; });
+    if (first >= last) return {marked.begin, marked.begin};
+    return {now[static_cast<std::size_t>(first - firm.begin())].source.begin,
+        now[static_cast<std::size_t>(last - firm.begin()) - 1].source.end};
 }
 
 } // namespace

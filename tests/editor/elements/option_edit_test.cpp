@@ -56,7 +56,7 @@ TEST(SetOption, MakesOrJoinsAList)
         {"joins a list ahead", kOne, 100, "<p>x<!--select-->[a][n]<!--/select--><br/>|y</p>"},
         {"joins a list behind", kOne, 3, "<p>x<!--select-->[a][n]<!--/select--><br/>|y</p>"},
         {"joins the next of two lists",
-            "<!--select-->[a]<!--/select-->x<!--select-->[b]<!--/select-->y", 115,
+            "<!--select-->[a]<!--/select-->x<!--select-->[b]<!--/select-->y", 140,
             "<!--select-->[a]<!--/select-->x<!--select-->[b][n]<!--/select-->|y"},
     };
     for (const auto& row : cases) {

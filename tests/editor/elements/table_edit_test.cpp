@@ -63,7 +63,7 @@ TEST(SetTable, ChangesWhatIsWanted)
             table("n", "R", 5, 3),
             "<TABLE title=\"n\" align=\"R\" columns=\"3\" border=1><TR><TD>|x</TD></TR></TABLE>"},
         {"no attributes", "<table><tr><td>x</td></tr></table>", table("n", "L", 1, 1),
-            "<table title=\"n\" columns=\"1\"  align=\"L\" ><tr><td>|x</td></tr></table>"},
+            "<table title=\"n\" columns=\"1\"  align=\"L\"  ><tr><td>|x</td></tr></table>"},
         {"fewer columns keep the first cells",
             "<table title=\"n\" align=\"L\" "
             "columns=\"3\"><tr><td>a</td><td>b</td><td>c</td></tr></table>",
