@@ -43,6 +43,7 @@ bool isOutdated(const SettingRule& rule, const std::string& value, const FileSys
     case SeedWhen::Empty:
         return value.empty();
     case SeedWhen::FileMissing:
+    case SeedWhen::WrittenFileMissing:
         return value.empty() || !files.fileExists(value);
     case SeedWhen::SkinsMissing:
         return value.empty() || !holdsSkins(value, files);
@@ -56,7 +57,10 @@ bool isOutdated(const SettingRule& rule, const std::string& value, const FileSys
 std::string seedOf(const SettingRule& rule, const ProgramPlaces& places)
 {
     if (rule.when == SeedWhen::Empty) return std::string(rule.seed);
-    return places.appPath + inStyle(rule.seed, places.style);
+    const bool isWritten
+        = rule.when == SeedWhen::SkinsMissing || rule.when == SeedWhen::WrittenFileMissing;
+    const bool isElsewhere = isWritten && !places.writablePath.empty();
+    return (isElsewhere ? places.writablePath : places.appPath) + inStyle(rule.seed, places.style);
 }
 
 bool isTemplateRule(const SettingRule& rule)

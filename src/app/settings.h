@@ -15,6 +15,7 @@ namespace quillmere {
 enum class SeedWhen {
     Empty, ///< no value yet
     FileMissing, ///< no value yet, or the file that it names is not there
+    WrittenFileMissing, ///< the same for a file that the program writes
     SkinsMissing, ///< no value yet, or no directory of skin files
     CdRomTemplates, ///< this or the other template directory has no value, and there is a CD-ROM
     Never
@@ -39,7 +40,7 @@ inline constexpr SettingRule kSettings[] = {
     {"ShowStartDialog", SeedWhen::Empty, "Yes"},
     {"StandardOutput", SeedWhen::Empty, "No"},
     {"Skins", SeedWhen::SkinsMissing, "Skins\\"},
-    {"ConnectFile", SeedWhen::FileMissing, "Connect\\Connect.ini"},
+    {"ConnectFile", SeedWhen::WrittenFileMissing, "Connect\\Connect.ini"},
     {"HelpFile", SeedWhen::FileMissing, "Help\\Quillmere_Help.hlp"},
     {"HyperlinkFile", SeedWhen::FileMissing, "Links\\Links.htm"},
     {"LogoFile", SeedWhen::FileMissing, "Logo.ico"},
@@ -48,6 +49,14 @@ inline constexpr SettingRule kSettings[] = {
     {"HelpFileBigFont", SeedWhen::Never, ""},
     {"LastPath1", SeedWhen::Never, ""},
     {"LastKonverterChoicePath", SeedWhen::Never, ""},
+    {"RecentDeck1", SeedWhen::Never, ""},
+    {"RecentDeck2", SeedWhen::Never, ""},
+    {"RecentDeck3", SeedWhen::Never, ""},
+    {"RecentDeck4", SeedWhen::Never, ""},
+    {"RecentDeck5", SeedWhen::Never, ""},
+    {"RecentDeck6", SeedWhen::Never, ""},
+    {"RecentDeck7", SeedWhen::Never, ""},
+    {"RecentDeck8", SeedWhen::Never, ""},
 };
 
 /// What the seeds are made of and tested against.
@@ -56,6 +65,7 @@ struct ProgramPlaces {
     const FileSystem& files;
     const Drives& drives;
     PathStyle style = kNativePathStyle;
+    std::string writablePath{}; ///< of Skins and Connect where `appPath` cannot be written
 };
 
 /// Writes the seed of each setting that has none or names what is not there any more. The template

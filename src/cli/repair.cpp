@@ -1,5 +1,7 @@
 // Each deck gets a session of its own, so that one deck cannot touch the next and memory stays that
-// of one deck. Held by tests/cli/repair_test.cpp.
+// of one deck. Where the results go to another folder, some decks are repaired and then all of them
+// written: the waits for the disk make the processor forget the program, which costs more time than
+// the repair. Held by tests/cli/repair_test.cpp.
 
 #include "cli/commands.h"
 #include "cli/core_session.h"
@@ -22,11 +24,30 @@ namespace quillmere::cli {
 
 namespace {
 
+constexpr std::size_t kDecksAtOnce = 32;
+constexpr std::size_t kBytesAtOnce = 0x10000;
+
+/// A deck that waits to be written, or what kept it from being repaired.
+struct RepairedDeck {
+    std::string input;
+    std::string written;
+    RepairPlan plan;
+    std::vector<std::string> areaTexts; ///< for the work files of the plan
+    std::optional<DeckChangesReport> changes; ///< where they are told
+    std::optional<std::string> doubt; ///< whether it was a deck
+    std::optional<DeckFault> fault; ///< of what is written
+    std::optional<Problem> problem;
+};
+
 /// What the decks of one call have in common.
 struct Run {
     const Arguments& arguments;
+    RepairPlanner planner;
     RepairReport report;
     FileReplacements files;
+    std::vector<RepairedDeck> waiting; ///< to be written
+    std::size_t waitingBytes = 0;
+    ExitStatus status = ExitStatus::Done;
 };
 
 /// Repairs the deck in the session and returns what is to be written.
@@ -47,37 +68,83 @@ std::string repairedAgain(
 }
 
 // No file is written over with what was made of something that is no deck.
-void checkIsDeck(const Arguments& arguments, const std::string& input, const CoreSession& core)
+std::optional<std::string> checkIsDeck(
+    const Run& run, const std::string& input, const CoreSession& core)
 {
-    const auto doubt = doubtAbout(input, core.session);
-    if (!doubt) return;
-    if (arguments.output != "-" && samePlace(outputPath(arguments, input), input))
+    auto doubt = doubtAbout(input, core.session);
+    if (doubt && run.arguments.output != "-" && samePlace(run.planner.outputPath(input), input))
         throw FileFailure(*doubt + " Es wurde nichts geändert; umwandeln lässt sie sich mit -o.");
-    complain(*doubt);
+    return doubt;
 }
 
-void warnUnlessWellFormed(const Run& run, const std::string& input, std::string_view written)
+std::vector<std::string> areaTextsOf(const CoreSession& core)
 {
-    if (run.arguments.json) return; // the document tells it
-    if (const auto fault = deckFault(written))
-        complain(input + ": " + toUtf8(describeFault(*fault)));
+    std::vector<std::string> texts;
+    for (std::size_t area = 0; area < areaCount(core.session.deck); ++area) {
+        const DeckRecord& record = core.session.deck[area];
+        texts.push_back(core.workFiles.read(record.designDir + record.designFile));
+    }
+    return texts;
 }
 
-void repairOne(Run& run, const std::string& input)
+void repairOne(const Run& run, RepairedDeck& deck)
 {
     const Arguments& arguments = run.arguments;
     CoreSession core(arguments.standardOutput);
-    const std::string written = repairInto(core, input);
-    const Deck& deck = core.session.deck;
-    checkIsDeck(arguments, input, core);
-    const RepairPlan plan = planRepair(arguments, input, areaCount(deck), written);
-    if (run.report.wanted()) {
-        DeckChangesReport report = DeckChanges(readDeckOf(core.session), written);
-        report.stable = repairedAgain(written, input, arguments) == written;
-        run.report.tell(input, report, plan, written);
+    deck.written = repairInto(core, deck.input);
+    deck.doubt = checkIsDeck(run, deck.input, core);
+    deck.plan = run.planner.plan(deck.input, areaCount(core.session.deck), deck.written);
+    if (!deck.plan.workFiles.empty()) deck.areaTexts = areaTextsOf(core);
+    if (!arguments.json) deck.fault = deckFault(deck.written); // the document tells it
+    if (!run.report.wanted()) return;
+    deck.changes = DeckChanges(readDeckOf(core.session), deck.written);
+    deck.changes->stable = repairedAgain(deck.written, deck.input, arguments) == deck.written;
+}
+
+void writeOne(Run& run, const RepairedDeck& deck)
+{
+    if (deck.changes) run.report.tell(deck.input, *deck.changes, deck.plan, deck.written);
+    if (!run.arguments.dryRun) carryOut(deck.plan, deck.areaTexts, deck.written, run.files);
+    if (deck.fault) complain(deck.input + ": " + toUtf8(describeFault(*deck.fault)));
+}
+
+/// Writes what waits, in the order of the call, with all that is to be said of each deck.
+void writeWaiting(Run& run)
+{
+    for (RepairedDeck& deck : run.waiting) {
+        if (deck.doubt) complain(*deck.doubt);
+        if (!deck.problem) deck.problem = problemOf(deck.input, [&] { writeOne(run, deck); });
+        run.report.finishDeck(deck.input, deck.problem);
+        if (!deck.problem) continue;
+        complain(deck.problem->message);
+        run.status = std::max(run.status, deck.problem->status);
     }
-    if (!arguments.dryRun) carryOut(plan, deck, core.workFiles, written, run.files);
-    warnUnlessWellFormed(run, input, written);
+    run.waiting.clear();
+    run.waitingBytes = 0;
+}
+
+void repairAll(Run& run)
+{
+    // A deck that is written in its place may be a later one as well, by another name.
+    const auto decksAtOnce = run.arguments.outDir ? kDecksAtOnce : 1;
+    for (const std::string& input : run.arguments.operands) {
+        RepairedDeck& deck = run.waiting.emplace_back();
+        deck.input = input;
+        deck.problem = problemOf(input, [&] { repairOne(run, deck); });
+        run.waitingBytes += deck.written.size();
+        const bool isFull = run.waiting.size() >= decksAtOnce || run.waitingBytes > kBytesAtOnce;
+        if (isFull) writeWaiting(run);
+    }
+    writeWaiting(run);
+}
+
+/// Without a folder for the results no deck is looked at.
+void refuseAll(Run& run, const Problem& problem)
+{
+    complain(problem.message); // once for all decks
+    run.status = problem.status;
+    for (const std::string& input : run.arguments.operands)
+        run.report.finishDeck(input, problem);
 }
 
 void requireDistinctNames(const std::vector<std::string>& inputs)
@@ -119,11 +186,11 @@ void checkArguments(const Arguments& arguments)
     if (arguments.outDir) requireDistinctNames(arguments.operands);
 }
 
-void makeOutputDirectory(const Arguments& arguments)
+void makeOutputDirectory(const Run& run)
 {
-    if (!arguments.outDir || arguments.dryRun) return;
+    if (!run.arguments.outDir || run.arguments.dryRun) return;
     AssentingPrompter unasked;
-    MakeDirectories(outputDirectory(arguments), false, unasked);
+    MakeDirectories(run.planner.outputDirectory(), false, unasked);
 }
 
 } // namespace
@@ -131,20 +198,16 @@ void makeOutputDirectory(const Arguments& arguments)
 ExitStatus runRepair(const Arguments& arguments)
 {
     checkArguments(arguments);
-    Run run{arguments, RepairReport(arguments), {}};
-    const auto noFolder = problemOf("", [&] { makeOutputDirectory(arguments); });
-    if (noFolder) complain(noFolder->message); // once for all decks
-    ExitStatus status = noFolder ? noFolder->status : ExitStatus::Done;
+    Run run{arguments, RepairPlanner(arguments), RepairReport(arguments), {}, {}};
+    const auto noFolder = problemOf("", [&] { makeOutputDirectory(run); });
     run.report.begin();
-    for (const std::string& input : arguments.operands) {
-        const auto problem = noFolder ? noFolder : problemOf(input, [&] { repairOne(run, input); });
-        run.report.finishDeck(input, problem);
-        if (!problem || noFolder) continue;
-        complain(problem->message);
-        status = std::max(status, problem->status);
+    if (noFolder) {
+        refuseAll(run, *noFolder);
+    } else {
+        repairAll(run);
     }
     run.report.end();
-    return status;
+    return run.status;
 }
 
 } // namespace quillmere::cli

@@ -50,26 +50,27 @@ void requireWritable(const Arguments& arguments, const RepairPlan& plan)
     requireReplaceable(plan.output);
 }
 
-void keepWorkFiles(const RepairPlan& plan, const Deck& deck, WorkFiles& files)
+void keepWorkFiles(const RepairPlan& plan, const std::vector<std::string>& areaTexts)
 {
     if (plan.workFiles.empty()) return;
     AssentingPrompter unasked;
     MakeDirectories(SplitPath(plan.workFiles.front()).directory, false, unasked);
     for (std::size_t area = 0; area < plan.workFiles.size(); ++area)
-        replaceFile(plan.workFiles[area], files.read(deck[area].designDir + deck[area].designFile));
+        replaceFile(plan.workFiles[area], areaTexts[area]);
 }
 
 } // namespace
 
-std::string outputDirectory(const Arguments& arguments)
+RepairPlanner::RepairPlanner(const Arguments& arguments)
+    : arguments_(arguments)
+    , outputDirectory_(arguments.outDir ? NormalisePath(*arguments.outDir) : "")
 {
-    return arguments.outDir ? NormalisePath(*arguments.outDir) : "";
 }
 
-std::string outputPath(const Arguments& arguments, const std::string& input)
+std::string RepairPlanner::outputPath(const std::string& input) const
 {
-    if (arguments.output) return *arguments.output;
-    if (arguments.outDir) return outputDirectory(arguments) + SplitPath(input).name;
+    if (arguments_.output) return *arguments_.output;
+    if (arguments_.outDir) return outputDirectory_ + SplitPath(input).name;
     return input;
 }
 
@@ -84,25 +85,25 @@ bool samePlace(const std::string& left, const std::string& right)
     return place(left) == place(right) && !error;
 }
 
-RepairPlan planRepair(const Arguments& arguments, const std::string& input, std::size_t areas,
-    std::string_view written)
+RepairPlan RepairPlanner::plan(
+    const std::string& input, std::size_t areas, std::string_view written) const
 {
-    RepairPlan plan{outputPath(arguments, input), {}, {}};
+    RepairPlan plan{outputPath(input), {}, {}};
     if (plan.output == input && !regularFileExists(input))
         throw BadArguments{
             "„" + input + "“ ist keine gewöhnliche Datei; das Ergebnis braucht -o oder --out-dir."};
     // What stays as it is needs no second copy, however often the call is repeated.
-    if (arguments.backup && readFile(input) != written) plan.backup = freeBackupName(input);
-    if (arguments.keepWork) plan.workFiles = workFileNames(*arguments.keepWork, areas);
+    if (arguments_.backup && readFile(input) != written) plan.backup = freeBackupName(input);
+    if (arguments_.keepWork) plan.workFiles = workFileNames(*arguments_.keepWork, areas);
     requireOthersThan(plan, input);
-    if (arguments.dryRun) requireWritable(arguments, plan);
+    if (arguments_.dryRun) requireWritable(arguments_, plan);
     return plan;
 }
 
-void carryOut(const RepairPlan& plan, const Deck& deck, WorkFiles& files, std::string_view written,
-    FileReplacements& replacements)
+void carryOut(const RepairPlan& plan, const std::vector<std::string>& areaTexts,
+    std::string_view written, FileReplacements& replacements)
 {
-    keepWorkFiles(plan, deck, files);
+    keepWorkFiles(plan, areaTexts);
     if (plan.output == "-") return printBytes(written);
     if (plan.backup) createFile(*plan.backup, readFile(plan.output), plan.output);
     try {

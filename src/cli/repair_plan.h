@@ -1,9 +1,7 @@
 #pragma once
 
 #include "cli/command_line.h"
-#include "document/deck.h"
 #include "document/platform/files.h"
-#include "document/platform/work_files.h"
 
 #include <optional>
 #include <string>
@@ -21,24 +19,32 @@ struct RepairPlan {
     std::vector<std::string> workFiles; ///< one for each area; empty: they are not kept
 };
 
-/// The directory of `--out-dir` with its separator; "" without the option.
-[[nodiscard]] std::string outputDirectory(const Arguments& arguments);
-
-/// The file that the result for the deck `input` goes to.
-[[nodiscard]] std::string outputPath(const Arguments& arguments, const std::string& input);
-
 /// Whether both paths lead to one file, which need not be there yet.
 [[nodiscard]] bool samePlace(const std::string& left, const std::string& right);
 
-/// Where `written`, the repaired deck `input`, and its areas' work files go. Throws BadArguments
-/// where a work file would be the deck or the result, and where what is no ordinary file would be
-/// replaced by itself.
-[[nodiscard]] RepairPlan planRepair(const Arguments& arguments, const std::string& input,
-    std::size_t areas, std::string_view written);
+/// Plans the repairs of one call, whose arguments must outlive it.
+class RepairPlanner {
+public:
+    explicit RepairPlanner(const Arguments& arguments);
 
-/// Does as planned: work files, backup, deck, in this order. `deck` is the open deck, whose design
-/// work files are in `files`. Throws FileFailure; the deck's file is then as it was.
-void carryOut(const RepairPlan& plan, const Deck& deck, WorkFiles& files, std::string_view written,
-    FileReplacements& replacements);
+    /// The directory of `--out-dir` with its separator; "" without the option.
+    [[nodiscard]] const std::string& outputDirectory() const { return outputDirectory_; }
+    /// The file that the result for the deck `input` goes to.
+    [[nodiscard]] std::string outputPath(const std::string& input) const;
+    /// Where `written`, the repaired deck `input`, and its areas' work files go. Throws
+    /// BadArguments where a work file would be the deck or the result, and where what is no
+    /// ordinary file would be replaced by itself.
+    [[nodiscard]] RepairPlan plan(
+        const std::string& input, std::size_t areas, std::string_view written) const;
+
+private:
+    const Arguments& arguments_;
+    std::string outputDirectory_;
+};
+
+/// Does as planned: work files, backup, deck, in this order. `areaTexts` is what goes into the work
+/// files. Throws FileFailure; the deck's file is then as it was.
+void carryOut(const RepairPlan& plan, const std::vector<std::string>& areaTexts,
+    std::string_view written, FileReplacements& replacements);
 
 } // namespace quillmere::cli

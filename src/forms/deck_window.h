@@ -24,8 +24,9 @@ public:
     /// Shows one of the four messages that guard the tools: 1 no deck is open, 2 not in the source
     /// view, 3 nothing to save, 4 nothing goes into a table.
     virtual void ShowMsg(int Index) = 0;
-    /// Whether the deck differs from its file.
+    /// Whether the deck, as the surface or the source view shows it, differs from its file.
     virtual void setDocChanged(bool changed) = 0;
+    [[nodiscard]] virtual bool docChanged() const = 0;
 };
 
 } // namespace quillmere

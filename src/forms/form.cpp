@@ -5,6 +5,8 @@
 
 #include <QKeyEvent>
 
+#include <utility>
+
 namespace quillmere {
 
 Form::Form(Session& session, const QString& name, QWidget* parent)
@@ -14,9 +16,14 @@ Form::Form(Session& session, const QString& name, QWidget* parent)
     setObjectName(name);
 }
 
+void Form::loadTexts()
+{
+    if (!std::exchange(hasTexts_, true)) OverlayForm(*this, session_);
+}
+
 int Form::showModally()
 {
-    OverlayForm(*this, session_);
+    loadTexts();
     session_.gSurfaceActive = false;
     return exec();
 }

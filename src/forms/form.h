@@ -15,7 +15,10 @@ class Form : public QDialog {
     Q_OBJECT
 
 public:
-    /// Overlays the texts of the resources and shows the form modally; the result is exec()'s.
+    /// Lays the texts of the resources over the form, the first time only. A form whose texts
+    /// change with what it is given calls this ahead of setting them.
+    void loadTexts();
+    /// loadTexts(), then shows the form modally; the result is exec()'s.
     int showModally();
 
 signals:
@@ -34,6 +37,7 @@ private:
     void trapRoutine(const std::function<void()>& routine);
 
     Session& session_;
+    bool hasTexts_ = false;
 };
 
 } // namespace quillmere

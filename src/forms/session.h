@@ -2,6 +2,7 @@
 
 #include "app/form_resources.h"
 #include "app/word_resources.h"
+#include "document/platform/deck_file_watch.h"
 #include "document/platform/drives.h"
 #include "document/platform/file_system.h"
 #include "document/session.h"
@@ -35,6 +36,8 @@ struct Session {
     /// Called by the main window after design work files were written, so that a later start can
     /// tell what they belong to; the argument tells whether the deck differs from its file.
     std::function<void(bool deckChanged)> afterStore{};
+    /// Whoever opens, makes or saves the deck has the file remembered; asked ahead of a save.
+    DeckFileWatch deckFile{};
 };
 
 } // namespace quillmere

@@ -193,5 +193,31 @@ TEST_F(Cli, SaysOnceOnStandardErrorWhatIsNotWellFormed)
     EXPECT_EQ(cli({"repair", "@i.wml", "-o", "@o.wml", "--report"}).errors, line);
 }
 
+/// More decks than are kept waiting for the disk at once.
+TEST_F(Cli, ManyDecksAreWrittenAndToldInTheirOrder)
+{
+    Call call{"repair", "--out-dir", "@out"};
+    for (int i = 100; i < 175; ++i) {
+        const auto name = std::to_string(i) + ".wml";
+        if (i % 5 == 0) folder.put(name, kStray);
+        if (i % 5 == 1) folder.put(name, kNoQuote);
+        if (i % 5 > 2) folder.put(name, kDeck); // the others are missing
+        call.push_back("@" + name);
+    }
+    folder.put("out/104.wml/not empty", "");
+    const auto result = cli(call);
+    EXPECT_EQ(result.status, 3);
+    auto told = result.errors.find("100.wml: Das Ergebnis ist nicht wohlgeformt");
+    for (int i = 100; i < 175; ++i) {
+        SCOPED_TRACE(i);
+        const auto name = std::to_string(i) + ".wml";
+        const bool isWritten = i != 104 && i % 5 != 1 && i % 5 != 2;
+        EXPECT_EQ(folder.has("out/" + name), isWritten || i == 104);
+        if (isWritten && i % 5 != 0) continue;
+        told = result.errors.find(name, told);
+        ASSERT_NE(told, std::string::npos) << result.errors;
+    }
+}
+
 } // namespace
 } // namespace quillmere

@@ -6,6 +6,7 @@
 
 #include "document/changes/deck_match.h"
 #include "document/changes/deck_side.h"
+#include "document/changes/plain_markup.h"
 #include "document/changes/well_formedness.h"
 #include "document/text/windows1252.h"
 
@@ -251,9 +252,10 @@ DeckFault placed(const MarkupFaultAt& fault, const TextPlaces& places)
 
 std::optional<DeckFault> deckFault(std::string_view written)
 {
-    const auto fault = firstFault(written, readMarkup(written));
+    const auto verdict = verdictOnPlainMarkup(written);
+    const auto fault = verdict ? verdict->fault : firstFault(written, readMarkup(written));
     if (!fault) return std::nullopt;
-    return placed(*fault, TextPlaces(written));
+    return placed(*fault, TextPlaces(written.substr(0, fault->offset + 1)));
 }
 
 DeckChangesReport DeckChanges(std::string_view read, std::string_view written)

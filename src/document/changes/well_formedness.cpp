@@ -6,6 +6,7 @@
 
 #include "document/changes/character_references.h"
 #include "document/changes/markup_cursor.h"
+#include "document/changes/plain_markup.h"
 #include "document/text/windows1252.h"
 
 #include <algorithm>
@@ -188,24 +189,9 @@ bool declaresSingleBytes(const MarkupDocument& document)
     return declaration.find("encoding") != kNowhere && declaration.find("utf") == kNowhere;
 }
 
-/// Whether each character is ASCII and none is one for control but white space. All in bytes and
-/// without a branch, so that many are looked at at a time.
-bool isPlain(std::string_view text)
-{
-    using Byte = unsigned char;
-    Byte faults = 0;
-    for (const char character : text) {
-        const auto code = static_cast<Byte>(character);
-        const Byte space = code == '\t' || code == '\n' || code == '\r' ? 0xFF : 0;
-        const Byte visible = code >= 0x20 && code < 0x80 ? 0xFF : 0;
-        faults = static_cast<Byte>(faults | static_cast<Byte>(~(space | visible)));
-    }
-    return faults == 0;
-}
-
 std::optional<MarkupFaultAt> characterFault(std::string_view text, const MarkupDocument& document)
 {
-    if (isPlain(text)) return std::nullopt;
+    if (isPlainText(text)) return std::nullopt;
     const bool singleBytes = declaresSingleBytes(document);
     for (std::size_t at = 0; at < text.size(); ++at) {
         const auto code = static_cast<unsigned char>(text[at]);

@@ -26,6 +26,7 @@ DiskWorkFiles::DiskWorkFiles()
 
 DiskWorkFiles::DiskWorkFiles(const std::string& parent)
     : directory_(makePrivateDirectory(parent))
+    , lock_(directory_)
 {
 }
 

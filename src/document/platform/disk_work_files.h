@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document/platform/directory_lock.h"
 #include "document/platform/work_files.h"
 #include "document/platform/work_names.h"
 
@@ -9,7 +10,8 @@
 namespace quillmere {
 
 /// Work files in a directory of mode 0700 that belongs to this run alone. Files are made
-/// exclusively and never through a link; the directory goes with the object.
+/// exclusively and never through a link; the directory goes with the object. A directory of such a
+/// name that nobody has locked is that of a run which did not end by itself.
 class DiskWorkFiles : public WorkFiles {
 public:
     /// Makes the directory below the system's temporary one. Throws FileFailure.
@@ -32,6 +34,7 @@ public:
 
 private:
     std::string directory_;
+    DirectoryLock lock_;
     WorkNames names_;
 };
 

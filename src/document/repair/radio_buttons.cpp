@@ -21,12 +21,12 @@ constexpr std::string_view kOption = "<!--option";
 constexpr std::string_view kOptionEnd = "<!--/option";
 constexpr std::string_view kInput = "<input";
 
-/// The first tag at or behind `from` that begins with `key`, whose second character has no case.
-std::size_t findTag(std::string_view text, std::string_view key, std::size_t from)
+/// The first marker at or behind `from` that begins with `key`. Texts have few '!' beside their
+/// markers, and many '<'.
+std::size_t findMarker(std::string_view text, std::string_view key, std::size_t from)
 {
-    for (auto at = text.find('<', from); at != npos; at = text.find('<', at + 1)) {
-        const bool mayBegin = at + 1 < text.size() && text[at + 1] == key[1];
-        if (mayBegin && standsAt(text, at, key)) return at;
+    for (auto sign = text.find('!', from + 1); sign != npos; sign = text.find('!', sign + 1)) {
+        if (text[sign - 1] == '<' && standsAt(text, sign - 1, key)) return sign - 1;
     }
     return npos;
 }
@@ -113,7 +113,7 @@ void InsertTemporaeryRadioButtons(std::string& text)
 {
     requireAddressable(text);
     const std::string_view source = text;
-    auto option = findTag(source, kOption, 0);
+    auto option = findMarker(source, kOption, 0);
     if (option == npos) return;
     std::string result;
     std::size_t copied = 0;
@@ -124,10 +124,10 @@ void InsertTemporaeryRadioButtons(std::string& text)
         result.append(source, copied, end + 1 - copied);
         copied = end + 1;
         appendButton(result, ++number, targetOf(source.substr(option, end - option)));
-        const auto close = findTag(source, kOptionEnd, end);
+        const auto close = findMarker(source, kOptionEnd, end);
         const auto closed = close == npos ? npos : source.find('>', close);
         if (closed == npos) break;
-        option = findTag(source, kOption, closed);
+        option = findMarker(source, kOption, closed);
     }
     result.append(source, copied);
     requireAddressable(result);
@@ -136,7 +136,7 @@ void InsertTemporaeryRadioButtons(std::string& text)
 
 void DeleteAllTemporaeryRadioButtons(std::string& text)
 {
-    const auto option = findTag(text, kOption, 0);
+    const auto option = findMarker(text, kOption, 0);
     if (option == npos) return;
     auto plain = withoutPlainInputs(text, option); // as they are inserted
     text = plain ? std::move(*plain) : withoutInputs(std::move(text));

@@ -1,0 +1,197 @@
+// The source view: the deck as WML text. What is written there replaces all areas. Held by
+// source_view_test.cpp.
+
+#include "editor/window/frm_prepare.h"
+
+#include "document/deck_store.h"
+#include "document/platform/word_ids.h"
+#include "document/text/text_lines.h"
+#include "forms/text.h"
+
+#include <QApplication>
+#include <QScopedValueRollback>
+
+#include <algorithm>
+#include <optional>
+#include <utility>
+
+namespace quillmere {
+namespace {
+
+// Each step is a whole text; a day of typing must not fill the memory.
+constexpr std::size_t kMaxSourceSteps = 400;
+
+constexpr QChar kBlockEnd(0x2029); // what the widget holds for a line end
+
+/// The pointer that tells of work that goes on, as long as the object lives.
+class Hourglass {
+public:
+    Hourglass() { QApplication::setOverrideCursor(Qt::WaitCursor); }
+    Hourglass(const Hourglass&) = delete;
+    Hourglass& operator=(const Hourglass&) = delete;
+    Hourglass(Hourglass&&) = delete;
+    Hourglass& operator=(Hourglass&&) = delete;
+    ~Hourglass() { QApplication::restoreOverrideCursor(); }
+};
+
+/// A work file as it is, to be put back.
+class KeptFile {
+public:
+    KeptFile(WorkFiles& files, std::string path)
+        : files_(files)
+        , path_(std::move(path))
+    {
+        if (files_.exists(path_)) bytes_ = files_.read(path_);
+    }
+    void putBack() const
+    {
+        if (bytes_)
+            files_.write(path_, *bytes_);
+        else
+            files_.remove(path_);
+    }
+
+private:
+    WorkFiles& files_;
+    std::string path_;
+    std::optional<std::string> bytes_;
+};
+
+/// Gives the view another text as one step of its own undo, with the caret behind what differs.
+void replaceText(QPlainTextEdit& view, const QString& wanted)
+{
+    const auto shown = view.toPlainText();
+    const auto [mine, other] = std::ranges::mismatch(shown, wanted);
+    const auto same = mine - shown.begin();
+    const auto most = std::min(shown.size(), wanted.size()) - same;
+    qsizetype tail = 0;
+    while (tail < most && shown[shown.size() - 1 - tail] == wanted[wanted.size() - 1 - tail])
+        ++tail;
+    auto cursor = view.textCursor();
+    cursor.setPosition(static_cast<int>(same));
+    cursor.setPosition(static_cast<int>(shown.size() - tail), QTextCursor::KeepAnchor);
+    cursor.insertText(wanted.mid(same, wanted.size() - tail - same));
+    view.setTextCursor(cursor);
+}
+
+/// Makes sure that record 0 names a file for the pristine copy.
+void namePristine(DocumentSession& session)
+{
+    auto& first = session.deck.front();
+    const bool isThere = !first.pristineFile.empty()
+        && session.workFiles.exists(first.pristineDir + first.pristineFile);
+    if (isThere) return;
+    first.pristineFile = session.workFiles.unusedName(kWorkFilePrefix, kWmlFileSuffix);
+    first.pristineDir = session.workFiles.directory();
+}
+
+} // namespace
+
+// toPlainText() would make blanks of hard blanks.
+std::string frmPrepare::sourceText() const
+{
+    auto text = txtScript->document()->toRawText();
+    return coreText(text.replace(kBlockEnd, QStringLiteral("\r\n")));
+}
+
+void frmPrepare::btnScript_Click()
+{
+    if (btnScript->text() == word(word::kGraphicView)) return btnAreaOne_Click();
+    if (mRefreshGuard >= 1) return;
+    const QScopedValueRollback guard(mRefreshGuard, mRefreshGuard + 1);
+    if (!mScriptView) showSource();
+    mScriptView = true;
+    btnScript->setText(word(word::kGraphicView));
+    btnAreaOne->setFocus();
+    showTitle();
+}
+
+void frmPrepare::showSource()
+{
+    const Hourglass hourglass;
+    store();
+    WriteDeck(session_.document);
+    const auto& first = session_.document.deck.front();
+    const auto file = session_.document.workFiles.read(first.wmlDir + first.wmlFile);
+    objBrowserCard->hide();
+    lblCharCount->setText(QStringLiteral("%1 Zeichen").arg(file.size()));
+    mScriptChangedBefore = mScriptChanged;
+    txtScript->setPlainText(shownText(withCrLf(file)));
+    const auto text = txtScript->toPlainText();
+    if (mScriptUndo.front().isEmpty()) mScriptUndo.front() = text;
+    if (mScriptInitial.isEmpty()) mScriptInitial = text;
+    txtScript->setEnabled(true);
+    txtScript->show();
+    mScriptChanged = false;
+}
+
+void frmPrepare::SetScriptUndoFlagsBack()
+{
+    mScriptUndo.assign(1, {});
+    mScriptChanged = false;
+    mScriptChangedBefore = false;
+    mScriptInitial.clear();
+    for (auto& area : session_.document.deck)
+        area.imageCursor = -1;
+    surfaceShows_.clear();
+    deckIsNew_ = true;
+}
+
+/// Ahead of what a blank or Return changes: a step is a word or a line.
+void frmPrepare::txtScript_KeyPress()
+{
+    if (mScriptUndo.size() > kMaxSourceSteps) mScriptUndo.erase(mScriptUndo.begin() + 1);
+    mScriptUndo.push_back(txtScript->toPlainText());
+}
+
+void frmPrepare::undoInSource()
+{
+    if (!mScriptInitial.isEmpty() && std::exchange(mScriptChangedBefore, false)) {
+        if (session_.messages.ask(word::kResetSource, {}, MessageIcon::Question))
+            replaceText(*txtScript, mScriptInitial);
+        return;
+    }
+    replaceText(*txtScript, mScriptUndo.back());
+    if (mScriptUndo.size() > 2) mScriptUndo.pop_back();
+}
+
+void frmPrepare::SavePreparedDokumentAndShowArea(bool Show)
+{
+    if (mScriptView && deckIsOpen()) {
+        if (mScriptChanged) mScriptInitial = txtScript->toPlainText();
+        const bool isTaken = !mScriptChanged
+            || session_.messages.ask(word::kTakeSource, {}, MessageIcon::Question);
+        // Without showing an area the text is taken whatever the answer was.
+        if (isTaken || !Show) takeSource();
+    }
+    if (!Show) return;
+    RefreshSurface();
+    SetFocusToBrowser();
+}
+
+/// Loads the deck from the text. Where that fails all files are as before and the view stays.
+void frmPrepare::takeSource()
+{
+    auto& document = session_.document;
+    namePristine(document);
+    const auto first = document.deck.front();
+    const KeptFile wml(document.workFiles, first.wmlDir + first.wmlFile);
+    const KeptFile pristine(document.workFiles, first.pristineDir + first.pristineFile);
+    const auto text = sourceText() + "\r\n";
+    try {
+        document.workFiles.write(first.wmlDir + first.wmlFile, text);
+        document.workFiles.write(first.pristineDir + first.pristineFile, text);
+        LoadDeck(document, {first.deckFile, first.deckDir, first.wmlFile, first.wmlDir},
+            first.surfaceKind);
+    } catch (...) {
+        wml.putBack();
+        pristine.putBack();
+        throw;
+    }
+    surfaceShows_.clear();
+    if (std::exchange(mScriptChanged, false)) mDocChanged = true;
+    const int last = static_cast<int>(areaCount(document.deck)) - 1;
+    document.currentArea = std::min(document.currentArea, last);
+}
+
+} // namespace quillmere

@@ -1,0 +1,239 @@
+// The tools. Each is a row of one table: button, guards, form, action. Held by
+// frm_prepare_tools_test.cpp.
+
+#include "editor/window/frm_prepare.h"
+#include "editor/window/frm_prepare_commands.h"
+
+#include "document/platform/word_ids.h"
+#include "forms/text.h"
+#include "project/deck_dialogs.h"
+#include "project/deck_files.h"
+
+namespace quillmere {
+
+constexpr const char* kAnyForm = "";
+
+const frmPrepare::Command frmPrepare::kTools[] = {
+    {"SeiteNew", "Neu", "Neues Dokument anlegen oder ein zuletzt geöffnetes öffnen", Guards::None,
+        kAnyForm, &frmPrepare::lblButtonSeiteNew},
+    {"SeiteOpen", "Öffnen", "Dokument öffnen (Strg+O)", Guards::None, kAnyForm,
+        &frmPrepare::lblButtonSeiteOpen},
+    {"SeiteSave", "Sichern", "Dokument speichern (Strg+S)", Guards::DeckToSave, kAnyForm,
+        &frmPrepare::lblButtonSeiteSave},
+    {"Undo", "Zurück", "Letzte Änderung zurücknehmen (Strg+Z)", Guards::Deck, kAnyForm,
+        &frmPrepare::lblButtonUndo},
+    {"Previour", "Vorschau", "Dokument auf einem Telefon ansehen", Guards::None, "frmPreview",
+        &frmPrepare::lblButtonPreviour},
+    {"BildKonverter", "Konverter", "Bilder in WBMP umwandeln", Guards::None,
+        "frmPicKonvChoiceImage", &frmPrepare::lblButtonBildKonverter},
+    {"Upload", "Upload", "Projekt auf den Server übertragen", Guards::DeckAndSurface,
+        "frmUploadExtended", &frmPrepare::lblButtonUpload},
+    {"System", "System", "Einstellungen", Guards::None, "frmSystem",
+        &frmPrepare::lblButtonSystem},
+    {"Help", "Hilfe", "Hilfe und Informationen (F1)", Guards::None, kAnyForm,
+        &frmPrepare::lblButtonHelp},
+    {"Area", "Bereich", "Bereich einfügen", Guards::DeckAndSurface, "frmArea",
+        &frmPrepare::lblButtonArea},
+    {"Table", "Tabelle", "Tabelle einfügen", Guards::DeckAndSurface, "frmTable",
+        &frmPrepare::lblButtonTable},
+    {"Image", "Bild", "Bild einfügen", Guards::DeckAndSurface, kAnyForm,
+        &frmPrepare::lblButtonImage},
+    {"Link", "Link", "Hyperlink einfügen", Guards::DeckAndSurface, "frmLinks",
+        &frmPrepare::lblButtonLink},
+    {"Option", "Auswahl", "Optionsfeld einfügen", Guards::DeckAndSurface, "frmOption",
+        &frmPrepare::lblButtonOption},
+    {"TextFormat", "Format", "Markierten Text formatieren", Guards::DeckAndSurface, "frmTextFormat",
+        &frmPrepare::lblButtonTextFormat},
+    {"Justify", "Ausrichten", "Absatz ausrichten", Guards::DeckAndSurface, "frmJustify",
+        &frmPrepare::lblButtonJustify},
+    {"Morvane", "Quillmere", "Zur Seite des Herstellers", Guards::None, kAnyForm,
+        &frmPrepare::lblButtonMorvane},
+};
+
+bool frmPrepare::allows(Guards guards)
+{
+    if (guards == Guards::None) return true;
+    if (!deckIsOpen()) {
+        ShowMsg(guards == Guards::DeckToSave ? 3 : 1);
+        return false;
+    }
+    if (guards != Guards::DeckAndSurface || !mScriptView) return true;
+    ShowMsg(2);
+    return false;
+}
+
+void frmPrepare::run(const Command& command)
+{
+    trap([&] {
+        if (!allows(command.guards)) return;
+        const std::string_view form = command.form;
+        if (!form.empty() && !hasForm(form)) return tellMissing(QString::fromUtf8(command.caption));
+        (this->*command.action)();
+    });
+}
+
+void frmPrepare::tellMissing(const QString& caption)
+{
+    session_.messages.showText(
+        QStringLiteral("Das Werkzeug „%1“ gibt es in dieser Version noch nicht. Das Dokument ist "
+                       "unverändert.")
+            .arg(caption),
+        MessageIcon::None);
+}
+
+void frmPrepare::openForm(const std::string& name, const FormCall& call)
+{
+    session_.gSurfaceActive = false;
+    const auto form = forms_.find(name);
+    if (form == forms_.end()) return tellMissing(QString::fromStdString(name));
+    form->second(call);
+}
+
+Hit frmPrepare::hitTest(std::string_view startTag, std::string_view endTag, bool refresh)
+{
+    const auto text = ReadDesignText(session_.document, static_cast<std::size_t>(CurArea()));
+    return hits_.HitTest(startTag, endTag, text, objBrowserCard->selection(), refresh);
+}
+
+bool frmPrepare::refusesTable(const Hit& hit)
+{
+    const auto text = ReadDesignText(session_.document, static_cast<std::size_t>(CurArea()));
+    if (!IsInsideTable(text, hit.position)) return false;
+    ShowMsg(4);
+    return true;
+}
+
+/// Store, hit test, and the form for a new element, which does not go into a table.
+void frmPrepare::insertElement(ElementKind kind, const char* form)
+{
+    const auto& tags = tagsOf(kind);
+    store();
+    const auto hit = hitTest(tags.start, tags.end, true);
+    if (refusesTable(hit)) return;
+    const bool isNoted = kind == ElementKind::Option && isYes(session_.settings, "ShowOptionMessage");
+    if (isNoted) (void)session_.messages.showNote(Note::Option);
+    openForm(form, {true, hit});
+}
+
+void frmPrepare::lblButtonArea()
+{
+    store();
+    openForm("frmArea", {});
+}
+
+void frmPrepare::mnuContext1AreaParameters()
+{
+    store();
+    openForm("frmArea", {false, {}});
+}
+
+void frmPrepare::lblButtonTable()
+{
+    insertElement(ElementKind::Table, "frmTable");
+}
+
+void frmPrepare::lblButtonOption()
+{
+    insertElement(ElementKind::Option, "frmOption");
+}
+
+void frmPrepare::lblButtonLink()
+{
+    insertElement(ElementKind::Link, "frmLinks");
+}
+
+void frmPrepare::lblButtonImage()
+{
+    store();
+    popUp(*mnuContextInsertImages, "Image");
+}
+
+void frmPrepare::mnuInsertClipart()
+{
+    insertElement(ElementKind::Image, "frmClipart");
+}
+
+void frmPrepare::mnuInsertImage()
+{
+    insertElement(ElementKind::Image, "ChooseWbmpDialog");
+}
+
+void frmPrepare::lblButtonTextFormat()
+{
+    if (objBrowserCard->selection().type == SurfaceSelection::Type::None)
+        return session_.messages.show(word::kNoTextSelected, {}, MessageIcon::Warning);
+    store();
+    openForm("frmTextFormat", {true, hitTest("<b", "</b", true)});
+}
+
+void frmPrepare::lblButtonJustify()
+{
+    store();
+    openForm("frmJustify", {true, hitTest("<p align='left", "</p", true)});
+}
+
+void frmPrepare::lblButtonPreviour()
+{
+    if (deckIsOpen()) AskAndSaveTmpWmlDocToWmlDoc(false);
+    openForm("frmPreview", {});
+}
+
+void frmPrepare::lblButtonUpload()
+{
+    AskAndSaveTmpWmlDocToWmlDoc(false);
+    openForm("frmUploadExtended", {});
+}
+
+void frmPrepare::lblButtonBildKonverter()
+{
+    FormCall call;
+    if (deckIsOpen() && !mScriptView) {
+        store();
+        call.hit = hitTest("<img", "", true);
+    }
+    openForm("frmPicKonvChoiceImage", call);
+}
+
+void frmPrepare::lblButtonSystem()
+{
+    openForm("frmSystem", {});
+}
+
+void frmPrepare::lblButtonUndo()
+{
+    if (mScriptView)
+        undoInSource();
+    else
+        undoOnSurface();
+}
+
+void frmPrepare::lblButtonSeiteSave()
+{
+    popUp(*mnuContextSave, "SeiteSave");
+}
+
+void frmPrepare::lblButtonSeiteOpen()
+{
+    store();
+    session_.gSurfaceActive = false;
+    OpenDeckDialog(session_);
+}
+
+void frmPrepare::lblButtonSeiteNew()
+{
+    showRecentDecks();
+    popUp(*mnuContextOpen, "SeiteNew");
+}
+
+void frmPrepare::lblButtonHelp()
+{
+    popUp(*mnuContextHelp, "Help");
+}
+
+void frmPrepare::lblButtonMorvane()
+{
+    const auto page = session_.settings.ReadSetting("MorvaneHomepage");
+    if (!page.empty()) openOutside(shownText(page));
+}
+
+} // namespace quillmere

@@ -1,0 +1,187 @@
+// The areas of a run are written as WML, as a save would, and that is opened: so the run's files
+// need not be touched, and they may be tried again. Held by recovery_test.cpp, which kills a
+// program at work again and again.
+
+#include "program/recovery.h"
+
+#include "document/deck_store.h"
+#include "document/platform/files.h"
+#include "document/platform/memory_work_files.h"
+#include "document/text/content_hash.h"
+#include "document/text/failure.h"
+
+#include <algorithm>
+#include <chrono>
+#include <filesystem>
+#include <optional>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace quillmere {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr std::string_view kNoteName = "Sicherung.txt";
+constexpr std::string_view kRunPrefix = "quillmere-";
+constexpr std::size_t kRunNameLength = kRunPrefix.size() + 6;
+constexpr std::size_t kMaxNoteBytes = 1U << 24U;
+constexpr std::chrono::minutes kYoungest{1}; // a run may have made its directory just now
+
+bool isPrivate(const std::string& directory)
+{
+    struct stat status { };
+    return ::lstat(directory.c_str(), &status) == 0 && S_ISDIR(status.st_mode)
+        && status.st_uid == ::geteuid() && (status.st_mode & 0777U) == 0700U;
+}
+
+bool isRunName(const std::string& name)
+{
+    return name.size() == kRunNameLength && name.starts_with(kRunPrefix);
+}
+
+bool isYoung(const std::string& directory)
+{
+    std::error_code error;
+    const auto time = fs::last_write_time(directory, error);
+    return !error && fs::file_time_type::clock::now() - time < kYoungest;
+}
+
+void removeDirectory(const std::string& directory)
+{
+    std::error_code ignored;
+    fs::remove_all(directory, ignored);
+}
+
+std::optional<std::string> readable(const std::string& path, std::size_t maxBytes)
+{
+    try {
+        return readFile(path, maxBytes);
+    } catch (const Failure&) {
+        return std::nullopt;
+    }
+}
+
+/// The areas' texts; nullopt where one is missing.
+std::optional<std::vector<std::string>> areaTexts(const RecoveryNote& note)
+{
+    std::vector<std::string> texts;
+    for (const auto& area : note.areas) {
+        auto text = readable(area.design.path(), kMaxNoteBytes);
+        if (!text) return std::nullopt;
+        texts.push_back(std::move(*text));
+    }
+    return texts;
+}
+
+// A store that was the run's last act may have no note of its own yet.
+bool hasChanges(const RecoveryNote& note)
+{
+    if (note.areas.empty()) return false;
+    const auto texts = areaTexts(note);
+    if (!texts) return note.isChanged && fileExists(note.wml.path());
+    if (note.isChanged) return true;
+    for (std::size_t i = 0; i < texts->size(); ++i)
+        if (contentHash((*texts)[i]) != note.areas[i].content) return true;
+    return false;
+}
+
+/// A deck of one record for each area, as far as writing it as WML needs it.
+Deck deckOf(const RecoveryNote& note)
+{
+    Deck deck(note.areas.size() + 1);
+    for (std::size_t i = 0; i < note.areas.size(); ++i) {
+        auto& record = deck[i];
+        record.inUse = true;
+        record.designDir = note.areas[i].design.directory;
+        record.designFile = note.areas[i].design.name;
+        record.deckDir = note.deck.directory;
+        record.deckFile = note.deck.name;
+        record.images = note.areas[i].images;
+        record.images.emplace_back(); // the spare one
+    }
+    deck.front().wmlFile = "recovered.wml";
+    return deck;
+}
+
+std::string wmlOfAreas(
+    const DocumentSession& like, const RecoveryNote& note, std::vector<std::string> texts)
+{
+    MemoryWorkFiles files;
+    DocumentSession session{
+        files, like.displayCopies, like.prompter, like.settings, like.words, like.output};
+    for (std::size_t i = 0; i < texts.size(); ++i)
+        files.write(note.areas[i].design.path(), std::move(texts[i]));
+    session.deck = deckOf(note);
+    WriteDeck(session);
+    return files.read(session.deck.front().wmlFile);
+}
+
+// While a deck is loaded anew out of its WML its areas are not there, but that is.
+std::string wmlOfRun(const DocumentSession& like, const RecoveryNote& note)
+{
+    auto texts = areaTexts(note);
+    return texts ? wmlOfAreas(like, note, std::move(*texts)) : readFile(note.wml.path());
+}
+
+std::optional<CrashedRun> crashedRun(std::string directory)
+{
+    if (!isPrivate(directory)) return std::nullopt;
+    auto lock = std::make_unique<DirectoryLock>(directory);
+    if (!lock->isHeld()) return std::nullopt;
+    const auto text = readable(directory + std::string(kNoteName), kMaxNoteBytes);
+    if (!text && isYoung(directory)) return std::nullopt;
+    auto note = text ? noteFromText(*text) : std::nullopt;
+    if (note && hasChanges(*note))
+        return CrashedRun{std::move(directory), std::move(*note), std::move(lock)};
+    removeDirectory(directory);
+    return std::nullopt;
+}
+
+} // namespace
+
+void writeRecoveryNote(const DocumentSession& session, bool isChanged)
+{
+    const auto now = std::chrono::system_clock::now().time_since_epoch();
+    const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(now).count();
+    replaceWorkFile(session.workFiles.directory() + std::string(kNoteName),
+        textOfNote(noteOf(session.deck, isChanged, seconds)));
+}
+
+std::vector<CrashedRun> takeCrashedRuns(const std::string& parent)
+{
+    std::vector<CrashedRun> runs;
+    std::error_code error;
+    for (const auto& entry : fs::directory_iterator(parent, error)) {
+        const auto name = entry.path().filename().string();
+        if (!isRunName(name)) continue;
+        if (auto run = crashedRun(parent + name + '/')) runs.push_back(std::move(*run));
+    }
+    std::sort(runs.begin(), runs.end(),
+        [](const CrashedRun& a, const CrashedRun& b) { return a.note.time > b.note.time; });
+    return runs;
+}
+
+void openCrashedRun(DocumentSession& session, const CrashedRun& run)
+{
+    auto wml = wmlOfRun(session, run.note);
+    auto& files = session.workFiles;
+    const auto name = files.createFile(kWorkFilePrefix, kWmlFileSuffix);
+    try {
+        files.write(files.directory() + name, std::move(wml));
+        const auto& deck = run.note.deck;
+        LoadDeck(session, {deck.name, deck.directory, name, files.directory()});
+    } catch (...) {
+        files.remove(files.directory() + name);
+        throw;
+    }
+    session.currentArea = 0;
+}
+
+void discardCrashedRun(const CrashedRun& run)
+{
+    removeDirectory(run.directory);
+}
+
+} // namespace quillmere

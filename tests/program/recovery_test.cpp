@@ -1,0 +1,253 @@
+#include "program/recovery.h"
+
+#include "cli/core_session.h"
+#include "document/deck_store.h"
+#include "document/design_text.h"
+#include "document/platform/disk_work_files.h"
+#include "document/text/failure.h"
+#include "support/scratch_folder.h"
+#include "support/small_deck.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <csignal>
+#include <memory>
+#include <random>
+#include <regex>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <thread>
+#include <unistd.h>
+
+namespace quillmere {
+namespace {
+
+using test::ScratchFolder;
+
+constexpr const char* kDeck
+    = "<?xml version=\"1.0\"?>\r\n"
+      "<!DOCTYPE wml PUBLIC \"-//WAPFORUM//DTD WML 1.1//EN\" "
+      "\"http://www.wapforum.org/DTD/wml_1.1.xml\">\r\n"
+      "<wml>\r\n"
+      "<card id=\"a\" title=\"Erste\">\r\n<p>Stand 0! <b>fett</b></p>\r\n</card>\r\n"
+      "<card id=\"b\" title=\"Zweite\">\r\n<p>Stand 0! <img src=\"x.wbmp\" "
+      "alt=\"x\"/></p>\r\n</card>\r\n"
+      "</wml>\r\n";
+
+/// A program with work files on the disk, and what it keeps of a deck.
+struct Program {
+    test::SmallCopies copies;
+    cli::CoreSession core;
+    DiskWorkFiles files;
+    DocumentSession session;
+
+    explicit Program(const std::string& parent)
+        : core(false, &copies)
+        , files(parent)
+        , session{files, copies, core.prompter, core.settings, core.words, OutputRules()}
+    {
+    }
+    std::string area(std::size_t index) { return ReadDesignText(session, index); }
+};
+
+/// Ends the program but leaves its directory, as a crash does. Returns that.
+std::string crash(std::unique_ptr<Program> program)
+{
+    const auto directory
+        = program->files.directory().substr(0, program->files.directory().size() - 1);
+    std::filesystem::rename(directory, directory + "-hidden");
+    program.reset();
+    std::filesystem::rename(directory + "-hidden", directory);
+    return directory;
+}
+
+std::unique_ptr<Program> programWithDeck(const std::string& parent, const std::string& deckDir)
+{
+    auto program = std::make_unique<Program>(parent);
+    LoadDeck(program->session, {"index.wml", deckDir, {}, {}});
+    writeRecoveryNote(program->session, false);
+    return program;
+}
+
+TEST(RecoveryNote, ComesBackAsItWasWritten)
+{
+    RecoveryNote note;
+    note.deck = {"/home/j\xC3\xBCrgen/a\tb\\n\n/", "in\rdex.wml"};
+    note.wml = {"/tmp/q/", "Wml0.wml"};
+    note.time = 1'763'740'000;
+    note.isChanged = true;
+    ImageEntry image;
+    image.displayDir = "/tmp/q/";
+    image.displayFile = "Wml0.bmp";
+    image.sourceDir = "/decks/";
+    image.sourceFile = "img/a.wbmp";
+    image.alignment = "top";
+    image.pictureHeightPx = 7;
+    image.widthPx = -1;
+    image.hasLayout = true;
+    note.areas = {{{"/tmp/q/", "Wml0.htm"}, 0xFFFFFFFFFFFFFFFFU, {image, {}}}, {}};
+    const auto text = textOfNote(note);
+    const auto read = noteFromText(text);
+    ASSERT_TRUE(read);
+    EXPECT_EQ(textOfNote(*read), text);
+    EXPECT_EQ(read->deck, note.deck);
+    EXPECT_EQ(read->areas.at(0).content, note.areas[0].content);
+    EXPECT_EQ(read->areas.at(0).images.at(0).sourceFile, "img/a.wbmp");
+    for (std::size_t length = 0; length + 1 < text.size(); ++length)
+        EXPECT_FALSE(noteFromText(std::string_view(text).substr(0, length))) << length;
+    EXPECT_FALSE(noteFromText("another file\nend\n"));
+}
+
+TEST(Recovery, OffersCrashedRunsWithChangesOnlyAndOpensThem)
+{
+    const ScratchFolder folder;
+    const auto deck = folder.put("deck/index.wml", kDeck);
+    auto program = programWithDeck(folder.path(), folder.path() + "deck/");
+    EXPECT_TRUE(takeCrashedRuns(folder.path()).empty()) << "it still runs";
+    EXPECT_TRUE(std::filesystem::exists(program->files.directory()));
+    const auto unchanged = crash(std::move(program));
+    EXPECT_TRUE(takeCrashedRuns(folder.path()).empty()) << "nothing was changed";
+    EXPECT_FALSE(std::filesystem::exists(unchanged));
+
+    program = programWithDeck(folder.path(), folder.path() + "deck/");
+    auto text = program->area(1);
+    text.insert(text.find("Stand"), "neu ");
+    WriteDesignText(program->session, 1, text); // and no note of it yet
+    const auto left = crash(std::move(program));
+    const auto runs = takeCrashedRuns(folder.path());
+    ASSERT_EQ(runs.size(), 1U);
+    EXPECT_EQ(runs[0].note.deck.path(), deck);
+    EXPECT_TRUE(takeCrashedRuns(folder.path()).empty()) << "one start has them already";
+
+    Program next(folder.path());
+    openCrashedRun(next.session, runs[0]);
+    EXPECT_NE(next.area(1).find("neu Stand"), std::string::npos);
+    EXPECT_EQ(next.session.deck.at(1).images.at(1).sourceFile, "x.wbmp");
+    EXPECT_EQ(folder.get("deck/index.wml"), kDeck);
+    EXPECT_TRUE(std::filesystem::exists(left));
+    discardCrashedRun(runs[0]);
+    EXPECT_FALSE(std::filesystem::exists(left));
+}
+
+TEST(Recovery, LeavesAloneWhatIsNoRunOfThisPerson)
+{
+    const ScratchFolder folder;
+    (void)folder.put("quillmere-open01/Sicherung.txt", "anyone may write here");
+    ::chmod((folder.path() + "quillmere-open01").c_str(), 0755);
+    (void)folder.put("quillmere-test-abcdef/x", "");
+    std::filesystem::create_directory_symlink("/tmp", folder.path() + "quillmere-link01");
+    (void)folder.put("quillmere-young1/Wml0.htm", "");
+    (void)folder.put("quillmere-broken/Sicherung.txt", "Quillmere-Sicherung 1\nareas");
+    for (const auto* name : {"quillmere-young1", "quillmere-broken"})
+        ::chmod((folder.path() + name).c_str(), 0700);
+    EXPECT_TRUE(takeCrashedRuns(folder.path()).empty());
+    for (const auto* name : {"open01/Sicherung.txt", "test-abcdef/x", "link01", "young1/Wml0.htm"})
+        EXPECT_TRUE(folder.has(std::string("quillmere-") + name)) << name;
+    EXPECT_FALSE(folder.has("quillmere-broken"));
+    EXPECT_TRUE(takeCrashedRuns("/nowhere/").empty());
+}
+
+TEST(Recovery, SaysWhatCannotBeOpenedAndKeepsTheOpenDeck)
+{
+    const ScratchFolder folder;
+    Program program(folder.path());
+    (void)folder.put("index.wml", kDeck);
+    LoadDeck(program.session, {"index.wml", folder.path(), {}, {}});
+    const auto before = program.area(0);
+    CrashedRun run;
+    run.note.deck = {folder.path(), "index.wml"};
+    run.note.areas = {{{folder.path(), "long.htm"}, 0, {}}};
+    (void)folder.put("long.htm", std::string(40'000, 'x'));
+    EXPECT_THROW(openCrashedRun(program.session, run), Overflow);
+    run.note.areas.front().design.name = "gone.htm";
+    EXPECT_THROW(openCrashedRun(program.session, run), FileFailure);
+    EXPECT_EQ(program.area(0), before);
+}
+
+/// Lets the program work for a while and kills it at a moment that nobody chose.
+void killAtWork(const std::string& parent, const std::string& deck, int delayUs)
+{
+    int channel[2];
+    ASSERT_EQ(::pipe(channel), 0);
+    const auto child = ::fork();
+    if (child == 0) {
+        ::dup2(channel[1], STDOUT_FILENO);
+        ::execl(QUILLMERE_RECOVERY_VICTIM, "victim", parent.c_str(), deck.c_str(), nullptr);
+        ::_exit(127);
+    }
+    ::close(channel[1]);
+    char begun = 0;
+    ASSERT_EQ(::read(channel[0], &begun, 1), 1) << "it ended by itself";
+    std::this_thread::sleep_for(std::chrono::microseconds(delayUs));
+    ::kill(child, SIGKILL);
+    int status = 0;
+    ::waitpid(child, &status, 0);
+    ::close(channel[0]);
+    ASSERT_TRUE(WIFSIGNALED(status));
+}
+
+std::vector<int> numbersIn(const std::string& text)
+{
+    static const std::regex expression("Stand ([0-9]+)!");
+    std::vector<int> numbers;
+    for (std::sregex_iterator match(text.begin(), text.end(), expression), end; match != end;
+         ++match)
+        numbers.push_back(std::stoi((*match)[1]));
+    return numbers;
+}
+
+std::string withoutNumbers(const std::string& text)
+{
+    return std::regex_replace(text, std::regex("Stand [0-9]+!"), "Stand N!");
+}
+
+TEST(Recovery, LosesNothingHoweverOftenTheProgramIsKilled)
+{
+    const ScratchFolder folder;
+    const auto deck = folder.put("deck/index.wml", kDeck);
+    const auto runsIn = folder.path() + "runs/";
+    std::filesystem::create_directory(runsIn);
+    std::string whole;
+    {
+        Program program(runsIn);
+        LoadDeck(program.session, {"index.wml", folder.path() + "deck/", {}, {}});
+        WriteDeck(program.session);
+        const auto& first = program.session.deck.front();
+        whole = withoutNumbers(program.files.read(first.wmlDir + first.wmlFile));
+        (void)folder.put("deck/index.wml", program.files.read(first.wmlDir + first.wmlFile));
+    }
+    std::mt19937 random(20260);
+    std::uniform_int_distribution<int> delayUs(0, 50'000);
+    int saved = 0;
+    int recovered = 0;
+    for (int round = 0; round < 220; ++round) {
+        SCOPED_TRACE(round);
+        ASSERT_NO_FATAL_FAILURE(killAtWork(runsIn, deck, delayUs(random)));
+        const auto text = folder.get("deck/index.wml");
+        ASSERT_EQ(withoutNumbers(text), whole);
+        const auto numbers = numbersIn(text);
+        ASSERT_EQ(numbers.size(), 2U);
+        ASSERT_EQ(numbers[0], numbers[1]) << "half of the old and half of the new deck";
+        ASSERT_GE(numbers[0], saved);
+        saved = numbers[0];
+        for (const auto& run : takeCrashedRuns(runsIn)) {
+            Program program(runsIn);
+            ASSERT_NO_THROW(openCrashedRun(program.session, run));
+            ASSERT_EQ(areaCount(program.session.deck), 2U);
+            const int first = numbersIn(program.area(0)).at(0);
+            const int second = numbersIn(program.area(1)).at(0);
+            ASSERT_TRUE(first == second || first == second + 1) << first << ' ' << second;
+            ASSERT_GE(second, saved - 1);
+            ASSERT_GE(first, saved);
+            discardCrashedRun(run);
+            ++recovered;
+        }
+        ASSERT_TRUE(std::filesystem::is_empty(runsIn));
+    }
+    EXPECT_GT(saved, 50);
+    EXPECT_GT(recovered, 50);
+}
+
+} // namespace
+} // namespace quillmere
