@@ -2,6 +2,7 @@
 
 #include "editor/elements/jump_edit.h"
 
+#include "document/text/limits.h"
 #include "document/text/text_search.h"
 #include "document/text/windows1252.h"
 #include "editor/elements/element_edit.h"
@@ -28,6 +29,21 @@ std::string withoutDoBlock(std::string_view text)
     const auto begin = findIgnoringCase(text, "<!--do");
     const auto end = begin == npos ? std::nullopt : findTagFrom(text, "<!--/do", begin);
     return end ? withPiece(text, {begin, end->end}, {}) : std::string(text);
+}
+
+std::string withTargetsRenamed(
+    std::string_view text, std::string_view oldId, std::string_view newId)
+{
+    const auto old = "=\"#" + std::string(oldId) + "\"";
+    const auto now = "=\"#" + std::string(newId) + "\"";
+    Rewriter result(text);
+    for (auto at = text.find(old); at != npos; at = text.find(old, at + old.size())) {
+        result.drop(at, at + old.size());
+        result.append(now);
+    }
+    auto renamed = result.take();
+    requireAddressable(renamed);
+    return renamed;
 }
 
 CardIdFault cardIdFault(std::string_view id)

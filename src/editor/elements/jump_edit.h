@@ -9,6 +9,11 @@ namespace quillmere {
 /// "<!--/do", in any case. Without such a block, or without its end, it stays as it is.
 [[nodiscard]] std::string withoutDoBlock(std::string_view text);
 
+/// The text with all that leads to the card `oldId` leading to `newId`: attribute values in double
+/// quotes that are "#" and the id.
+[[nodiscard]] std::string withTargetsRenamed(
+    std::string_view text, std::string_view oldId, std::string_view newId);
+
 /// What keeps a text from being a card's id, which other cards lead to by "#" and this id.
 enum class CardIdFault { None, Empty, BadCharacter };
 

@@ -9,6 +9,7 @@
 #include "editor/page/page_places.h"
 
 #include <algorithm>
+#include <span>
 
 namespace quillmere {
 
@@ -52,7 +53,24 @@ ElementEdit putIn(std::string_view text, SourceRange piece, const std::string& l
 
 std::string linkMarkup(const LinkSettings& link)
 {
-    return "<a href=\"" + link.target + "\">" + link.caption + "</a> ";
+    return "<a href=\"" + link.target + "\">" + link.caption + "</a>";
+}
+
+bool canBecomeLink(std::string_view text, SourceRange marked)
+{
+    const auto page = readSurfacePage(std::string(text));
+    const auto isMarked = [marked](const PageItem& item) {
+        return item.source.begin < marked.end && item.source.end > marked.begin;
+    };
+    std::size_t blocks = 0;
+    for (const auto& block : page.blocks) {
+        const auto items = std::span(page.items).subspan(block.firstItem, itemCount(block));
+        if (std::ranges::any_of(items, isMarked)) ++blocks;
+    }
+    return blocks == 1 && std::ranges::all_of(page.items, [&](const PageItem& item) {
+        const bool isText = item.kind == ItemKind::Character || item.kind == ItemKind::Blank;
+        return !isMarked(item) || (isText && page.styles[item.style].link == kNone);
+    });
 }
 
 std::optional<LinkSettings> GetLink(std::string_view text, int position)
@@ -68,23 +86,16 @@ std::optional<LinkSettings> GetLink(std::string_view text, int position)
 ElementEdit SetLink(std::string_view text, int position, const LinkSettings& wanted)
 {
     const auto place = static_cast<std::size_t>(std::max(ValidInsertPosition(position, text), 0));
-    auto link = linkMarkup(wanted);
+    auto link = linkMarkup(wanted) + " ";
     if (isAloneOnLine(text, place)) link += kLineBreak;
     return putIn(text, {place, place}, link);
-}
-
-ElementEdit LinkSelection(std::string_view text, SourceRange marked, const LinkSettings& wanted)
-{
-    auto link = linkMarkup(wanted);
-    link.pop_back();
-    return putIn(text, marked, link);
 }
 
 ElementEdit ReplaceLink(std::string_view text, int position, const LinkSettings& wanted)
 {
     const auto old = linkFrom(text, searchOffset(position));
     if (!old) return unchanged(text, position);
-    return LinkSelection(text, {old->startTag.begin, old->end}, wanted);
+    return putIn(text, {old->startTag.begin, old->end}, linkMarkup(wanted));
 }
 
 ElementEdit DeleteLink(std::string_view text, int position)

@@ -17,19 +17,19 @@ struct LinkSettings {
 /// there is none.
 [[nodiscard]] std::optional<LinkSettings> GetLink(std::string_view text, int position);
 
-/// A link as it is put in, with a blank behind it.
+/// A link that takes the place of something, "<a href="TARGET">CAPTION</a>", without the blank that
+/// stands behind a new one: so "Wort." keeps its point.
 [[nodiscard]] std::string linkMarkup(const LinkSettings& link);
+
+/// Whether what is marked can become a link: text of one paragraph, without line breaks, pictures,
+/// options and other links, whose look would be lost.
+[[nodiscard]] bool canBecomeLink(std::string_view text, SourceRange marked);
 
 /// Puts a link in behind the first valid place at the position. A link on a line that is empty
 /// otherwise, and that no <br> ends, gets "<br/> " behind it, so that one link after the other
 /// makes a menu. Text ahead of it or behind it on the line keeps the line as it is. The caret
 /// stands behind what was put in.
 [[nodiscard]] ElementEdit SetLink(std::string_view text, int position, const LinkSettings& wanted);
-
-/// Puts a link in the place of what is marked, without a blank behind it, so that "Wort." keeps
-/// its point.
-[[nodiscard]] ElementEdit LinkSelection(
-    std::string_view text, SourceRange marked, const LinkSettings& wanted);
 
 /// Makes the first link at or behind the position what is wanted, in its place and with nothing put
 /// in behind it. Other attributes and tags within it go. Without a link the text stays as it is.

@@ -18,6 +18,13 @@ TEST(WithoutDoBlock, TakesTheFirstWholeBlock)
     EXPECT_EQ(withoutDoBlock("a<!--do-->b"), "a<!--do-->b");
 }
 
+TEST(WithTargetsRenamed, ChangesWholeTargetsOnly)
+{
+    EXPECT_EQ(withTargetsRenamed(
+                  "<a href=\"#a\">#a</a><a href=\"#ab\"><!--go href=\"#a\"/-->", "a", "neu"),
+        "<a href=\"#neu\">#a</a><a href=\"#ab\"><!--go href=\"#neu\"/-->");
+}
+
 TEST(CardIdFault, TellsWhatNoLinkCanLeadTo)
 {
     EXPECT_EQ(cardIdFault(""), CardIdFault::Empty);

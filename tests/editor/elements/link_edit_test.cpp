@@ -39,8 +39,12 @@ TEST(SetLink, EndsTheLineOnlyWhereItIsAlone)
 
 TEST(LinkEdits, KeepWhatStandsAround)
 {
-    EXPECT_EQ(withCaret(LinkSelection("Ein Wort.", {4, 8}, {"Wort", "w.wml"})),
-        "Ein <a href=\"w.wml\">Wort</a>|.");
+    EXPECT_EQ(linkMarkup({"Wort", "w.wml"}), "<a href=\"w.wml\">Wort</a>");
+    const std::string text = "<p>ab <i>c</i></p><p>d<br/>e<a href=\"#\">f</a></p>";
+    EXPECT_TRUE(canBecomeLink(text, {3, 10}));
+    EXPECT_FALSE(canBecomeLink(text, {3, 22})); // two paragraphs
+    EXPECT_FALSE(canBecomeLink(text, {21, 28})); // a line break
+    EXPECT_FALSE(canBecomeLink(text, {27, 40})); // a link
     const std::string old = "x<A HREF=#a title=t><b>y</b></A>z<a href=\"#\">2</a>";
     EXPECT_EQ(
         withCaret(ReplaceLink(old, 1, {"n", "#n"})), "x<a href=\"#n\">n</a>|z<a href=\"#\">2</a>");

@@ -186,6 +186,18 @@ SourceRange randomItems(test::SmallRandom& random, const SurfacePage& page)
         page.items[std::min(one, other)].source.begin, page.items[std::max(one, other)].source.end};
 }
 
+/// A text with a stray '<' may be refused, and is then as it was.
+FormattedText formattedOrAsItIs(
+    const std::string& text, SourceRange marked, const TextFormats& wanted)
+{
+    try {
+        return formatText(text, marked, wanted);
+    } catch (const RuntimeFailure&) {
+        EXPECT_NE(text.find("< "), std::string::npos) << text;
+        return {text, marked};
+    }
+}
+
 TEST(FormatText, NestsWhateverIsMarked)
 {
     test::SmallRandom random(1);
@@ -196,12 +208,7 @@ TEST(FormatText, NestsWhateverIsMarked)
         const bool wasNested = nestingFault(text).empty();
         SCOPED_TRACE(name + " " + std::to_string(marked.begin) + " " + std::to_string(marked.end));
 
-        FormattedText formatted{text, marked};
-        try {
-            formatted = formatText(text, marked, randomFormats(random));
-        } catch (const RuntimeFailure&) {
-            EXPECT_NE(text.find("< "), std::string::npos) << text;
-        }
+        const auto formatted = formattedOrAsItIs(text, marked, randomFormats(random));
         EXPECT_EQ(seen(formatted.text).characters, seen(text).characters) << text << "\n"
                                                                           << formatted.text;
         if (wasNested) {
@@ -209,11 +216,11 @@ TEST(FormatText, NestsWhateverIsMarked)
         }
 
         // Without formats ahead, taking them away again gives the text itself.
-        auto plain = formatText(text, {0, text.size()}, kPlain).text;
+        auto plain = formattedOrAsItIs(text, {0, text.size()}, kPlain).text;
         DeleteFormatTagsWhoArroundsNoText(plain);
         const auto place = randomItems(random, readSurfacePage(plain));
-        const auto bold = formatText(plain, place, randomFormats(random));
-        const auto back = formatText(bold.text, {0, bold.text.size()}, kPlain);
+        const auto bold = formattedOrAsItIs(plain, place, randomFormats(random));
+        const auto back = formattedOrAsItIs(bold.text, {0, bold.text.size()}, kPlain);
         EXPECT_EQ(seen(back.text), seen(plain));
         if (nestingFault(plain).empty()) {
             EXPECT_EQ(back.text, plain);
