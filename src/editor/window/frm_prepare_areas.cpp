@@ -101,7 +101,9 @@ void frmPrepare::showArea()
     if (shownArea().history.size() < 2)
         PushUndo(session_.document, -1, objBrowserCard->DocumentHTML());
     surfaceChanged();
-    if (deckIsNew_) QTimer::singleShot(0, this, [this] { trap([this] { warnOfCosts(); }); });
+    if (!deckIsNew_) return;
+    rememberFile();
+    QTimer::singleShot(0, this, [this] { trap([this] { warnOfCosts(); }); });
 }
 
 void frmPrepare::showNoArea()
@@ -164,8 +166,7 @@ void frmPrepare::btnShowProjekt_Click()
 void frmPrepare::keepUndoState()
 {
     const auto& shown = objBrowserCard->DocumentHTML();
-    if (deckIsOpen() && shownArea().history.back() != shown)
-        PushUndo(session_.document, -1, shown);
+    if (deckIsOpen() && shownArea().history.back() != shown) PushUndo(session_.document, -1, shown);
 }
 
 void frmPrepare::undoOnSurface()
@@ -190,8 +191,8 @@ void frmPrepare::undoOfKey()
     objBrowserCard->undo();
     if (objBrowserCard->DocumentHTML() == before) return undoOnSurface();
     auto& history = shownArea().history;
-    const auto same = std::ranges::find(
-        history.rbegin(), history.rend() - 1, objBrowserCard->DocumentHTML());
+    const auto same
+        = std::ranges::find(history.rbegin(), history.rend() - 1, objBrowserCard->DocumentHTML());
     if (same != history.rend() - 1)
         history.erase(same.base(), history.end());
     else

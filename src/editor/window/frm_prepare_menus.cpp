@@ -12,6 +12,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QDir>
 #include <QFileInfo>
 #include <QMimeData>
 #include <QShortcut>
@@ -34,9 +35,9 @@ constexpr SubmenuCaption kSubmenus[] = {
 } // namespace
 
 const frmPrepare::Command frmPrepare::kMenuEntries[] = {
-    {"mnuSave", "Speichern", "Ctrl+S", Guards::DeckToSave, kNoForm, &frmPrepare::mnuSave,
+    {"mnuSave", "Speichern", "Ctrl+S", Guards::ToSave, kNoForm, &frmPrepare::mnuSave,
         "mnuContextSave"},
-    {"mnuSaveAs", "Speichern unter", "Ctrl+Shift+S", Guards::DeckToSave, kNoForm,
+    {"mnuSaveAs", "Speichern unter", "Ctrl+Shift+S", Guards::ToSave, kNoForm,
         &frmPrepare::mnuSaveAs, "mnuContextSave"},
     {"mnuOpenTemplate", "Von Vorlage", "", Guards::None, "frmTemplateMultiWml",
         &frmPrepare::mnuOpenTemplate, "mnuContextOpen"},
@@ -180,8 +181,8 @@ void frmPrepare::showRecentDecks()
         auto* entry = new QAction(file.dir().dirName() + " / " + file.fileName(), mnuContextOpen);
         entry->setObjectName(QLatin1String(kRecentName));
         entry->setToolTip(file.filePath());
-        connect(entry, &QAction::triggered, this,
-            [this, path] { trap([&] { openRecent(path); }); });
+        connect(
+            entry, &QAction::triggered, this, [this, path] { trap([&] { openRecent(path); }); });
         mnuContextOpen->addAction(entry);
     }
 }

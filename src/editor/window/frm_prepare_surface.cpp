@@ -256,11 +256,6 @@ bool frmPrepare::eventFilter(QObject* watched, QEvent* event)
         if (event->type() == QEvent::Leave) session_.gSurfaceActive = false;
         return dropped(*event);
     }
-    if (watched == txtScript && event->type() == QEvent::KeyPress) {
-        const int key = static_cast<QKeyEvent*>(event)->key();
-        if (key == Qt::Key_Space || key == Qt::Key_Return || key == Qt::Key_Enter)
-            txtScript_KeyPress();
-    }
     return false;
 }
 

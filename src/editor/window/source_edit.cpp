@@ -83,6 +83,7 @@ void SourceEdit::takeColours()
 {
     colours_ = sourceColours(palette());
     highlighter_->setColours(colours_);
+    bar_->takeLook(colours_);
     setTabStopDistance(kTabInBlanks * fontMetrics().horizontalAdvance(u' '));
     mark();
 }

@@ -2,6 +2,7 @@
 
 #include "editor/window/source_search_bar.h"
 
+#include <QApplication>
 #include <QGridLayout>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -10,7 +11,8 @@ namespace quillmere {
 namespace {
 
 constexpr int kFieldWidthPx = 160;
-constexpr int kHitsWidthPx = 100;
+constexpr int kHitsWidthPx = 80;
+constexpr int kFontPx = 13;
 
 } // namespace
 
@@ -85,6 +87,22 @@ void SourceSearchBar::wire()
     connect(btnReplace, &QPushButton::clicked, this, &SourceSearchBar::replaceWanted);
     connect(btnReplaceAll, &QPushButton::clicked, this, &SourceSearchBar::replaceAllWanted);
     connect(btnCloseSearch, &QToolButton::clicked, this, &SourceSearchBar::closed);
+}
+
+void SourceSearchBar::takeLook(const SourceColours& colours)
+{
+    auto look = palette();
+    look.setColor(QPalette::Window, colours.numberGround);
+    look.setColor(QPalette::Button, colours.numberGround);
+    look.setColor(QPalette::Base, colours.ground);
+    for (const auto role : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text})
+        look.setColor(QPalette::Active, role, colours.ink);
+    look.setColor(QPalette::BrightText, colours.error);
+    setPalette(look);
+    auto plain = font();
+    plain.setFamily(QApplication::font().family());
+    plain.setPixelSize(kFontPx);
+    setFont(plain);
 }
 
 SourceQuery SourceSearchBar::query() const

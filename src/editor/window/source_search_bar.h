@@ -1,5 +1,6 @@
 #pragma once
 
+#include "editor/window/source_colours.h"
 #include "editor/window/source_search.h"
 #include "forms/named.h"
 
@@ -22,6 +23,8 @@ public:
     [[nodiscard]] SourceQuery query() const;
     [[nodiscard]] QString replacement() const { return txtReplace->text(); }
 
+    /// Takes the colours of the view, but the program's own font.
+    void takeLook(const SourceColours& colours);
     /// Shows the bar with its line for the search in focus; `proposed` is put there unless empty.
     void open(const QString& proposed, bool withReplace);
     /// Tells how many hits there are and which of them is marked (from 0; -1: none).

@@ -1,0 +1,200 @@
+// Where everything stands and how it looks. The skin's records place the controls; without a skin
+// the places below hold, which are those of a design without pictures. Held by
+// frm_prepare_look_test.cpp.
+
+#include "editor/window/frm_prepare.h"
+
+#include "forms/overlay.h"
+#include "forms/skin_application.h"
+#include "forms/text.h"
+#include "skins/skin_controls.h"
+
+#include <QFontDatabase>
+
+namespace quillmere {
+namespace {
+
+struct Place {
+    const char* control;
+    int left;
+    int top;
+    int width;
+    int height;
+};
+
+constexpr QSize kWindowSize(960, 700);
+
+constexpr Place kPlaces[] = {
+    {"lblDeckName", 152, 12, 280, 36},
+    {"lblCurAreaCaption", 138, 160, 330, 32},
+    {"lblCharCount", 476, 160, 144, 32},
+    {"objBrowserCard", 138, 204, 782, 420},
+    {"txtScript", 138, 204, 782, 420},
+    {"lblToolTipForbtnAreaPrev", 138, 636, 275, 32},
+    {"lblToolTipAreaNext", 645, 636, 275, 32},
+    {"btnShowProjekt", 808, 160, 112, 32},
+    {"btnScript", 636, 160, 164, 32},
+    {"btnAreaPrev", 429, 636, 36, 32},
+    {"btnAreaOne", 473, 636, 112, 32},
+    {"btnAreaNext", 593, 636, 36, 32},
+    {"lblButtonMove", 152, 8, 700, 44},
+    {"lblButtonMinimize", 860, 12, 36, 36},
+    {"lblButtonClose", 904, 12, 36, 36},
+};
+
+constexpr int kScrollBarWidth = 14;
+constexpr int kNoteFontPx = 12;
+
+struct DesignText {
+    const char* control;
+    const char* text;
+    const char* toolTip;
+};
+
+constexpr DesignText kDesignTexts[] = {
+    {"lblToolTipForbtnAreaPrev", "Erster Bereich erreicht. Weiter vorblättern nicht möglich!", ""},
+    {"lblToolTipAreaNext", "Letzter Bereich erreicht. Weiter blättern nicht möglich!", ""},
+    {"btnShowProjekt", "Projekt", "Dokumente des Projektverzeichnisses"},
+    {"btnScript", "Quelltext", "Den WML-Text des Dokumentes zeigen"},
+    {"btnAreaPrev", "", "Voriger Bereich (Strg+Bild auf)"},
+    {"btnAreaNext", "", "Nächster Bereich (Strg+Bild ab)"},
+    {"btnAreaOne", "", "Grafische Ansicht"},
+    {"lblCharCount", "", "Zeichen des gezeigten Bereichs"},
+};
+
+QString rgb(const QColor& colour)
+{
+    return colour.name(QColor::HexRgb);
+}
+
+/// How the buttons of the window look; a step lighter under the pointer, a ring at the focus.
+QString buttonStyle(const QPalette& palette)
+{
+    return QStringLiteral("QPushButton { background: %1; color: %2; border: 1px solid %3;"
+                          " border-radius: 9px; padding: 0 8px; }"
+                          "QPushButton:hover { background: %4; }"
+                          "QPushButton:pressed { background: %5; color: %6; }"
+                          "QPushButton:focus { border: 2px solid %5; }"
+                          "QPushButton:disabled { color: %7; }")
+        .arg(rgb(palette.color(QPalette::Button)), rgb(palette.color(QPalette::ButtonText)),
+            rgb(palette.color(QPalette::Mid)), rgb(palette.color(QPalette::Button).lighter(108)),
+            rgb(palette.color(QPalette::Highlight)), rgb(palette.color(QPalette::HighlightedText)),
+            rgb(palette.color(QPalette::Mid)));
+}
+
+const SkinItem& itemOf(const SkinRecord& skin, SkinPart part)
+{
+    return skin.items.at(static_cast<std::size_t>(part));
+}
+
+/// The colours that all controls of the window share, out of the skin's own values.
+QPalette windowPalette(QPalette palette, const SkinRecord& skin)
+{
+    const auto& accent = itemOf(skin, SkinPart::Accent);
+    palette.setColor(QPalette::Highlight, skinColour(accent.BackColor));
+    palette.setColor(QPalette::HighlightedText, skinColour(accent.ForeColor));
+    palette.setColor(QPalette::Mid, skinColour(itemOf(skin, SkinPart::Well).ForeColor));
+    palette.setColor(
+        QPalette::PlaceholderText, skinColour(itemOf(skin, SkinPart::Hairline).ForeColor));
+    return palette;
+}
+
+} // namespace
+
+void frmPrepare::layOut()
+{
+    setFixedSize(kWindowSize);
+    auto* scrollDummy = named<QWidget>("objScrollDummy", this);
+    scrollDummy->resize(kScrollBarWidth, 0);
+    scrollDummy->hide();
+    for (const auto& place : kPlaces)
+        findChild<QWidget*>(QLatin1String(place.control))
+            ->setGeometry(place.left, place.top, place.width, place.height);
+    for (const auto& text : kDesignTexts) {
+        auto* control = findChild<QWidget*>(QLatin1String(text.control));
+        if (*text.text != '\0') control->setProperty("text", QString::fromUtf8(text.text));
+        control->setToolTip(QString::fromUtf8(text.toolTip));
+        control->setAccessibleName(QString::fromUtf8(*text.text ? text.text : text.toolTip));
+    }
+    for (auto* label : {lblDeckName, lblCurAreaCaption, lblCharCount, lblToolTipForbtnAreaPrev,
+             lblToolTipAreaNext}) {
+        label->setTextFormat(Qt::PlainText);
+        label->setAttribute(Qt::WA_TransparentForMouseEvents, label == lblDeckName);
+    }
+    lblToolTipAreaNext->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    lblCharCount->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    lblToolTipAreaNext->setWordWrap(true);
+    lblToolTipForbtnAreaPrev->setWordWrap(true);
+    txtScript->hide();
+    lblDeckName->raise();
+}
+
+QString frmPrepare::captionOf(const char* control, const char* otherwise) const
+{
+    const auto& table = session_.forms.table();
+    const auto* form = findForm(table, "frmPrepare");
+    const auto* entry = form == nullptr ? nullptr : findControl(table, *form, control);
+    const bool isThere = entry != nullptr && !entry->Text.empty();
+    return isThere ? shownText(entry->Text) : QString::fromUtf8(otherwise);
+}
+
+void frmPrepare::applySkin()
+{
+    ApplyEditorSkin(*this, session_.skins, session_.settings, [this](const PageLook& look) {
+        objBrowserCard->setGeometry(look.place);
+        skinLook_ = objBrowserCard->look();
+        skinLook_->ink = look.fgColor;
+        skinLook_->ground = look.bgColor;
+        skinLook_->fontSizePx = look.fontSizePx;
+        skinLook_->fontFamily = look.fontFamily;
+    });
+    const auto index = FindSelectedSkin(session_.skins, true);
+    if (skinLook_ && index && *index < session_.skins.EditorSkins.size())
+        placeFreely(session_.skins.EditorSkins[*index]);
+    SetWindowOutline(*this, session_.settings, outline_);
+    applySurfaceLook();
+}
+
+/// What no item of the skin is for.
+void frmPrepare::placeFreely(const SkinRecord& skin)
+{
+    const auto places = freePlaces(skin);
+    lblDeckName->setGeometry(places.fileName);
+    lblCharCount->setGeometry(places.characters);
+    lblToolTipForbtnAreaPrev->setGeometry(places.firstNote);
+    lblToolTipAreaNext->setGeometry(places.lastNote);
+    setPalette(windowPalette(palette(), skin));
+    auto muted = lblCurAreaCaption->palette();
+    muted.setColor(QPalette::WindowText, palette().color(QPalette::PlaceholderText));
+    for (auto* label : {lblDeckName, lblCharCount, lblToolTipForbtnAreaPrev, lblToolTipAreaNext}) {
+        auto font = lblCurAreaCaption->font();
+        font.setPixelSize(kNoteFontPx);
+        font.setWeight(QFont::Normal);
+        label->setFont(font);
+        label->setPalette(muted);
+    }
+    for (auto* button : {btnShowProjekt, btnScript, btnAreaPrev, btnAreaOne, btnAreaNext}) {
+        button->setPalette(windowPalette(button->palette(), skin));
+        button->setStyleSheet(buttonStyle(button->palette()));
+    }
+    for (auto* label : findChildren<ToolLabel*>())
+        label->setPalette(windowPalette(label->palette(), skin));
+}
+
+void frmPrepare::applySurfaceLook()
+{
+    if (!mActivated || !skinLook_) return;
+    const auto& shown = objBrowserCard->look();
+    const bool isSame = shown.ink == skinLook_->ink && shown.ground == skinLook_->ground
+        && shown.fontFamily == skinLook_->fontFamily && shown.fontSizePx == skinLook_->fontSizePx;
+    if (!isSame) objBrowserCard->setLook(*skinLook_); // builds the page anew
+}
+
+void frmPrepare::popUp(QMenu& menu, const char* tool)
+{
+    session_.gSurfaceActive = false;
+    const auto* label = findChild<ToolLabel*>(QLatin1String("lblButton") + QLatin1String(tool));
+    menu.popup(label->mapToGlobal(QPoint(0, label->height())));
+}
+
+} // namespace quillmere

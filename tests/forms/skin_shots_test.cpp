@@ -1,0 +1,102 @@
+// The main window as its skins dress it, with all states of its tools. QUILLMERE_SHOTS names a
+// folder for pictures of it.
+
+#include "forms/skinned_window.h"
+#include "forms/theme.h"
+
+#include <QBuffer>
+#include <QDir>
+#include <QImage>
+
+#include <gtest/gtest.h>
+
+namespace quillmere {
+namespace {
+
+const std::string kSkins = QUILLMERE_SOURCE_DIR "/data/Skins/";
+
+void giveTexts(SkinnedWindow& window)
+{
+    const QPair<const char*, const char*> kTools[]
+        = {{"SeiteNew", "Neu"}, {"SeiteOpen", "Öffnen"}, {"SeiteSave", "Sichern"},
+            {"Undo", "Zurück"}, {"Previour", "Vorschau"}, {"BildKonverter", "Konverter"},
+            {"Upload", "Upload"}, {"System", "System"}, {"Help", "Hilfe"}, {"Area", "Bereich"},
+            {"Table", "Tabelle"}, {"Image", "Bild"}, {"Link", "Link"}, {"Option", "Auswahl"},
+            {"TextFormat", "Format"}, {"Justify", "Ausrichten"}, {"Morvane", "Quillmere"}};
+    for (const auto& [name, text] : kTools)
+        window.tool(name).setText(QString::fromUtf8(text));
+    const QPair<const char*, const char*> kButtons[]
+        = {{"btnScript", "Quelltext"}, {"btnShowProjekt", "Projekt"}, {"btnAreaOne", "1 von 4"}};
+    for (const auto& [name, text] : kButtons)
+        window.control<QPushButton>(name).setText(QString::fromUtf8(text));
+    window.control<QLabel>("lblCurAreaCaption").setText("Bereich 1: Willkommen");
+}
+
+void addLabel(SkinnedWindow& window, const QRect& place, const QString& text, Qt::Alignment where,
+    const QColor& ink)
+{
+    auto* label = new QLabel(text, &window);
+    label->setGeometry(place);
+    label->setAlignment(where | Qt::AlignVCenter);
+    label->setWordWrap(true);
+    label->setAttribute(Qt::WA_TransparentForMouseEvents);
+    auto palette = label->palette();
+    palette.setColor(QPalette::WindowText, ink);
+    label->setPalette(palette);
+}
+
+void addFreeTexts(SkinnedWindow& window, const SkinRecord& skin)
+{
+    const auto places = freePlaces(skin);
+    const auto theme = themeOf(skin);
+    addLabel(window, places.fileName, "index.wml", Qt::AlignLeft, theme.muted);
+    addLabel(window, places.characters, "612 Zeichen", Qt::AlignRight, theme.muted);
+    addLabel(window, places.firstNote,
+        QString::fromUtf8("Erster Bereich erreicht. Weiter vorblättern nicht möglich!"),
+        Qt::AlignLeft, theme.muted);
+    addLabel(window, places.lastNote,
+        QString::fromUtf8("Letzter Bereich erreicht. Weiter blättern nicht möglich!"),
+        Qt::AlignRight, theme.muted);
+}
+
+TEST(SkinShots, EverySkinDressesTheWholeWindow)
+{
+    const SkinSettings store(kSkins);
+    const auto& settings = store.settings;
+    SkinTables tables;
+    ReadEditorSkins(tables, settings);
+    const auto shots = qEnvironmentVariable("QUILLMERE_SHOTS");
+    for (std::size_t i = 0; i + 1 < tables.EditorSkins.size(); ++i) {
+        for (auto& skin : tables.EditorSkins)
+            skin.Selected = 0;
+        auto& skin = tables.EditorSkins[i];
+        skin.Selected = SkinHead::kSelected;
+        const auto name = std::string(skin.Model.text());
+        SCOPED_TRACE(name);
+        applyTheme(*qobject_cast<QApplication*>(QApplication::instance()), themeOf(skin));
+        SkinnedWindow window;
+        giveTexts(window);
+        QRect page;
+        ApplyEditorSkin(window, tables, settings, [&](const PageLook& look) { page = look.place; });
+        addFreeTexts(window, skin);
+        window.tool("Table").setEnabled(false);
+        window.control("btnAreaPrev").setEnabled(false);
+        window.show();
+        window.activateWindow();
+        QApplication::processEvents();
+        window.tool("Undo").setFocus(Qt::TabFocusReason);
+        QMouseEvent press(QEvent::MouseButtonPress, QPointF(5, 5), QPointF(5, 5), Qt::LeftButton,
+            Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(&window.tool("Link"), &press);
+        for (auto* child : window.findChildren<QWidget*>()) {
+            EXPECT_TRUE(window.rect().contains(child->geometry()) || child->parent() != &window)
+                << child->objectName().toStdString();
+        }
+        EXPECT_TRUE(window.rect().contains(page));
+        if (!shots.isEmpty())
+            window.grab().save(shots + "/" + QString::fromStdString(name) + ".png");
+    }
+}
+
+} // namespace
+} // namespace quillmere
