@@ -1,0 +1,62 @@
+#pragma once
+
+#include "editor/design_surface.h"
+#include "editor/elements/element_edit.h"
+#include "editor/page/hit_test.h"
+#include "forms/form.h"
+#include "forms/named.h"
+
+#include <QHBoxLayout>
+#include <QPushButton>
+
+#include <cstddef>
+#include <string>
+
+namespace quillmere {
+
+/// What the dialogs of elements share: the surface and the text of the shown area, and the buttons.
+/// The surface must be stored in the area's design work file before such a form opens.
+class ElementForm : public Form {
+    Q_OBJECT
+
+protected:
+    ElementForm(Session& session, DesignSurface& surface, const QString& name, QWidget* parent);
+
+    [[nodiscard]] DesignSurface& surface() const { return surface_; }
+    [[nodiscard]] std::size_t area() const;
+    [[nodiscard]] std::string designText() const;
+    /// The position from which a found element is searched: one ahead of it.
+    [[nodiscard]] static int searchPosition(const Hit& hit);
+    [[nodiscard]] QString word(int id) const;
+    /// The text that the resources have for the entry `id` of this form, or else `otherwise`.
+    [[nodiscard]] QString formText(const char* id, const QString& otherwise) const;
+    /// Puts a word as a question with the stop icon; true for Yes.
+    [[nodiscard]] bool confirms(int id) const;
+    /// Tells what is wrong with a control's content and brings the focus there.
+    void complain(const QString& text, QWidget& control) const;
+
+    /// Writes the text, shows it with the caret behind the position, keeps it for undo, and closes
+    /// the form. Throws as WriteDesignText; nothing is changed then.
+    void apply(const ElementEdit& edit);
+    /// The same with a range of the text marked.
+    void apply(const std::string& text, SourceRange marked);
+
+    /// The row of buttons: `remove` (may be null) at the left, `accept` at the right as default.
+    [[nodiscard]] QHBoxLayout* buttonRow(QPushButton* accept, QPushButton* remove);
+    /// Runs `routine` in trap() for each click.
+    template <class Form> void onClick(QPushButton* button, void (Form::*routine)())
+    {
+        connect(button, &QPushButton::clicked, this,
+            [this, routine] { trap([&] { (static_cast<Form*>(this)->*routine)(); }); });
+    }
+
+    QPushButton* const btnCancel = named<QPushButton>("btnCancel", this);
+    QPushButton* const btnHelp = named<QPushButton>("btnHelp", this);
+
+private:
+    void write(const std::string& text);
+
+    DesignSurface& surface_;
+};
+
+} // namespace quillmere

@@ -1,0 +1,229 @@
+// All that may be refused is looked at first; the files are written then. Held by
+// tests/editor/dialogs/frm_area_test.cpp.
+
+#include "editor/dialogs/frm_area.h"
+
+#include "document/deck_store.h"
+#include "document/design_text.h"
+#include "document/images.h"
+#include "document/platform/word_ids.h"
+#include "editor/elements/jump_edit.h"
+#include "editor/elements/typed_values.h"
+#include "forms/overlay.h"
+#include "forms/text.h"
+
+#include <QGridLayout>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace quillmere {
+
+namespace {
+
+constexpr const char* kNewTitle = "Nicht festgelegt";
+constexpr std::int16_t kNewAreaTexts = 1; // variant of the form's texts
+
+QString typed(std::string_view markup)
+{
+    return QString::fromStdU16String(typedFrom(markup));
+}
+
+std::string valueOf(const QLineEdit& field)
+{
+    return valueMarkup(field.text().trimmed().toStdU16String());
+}
+
+} // namespace
+
+frmArea::frmArea(Session& session, DesignSurface& surface, QWidget* parent)
+    : ElementForm(session, surface, "frmArea", parent)
+{
+    setWindowTitle("Bereichseinstellungen");
+    objFrmCurArea->setTitle("Titel");
+    lblId->setText("&Name (Id):");
+    lblTitle->setText("&Titel:");
+    lblId->setBuddy(txtId);
+    lblTitle->setBuddy(txtTitle);
+    objFrmSelectButton->setTitle("Beschriftung des Auswahl-Buttons");
+    txtJumpSelectionCaption->setAccessibleName("Beschriftung des Auswahl-Buttons");
+    txtJumpSelectionCaption->setPlaceholderText("leer: kein Sprung");
+    btnNew->setText("&OK");
+    btnDelete->setText("&Löschen");
+    layOut();
+    onClick(btnNew, &frmArea::btnNew_Click);
+    onClick(btnDelete, &frmArea::btnDelete_Click);
+}
+
+void frmArea::layOut()
+{
+    auto* grid = new QGridLayout(objFrmCurArea);
+    grid->addWidget(lblId, 0, 0);
+    grid->addWidget(txtId, 0, 1);
+    grid->addWidget(lblTitle, 1, 0);
+    grid->addWidget(txtTitle, 1, 1);
+    (new QVBoxLayout(objFrmSelectButton))->addWidget(txtJumpSelectionCaption);
+    auto* rows = new QVBoxLayout(this);
+    rows->addWidget(objFrmCurArea);
+    rows->addWidget(objFrmSelectButton);
+    rows->addWidget(objFrmLink);
+    rows->addStretch();
+    rows->addLayout(buttonRow(btnNew, btnDelete));
+    txtTitle->setMinimumWidth(fontMetrics().averageCharWidth() * 44);
+}
+
+void frmArea::SetInitializations(bool newElement)
+{
+    loadTexts();
+    NewElement = newElement;
+    objFrmLink->fillAreas(formText("4", "Bereich"));
+    objFrmLink->setDefaults();
+    btnDelete->setVisible(!NewElement);
+    if (NewElement) {
+        setWindowTitle("Bereich einfügen");
+        OverlayForm(*this, session(), kNewAreaTexts);
+        txtId->setText(typed(freeId()));
+        txtTitle->setText(kNewTitle);
+    } else {
+        showArea();
+    }
+    txtTitle->selectAll();
+    txtTitle->setFocus();
+}
+
+void frmArea::showArea()
+{
+    const auto card = GetCardAttributes(session().document, area());
+    txtId->setText(typed(card.id));
+    txtTitle->setText(typed(card.title));
+    shownJump_ = GetJump(session().document, area());
+    txtJumpSelectionCaption->setText(typed(shownJump_.label));
+    if (!shownJump_.target.empty()) objFrmLink->setTarget(shownJump_.target);
+}
+
+/// The id that a new area gets.
+std::string frmArea::freeId() const
+{
+    auto number = areaCount(session().document.deck);
+    std::string id;
+    do {
+        id = "Bereich" + std::to_string(++number);
+    } while (hasId(areaCount(session().document.deck), id));
+    return id;
+}
+
+/// Whether an area other than `areaIndex` has the id.
+bool frmArea::hasId(std::size_t areaIndex, const std::string& id) const
+{
+    for (std::size_t i = 0; i < areaCount(session().document.deck); ++i)
+        if (i != areaIndex && GetCardAttributes(session().document, i).id == id) return true;
+    return false;
+}
+
+bool frmArea::hasGoodId() const
+{
+    const auto id = coreText(txtId->text().trimmed());
+    const auto index = NewElement ? areaCount(session().document.deck) : area();
+    const bool isKept = !NewElement && id == GetCardAttributes(session().document, index).id;
+    if (isKept) return true;
+    const auto fault = cardIdFault(id);
+    if (fault == CardIdFault::None && !hasId(index, id)) return true;
+    complain(fault == CardIdFault::Empty ? "Bitte geben Sie dem Bereich einen Namen. Über ihn "
+                                           "führen Links zu diesem Bereich."
+            : fault == CardIdFault::BadCharacter
+            ? "Dieser Name ist nicht möglich. Erlaubt sind Buchstaben, Ziffern, „-“, „_“ und „.“, "
+              "aber keine Leerzeichen."
+            : "Diesen Namen hat schon ein anderer Bereich. Bitte wählen Sie einen anderen.",
+        *txtId);
+    return false;
+}
+
+void frmArea::addArea()
+{
+    auto& document = session().document;
+    const auto first = document.deck.front();
+    AddArea(document, false, first.deckFile, first.deckDir);
+    document.currentArea = static_cast<int>(areaCount(document.deck)) - 1;
+}
+
+void frmArea::setIdAndTitle()
+{
+    auto& document = session().document;
+    const auto card = GetCardAttributes(document, area());
+    const auto id = coreText(txtId->text().trimmed());
+    const auto title = valueOf(*txtTitle);
+    if (card.id == id && card.title == title) return;
+    SetCardAttributes(document, area(), id, title);
+    if (card.id != id && !card.id.empty() && !hasId(area(), card.id)) renameTargets(card.id, id);
+}
+
+void frmArea::renameTargets(const std::string& oldId, const std::string& newId)
+{
+    auto& document = session().document;
+    std::vector<std::string> texts;
+    for (std::size_t i = 0; i < areaCount(document.deck); ++i)
+        texts.push_back(withTargetsRenamed(ReadDesignText(document, i), oldId, newId));
+    for (std::size_t i = 0; i < texts.size(); ++i)
+        if (texts[i] != ReadDesignText(document, i)) WriteDesignText(document, i, texts[i]);
+}
+
+void frmArea::setJump(const Jump& wanted)
+{
+    auto& document = session().document;
+    const auto jump = GetJump(document, area());
+    if (wanted.label.empty()) {
+        const auto text = designText();
+        const auto without = withoutDoBlock(text);
+        if (!jump.label.empty() && without != text) WriteDesignText(document, area(), without);
+    } else if (wanted.label != jump.label || wanted.target != jump.target) {
+        SetJump(document, area(), {{}, wanted.label, wanted.target});
+    }
+}
+
+void frmArea::keepState()
+{
+    session().window->setDocChanged(true);
+    session().window->RefreshSurface();
+    PushUndo(session().document, -1, surface().DocumentHTML());
+    if (session().afterStore) session().afterStore(true);
+    accept();
+}
+
+void frmArea::btnNew_Click()
+{
+    if (!hasGoodId()) return;
+    Jump wanted{{}, valueOf(*txtJumpSelectionCaption), {}};
+    const bool hasAddress = !objFrmLink->address().text().trimmed().isEmpty();
+    if (wanted.label.empty() && hasAddress && shownJump_.label.empty())
+        return complain("Bitte geben Sie eine Beschriftung für den Auswahl-Button ein. Ohne sie "
+                        "kann der Bereich keinen Sprung haben.",
+            *txtJumpSelectionCaption);
+    if (!wanted.label.empty()) wanted.target = objFrmLink->target();
+    if (!wanted.label.empty() && wanted.target.empty())
+        return complain(
+            "Bitte geben Sie eine URL ein oder wählen Sie einen Bereich.", objFrmLink->address());
+    const auto oldId
+        = NewElement ? std::string() : GetCardAttributes(session().document, area()).id;
+    if (NewElement) addArea();
+    setIdAndTitle();
+    const auto newId = GetCardAttributes(session().document, area()).id;
+    if (wanted.target == "#" + oldId) wanted.target = "#" + newId;
+    setJump(wanted);
+    keepState();
+}
+
+void frmArea::btnDelete_Click()
+{
+    if (!confirms(word::kDeleteArea)) return;
+    auto& document = session().document;
+    const bool isLast = areaCount(document.deck) < 2;
+    RemoveArea(document, area(), isLast);
+    const int last = static_cast<int>(areaCount(document.deck)) - 1;
+    document.currentArea = std::clamp(document.currentArea, 0, std::max(last, 0));
+    session().window->setDocChanged(!isLast);
+    session().window->RefreshSurface();
+    if (session().afterStore) session().afterStore(!isLast);
+    accept();
+}
+
+} // namespace quillmere

@@ -1,0 +1,103 @@
+// Held by tests/editor/dialogs/frm_links_test.cpp.
+
+#include "editor/dialogs/frm_links.h"
+
+#include "document/deck_store.h"
+#include "document/platform/word_ids.h"
+#include "editor/elements/typed_values.h"
+
+#include <QVBoxLayout>
+
+namespace quillmere {
+
+frmLinks::frmLinks(Session& session, DesignSurface& surface, QWidget* parent)
+    : ElementForm(session, surface, "frmLinks", parent)
+{
+    setWindowTitle("Hyperlink");
+    objFrmCaption->setTitle("Beschriftung");
+    txtCaption->setAccessibleName("Beschriftung");
+    btnNew->setText("&OK");
+    btnDelete->setText("&Löschen");
+    layOut();
+    onClick(btnNew, &frmLinks::btnNew_Click);
+    onClick(btnDelete, &frmLinks::btnDelete_Click);
+}
+
+void frmLinks::layOut()
+{
+    (new QVBoxLayout(objFrmCaption))->addWidget(txtCaption);
+    auto* rows = new QVBoxLayout(this);
+    rows->addWidget(objFrmCaption);
+    rows->addWidget(objFrmLink);
+    rows->addStretch();
+    rows->addLayout(buttonRow(btnNew, btnDelete));
+    txtCaption->setMinimumWidth(fontMetrics().averageCharWidth() * 48);
+}
+
+void frmLinks::SetInitializations(bool newElement, const Hit& hit)
+{
+    loadTexts();
+    mLinkFound = hit.Inside;
+    mLinkPos = searchPosition(hit);
+    NewElement = newElement || !mLinkFound;
+    objFrmLink->fillAreas(formText("4", "Bereich"));
+    objFrmLink->setDefaults();
+    const auto marked = surface().selectedText().simplified();
+    txtCaption->setText(markedText().empty() || marked.isEmpty() ? word(word::kLinkText) : marked);
+    setWindowTitle(
+        NewElement ? formText("2", "Hyperlink einfügen") : formText("1", "Hyperlink bearbeiten"));
+    btnDelete->setVisible(!NewElement);
+    const auto link = NewElement ? std::nullopt : GetLink(designText(), mLinkPos);
+    if (link) {
+        txtCaption->setText(QString::fromStdU16String(typedFrom(link->caption)));
+        objFrmLink->setTarget(link->target);
+    }
+    txtCaption->selectAll();
+    txtCaption->setFocus();
+}
+
+/// What is marked of text; empty where an object is marked, or nothing.
+SourceRange frmLinks::markedText() const
+{
+    const auto selection = surface().selection();
+    const bool isText = surface().QueryStatus(surface_command::kItalic) != 1
+        && !surface().selectedText().trimmed().isEmpty();
+    return isText ? selection.marked : SourceRange{};
+}
+
+void frmLinks::btnNew_Click()
+{
+    LinkSettings wanted{captionMarkup(txtCaption->text().toStdU16String()), {}};
+    if (txtCaption->text().trimmed().isEmpty())
+        return complain("Bitte geben Sie eine Beschriftung ein. Ein Link ohne Beschriftung ist "
+                        "nicht zu sehen.",
+            *txtCaption);
+    wanted.target = objFrmLink->target();
+    if (wanted.target.empty())
+        return complain(
+            "Bitte geben Sie eine URL ein oder wählen Sie einen Bereich.", objFrmLink->address());
+    const auto text = designText();
+    if (!NewElement) return apply(ReplaceLink(text, mLinkPos, wanted));
+    if (markedText().empty()) return apply(SetLink(text, mLinkPos, wanted));
+    linkMarkedText(wanted);
+}
+
+void frmLinks::linkMarkedText(const LinkSettings& wanted)
+{
+    if (!canBecomeLink(designText(), markedText()))
+        return complain("Was Sie markiert haben, kann kein Link werden. Markieren Sie nur Text, "
+                        "der in einem Absatz steht und kein Bild, keinen Zeilenumbruch und keinen "
+                        "anderen Link enthält. Das Dokument ist unverändert.",
+            *txtCaption);
+    surface().pasteHTML(linkMarkup(wanted));
+    const auto caret = surface().caretOffset();
+    SaveSurface(session().document, area());
+    apply(surface().DocumentHTML(), {caret, caret});
+}
+
+void frmLinks::btnDelete_Click()
+{
+    if (confirms(word::kDeleteLink)) apply(DeleteLink(designText(), mLinkPos));
+}
+
+} // namespace quillmere

@@ -1,0 +1,24 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace quillmere {
+
+/// The design text without its first do block, from "<!--do" through the '>' of the next
+/// "<!--/do", in any case. Without such a block, or without its end, it stays as it is.
+[[nodiscard]] std::string withoutDoBlock(std::string_view text);
+
+/// The text with all that leads to the card `oldId` leading to `newId`: attribute values in double
+/// quotes that are "#" and the id.
+[[nodiscard]] std::string withTargetsRenamed(
+    std::string_view text, std::string_view oldId, std::string_view newId);
+
+/// What keeps a text from being a card's id, which other cards lead to by "#" and this id.
+enum class CardIdFault { None, Empty, BadCharacter };
+
+/// An id is made of letters (ä, ö, ü and ß as well), digits, "_", "-" and ".". What else an id may
+/// hold in WML would be changed by saving, or ends an attribute.
+[[nodiscard]] CardIdFault cardIdFault(std::string_view id);
+
+} // namespace quillmere

@@ -1,0 +1,49 @@
+#pragma once
+
+#include "editor/elements/element_edit.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+
+// The entries of selection lists: <!--select--><!--option onpick="TARGET"-->CAPTION<!--/option-->
+// ... <!--/select--><br/>. After each edit all radio buttons of the area are numbered anew.
+
+namespace quillmere {
+
+struct OptionSettings {
+    std::string caption; ///< its markup; may be empty
+    std::string target; ///< "#" and a card id, or a URL, as it stands between the quotes
+};
+
+/// The first option at or behind the position; its caption is the text outside of tags. nullopt
+/// where there is none.
+[[nodiscard]] std::optional<OptionSettings> GetOption(std::string_view text, int position);
+
+/// Puts an option in behind the position where that is the one of a found option. Else it joins a
+/// list of the area as its last option: the list around the position, or the next one behind it, or
+/// the last one ahead. In an area without a list it makes one, behind the first valid place at the
+/// position and with the formats there ended ahead of it and begun again behind it. The caret
+/// stands behind the list.
+[[nodiscard]] ElementEdit SetOption(
+    std::string_view text, int position, bool optionFound, const OptionSettings& wanted);
+
+/// Makes the first option at or behind the position what is wanted: as DeleteOption with `Replace`
+/// and SetOption at the same place would, but that the <br/> behind a list of one option is not
+/// doubled. Other attributes of the option go. The caret stands behind its caption. Without an
+/// option the text stays as it is.
+[[nodiscard]] ElementEdit ReplaceOption(
+    std::string_view text, int position, const OptionSettings& wanted);
+
+/// Takes out the first option at or behind the position, and with the only option of a list the
+/// list, but not the <br/> behind it. `Replace` leaves the radio buttons as they are, since another
+/// edit follows. Without an option the text stays as it is.
+[[nodiscard]] ElementEdit DeleteOption(std::string_view text, int position, bool Replace);
+
+/// Ends all formats that enclose the list at offset `list` ahead of it and begins them again behind
+/// it and the <br/> that follows, all at once so that they stay nested; a pair that then holds
+/// nothing is left out. "<b>x<!--select-->...<!--/select--><br/>y</b>" becomes
+/// "<b>x</b><!--select-->...<!--/select--><br/><b>y</b>".
+[[nodiscard]] std::string MoveFormatTagsOutOfSelect(std::string_view text, std::size_t list);
+
+} // namespace quillmere

@@ -1,0 +1,202 @@
+// The units of the region are gone through once: where the formats of two neighbours differ, those
+// are ended that the second has not and those begun that the first has not. The order is the same
+// everywhere, so that what stays open is always the outer part. Held by text_formats_test.cpp,
+// which formats random selections of random texts.
+
+#include "editor/elements/text_formats.h"
+
+#include "document/text/failure.h"
+#include "document/text/limits.h"
+#include "editor/elements/format_units.h"
+#include "editor/page/page_edits.h"
+#include "editor/page/splice_list.h"
+
+#include <algorithm>
+#include <functional>
+#include <utility>
+#include <vector>
+
+namespace quillmere {
+
+namespace {
+
+/// The items that are marked; without blanks where there is something else.
+std::vector<PageItem> markedItems(const SurfacePage& page, SourceRange marked)
+{
+    std::vector<PageItem> items;
+    for (const auto& item : page.items)
+        if (item.source.begin < marked.end && item.source.end > marked.begin) items.push_back(item);
+    const auto isText = [](const PageItem& item) { return item.kind == ItemKind::Character; };
+    if (std::ranges::any_of(items, isText)) std::erase_if(items, std::not_fn(isText));
+    return items;
+}
+
+/// The value that all items have; nullopt where they differ.
+template <typename Read>
+auto commonOf(const SurfacePage& page, const std::vector<PageItem>& items, Read read)
+    -> std::optional<decltype(read(TextStyle{}))>
+{
+    auto first = read(items.empty() ? TextStyle{} : page.styles[items.front().style]);
+    for (const auto& item : items)
+        if (read(page.styles[item.style]) != first) return std::nullopt;
+    return first;
+}
+
+LetterSize sizeOf(const TextStyle& style)
+{
+    if (style.sizeStep == 0) return LetterSize::Normal;
+    return style.sizeStep > 0 ? LetterSize::Big : LetterSize::Small;
+}
+
+void setFormat(int& tag, int& otherTag, bool isOn)
+{
+    if (!isOn) tag = otherTag = 0;
+    if (isOn && otherTag == 0) tag = 1;
+}
+
+FormatFlags withFormats(FormatFlags flags, const TextFormats& wanted)
+{
+    int none = 0;
+    if (wanted.bold) setFormat(flags.bold, flags.strong, *wanted.bold);
+    if (wanted.italic) setFormat(flags.italic, flags.emphasis, *wanted.italic);
+    if (wanted.underlined) setFormat(flags.underlined, none, *wanted.underlined);
+    if (wanted.size) {
+        flags.big = *wanted.size == LetterSize::Big ? 1 : 0;
+        flags.small = *wanted.size == LetterSize::Small ? 1 : 0;
+    }
+    return flags;
+}
+
+/// What stays open between two units: tags are nested in the order of the flags.
+FormatFlags commonFlags(const FormatFlags& one, const FormatFlags& other)
+{
+    FormatFlags common;
+    for (const auto flag :
+        {&FormatFlags::big, &FormatFlags::small, &FormatFlags::emphasis, &FormatFlags::italic,
+            &FormatFlags::strong, &FormatFlags::bold, &FormatFlags::underlined}) {
+        common.*flag = std::min(one.*flag, other.*flag);
+        if (one.*flag != other.*flag) break;
+    }
+    return common;
+}
+
+FormatFlags without(const FormatFlags& all, const FormatFlags& some)
+{
+    return {all.big - some.big, all.small - some.small, all.emphasis - some.emphasis,
+        all.italic - some.italic, all.strong - some.strong, all.bold - some.bold,
+        all.underlined - some.underlined};
+}
+
+/// The flags that each unit is to have. True where one that is no blank changes.
+bool setFlags(std::vector<FormatUnit>& units, const TextFormats& wanted)
+{
+    bool changes = false;
+    for (auto& unit : units) {
+        const auto flags = unit.isMarked ? withFormats(unit.flags, wanted) : unit.flags;
+        changes |= unit.takesFormats && !unit.isBlank && !(flags == unit.flags);
+        unit.flags = unit.takesFormats ? flags : FormatFlags{};
+    }
+    for (std::size_t i = units.size(); i-- > 0;) {
+        if (!units[i].isBlank) continue;
+        const bool isLast = i + 1 == units.size() || units[i + 1].startsPiece;
+        units[i].flags = isLast ? FormatFlags{} : units[i + 1].flags;
+    }
+    return changes;
+}
+
+void addTags(SpliceList& splices, std::size_t offset, const FormatFlags& flags, bool ends)
+{
+    std::string tags;
+    GetInsertTextFormatTags(flags, ends, tags);
+    splices.insert(offset, std::move(tags));
+}
+
+std::string rewritten(std::string_view text, const FormatRegion& region)
+{
+    SpliceList splices;
+    FormatFlags open;
+    std::size_t end = 0;
+    for (const auto& unit : region.units) {
+        const auto kept = unit.startsPiece ? FormatFlags{} : commonFlags(open, unit.flags);
+        addTags(splices, end, without(open, kept), true);
+        addTags(splices, unit.source.begin, without(unit.flags, kept), false);
+        open = unit.flags;
+        end = unit.source.end;
+    }
+    addTags(splices, end, open, true);
+    for (const auto tag : region.oldTags)
+        splices.remove(tag);
+    return spliced(text, std::move(splices).take());
+}
+
+/// The items that are no blanks, which no format makes or takes.
+std::vector<PageItem> firmItems(const SurfacePage& page)
+{
+    std::vector<PageItem> items;
+    for (const auto& item : page.items)
+        if (item.kind != ItemKind::Blank) items.push_back(item);
+    return items;
+}
+
+void requireSameItems(const std::vector<PageItem>& before, const std::vector<PageItem>& now)
+{
+    const bool areSame = std::ranges::equal(before, now, {}, &PageItem::shown, &PageItem::shown);
+    if (!areSame)
+        throw RuntimeFailure("Der Text lässt sich an dieser Stelle nicht formatieren, weil ein "
+                             "einzelnes „<“ darin steht. Er ist unverändert.");
+}
+
+/// The place in the changed text of what was marked. Throws where the text is not the same: a tag
+/// that went may have kept a stray "<" ahead of it apart from what follows.
+SourceRange markedIn(const std::string& changed, const SurfacePage& before, SourceRange marked)
+{
+    const auto firm = firmItems(before);
+    const auto now = firmItems(readSurfacePage(changed));
+    requireSameItems(firm, now);
+    const auto first = std::ranges::find_if(
+        firm, [&](const PageItem& item) { return item.source.end > marked.begin; });
+    const auto last = std::ranges::find_if(
+        firm, [&](const PageItem& item) { return item.source.begin >= marked.end; });
+    if (first >= last) return {marked.begin, marked.begin};
+    return {now[static_cast<std::size_t>(first - firm.begin())].source.begin,
+        now[static_cast<std::size_t>(last - firm.begin()) - 1].source.end};
+}
+
+} // namespace
+
+TextFormats formatsOf(std::string_view text, SourceRange marked)
+{
+    const auto page = readSurfacePage(std::string(text));
+    const auto items = markedItems(page, marked);
+    TextFormats formats;
+    formats.bold = commonOf(page, items, [](const TextStyle& style) { return style.bold; });
+    formats.italic = commonOf(page, items, [](const TextStyle& style) { return style.italic; });
+    formats.underlined
+        = commonOf(page, items, [](const TextStyle& style) { return style.underlined; });
+    formats.size = commonOf(page, items, sizeOf);
+    return formats;
+}
+
+bool takesNoFormats(std::string_view text, SourceRange marked)
+{
+    const auto page = readSurfacePage(std::string(text));
+    return std::ranges::none_of(formatRegion(page, marked).units, [&page](const FormatUnit& unit) {
+        return unit.isMarked && unit.takesFormats
+            && page.items[unit.firstItem].kind == ItemKind::Character;
+    });
+}
+
+FormattedText formatText(std::string_view text, SourceRange marked, const TextFormats& wanted)
+{
+    requireAddressable(text);
+    const auto page = readSurfacePage(std::string(text));
+    auto region = formatRegion(page, marked);
+    if (!setFlags(region.units, wanted)) return {page.text, marked};
+    auto changed = rewritten(page.text, region);
+    DeleteFormatTagsWhoArroundsNoText(changed);
+    requireAddressable(changed);
+    const auto now = markedIn(changed, page, marked);
+    return {std::move(changed), now};
+}
+
+} // namespace quillmere

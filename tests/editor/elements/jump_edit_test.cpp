@@ -1,0 +1,76 @@
+#include "editor/elements/jump_edit.h"
+#include "editor/elements/number_rules.h"
+#include "editor/elements/typed_values.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace quillmere {
+namespace {
+
+TEST(WithoutDoBlock, TakesTheFirstWholeBlock)
+{
+    EXPECT_EQ(withoutDoBlock(
+                  "a<!--DO type=\"accept\"--><!--go href=\"#\"/--><!--/DO-->b<!--do--><!--/do-->"),
+        "ab<!--do--><!--/do-->");
+    EXPECT_EQ(withoutDoBlock("a<!--do-->b"), "a<!--do-->b");
+}
+
+TEST(WithTargetsRenamed, ChangesWholeTargetsOnly)
+{
+    EXPECT_EQ(withTargetsRenamed(
+                  "<a href=\"#a\">#a</a><a href=\"#ab\"><!--go href=\"#a\"/-->", "a", "neu"),
+        "<a href=\"#neu\">#a</a><a href=\"#ab\"><!--go href=\"#neu\"/-->");
+}
+
+TEST(CardIdFault, TellsWhatNoLinkCanLeadTo)
+{
+    EXPECT_EQ(cardIdFault(""), CardIdFault::Empty);
+    for (const std::string id : {"Bereich1", "a-b_c.d",
+             "K\xFC"
+             "che",
+             "\xDC"
+             "1"})
+        EXPECT_EQ(cardIdFault(id), CardIdFault::None) << id;
+    for (const std::string id : {"a b", "a\"b", "a<b", "#a", "a&b", "\xE9t\xE9"})
+        EXPECT_EQ(cardIdFault(id), CardIdFault::BadCharacter) << id;
+}
+
+TEST(NumberRules, AreThoseOfTheFields)
+{
+    struct Case {
+        std::string text;
+        bool isNumber;
+        std::optional<int> value; // of 1 to 30
+    };
+    const std::vector<Case> cases{{"", false, {}}, {"30", true, 30}, {"31", true, {}},
+        {"0", true, {}}, {"12,x", true, 12}, {",5", false, {}}, {"-1", false, {}},
+        {"1a", false, {}}, {"000000007", true, 7}, {"0000000007", false, {}},
+        {"999999999", true, {}}};
+    for (const auto& row : cases) {
+        SCOPED_TRACE(row.text);
+        EXPECT_EQ(isFieldNumber(row.text), row.isNumber);
+        EXPECT_EQ(fieldNumber(row.text, {1, 30}), row.value);
+    }
+    EXPECT_EQ(NumberFilter("12a"), "");
+    EXPECT_EQ(NumberFilter("1.234"), "1234");
+    EXPECT_EQ(NumberFilter("1234567890"), "12345678");
+}
+
+TEST(TypedValues, ComeBackAsTheyWereTyped)
+{
+    EXPECT_EQ(captionMarkup(u"A & B <c> \"d\" $(x) ü"), "A &amp; B &lt;c&gt; \"d\" $(x) \xFC");
+    EXPECT_EQ(valueMarkup(u"\"x\" → &amp;"), "&quot;x&quot; &#8594; &amp;amp;");
+    for (const std::u16string typed :
+        {u"", u"A & B <c> \"d\" $5 ü", u"a.wml?x=1&copy=2", u"&amp;", u"→€", u"it's"}) {
+        EXPECT_EQ(typedFrom(valueMarkup(typed)), typed);
+        EXPECT_EQ(typedFrom(captionMarkup(typed)), typed);
+    }
+    EXPECT_EQ(typedFrom("a.wml?x=1&copy=2"), u"a.wml?x=1&copy=2");
+    EXPECT_EQ(typedFrom("&uuml;&#228;"), u"üä");
+}
+
+} // namespace
+} // namespace quillmere

@@ -1,0 +1,109 @@
+#include "editor/elements/image_edit.h"
+#include "editor/elements/link_edit.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace quillmere {
+namespace {
+
+std::string withCaret(ElementEdit edit)
+{
+    return edit.text.insert(static_cast<std::size_t>(edit.position), "|");
+}
+
+TEST(SetLink, EndsTheLineOnlyWhereItIsAlone)
+{
+    struct Case {
+        std::string before; // with its caret
+        std::string after;
+    };
+    const std::vector<Case> cases{
+        {"<p>|</p>", "<p><a href=\"#n\">n</a> <br/> |</p>"},
+        {"<p>a<br/>|</p>", "<p>a<br/><a href=\"#n\">n</a> <br/> |</p>"},
+        {"<p>|<br/>b</p>", "<p><a href=\"#n\">n</a> |<br/>b</p>"},
+        {"<p>a|</p>", "<p>a<a href=\"#n\">n</a> |</p>"},
+        {"<p>|b</p>", "<p><a href=\"#n\">n</a> |b</p>"},
+        {"<p>a&a|mp;b</p>", "<p>a&amp;<a href=\"#n\">n</a> |b</p>"},
+        {"<p><a href=\"#\">x|y</a>z</p>", "<p><a href=\"#\">xy</a><a href=\"#n\">n</a> |z</p>"},
+    };
+    for (auto row : cases) {
+        SCOPED_TRACE(row.before);
+        const auto caret = row.before.find('|');
+        row.before.erase(caret, 1);
+        EXPECT_EQ(withCaret(SetLink(row.before, static_cast<int>(caret), {"n", "#n"})), row.after);
+    }
+}
+
+TEST(LinkEdits, KeepWhatStandsAround)
+{
+    EXPECT_EQ(linkMarkup({"Wort", "w.wml"}), "<a href=\"w.wml\">Wort</a>");
+    const std::string text = "<p>ab <i>c</i></p><p>d<br/>e<a href=\"#\">f</a></p>";
+    EXPECT_TRUE(canBecomeLink(text, {3, 10}));
+    EXPECT_FALSE(canBecomeLink(text, {3, 22})); // two paragraphs
+    EXPECT_FALSE(canBecomeLink(text, {21, 28})); // a line break
+    EXPECT_FALSE(canBecomeLink(text, {27, 40})); // a link
+    const std::string old = "x<A HREF=#a title=t><b>y</b></A>z<a href=\"#\">2</a>";
+    EXPECT_EQ(
+        withCaret(ReplaceLink(old, 1, {"n", "#n"})), "x<a href=\"#n\">n</a>|z<a href=\"#\">2</a>");
+    EXPECT_EQ(withCaret(DeleteLink(old, 1)), "x|z<a href=\"#\">2</a>");
+    EXPECT_EQ(withCaret(DeleteLink("x<a href=#a>y", 1)), "x|y");
+    EXPECT_EQ(DeleteLink("x", 1).text, "x");
+}
+
+TEST(GetLink, ReadsAllSpellings)
+{
+    const auto quoted = GetLink("<p><a href=\"a b.wml\">x<p>y</a>", 3);
+    ASSERT_TRUE(quoted);
+    EXPECT_EQ(quoted->target, "a b.wml");
+    EXPECT_EQ(quoted->caption, "xy");
+    const auto bare = GetLink("<A HREF=#a>x</A>", 0);
+    ASSERT_TRUE(bare);
+    EXPECT_EQ(bare->target, "#a");
+    EXPECT_EQ(bare->caption, "x");
+    EXPECT_FALSE(GetLink("<p>", 0));
+}
+
+TEST(ImageEdits, WriteBothForms)
+{
+    ImageSettings image{"/t/Bmp0.bmp", "Haus", false, "middle", "10", "20"};
+    EXPECT_EQ(withCaret(SetImage("<p>xy</p>", 4, image)),
+        "<p>x<img src=\"/t/Bmp0.bmp\" alt=\"Haus\">|y</p>");
+    image.hasLayout = true;
+    const std::string full = "<img src=\"/t/Bmp0.bmp\" alt=\"Haus\" align=\"middle\" "
+                             "style=\"height: 10px; width: 20px\">";
+    EXPECT_EQ(withCaret(SetImage("<p>xy</p>", 4, image)), "<p>x" + full + "|y</p>");
+    const std::string old = "x<IMG src=a.bmp></img>y";
+    EXPECT_EQ(withCaret(ReplaceImage(old, 1, image)), "x" + full + "|y");
+    EXPECT_EQ(withCaret(DeleteImage(old, 1)), "x|y");
+    EXPECT_EQ(FindImage(old), 1);
+    EXPECT_EQ(FindImage(old, 3), std::nullopt);
+
+    const auto read = GetImage("x" + full, 1);
+    ASSERT_TRUE(read);
+    EXPECT_TRUE(read->hasLayout);
+    EXPECT_EQ(read->align, "middle");
+    EXPECT_EQ(read->height + "x" + read->width, "10x20");
+}
+
+TEST(ImageEdits, ReadOlderFiles)
+{
+    const std::string old
+        = "<IMG style=\"HEIGHT: 20px; WIDTH: 30px\" alt=x src=\"file:///t/Bmp1.bmp\" align=bottom>";
+    const auto image = GetImage(old, 0);
+    ASSERT_TRUE(image);
+    EXPECT_EQ(image->source, "/t/Bmp1.bmp");
+    EXPECT_EQ(image->caption, "x");
+    EXPECT_EQ(image->height + "x" + image->width, "20x30");
+    EXPECT_EQ(image->align, "bottom");
+    const auto older = löschen_GetImage("<img src=\"a\" height=\"5\" width=6 align=center>", 0);
+    ASSERT_TRUE(older);
+    EXPECT_EQ(older->height + "x" + older->width, "5x6");
+    EXPECT_EQ(older->align, "middle");
+    EXPECT_FALSE(GetImage("<p>", 0));
+}
+
+} // namespace
+} // namespace quillmere

@@ -1,0 +1,147 @@
+#include "editor/elements/paragraph_alignment.h"
+
+#include "editor/elements/page_lines.h"
+#include "editor/page/markup_tags.h"
+#include "support/area_texts.h"
+#include "support/small_random.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+namespace quillmere {
+namespace {
+
+/// Takes the caret "|" or the marks "[" and "]" out of a text.
+SourceRange takeMarks(std::string& text)
+{
+    SourceRange marked;
+    marked.begin = text.find_first_of("|[");
+    const bool isCaret = text.at(marked.begin) == '|';
+    text.erase(marked.begin, 1);
+    marked.end = isCaret ? marked.begin : text.find(']');
+    if (!isCaret) text.erase(marked.end, 1);
+    return marked;
+}
+
+std::string withMarks(AlignedText aligned, bool isCaret)
+{
+    if (isCaret) return aligned.text.insert(aligned.marked.begin, "|");
+    return aligned.text.insert(aligned.marked.end, "]").insert(aligned.marked.begin, "[");
+}
+
+TEST(AlignLines, CutsParagraphsAtLines)
+{
+    constexpr auto kLeft = Alignment::Left;
+    constexpr auto kCenter = Alignment::Center;
+    constexpr auto kRight = Alignment::Right;
+    struct Case {
+        std::string name;
+        std::string before;
+        Alignment wanted;
+        std::string after;
+    };
+    const std::vector<Case> cases{
+        {"a paragraph", "<P>a|b</P>", kCenter, "<p align=\"center\">a|b</P>"},
+        {"another alignment", "<P ALIGN=center>a[b]</P>", kRight, "<p align=\"right\">a[b]</P>"},
+        {"a line in the middle", "<p>a<br/>b|<br/>c</p>", kCenter,
+            "<p>a</p><p align=\"center\">b|</p><p>c</p>"},
+        {"and back", "<p>a</p><p align=\"center\">b|</p><p>c</p>", kLeft, "<p>a<br/>b|<br/>c</p>"},
+        {"the first lines", "<p align=\"right\">a[<br/>b<br/>c]<br>d</p>", kCenter,
+            "<p align=\"right\">a[</p><p align=\"center\">b<br/>c]</p><p align=\"right\">d</p>"},
+        {"formats at the cuts", "<p><i>a<br/>|b</i></p>", kRight,
+            "<p><i>a</i></p><p align=\"right\"><i>|b</i></p>"},
+        {"several paragraphs to the left",
+            "<p align=\"center\">[a</p>\r\n<p>b</p><p align=\"right\">c]</p><p>d</p>", kLeft,
+            "<p>[a<br/>b<br/>c]<br/>d</p>"},
+        {"outside of paragraphs", "a<br/>[b<br/>c]<br/>d", kCenter,
+            "a<p align=\"center\">[b<br/>c]</p>d"},
+        {"in a table: all of it", "<p>x<table><tr><td>a|b</td></tr></table>y</p>", kCenter,
+            "<p>x</p><p align=\"center\"><table><tr><td>a|b</td></tr></table></p><p>y</p>"},
+        {"next to a table, and back",
+            "<p>x</p><p align=\"center\">|<table><tr><td>a</td></tr></table></p><p>y</p>", kLeft,
+            "<p>x|<table><tr><td>a</td></tr></table>y</p>"},
+        {"breaks of lists end no line",
+            "<p>a<br/><!--select--><!--option-->b<br/>|c<!--/option--><!--/select--><br/>d</p>",
+            kCenter,
+            "<p>a</p><p "
+            "align=\"center\"><!--select--><!--option-->b<br/>|c<!--/option--><!--/select--></"
+            "p><p>d</p>"},
+        {"an empty paragraph", "<p>|</p>", kCenter, "<p align=\"center\">|</p>"},
+        {"nothing to do", "<p align=left>|a</p>", kLeft, "<p align=left>|a</p>"},
+        {"a break alone", "<p>a[<br/>]b<br/>c</p>", kCenter,
+            "<p align=\"center\">a[</p><p>]b<br/>c</p>"},
+    };
+    for (auto row : cases) {
+        SCOPED_TRACE(row.name);
+        const bool isCaret = row.before.find('|') != std::string::npos;
+        const auto marked = takeMarks(row.before);
+        EXPECT_EQ(withMarks(alignLines(row.before, marked, row.wanted), isCaret), row.after);
+    }
+}
+
+TEST(AlignmentOf, ReadsTheParagraph)
+{
+    EXPECT_EQ(alignmentOf("<P align=center>ab</P>", {17, 17}), Alignment::Center);
+    EXPECT_EQ(alignmentOf("<p align='right'>ab</p>", {18, 19}), Alignment::Right);
+    EXPECT_EQ(alignmentOf("ab", {1, 1}), Alignment::Left);
+}
+
+std::u16string charactersOf(const SurfacePage& page)
+{
+    std::u16string characters;
+    for (const auto& item : page.items)
+        if (item.kind != ItemKind::LineBreak && item.kind != ItemKind::Blank)
+            characters += item.shown;
+    return characters;
+}
+
+bool hasWholeParagraphs(std::string_view text)
+{
+    bool isOpen = false;
+    MarkupScanner tags(text);
+    while (const auto tag = tags.next()) {
+        if (tag->name != TagName::Paragraph) continue;
+        if (isOpen != tag->isEnd) return false;
+        isOpen = !tag->isEnd;
+    }
+    return !isOpen;
+}
+
+std::size_t chipsOf(const SurfacePage& page)
+{
+    return static_cast<std::size_t>(
+        std::ranges::count(page.items, ItemKind::Chip, &PageItem::kind));
+}
+
+TEST(AlignLines, KeepsTextLinesAndPairs)
+{
+    test::SmallRandom random(7);
+    test::forEachAreaText([&random](const std::string& name, const std::string& text) {
+        const auto page = readSurfacePage(text);
+        if (page.items.empty() || text.size() > 20000 || !hasWholeParagraphs(text)) return;
+        const auto one = random.below(page.items.size());
+        const auto other = std::min(one + random.below(20), page.items.size() - 1);
+        const SourceRange marked{page.items[one].source.begin, page.items[other].source.end};
+        const auto wanted = static_cast<Alignment>(random.below(3));
+        SCOPED_TRACE(name + " " + std::to_string(marked.begin) + " " + std::to_string(marked.end));
+
+        const auto aligned = alignLines(text, marked, wanted);
+        const auto after = readSurfacePage(aligned.text);
+        EXPECT_EQ(charactersOf(after), charactersOf(page)) << aligned.text;
+        EXPECT_TRUE(hasWholeParagraphs(aligned.text)) << aligned.text;
+        EXPECT_LE(chipsOf(after), chipsOf(page)) << aligned.text;
+        const auto lines = pageLines(page);
+        const bool allInParagraphs = std::ranges::all_of(
+            lines, [](const PageLine& line) { return line.paragraph != kNone; });
+        if (allInParagraphs) {
+            EXPECT_EQ(pageLines(after).size(), lines.size()) << aligned.text;
+        }
+        EXPECT_EQ(alignmentOf(aligned.text, aligned.marked), wanted) << aligned.text;
+    });
+}
+
+} // namespace
+} // namespace quillmere

@@ -1,0 +1,138 @@
+#include "editor/elements/table_edit.h"
+
+#include "document/text/failure.h"
+#include "document/text/limits.h"
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace quillmere {
+namespace {
+
+TableSettings table(std::string title, std::string align, int rows, int columns)
+{
+    return {std::move(title), std::move(align), rows, columns};
+}
+
+TEST(GetTable, ReadsTablesOfAllSpellings)
+{
+    struct Case {
+        std::string text;
+        TableSettings shown;
+    };
+    const std::vector<Case> cases{
+        {"<p><table title=\"A b\" align=\"C\" columns=\"2\" "
+         "border=\"1\"><tr><td>a</td><td>b</td></tr>"
+         "<tr><td>c</td></tr></table>",
+            table("A b", "C", 2, 2)},
+        {"<P><TABLE border=1 align=R title=Ab><TR><TD>a</TD></TR></TABLE>", table("Ab", "R", 1, 1)},
+        {"<table><tr><td>a<tr><td>b</table><tr>", table("", "", 2, 2)}, // no end of a row
+        {"<table title='x y'></table>", table("x y", "", 0, 0)},
+    };
+    for (const auto& row : cases) {
+        SCOPED_TRACE(row.text);
+        const auto shown = GetTable(row.text, 0);
+        ASSERT_TRUE(shown);
+        EXPECT_EQ(shown->title, row.shown.title);
+        EXPECT_EQ(shown->align, row.shown.align);
+        EXPECT_EQ(shown->rows, row.shown.rows);
+        EXPECT_EQ(shown->columns, row.shown.columns);
+    }
+    EXPECT_FALSE(GetTable("<p>x</p>", 1));
+}
+
+TEST(SetTable, ChangesWhatIsWanted)
+{
+    struct Case {
+        std::string name;
+        std::string before;
+        TableSettings wanted;
+        std::string after;
+    };
+    const std::vector<Case> cases{
+        {"attributes in quotes",
+            "a<table title=\"o\" align=\"L\" columns=\"1\" "
+            "border=\"1\"><tr><td>x</td></tr></table>",
+            table("n", "C", 1, 1),
+            "a<table title=\"n\" align=\"C\" columns=\"1\" "
+            "border=\"1\"><tr><td>|x</td></tr></table>"},
+        {"without quotes, in capitals; other rows stay",
+            "<TABLE title=o align=L columns=2 border=1><TR><TD>x</TD></TR></TABLE>",
+            table("n", "R", 5, 3),
+            "<TABLE title=\"n\" align=\"R\" columns=\"3\" border=1><TR><TD>|x</TD></TR></TABLE>"},
+        {"no attributes", "<table><tr><td>x</td></tr></table>", table("n", "L", 1, 1),
+            "<table title=\"n\" columns=\"1\"  align=\"L\"  ><tr><td>|x</td></tr></table>"},
+        {"fewer columns keep the first cells",
+            "<table title=\"n\" align=\"L\" "
+            "columns=\"3\"><tr><td>a</td><td>b</td><td>c</td></tr></table>",
+            table("n", "L", 1, 2),
+            "<table title=\"n\" align=\"L\" columns=\"2\"><tr><td>|a</td><td>b</td></tr></table>"},
+        {"more rows and cells, fewer of another table",
+            "<table title=\"n\" align=\"L\" "
+            "columns=\"1\"><tr><td>a</td></tr></table><table><tr></tr></table>",
+            table("n", "L", 2, 2),
+            "<table title=\"n\" align=\"L\" columns=\"2\"><tr><td>|a</td><td>Zelle</td></tr>"
+            "<tr><td>Zelle</td><td>Zelle</td></tr></table><table><tr></tr></table>"},
+        {"fewer rows",
+            "<table title=\"n\" align=\"L\" "
+            "columns=\"1\"><tr><td>a</td></tr><tr><td>b</td></tr></table>",
+            table("n", "L", 1, 1),
+            "<table title=\"n\" align=\"L\" columns=\"1\"><tr><td>|a</td></tr></table>"},
+        {"cells of another spelling stay",
+            "<table title=\"n\" align=\"L\" columns=\"1\"><tr><TD>a</TD></tr></table>",
+            table("n", "L", 1, 2),
+            "<table title=\"n\" align=\"L\" columns=\"2\"><tr><TD>|a</TD></tr></table>"},
+        {"cells without ends",
+            "<table title=\"n\" align=\"L\" columns=\"2\"><tr><td>a<td>b</tr></table>",
+            table("n", "L", 1, 1),
+            "<table title=\"n\" align=\"L\" columns=\"1\"><tr><td>|a</tr></table>"},
+        {"no table", "abc", table("n", "L", 1, 1), "|abc"},
+    };
+    for (const auto& row : cases) {
+        SCOPED_TRACE(row.name);
+        auto edit = SetTable(row.before, 0, row.wanted);
+        EXPECT_EQ(edit.text.insert(static_cast<std::size_t>(edit.position), "|"), row.after);
+    }
+}
+
+TEST(InsertTable, PutsItInAsItIsTold)
+{
+    const std::string before = "<!--card id=\"a\"--><p>x &amp; y</p>";
+    const auto place = static_cast<int>(before.find("amp")); // inside the entity
+    auto edit = InsertTable(before, place, table("T", "L", 1, 2));
+    EXPECT_EQ(edit.text.insert(static_cast<std::size_t>(edit.position), "|"),
+        "<!--card id=\"a\"--><p>x &amp;<table title=\"T\" align=\"L\" columns=\"2\" "
+        "border=\"1\"><tr>"
+        "<td>|Zelle</td><td>Zelle</td></tr></table><!--Test--> <!--Test2--></br> y</p>");
+}
+
+TEST(DeleteTable, TakesTheTableAndWhatCameWithIt)
+{
+    const std::string before = "<p>ab</p>";
+    const auto inserted = InsertTable(before, 4, table("T", "L", 2, 2));
+    const auto gone = DeleteTable(inserted.text, 5);
+    EXPECT_EQ(gone.text, before);
+    EXPECT_EQ(gone.position, 4);
+    EXPECT_EQ(DeleteTable("x<TABLE><TR></TABLE >y", 0).text, "x<TABLE><TR></TABLE >y");
+    EXPECT_EQ(DeleteTable("x<TABLE><TR></TABLE>y", 0).text, "xy");
+}
+
+TEST(TableEdits, StayWithinTheLimitOfTexts)
+{
+    const std::string full(kMaxTextLength - 10, 'x');
+    EXPECT_THROW(static_cast<void>(InsertTable(full, 5, table("T", "L", 30, 10))), Overflow);
+}
+
+TEST(TableAlign, KnowsTheGermanTextsOnly)
+{
+    EXPECT_EQ(tableAlignCode("Mittig"), "C");
+    EXPECT_EQ(tableAlignCode("Centre"), "");
+    EXPECT_EQ(tableAlignIndex("c"), 1);
+    EXPECT_EQ(tableAlignIndex("right"), 2);
+    EXPECT_EQ(tableAlignIndex(""), 0);
+}
+
+} // namespace
+} // namespace quillmere

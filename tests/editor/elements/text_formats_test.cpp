@@ -1,0 +1,276 @@
+#include "document/design_text.h"
+#include "document/text/failure.h"
+#include "editor/elements/crossed_pairs.h"
+#include "editor/elements/format_tags.h"
+#include "editor/elements/text_formats.h"
+#include "editor/page/markup_tags.h"
+#include "support/area_texts.h"
+#include "support/small_deck.h"
+#include "support/small_random.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <string>
+#include <vector>
+
+namespace quillmere {
+namespace {
+
+const TextFormats kBold{true, {}, {}, {}};
+const TextFormats kPlain{false, false, false, LetterSize::Normal};
+
+/// Takes "[" and "]" out of a text and tells what stood between them.
+SourceRange takeMarks(std::string& text)
+{
+    SourceRange marked;
+    marked.begin = text.find('[');
+    text.erase(marked.begin, 1);
+    marked.end = text.find(']');
+    text.erase(marked.end, 1);
+    return marked;
+}
+
+std::string withMarks(FormattedText formatted)
+{
+    return formatted.text.insert(formatted.marked.end, "]").insert(formatted.marked.begin, "[");
+}
+
+TEST(FormatText, PutsTagsRoundWhatIsMarked)
+{
+    const TextFormats all{true, true, true, LetterSize::Big};
+    struct Case {
+        std::string name;
+        std::string before;
+        TextFormats wanted;
+        std::string after;
+    };
+    const std::vector<Case> cases{
+        {"a word, with the blank ahead of it", "<p>one [two] three</p>", kBold,
+            "<p>one<b> [two]</b> three</p>"},
+        {"all formats", "<p>x[y]z</p>", all, "<p>x<big><i><b><u>[y]</u></b></i></big>z</p>"},
+        {"over paragraphs", "<p>a[b</p><p align=\"right\">c]d</p>", kBold,
+            "<p>a<b>[b</b></p><p align=\"right\"><b>c]</b>d</p>"},
+        {"over cells", "<table><tr><td>[a</td><td>b]</td></tr></table>", kBold,
+            "<table><tr><td><b>[a</b></td><td><b>b]</b></td></tr></table>"},
+        {"a part of a link", "<p>x<a href=\"#\">o[n]e</a>y</p>", kBold,
+            "<p>x<b><a href=\"#\">o[n]e</a></b>y</p>"},
+        {"a link and more", "<p>[x<a href=\"#\">o]ne</a>y</p>", kBold,
+            "<p><b>[x<a href=\"#\">o]ne</a></b>y</p>"},
+        {"next to the same", "<p><b>a</b>[b]c</p>", kBold, "<p><b>a[b]</b>c</p>"},
+        {"out of the middle", "<p><b><i>a[b]c</i></b></p>", {false, {}, {}, {}},
+            "<p><i><b>a</b>[b]<b>c</b></i></p>"},
+        {"crossing tags", "<p><b>a<i>[b]</b>c</i></p>", {{}, {}, true, {}},
+            "<p><b>a</b><i><b><u>[b]</u></b>c</i></p>"},
+        {"a format round paragraphs", "<b><p>a[b]</p><p>c</p></b>", {false, {}, {}, {}},
+            "<p><b>a</b>[b]</p><p><b>c</b></p>"},
+        {"a format without an end", "<p><B>a[b]c</p>", {{}, true, {}, {}},
+            "<p><b>a</b><i><b>[b]</b></i><b>c</b></p>"},
+        {"strong and em stay", "<p><em><strong>[a]</strong></em></p>", {true, true, true, {}},
+            "<p><em><strong><u>[a]</u></strong></em></p>"},
+        {"no format in lists",
+            "<p>[a<!--select--><!--option onpick=\"#\"--><input type=radio "
+            "name=\"TempName1\">b<!--/option--><!--/select-->c]</p>",
+            kBold,
+            "<p><b>[a</b><!--select--><!--option onpick=\"#\"--><input type=radio "
+            "name=\"TempName1\">b<!--/option--><!--/select--><b>c]</b></p>"},
+        {"a break within", "<p>[a<br/>b]</p>", kBold, "<p><b>[a<br/>b]</b></p>"},
+        {"nothing changes", "<p><b>[a]</b> <b></b></p>", kBold, "<p><b>[a]</b> <b></b></p>"},
+        {"empty pairs go", "<p>[a]<i><b> </b></i></p>", kBold, "<p><b>[a]</b> </p>"},
+        {"another size", "<p><big><big>[a]b</big></big></p>", {{}, {}, {}, LetterSize::Small},
+            "<p><small>[a]</small><big><big>b</big></big></p>"},
+    };
+    for (auto row : cases) {
+        SCOPED_TRACE(row.name);
+        const auto marked = takeMarks(row.before);
+        EXPECT_EQ(withMarks(formatText(row.before, marked, row.wanted)), row.after);
+    }
+}
+
+TEST(FormatsOf, TellsWhatAllOfItHas)
+{
+    struct Case {
+        std::string text;
+        TextFormats formats;
+    };
+    const std::vector<Case> cases{
+        {"<p>[a b]</p>", {false, false, false, LetterSize::Normal}},
+        {"<P><STRONG><EM>[a]</EM></STRONG></P>", {true, true, false, LetterSize::Normal}},
+        {"<p><b>[a</b> <b>b]</b></p>", {true, false, false, LetterSize::Normal}},
+        {"<p><u><small>[a</small>b]</u></p>", {false, false, true, {}}},
+    };
+    for (auto row : cases) {
+        SCOPED_TRACE(row.text);
+        const auto marked = takeMarks(row.text);
+        EXPECT_EQ(formatsOf(row.text, marked), row.formats);
+    }
+    std::string list = "<!--select--><!--option onpick=\"#\"-->[a]<!--/option--><!--/select-->";
+    const auto marked = takeMarks(list);
+    EXPECT_TRUE(takesNoFormats(list, marked));
+    EXPECT_FALSE(takesNoFormats("<p>abc</p>", {3, 4}));
+}
+
+TEST(CrossedPair, IsToldByTheFirstKind)
+{
+    const std::string list
+        = "a<!--SELECT-->b<!--OPTION-->c<!--/OPTION--><!--option-->d<!--/option--><!--/SELECT-->";
+    const std::string table = "e<TABLE><TR><TD>f</TD><TD>g</TD></TR></TABLE>h";
+    const std::string text = list + table;
+    const auto at = [&text](char c) { return text.find(std::string(">") + c) + 1; };
+    EXPECT_EQ(crossedPair(text, {0, at('c') + 1}), CrossedPair::Select);
+    EXPECT_EQ(crossedPair(text, {at('c'), at('d') + 1}), CrossedPair::Option);
+    EXPECT_EQ(crossedPair(text, {at('f'), at('h') + 1}), CrossedPair::Table);
+    EXPECT_EQ(crossedPair(text, {at('f'), at('g') + 1}), std::nullopt);
+    EXPECT_EQ(crossedPair(text, {0, at('h') + 1}), std::nullopt);
+    EXPECT_EQ(crossedPair("<table>a", {0, 8}), std::nullopt); // it has no end
+}
+
+// What is seen: the characters and their formats, blanks and the tags' own order left out.
+struct SeenText {
+    std::u16string characters;
+    std::vector<TextStyle> styles;
+    friend bool operator==(const SeenText&, const SeenText&) = default;
+};
+
+SeenText seen(const std::string& text)
+{
+    const auto page = readSurfacePage(text);
+    SeenText result;
+    for (const auto& item : page.items) {
+        if (item.kind == ItemKind::Blank) continue;
+        result.characters += item.shown;
+        result.styles.push_back(page.styles[item.style]);
+        result.styles.back().link = result.styles.back().link == kNone ? kNone : 0;
+    }
+    return result;
+}
+
+/// What is wrong with the nesting of a text's formats and paragraphs between two offsets; "" for
+/// nothing.
+std::string nestingFault(std::string_view text)
+{
+    std::vector<TagName> open;
+    MarkupScanner tags(text);
+    while (const auto tag = tags.next()) {
+        const bool isNested
+            = isFormat(tag->name) || isTablePart(tag->name) || tag->name == TagName::Paragraph;
+        if (!isNested) continue;
+        if (!tag->isEnd) {
+            if (tag->name == TagName::Paragraph && !open.empty() && isFormat(open.back()))
+                return "a format goes over a paragraph";
+            open.push_back(tag->name);
+        } else if (open.empty() || open.back() != tag->name) {
+            return "crossing at " + std::to_string(tag->source.begin);
+        } else {
+            open.pop_back();
+        }
+    }
+    return open.empty() ? "" : "not ended";
+}
+
+TextFormats randomFormats(test::SmallRandom& random)
+{
+    TextFormats formats;
+    if (random.chance(0.5)) formats.bold = random.chance(0.7);
+    if (random.chance(0.4)) formats.italic = random.chance(0.7);
+    if (random.chance(0.4)) formats.underlined = random.chance(0.7);
+    if (random.chance(0.4)) formats.size = static_cast<LetterSize>(random.below(3));
+    return formats;
+}
+
+SourceRange randomItems(test::SmallRandom& random, const SurfacePage& page)
+{
+    const auto one = random.below(page.items.size());
+    const auto other = random.below(page.items.size());
+    return {
+        page.items[std::min(one, other)].source.begin, page.items[std::max(one, other)].source.end};
+}
+
+/// A text with a stray '<' may be refused, and is then as it was.
+FormattedText formattedOrAsItIs(
+    const std::string& text, SourceRange marked, const TextFormats& wanted)
+{
+    try {
+        return formatText(text, marked, wanted);
+    } catch (const RuntimeFailure&) {
+        EXPECT_NE(text.find("< "), std::string::npos) << text;
+        return {text, marked};
+    }
+}
+
+TEST(FormatText, NestsWhateverIsMarked)
+{
+    test::SmallRandom random(1);
+    test::forEachAreaText([&random](const std::string& name, const std::string& text) {
+        const auto page = readSurfacePage(text);
+        if (page.items.empty() || text.size() > 20000) return;
+        const auto marked = randomItems(random, page);
+        const bool wasNested = nestingFault(text).empty();
+        SCOPED_TRACE(name + " " + std::to_string(marked.begin) + " " + std::to_string(marked.end));
+
+        const auto formatted = formattedOrAsItIs(text, marked, randomFormats(random));
+        EXPECT_EQ(seen(formatted.text).characters, seen(text).characters) << text << "\n"
+                                                                          << formatted.text;
+        if (wasNested) {
+            EXPECT_EQ(nestingFault(formatted.text), "") << formatted.text;
+        }
+
+        // Without formats ahead, taking them away again gives the text itself.
+        auto plain = formattedOrAsItIs(text, {0, text.size()}, kPlain).text;
+        DeleteFormatTagsWhoArroundsNoText(plain);
+        const auto place = randomItems(random, readSurfacePage(plain));
+        const auto bold = formattedOrAsItIs(plain, place, randomFormats(random));
+        const auto back = formattedOrAsItIs(bold.text, {0, bold.text.size()}, kPlain);
+        EXPECT_EQ(seen(back.text), seen(plain));
+        if (nestingFault(plain).empty()) {
+            EXPECT_EQ(back.text, plain);
+        }
+    });
+}
+
+// A deck of text that saving keeps: paragraphs, breaks, links, a table and a list.
+std::string randomDeck(test::SmallRandom& random)
+{
+    const std::vector<std::string_view> pieces{"wort", "zwei", " ", " drei ", "<b>vier</b>",
+        "<i>f<u>uenf</u></i>", "<br/>", "<a href=\"#a\">ziel</a>", "</p><p align=\"center\">",
+        "<big>gross</big>",
+        "<table title=\"t\" columns=\"2\"><tr><td>l</td><td>r</td></tr></table>",
+        "<select><option onpick=\"#a\">wahl</option></select>", "&amp;"};
+    std::string body = "anfang";
+    for (auto count = random.below(20); count > 0; --count)
+        body += pieces[random.below(pieces.size())];
+    return "<wml><card id=\"a\" title=\"t\"><p align=\"right\">" + body + "ende</p></card></wml>";
+}
+
+TEST(FormatText, SurvivesSavingAndLoading)
+{
+    for (std::uint64_t seed = 0; seed < 400; ++seed) {
+        test::SmallRandom random(seed);
+        test::SmallDeck deck;
+        deck.load(randomDeck(random));
+        const auto text = ReadDesignText(deck.session, 0);
+        const auto page = readSurfacePage(text);
+        const auto formatted = formatText(text, randomItems(random, page), randomFormats(random));
+        SCOPED_TRACE(std::to_string(seed) + ": " + formatted.text);
+        WriteDesignText(deck.session, 0, formatted.text);
+        const auto saved = deck.written();
+        deck.load(saved);
+        EXPECT_EQ(seen(ReadDesignText(deck.session, 0)), seen(formatted.text)) << saved;
+    }
+}
+
+TEST(FormatText, RefusesTextsThatGetTooLong)
+{
+    std::string text = "<p>";
+    while (text.size() < 32700)
+        text += "<br/>x";
+    EXPECT_NO_THROW(static_cast<void>(formatText(text, {3, text.size()}, kBold)));
+    std::string cells = "<table>";
+    while (cells.size() < 32600)
+        cells += "<tr><td>x</td></tr>";
+    cells += "</table>";
+    EXPECT_THROW(static_cast<void>(formatText(cells, {0, cells.size()}, kBold)), Overflow);
+}
+
+} // namespace
+} // namespace quillmere
