@@ -10,6 +10,7 @@
 
 #include <QCoreApplication>
 
+#include <algorithm>
 #include <utility>
 
 namespace quillmere {
@@ -27,6 +28,16 @@ std::string withoutScheme(const std::string& path)
 std::string directoryOf(const std::string& path)
 {
     return path.substr(0, path.find_last_of("/\\") + 1);
+}
+
+/// Where a place of a text lies in another that was made of it by changes of one piece: from its
+/// begin where it lies ahead of them, else from its end.
+std::size_t offsetInChanged(std::string_view before, std::string_view now, std::size_t offset)
+{
+    const auto ahead = std::ranges::mismatch(before, now).in1 - before.begin();
+    if (offset <= static_cast<std::size_t>(ahead)) return offset;
+    const auto fromEnd = before.size() - offset;
+    return now.size() - std::min(fromEnd, now.size());
 }
 
 } // namespace
@@ -59,8 +70,7 @@ void DesignSurface::ExecCommand(int id)
     case surface_command::kUndo:
         return undo();
     case surface_command::kRemoveFormat:
-        if (hasSelection()) apply(removeFormats(page_, selectedRange().from, selectedRange().to));
-        return;
+        return removeFormat();
     default:
         return;
     }
@@ -82,7 +92,10 @@ void DesignSurface::LoadURL(const std::string& path)
     const auto plain = withoutScheme(path);
     auto text = files_.read(plain);
     pictures_.reset(directoryOf(plain));
-    setDocumentHTML(std::move(text));
+    const bool isSame = plain == shownPath_;
+    const auto caret = isSame ? offsetInChanged(page_.text, text, caretOffset()) : std::size_t{0};
+    showAnew(std::move(text), caret);
+    shownPath_ = plain;
 }
 
 void DesignSurface::NewDocument()
@@ -92,11 +105,8 @@ void DesignSurface::NewDocument()
 
 void DesignSurface::setDocumentHTML(std::string text)
 {
-    undo_.clear();
-    page_ = readSurfacePage(std::move(text));
-    rebuild();
-    setCaret(firstPlace(page_));
-    emit changed();
+    shownPath_.clear();
+    showAnew(std::move(text), 0);
 }
 
 void DesignSurface::yieldToEvents()

@@ -47,10 +47,12 @@ public:
 
     /// Runs one of surface_command; any other does nothing.
     void ExecCommand(int id);
-    /// 1 (disabled) while an object is selected, else 3 (enabled).
+    /// 1 (disabled) while an object (picture, radio button, chip, table) is selected, else 3
+    /// (enabled).
     [[nodiscard]] int QueryStatus(int id) const;
     void SaveDocument(const std::string& path) override;
-    /// Shows a design work file; "file://" ahead of its path is dropped.
+    /// Shows a design work file; "file://" ahead of its path is dropped. Where it is the one that
+    /// is shown, the caret stays at what it stands at. Nothing can be undone then.
     void LoadURL(const std::string& path);
     void NewDocument();
     [[nodiscard]] const std::string& DocumentHTML() const { return page_.text; }
@@ -63,7 +65,7 @@ public:
     [[nodiscard]] SurfaceSelection selection() const;
     [[nodiscard]] std::string selectedMarkup() const;
     [[nodiscard]] QString selectedText() const;
-    /// Puts markup in place of what is selected.
+    /// Puts markup in place of what is selected, as it is.
     void pasteHTML(std::string_view markup);
     /// Where typed text would go: an offset in DocumentHTML().
     [[nodiscard]] std::size_t caretOffset() const;
@@ -78,13 +80,15 @@ public:
 
     [[nodiscard]] const SurfaceStyle& look() const { return style_; }
     void setLook(const SurfaceStyle& look);
+    [[nodiscard]] QColor fgColor() const { return style_.ink; }
+    [[nodiscard]] QColor bgColor() const { return style_.ground; }
     void setFgColor(const QColor& colour);
     void setBgColor(const QColor& colour);
     void setFontFamily(const QString& family);
     void setFontSizePx(int size);
 
-    /// Takes back what put the element that the mouse pressed on into a table. True, and
-    /// elementMovedIntoTable() was sent, where that was so.
+    /// Where the element that the mouse pressed on was put into a table, the text of the press
+    /// comes back, elementMovedIntoTable() is sent, and the answer is true.
     bool CheckElementMovedIntoTable();
 
     [[nodiscard]] const SurfacePage& page() const { return page_; }
@@ -92,7 +96,7 @@ public:
 
 signals:
     /// A point in the coordinates of the screen. During this and the mouse events selection() tells
-    /// of the event.
+    /// of the event. Places of elements are those that selection() tells.
     void ShowContextMenu(QPoint point);
     void onmousedown(const quillmere::SurfaceSelection::Element& source);
     void onmousemove(const quillmere::SurfaceSelection::Element& source);
@@ -116,6 +120,8 @@ protected:
     void mouseDoubleClickEvent(QMouseEvent* event) override;
     void contextMenuEvent(QContextMenuEvent* event) override;
     void dropEvent(QDropEvent* event) override;
+    /// Whether a drop is of what was dragged on this surface.
+    [[nodiscard]] virtual bool comesFromHere(const QDropEvent& event) const;
     void paintEvent(QPaintEvent* event) override;
     bool viewportEvent(QEvent* event) override;
     [[nodiscard]] bool canInsertFromMimeData(const QMimeData* source) const override;
@@ -138,6 +144,7 @@ private:
 
     // what is shown
     void showText(std::string text, std::size_t caret);
+    void showAnew(std::string text, std::size_t caret);
     void rebuild();
     void restyle();
     void applyPalette();
@@ -155,15 +162,22 @@ private:
     [[nodiscard]] bool isSelectedAt(QPoint viewportPoint) const;
     [[nodiscard]] std::vector<Range> selectedCells() const;
     [[nodiscard]] Range selectedRange() const;
+    [[nodiscard]] std::vector<Range> selectedRanges() const;
     [[nodiscard]] bool hasSelection() const { return !selectedRange().empty(); }
+    [[nodiscard]] Element elementOf(std::string tag, SourceRange source) const;
     [[nodiscard]] Element controlElement(const Control& control) const;
     [[nodiscard]] Element elementAt(QPoint viewportPoint) const;
+    [[nodiscard]] SourceRange sourceOf(const Range& range) const;
     [[nodiscard]] SourceRange joined(SourceRange range) const;
+    [[nodiscard]] Element told(Element element) const;
     [[nodiscard]] QRectF controlRect() const;
 
     // what is changed
     void apply(const SurfaceEdit& edit, SurfaceUndo::Kind kind = SurfaceUndo::Kind::Other);
+    void removeFormat();
     void goTo(const std::optional<SurfaceUndo::State>& state);
+    void goBackTo(const std::string& text);
+    [[nodiscard]] SurfaceEdit withOtherCellsEmptied(SurfaceEdit inFirst) const;
     [[nodiscard]] SurfaceEdit deletion() const;
     void type(const QString& text, SurfaceUndo::Kind kind);
     void deleteOr(const std::function<SurfaceEdit(PagePlace)>& edit);
@@ -174,15 +188,15 @@ private:
     using Action = void (DesignSurface::*)();
     struct Key;
     [[nodiscard]] static const Key* keyFor(QKeyEvent& event);
-    void trap(const std::function<void()>& action);
-    void editByKey(const std::function<void()>& action);
+    bool trap(const std::function<void()>& action);
+    bool editByKey(const std::function<void()>& action);
     void typeReturn();
     void backspace();
     void deleteKey();
     void wordBackspace();
     void wordDelete();
     void takeCommit(const QInputMethodEvent& event);
-    void withEvent(const Element& source, const std::function<void()>& action);
+    void tellOf(void (DesignSurface::*mouseEvent)(const Element&), const Element& source);
     void pressAt(QMouseEvent& event);
     void startDragging();
     void moveSelectionTo(PagePlace target);
@@ -199,6 +213,7 @@ private:
     std::optional<Element> event_; // while a mouse event is handled
     std::optional<Element> pressed_; // under the mouse at its last press, in textAtPress_
     std::string textAtPress_;
+    std::string shownPath_; // of the last LoadURL(), while what it loaded is shown
     std::optional<QPoint> mayDragFrom_; // a press on what is selected, until the mouse moves on
     std::size_t caretBlock_ = 0;
     bool busy_ = false;

@@ -25,7 +25,6 @@ private:
     void writeBlocks(QTextCursor cursor, std::size_t first, std::size_t end);
     void writeBlock(QTextCursor& cursor, std::size_t block);
     void writeTable(QTextCursor& cursor, std::size_t table);
-    [[nodiscard]] QTextCharFormat format(std::size_t style) const;
 
     QTextDocument& document_;
     const SurfacePage& page_;
@@ -34,17 +33,9 @@ private:
     std::vector<std::vector<std::size_t>> cells_; // by table
 };
 
-QTextCharFormat emptyFormat(
-    const SurfacePage& page, const PageBlock& block, const SurfaceStyle& style)
+TextStyle emptyStyle(const SurfacePage& page, const PageBlock& block)
 {
-    return textFormat(page.styles.empty() ? TextStyle{} : page.styles[block.style], style);
-}
-
-QTextCharFormat lowFormat(const SurfaceStyle& style)
-{
-    QTextCharFormat format;
-    format.setFont(pageFont(style, 1));
-    return format;
+    return page.styles.empty() ? TextStyle{} : page.styles[block.style];
 }
 
 PageWriter::PageWriter(QTextDocument& document, const SurfacePage& page, const SurfaceStyle& style)
@@ -108,7 +99,7 @@ void PageWriter::writeBlock(QTextCursor& cursor, std::size_t block)
     const auto& shown = page_.blocks[block];
     const bool isLow = isLineNextToTable(page_, block);
     cursor.setBlockFormat(isLow ? lowBlockFormat() : blockFormat(shown, style_));
-    cursor.mergeBlockCharFormat(isLow ? lowFormat(style_) : emptyFormat(page_, shown, style_));
+    cursor.mergeBlockCharFormat(isLow ? lowFormat() : textFormat(emptyStyle(page_, shown), style_));
     insertItems(cursor, page_, shown.firstItem, shown.endItem, style_);
 }
 
@@ -182,7 +173,7 @@ void setCaretInBlock(QTextDocument& document, const SurfacePage& page, std::size
     if (cursor.blockFormat() == format) return;
     cursor.setBlockFormat(format);
     cursor.mergeBlockCharFormat(
-        isLow ? lowFormat(style) : emptyFormat(page, page.blocks[block], style));
+        isLow ? lowFormat() : sizeFormat(emptyStyle(page, page.blocks[block]), style));
 }
 
 } // namespace quillmere

@@ -58,15 +58,23 @@ Qt::Alignment qtAlignment(Alignment alignment)
 
 } // namespace
 
+// Plain text has no property of its own but the font and the ink of the document: a text layout
+// copies the format of each cell many times.
 QTextCharFormat textFormat(const TextStyle& style, const SurfaceStyle& look)
 {
     QTextCharFormat format;
-    auto font = pageFont(look, sizePx(style, look));
-    if (style.bold) font.setBold(true);
-    font.setItalic(style.italic);
-    font.setUnderline(style.underlined || style.link != kNone);
-    format.setFont(font, QTextCharFormat::FontPropertiesSpecifiedOnly);
-    format.setForeground(style.link == kNone ? look.ink : look.link);
+    if (style.sizeStep != 0) format.setProperty(QTextFormat::FontPixelSize, sizePx(style, look));
+    if (style.bold) format.setFontWeight(QFont::Bold);
+    if (style.italic) format.setFontItalic(true);
+    if (style.underlined || style.link != kNone) format.setFontUnderline(true);
+    if (style.link != kNone) format.setForeground(look.link);
+    return format;
+}
+
+QTextCharFormat sizeFormat(const TextStyle& style, const SurfaceStyle& look)
+{
+    QTextCharFormat format;
+    format.setProperty(QTextFormat::FontPixelSize, sizePx(style, look));
     return format;
 }
 
@@ -105,12 +113,19 @@ QChar shownCharacter(const PageItem& item)
 QTextBlockFormat blockFormat(const PageBlock& block, const SurfaceStyle& look)
 {
     QTextBlockFormat format;
-    format.setAlignment(qtAlignment(block.alignment));
+    if (block.alignment != Alignment::Left) format.setAlignment(qtAlignment(block.alignment));
     const bool isInTable = block.cell != kNone;
     format.setLineHeight(
         isInTable ? kCellLineDistancePx : kLineDistancePx, QTextBlockFormat::LineDistanceHeight);
     const bool isParagraph = block.paragraph != kNone && !isInTable;
     if (isParagraph) format.setBottomMargin(look.fontSizePx / 2.0);
+    return format;
+}
+
+QTextCharFormat lowFormat()
+{
+    QTextCharFormat format;
+    format.setProperty(QTextFormat::FontPixelSize, 1);
     return format;
 }
 

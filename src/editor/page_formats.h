@@ -25,7 +25,10 @@ enum PageObject : int {
 /// The source of an object, as objectSource() gives it.
 inline constexpr int kSourceProperty = QTextFormat::UserProperty + 1;
 
+/// Of text in a document whose own font and ink are those of the page.
 [[nodiscard]] QTextCharFormat textFormat(const TextStyle& style, const SurfaceStyle& look);
+/// The size alone.
+[[nodiscard]] QTextCharFormat sizeFormat(const TextStyle& style, const SurfaceStyle& look);
 
 /// The format of a single item: that of its text, or that of an object with its source.
 [[nodiscard]] QTextCharFormat itemFormat(
@@ -39,8 +42,9 @@ inline constexpr int kSourceProperty = QTextFormat::UserProperty + 1;
 [[nodiscard]] QChar shownCharacter(const PageItem& item);
 
 [[nodiscard]] QTextBlockFormat blockFormat(const PageBlock& block, const SurfaceStyle& look);
-/// The format of an empty line next to a table while the caret is elsewhere.
+/// The formats of an empty line next to a table while the caret is elsewhere.
 [[nodiscard]] QTextBlockFormat lowBlockFormat();
+[[nodiscard]] QTextCharFormat lowFormat();
 
 inline constexpr double kTableLinePx = 1;
 [[nodiscard]] QTextTableFormat tableFormat();

@@ -54,6 +54,12 @@ std::string htmlForOthers(std::string_view markup)
     return html + toUtf8(markup.substr(copied)) + "</body></html>";
 }
 
+/// Reads no file that the HTML names.
+class ClipDocument : public QTextDocument {
+protected:
+    QVariant loadResource(int, const QUrl&) override { return {}; }
+};
+
 std::string escaped(QString text)
 {
     text.replace(u'&', QStringLiteral("&amp;"));
@@ -78,8 +84,10 @@ struct Format {
 Format formatOf(const QTextCharFormat& look)
 {
     Format format;
-    const bool isLink = look.isAnchor() && !look.anchorHref().isEmpty();
-    if (isLink) format.add("a", " href=\"" + escaped(look.anchorHref()) + '"');
+    auto target = look.anchorHref();
+    target.replace(QStringLiteral("&amp;"), QStringLiteral("&")); // left so where it was quoted
+    const bool isLink = look.isAnchor() && !target.isEmpty();
+    if (isLink) format.add("a", " href=\"" + escaped(target) + '"');
     if (look.fontWeight() >= QFont::DemiBold) format.add("b");
     if (look.fontItalic()) format.add("i");
     if (look.fontUnderline() && !isLink) format.add("u");
@@ -154,7 +162,7 @@ ClipContent contentOf(const QMimeData& clip)
 
 std::string designMarkupOf(const QString& html)
 {
-    QTextDocument document;
+    ClipDocument document;
     document.setHtml(html);
     std::string markup;
     for (auto block = document.begin(); block.isValid(); block = block.next()) {

@@ -57,32 +57,61 @@ void DesignSurface::redo()
     goTo(undo_.redo(page_.text, caretOffset()));
 }
 
-/// Takes out what is selected. The caret of the first cell that is emptied holds for all.
+/// Back over what was edited since the text was that; what is left behind cannot come again.
+void DesignSurface::goBackTo(const std::string& text)
+{
+    SurfaceUndo::State state{page_.text, caretOffset()};
+    while (state.text != text) {
+        auto earlier = undo_.undo(state.text, state.caret);
+        if (!earlier) return showAnew(text, 0);
+        state = std::move(*earlier);
+    }
+    undo_.forgetUndone();
+    goTo(state);
+}
+
+/// An edit of what is selected, of its first cell where cells are marked; the others are emptied.
+SurfaceEdit DesignSurface::withOtherCellsEmptied(SurfaceEdit inFirst) const
+{
+    const auto ranges = selectedRanges();
+    for (auto range = ranges.begin() + 1; range != ranges.end(); ++range)
+        addSplices(inFirst, deleteRange(page_, range->from, range->to));
+    return inFirst;
+}
+
 SurfaceEdit DesignSurface::deletion() const
 {
-    const auto cells = selectedCells();
-    if (cells.empty()) return deleteRange(page_, selectedRange().from, selectedRange().to);
-    auto edit = deleteRange(page_, cells.front().from, cells.front().to);
-    for (auto cell = cells.begin() + 1; cell != cells.end(); ++cell)
-        addSplices(edit, deleteRange(page_, cell->from, cell->to));
-    return edit;
+    const auto first = selectedRanges().front();
+    return withOtherCellsEmptied(deleteRange(page_, first.from, first.to));
 }
 
 void DesignSurface::type(const QString& text, SurfaceUndo::Kind kind)
 {
     if (text.isEmpty()) return;
-    const auto cells = selectedCells();
-    const auto first = cells.empty() ? selectedRange() : cells.front();
-    auto edit = typeText(page_, first.from, first.to, text.toStdU16String());
-    for (std::size_t cell = 1; cell < cells.size(); ++cell)
-        addSplices(edit, deleteRange(page_, cells[cell].from, cells[cell].to));
-    apply(edit, kind);
+    const auto first = selectedRanges().front();
+    const auto edit = typeText(page_, first.from, first.to, text.toStdU16String());
+    apply(withOtherCellsEmptied(edit), kind);
 }
 
 void DesignSurface::pasteHTML(std::string_view markup)
 {
-    const auto range = selectedRange();
-    apply(pasteMarkup(page_, range.from, range.to, markup));
+    const auto first = selectedRanges().front();
+    apply(withOtherCellsEmptied(pasteMarkup(page_, first.from, first.to, markup)));
+}
+
+/// What is marked stays marked: no item comes or goes. Cell by cell, since a format may reach over
+/// several.
+void DesignSurface::removeFormat()
+{
+    if (!hasSelection() || control_) return;
+    const auto anchor = placeAtPosition(textCursor().anchor()), caret = caretPlace();
+    auto kind = SurfaceUndo::Kind::Other;
+    for (const auto& range : selectedRanges()) {
+        const auto edit = removeFormats(page_, range.from, range.to);
+        apply(edit, kind);
+        if (!edit.splices.empty()) kind = SurfaceUndo::Kind::SameStep;
+    }
+    select({anchor, caret});
 }
 
 void DesignSurface::deleteOr(const std::function<SurfaceEdit(PagePlace)>& edit)

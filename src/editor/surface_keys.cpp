@@ -65,7 +65,7 @@ bool isBackspace(const QKeyEvent& event)
 QString typedText(const QKeyEvent& event)
 {
     const auto text = event.text();
-    if (text.isEmpty() || !text.at(0).isPrint()) return {};
+    if (text.isEmpty() || !(text.at(0).isPrint() || text.at(0).isSurrogate())) return {};
     const auto held = event.modifiers() & (Qt::ControlModifier | Qt::AltModifier);
     const bool isCommand = held == Qt::ControlModifier || held == Qt::AltModifier;
     return isCommand ? QString() : text;
@@ -89,20 +89,22 @@ const DesignSurface::Key* DesignSurface::keyFor(QKeyEvent& event)
     return key == std::end(kKeys) ? nullptr : key;
 }
 
-/// Catches what cannot be done and tells it; the text is then as it was.
-void DesignSurface::trap(const std::function<void()>& action)
+/// Catches what cannot be done and tells it; the text is then as it was, and the answer false.
+bool DesignSurface::trap(const std::function<void()>& action)
 {
     try {
         action();
+        return true;
     } catch (const Failure& failure) {
         emit failed(QString::fromStdString(toUtf8(failure.description())));
+        return false;
     }
 }
 
-void DesignSurface::editByKey(const std::function<void()>& action)
+bool DesignSurface::editByKey(const std::function<void()>& action)
 {
-    emit onkeypress(control_ ? controlElement(*control_) : Element{"body", {}});
-    trap(action);
+    emit onkeypress(told(control_ ? controlElement(*control_) : elementOf("body", {})));
+    return trap(action);
 }
 
 void DesignSurface::keyPressEvent(QKeyEvent* event)
@@ -118,8 +120,9 @@ void DesignSurface::keyPressEvent(QKeyEvent* event)
         editByKey([this] { typeReturn(); });
     else if (isMovingKey(*event)) {
         undo_.endTyping();
+        const bool staysAhead = control_ && event->matches(QKeySequence::MoveToPreviousChar);
         dropControl();
-        return QTextEdit::keyPressEvent(event);
+        if (!staysAhead) return QTextEdit::keyPressEvent(event);
     } else if (!text.isEmpty())
         editByKey([&] { type(text, SurfaceUndo::Kind::Typing); });
     else
@@ -130,7 +133,7 @@ void DesignSurface::keyPressEvent(QKeyEvent* event)
 void DesignSurface::keyReleaseEvent(QKeyEvent* event)
 {
     QTextEdit::keyReleaseEvent(event);
-    if (!event->isAutoRepeat()) emit onkeyup(Element{"body", {}});
+    if (!event->isAutoRepeat()) emit onkeyup(elementOf("body", {}));
 }
 
 void DesignSurface::typeReturn()
@@ -171,7 +174,7 @@ void DesignSurface::inputMethodEvent(QInputMethodEvent* event)
         editByKey([this] { apply(deletion()); });
     QInputMethodEvent composed(event->preeditString(), event->attributes());
     QTextEdit::inputMethodEvent(&composed);
-    if (!event->commitString().isEmpty()) emit onkeyup(Element{"body", {}});
+    if (!event->commitString().isEmpty()) emit onkeyup(elementOf("body", {}));
     event->accept();
 }
 

@@ -48,14 +48,14 @@ DesignSurface::Element DesignSurface::elementAt(QPoint viewportPoint) const
     const auto place = item.value_or(placeAtPosition(cursorForPosition(viewportPoint).position()));
     if (item) {
         const auto link = page_.styles[itemBehind(page_, *item)->style].link;
-        if (link != kNone) return {"a", page_.elements[link].start};
+        if (link != kNone) return elementOf("a", page_.elements[link].start);
     }
     const auto offset = offsetAt(page_, place);
     const auto cell = innermostElement(page_, offset, PageElement::Kind::Cell);
-    if (cell != kNone) return {"td", page_.elements[cell].start};
+    if (cell != kNone) return elementOf("td", page_.elements[cell].start);
     const auto paragraph = page_.blocks[place.block].paragraph;
-    if (paragraph != kNone) return {"p", page_.elements[paragraph].start};
-    return {"body", {}};
+    if (paragraph != kNone) return elementOf("p", page_.elements[paragraph].start);
+    return elementOf("body", {});
 }
 
 bool DesignSurface::isSelectedAt(QPoint viewportPoint) const
@@ -66,10 +66,11 @@ bool DesignSurface::isSelectedAt(QPoint viewportPoint) const
     return item && range.from <= *item && *item < range.to;
 }
 
-void DesignSurface::withEvent(const Element& source, const std::function<void()>& action)
+void DesignSurface::tellOf(void (DesignSurface::*mouseEvent)(const Element&), const Element& source)
 {
-    const QScopedValueRollback guard(event_, std::optional(source));
-    action();
+    const auto element = told(source);
+    const QScopedValueRollback guard(event_, std::optional(element));
+    emit(this->*mouseEvent)(element);
 }
 
 void DesignSurface::mousePressEvent(QMouseEvent* event)
@@ -79,7 +80,7 @@ void DesignSurface::mousePressEvent(QMouseEvent* event)
     pressAt(*event);
     pressed_ = source;
     textAtPress_ = page_.text;
-    withEvent(source, [&] { emit onmousedown(source); });
+    tellOf(&DesignSurface::onmousedown, source);
 }
 
 void DesignSurface::pressAt(QMouseEvent& event)
@@ -111,7 +112,7 @@ void DesignSurface::mouseMoveEvent(QMouseEvent* event)
     }
     updatePointer(event->pos());
     const auto source = elementAt(event->pos());
-    withEvent(source, [&] { emit onmousemove(source); });
+    tellOf(&DesignSurface::onmousemove, source);
 }
 
 void DesignSurface::mouseReleaseEvent(QMouseEvent* event)
@@ -128,7 +129,7 @@ void DesignSurface::mouseDoubleClickEvent(QMouseEvent* event)
         selectControl(*control);
     else
         QTextEdit::mouseDoubleClickEvent(event);
-    withEvent(source, [&] { emit ondblclick(source); });
+    tellOf(&DesignSurface::ondblclick, source);
 }
 
 // The menu of the base class changes text past the page.
@@ -137,7 +138,8 @@ void DesignSurface::contextMenuEvent(QContextMenuEvent* event)
     const bool byKey = event->reason() == QContextMenuEvent::Keyboard;
     const auto place = byKey ? cursorRect().center() : event->pos();
     const auto source = control_ ? controlElement(*control_) : elementAt(place);
-    withEvent(source, [&] { emit ShowContextMenu(viewport()->mapToGlobal(place)); });
+    const QScopedValueRollback guard(event_, std::optional(told(source)));
+    emit ShowContextMenu(viewport()->mapToGlobal(place));
     event->accept();
 }
 
@@ -156,23 +158,33 @@ void DesignSurface::dropEvent(QDropEvent* event)
     QDragLeaveEvent leave; // takes the caret that shows the target away
     QTextEdit::dragLeaveEvent(&leave);
     const auto target = placeAtPosition(cursorForPosition(event->position().toPoint()).position());
-    const bool isInside = event->source() == this || event->source() == viewport();
+    const bool isInside = comesFromHere(*event);
     droppedInside_ = isInside;
-    if (isInside && event->dropAction() == Qt::MoveAction) {
-        editByKey([&] { moveSelectionTo(target); });
-        CheckElementMovedIntoTable();
-    } else if (canInsertFromMimeData(event->mimeData())) {
+    if (!canInsertFromMimeData(event->mimeData())) return event->ignore();
+    const bool done = editByKey([&] {
+        if (isInside && event->dropAction() == Qt::MoveAction) return moveSelectionTo(target);
         setCaret(target);
-        editByKey([&] { insertClip(*event->mimeData()); });
+        insertClip(*event->mimeData());
+    });
+    if (done) {
+        event->acceptProposedAction();
+    } else {
+        event->setDropAction(Qt::IgnoreAction); // or the source would take its text away
+        event->accept();
     }
-    event->acceptProposedAction();
-    emit onkeyup(Element{"body", {}});
+    CheckElementMovedIntoTable();
+    emit onkeyup(elementOf("body", {}));
+}
+
+bool DesignSurface::comesFromHere(const QDropEvent& event) const
+{
+    return event.source() == this || event.source() == viewport();
 }
 
 bool DesignSurface::CheckElementMovedIntoTable()
 {
     if (!pressed_ || !movedIntoTable(textAtPress_, page_.text, *pressed_)) return false;
-    undo();
+    goBackTo(textAtPress_);
     pressed_.reset();
     emit elementMovedIntoTable();
     return true;

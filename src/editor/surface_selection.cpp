@@ -123,14 +123,27 @@ DesignSurface::Range DesignSurface::selectedRange() const
     return {placeAtPosition(cursor.selectionStart()), placeAtPosition(cursor.selectionEnd())};
 }
 
+/// Of marked cells those alone, not what lies between them in the text.
+std::vector<DesignSurface::Range> DesignSurface::selectedRanges() const
+{
+    auto ranges = selectedCells();
+    if (ranges.empty()) ranges.push_back(selectedRange());
+    return ranges;
+}
+
+DesignSurface::Element DesignSurface::elementOf(std::string tag, SourceRange source) const
+{
+    return {std::move(tag), source, std::string(source.in(page_.text))};
+}
+
 DesignSurface::Element DesignSurface::controlElement(const Control& control) const
 {
-    if (control.table != kNone) return {"table", page_.tables[control.table].startTag};
+    if (control.table != kNone) return elementOf("table", page_.tables[control.table].startTag);
     const auto* item = itemBehind(page_, control.item);
-    if (item == nullptr) return {"body", {}};
+    if (item == nullptr) return elementOf("body", {});
     const auto source = item->source;
     const auto end = page_.text.find('>', source.begin);
-    return {nameOf(source.in(page_.text)), {source.begin, std::min(end + 1, source.end)}};
+    return elementOf(nameOf(source.in(page_.text)), {source.begin, std::min(end + 1, source.end)});
 }
 
 SurfaceSelection DesignSurface::selection() const
@@ -141,15 +154,31 @@ SurfaceSelection DesignSurface::selection() const
     told.type = SurfaceSelection::Type::None;
     if (control_) {
         told.type = SurfaceSelection::Type::Control;
-        told.control = controlElement(*control_);
-        told.control->source = joined(told.control->source);
+        told.control = this->told(controlElement(*control_));
     } else if (!range.empty()) {
         told.type = SurfaceSelection::Type::Text;
     }
     told.event = event_;
-    if (told.event) told.event->source = joined(told.event->source);
-    told.marked = joined({offsetAt(page_, range.from), offsetAt(page_, range.to)});
+    told.marked = joined(sourceOf(range));
     return told;
+}
+
+/// From the first to the last item that is marked, without the tags round them: so it begins and
+/// ends in the same link or option wherever they do.
+SourceRange DesignSurface::sourceOf(const Range& range) const
+{
+    const auto first = page_.blocks[range.from.block].firstItem + range.from.offset;
+    const auto end = page_.blocks[range.to.block].firstItem + range.to.offset;
+    if (first >= end) return {offsetAt(page_, range.from), offsetAt(page_, range.to)};
+    return {page_.items[first].source.begin, page_.items[end - 1].source.end};
+}
+
+/// An element as it is told to others, who know the text with its lines joined.
+DesignSurface::Element DesignSurface::told(Element element) const
+{
+    element.source = joined(element.source);
+    std::erase_if(element.startTag, [](char c) { return c == '\r' || c == '\n'; });
+    return element;
 }
 
 SourceRange DesignSurface::joined(SourceRange range) const

@@ -23,6 +23,8 @@ public:
         std::string_view textBefore, const SurfaceEdit& edit, std::size_t caretBefore, Kind kind);
     /// The next typing begins a step of its own.
     void endTyping() { isTyping_ = false; }
+    /// What was undone can no longer come back.
+    void forgetUndone() { forth_.clear(); }
     void clear();
 
     /// A text with the caret in it.

@@ -28,6 +28,7 @@ void DesignSurface::showText(std::string text, std::size_t caret)
     auto wanted = readSurfacePage(std::move(text));
     const auto change = differenceOf(page_, wanted);
     page_ = std::move(wanted);
+    event_.reset(); // its element may be gone
     dropControl();
     if (change) {
         const QScopedValueRollback guard(showing_, true);
@@ -35,6 +36,18 @@ void DesignSurface::showText(std::string text, std::size_t caret)
     } else {
         rebuild();
     }
+    setCaret(placeAt(page_, caret));
+    emit changed();
+}
+
+/// Forgets all that could be undone.
+void DesignSurface::showAnew(std::string text, std::size_t caret)
+{
+    undo_.clear();
+    pressed_.reset();
+    event_.reset();
+    page_ = readSurfacePage(std::move(text));
+    rebuild();
     setCaret(placeAt(page_, caret));
     emit changed();
 }

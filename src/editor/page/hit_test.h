@@ -21,6 +21,7 @@ struct SurfaceSelection {
     struct Element {
         std::string tag; ///< lower case: "img", "input", "table", "a", "body", ...
         SourceRange source; ///< its start tag in the text; empty for the body
+        std::string startTag{}; ///< that as text, for attributeOf()
     };
 
     Type type = Type::None;

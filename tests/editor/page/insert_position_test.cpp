@@ -108,8 +108,8 @@ std::size_t elementEnd(
     const std::string& text, const Pieces& tags, std::size_t first, const Kind& kind)
 {
     const auto is = [&](const SourceRange& tag, const std::string& key) {
-        const auto behind = static_cast<unsigned char>(text[tag.begin + key.size()]);
-        return standsAt(text, tag.begin, key) && std::isalnum(behind) == 0;
+        if (!standsAt(text, tag.begin, key)) return false;
+        return std::isalnum(static_cast<unsigned char>(text[tag.begin + key.size()])) == 0;
     };
     if (!is(tags[first], kind.start)) return npos;
     int depth = 1;
