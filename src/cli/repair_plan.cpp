@@ -111,18 +111,23 @@ RepairPlan RepairPlanner::plan(
     return plan;
 }
 
-void carryOut(const RepairPlan& plan, const std::vector<std::string>& areaTexts,
-    std::string_view written, FileReplacements& replacements)
+std::optional<FileReplacement> carryOut(
+    const RepairPlan& plan, const std::vector<std::string>& areaTexts, std::string_view written)
 {
     keepWorkFiles(plan, areaTexts);
-    if (plan.output == "-") return printBytes(written);
-    if (plan.backup) createFile(*plan.backup, readFile(plan.output), plan.output);
+    if (plan.output == "-") {
+        printBytes(written);
+        return std::nullopt;
+    }
+    if (!plan.backup) return FileReplacement(plan.output, written);
+    createFile(*plan.backup, readFile(plan.output), plan.output);
     try {
-        replacements.replace(plan.output, written);
+        replaceFile(plan.output, written);
     } catch (const FileFailure&) {
-        if (plan.backup) removeFile(*plan.backup); // the deck has its bytes still
+        removeFile(*plan.backup); // the deck has its bytes still
         throw;
     }
+    return std::nullopt;
 }
 
 } // namespace quillmere::cli

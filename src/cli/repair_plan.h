@@ -44,8 +44,9 @@ private:
 };
 
 /// Does as planned: work files, backup, deck, in this order. `areaTexts` is what goes into the work
-/// files. Throws FileFailure; the deck's file is then as it was.
-void carryOut(const RepairPlan& plan, const std::vector<std::string>& areaTexts,
-    std::string_view written, FileReplacements& replacements);
+/// files. Returns what is still to be flushed and to take the deck's place, if anything is. Throws
+/// FileFailure; the deck's file is then as it was.
+[[nodiscard]] std::optional<FileReplacement> carryOut(
+    const RepairPlan& plan, const std::vector<std::string>& areaTexts, std::string_view written);
 
 } // namespace quillmere::cli

@@ -3,7 +3,7 @@
 
 #include "document/design_image_tag.h"
 
-#include "document/repair/clean_design_html.h"
+#include "document/repair/transliteration.h"
 #include "document/text/failure.h"
 #include "document/text/text_search.h"
 
