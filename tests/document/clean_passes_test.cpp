@@ -1,5 +1,6 @@
 #include "document/repair/clean_passes.h"
 
+#include "document/repair/clean_blanks.h"
 #include "document/repair/clean_design_html.h"
 #include "document/repair/transliteration.h"
 #include "document/text/failure.h"
