@@ -109,6 +109,11 @@ void ThemeStyle::drawButton(
     else if (enabled && is(option, State_MouseOver))
         ground = blended(ground, theme_.ink, 0.09);
     drawShape(painter, option.rect, kButtonCorner, ground, edge);
+    if (!is(option, State_HasFocus) || !is(option, State_KeyboardFocusChange)) return;
+    // Two lines, so that the ring is seen on a button in the accent as well.
+    drawShape(painter, option.rect, kButtonCorner, Qt::transparent, theme_.accent, 2);
+    drawShape(painter, option.rect.adjusted(2, 2, -2, -2), kButtonCorner - 2, Qt::transparent,
+        theme_.shell, 1);
 }
 
 /// A field that has the focus shows it whichever way it came: the person writes there.
@@ -237,13 +242,6 @@ void ThemeStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
         return drawCombo(*option, *painter, widget);
     painter->setRenderHint(QPainter::Antialiasing, false);
     QProxyStyle::drawComplexControl(control, option, painter, widget);
-}
-
-QRect ThemeStyle::subElementRect(
-    SubElement element, const QStyleOption* option, const QWidget* widget) const
-{
-    if (element == SE_PushButtonFocusRect) return option->rect;
-    return QProxyStyle::subElementRect(element, option, widget);
 }
 
 /// A scroll bar without arrows: the groove is all of it.
