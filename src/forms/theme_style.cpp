@@ -3,6 +3,7 @@
 
 #include "forms/theme_style.h"
 
+#include <QAbstractScrollArea>
 #include <QPainter>
 #include <QPainterPath>
 #include <QStyleFactory>
@@ -169,6 +170,12 @@ void ThemeStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
             frame != nullptr && frame->lineWidth > 0)
             return drawField(*option, *painter);
         break;
+    case PE_Frame:
+        if (qobject_cast<const QAbstractScrollArea*>(widget) == nullptr) break;
+        return drawShape(*painter, option->rect, 2, Qt::transparent,
+            is(*option, State_HasFocus)      ? theme_.accent
+                : is(*option, State_Enabled) ? theme_.edge
+                                             : theme_.hairline);
     case PE_FrameFocusRect:
         return drawRing(*option, *painter);
     case PE_IndicatorCheckBox:
@@ -242,6 +249,14 @@ void ThemeStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
         return drawCombo(*option, *painter, widget);
     painter->setRenderHint(QPainter::Antialiasing, false);
     QProxyStyle::drawComplexControl(control, option, painter, widget);
+}
+
+QRect ThemeStyle::subElementRect(
+    SubElement element, const QStyleOption* option, const QWidget* widget) const
+{
+    constexpr int kTextMargin = 4;
+    const QRect usual = QProxyStyle::subElementRect(element, option, widget);
+    return element == SE_LineEditContents ? usual.adjusted(kTextMargin, 0, -kTextMargin, 0) : usual;
 }
 
 /// A scroll bar without arrows: the groove is all of it.

@@ -186,6 +186,34 @@ TEST(ApplyEditorSkin, ASmallSurfaceStandsInTheMiddleOfItsPlace)
     EXPECT_EQ(surfacePlace(skin, 14).width(), whole.width());
 }
 
+TEST(ApplyPreviewSkin, DressesThePreviewInEachTelephone)
+{
+    const SkinSettings store(kSkins);
+    SkinTables tables;
+    ReadPreviewSkins(tables, store.settings, false);
+    ASSERT_EQ(tables.PreviewSkins.size(), 4U);
+    for (std::size_t i = 0; i < 3; ++i) {
+        SCOPED_TRACE(std::string(tables.PreviewSkins[i].Model.text()));
+        for (auto& skin : tables.PreviewSkins)
+            skin.Selected = 0;
+        tables.PreviewSkins[i].Selected = SkinHead::kSelected;
+        SkinnedPreview window;
+        PageLook page;
+        ApplyPreviewSkin(
+            window, tables, store.settings, [&](const PageLook& look) { page = look; });
+        EXPECT_EQ(page.fontSizePx, 12);
+        const auto* body = window.findChild<QLabel*>("picSkin");
+        EXPECT_EQ(body->pixmap(Qt::ReturnByValue).size(), body->size());
+        for (const auto* inside : {"lblCardCaption", "lblTaskCaption", "lblButtonSelect",
+                 "lblButtonBack", "lblButtonCommit"}) {
+            const auto place = window.findChild<QWidget*>(inside)->geometry();
+            EXPECT_TRUE(body->geometry().contains(place)) << inside;
+            EXPECT_FALSE(place.intersects(page.place)) << inside;
+        }
+        EXPECT_TRUE(window.findChild<QWidget*>("picButtonBack")->isHidden());
+    }
+}
+
 TEST(ApplyEditorSkin, AnySkinFileLeavesAWindow)
 {
     const auto good = bytesOf(kSkins + "Adjust.ini");

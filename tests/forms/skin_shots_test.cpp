@@ -104,6 +104,37 @@ TEST(SkinShots, EverySkinDressesTheWholeWindow)
     }
 }
 
+TEST(SkinShots, EveryTelephoneLightsTheKeyThatIsHeld)
+{
+    const SkinSettings store(kSkins);
+    SkinTables tables;
+    ReadPreviewSkins(tables, store.settings, false);
+    const auto shots = qEnvironmentVariable("QUILLMERE_SHOTS");
+    for (std::size_t i = 0; i + 1 < tables.PreviewSkins.size(); ++i) {
+        for (auto& skin : tables.PreviewSkins)
+            skin.Selected
+                = &skin == &tables.PreviewSkins[i] ? SkinHead::kSelected : std::int16_t(0);
+        SkinnedPreview window;
+        ApplyPreviewSkin(window, tables, store.settings, nullptr);
+        const auto* body = window.findChild<QLabel*>("picSkin");
+        for (const auto* caption : {"lblCardCaption", "lblTaskCaption"}) {
+            auto* label = window.findChild<QLabel*>(caption);
+            label->setAutoFillBackground(true);
+            label->setAlignment(Qt::AlignCenter);
+            label->setText(caption == QLatin1String("lblCardCaption") ? "Willkommen" : "Auswahl");
+        }
+        window.resize(body->geometry().right() + 30, body->geometry().bottom() + 20);
+        window.show();
+        const auto rest = window.grab().toImage();
+        QMouseEvent press(QEvent::MouseButtonPress, QPointF(5, 5), QPointF(5, 5), Qt::LeftButton,
+            Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(window.findChild<ToolLabel*>("lblButtonCommit"), &press);
+        const auto held = window.grab();
+        EXPECT_NE(held.toImage(), rest);
+        if (!shots.isEmpty()) held.save(shots + QString("/telephone-%1.png").arg(i));
+    }
+}
+
 /// One of each control, for the pictures: at rest, chosen, disabled, deleting, accepting.
 class SampleDialog : public QDialog {
 public:
