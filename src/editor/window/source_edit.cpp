@@ -1,4 +1,4 @@
-// What belongs to the search is in source_edit_search.cpp. Held by source_view_test.cpp.
+// What belongs to the search is in source_edit_search.cpp. Held by source_edit_test.cpp.
 
 #include "editor/window/source_edit.h"
 
@@ -67,12 +67,12 @@ void SourceEdit::setWml(std::string_view text)
 
 std::string SourceEdit::wml() const
 {
-    auto text = plainText();
+    auto text = source();
     return coreText(text.replace(u'\n', QStringLiteral("\r\n")));
 }
 
 // toPlainText() would make blanks of hard blanks.
-QString SourceEdit::plainText() const
+QString SourceEdit::source() const
 {
     auto text = document()->toRawText();
     text.replace(QChar::ParagraphSeparator, u'\n');
@@ -208,7 +208,7 @@ void SourceEdit::markRange(QList<QTextEdit::ExtraSelection>& marks, int begin, i
 void SourceEdit::markPair(QList<QTextEdit::ExtraSelection>& marks) const
 {
     if (document()->characterCount() > kMaxPairText || textCursor().hasSelection()) return;
-    const auto pair = tagPairAt(plainText(), textCursor().position());
+    const auto pair = tagPairAt(source(), textCursor().position());
     if (!pair) return;
     markRange(marks, pair->start.begin, pair->start.end);
     markRange(marks, pair->end.begin, pair->end.end);
