@@ -86,6 +86,8 @@ frmPrepare::frmPrepare(Session& session, WorkFiles& files, QWidget* parent)
 frmPrepare::~frmPrepare()
 {
     if (session_.window == this) session_.window = nullptr;
+    if (session_.document.devices.front() == &pageStyle_)
+        session_.document.devices.front() = nullptr;
     if (session_.document.surface == objBrowserCard) session_.document.surface = nullptr;
 }
 
@@ -139,6 +141,7 @@ void frmPrepare::Form_Load()
 
 bool frmPrepare::event(QEvent* event)
 {
+    if (dropped(*event)) return true;
     const bool handled = SkinWindow::event(event);
     if (event->type() == QEvent::WindowActivate) trap([this] { Form_Activate(); });
     return handled;

@@ -82,6 +82,7 @@ void frmPrepare::wireSurface()
         [this](const QString& text) { session_.messages.ShowCriticalError(text); });
     objBrowserCard->installEventFilter(this);
     objBrowserCard->viewport()->installEventFilter(this);
+    txtScript->viewport()->installEventFilter(this);
     setAcceptDrops(true);
 }
 
@@ -252,11 +253,10 @@ bool frmPrepare::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == objBrowserCard && event->type() == QEvent::KeyPress)
         return surfaceKey(static_cast<QKeyEvent&>(*event));
-    if (watched == objBrowserCard->viewport()) {
-        if (event->type() == QEvent::Leave) session_.gSurfaceActive = false;
-        return dropped(*event);
-    }
-    return false;
+    if (watched == objBrowserCard->viewport() && event->type() == QEvent::Leave)
+        session_.gSurfaceActive = false;
+    const bool isView = watched == objBrowserCard->viewport() || watched == txtScript->viewport();
+    return isView && dropped(*event);
 }
 
 /// A deck that is dropped is opened, wherever it is dropped.
