@@ -118,6 +118,7 @@ private:
     [[nodiscard]] bool deckIsOpen() const;
     [[nodiscard]] DeckRecord& shownArea();
     [[nodiscard]] std::string shownDesignPath();
+    void refresh();
     void disableNavigation();
     void showNavigation();
     void showArea();
@@ -159,7 +160,7 @@ private:
     void tellMissing(const QString& caption);
     void popUp(QMenu& menu, const char* tool);
     void insertElement(ElementKind kind, const char* form);
-    [[nodiscard]] bool refusesTable(const Hit& hit);
+    [[nodiscard]] bool refusesTable(const Hit& hit, ElementKind kind);
 
     void lblButtonSeiteSave();
     void lblButtonSeiteOpen();
@@ -255,6 +256,7 @@ private:
     std::optional<Element> mMarkedTable;
     int mImageIndex = 0;
 
+    bool refreshWanted_ = false;
     std::string surfaceShows_; ///< the design work file that the surface was loaded from
     std::optional<SurfaceStyle> skinLook_; ///< of the surface, by the skin
     PageStyle pageStyle_;

@@ -165,7 +165,7 @@ TEST(SurfaceMenu, CopiesAnElementAsTextAndPastesItAsAnElement)
     EXPECT_TRUE(link.startsWith("<a ") && link.endsWith("Sprung</a>")) << link.toStdString();
 
     desk.click("btnAreaNext");
-    desk.caretBehind("le");
+    desk.caretBehind(">le");
     desk.choose("mnuContext1Insert");
     const auto pasted = "le" + link.toStdString() + "er";
     EXPECT_NE(desk.design(1).find(pasted), std::string::npos) << desk.design(1);
@@ -194,10 +194,9 @@ TEST(SurfaceMenu, APictureOfAnotherAreaComesWithItsEntry)
 {
     ToolDesk desk;
     desk.openCards({"<img src=\"a.wbmp\" alt=\"bild\"/>", "leer"});
-    auto& images = desk.session.document.deck[0].images;
-    ASSERT_FALSE(images.front().displayFile.empty());
-    QApplication::clipboard()->setText(QString::fromStdString("<img src=\""
-        + images.front().displayDir + images.front().displayFile + "\" alt=\"bild\">"));
+    const auto source = pictureSource(desk.design(0));
+    QApplication::clipboard()->setText(
+        QString::fromStdString("<img src=\"" + source + "\" alt=\"bild\">"));
     desk.click("btnAreaNext");
     desk.choose("mnuContext1Insert");
     const auto& taken = desk.session.document.deck[1].images;
