@@ -58,7 +58,7 @@ private:
     void wire();
     void takeColours();
     void layOut(); ///< numbers and bar round the text
-    bool handleKey(const QKeyEvent& event);
+    template <class Action> void addKey(const QString& keys, const Action& action);
 
     void search(); ///< finds the hits anew
     void showHits();
