@@ -1,6 +1,8 @@
 // quillmere-gallery FILE      shows an area on the editing surface, with its text beside it
 // quillmere-gallery --shots DIR [SAMPLES]  writes pictures of sample areas into DIR and ends
 
+#include "app/settings.h"
+#include "app/word_resources.h"
 #include "document/platform/disk_work_files.h"
 #include "document/text/failure.h"
 #include "document/text/windows1252.h"
@@ -18,7 +20,11 @@ namespace {
 int showArea(const QString& path)
 {
     DiskWorkFiles files;
-    GalleryWindow window(files);
+    MemorySettings settings;
+    settings.WriteSetting("Skins", QApplication::applicationDirPath().toStdString() + "/Skins/");
+    WordResources words;
+    words.LoadWordResources(settings);
+    GalleryWindow window(files, words);
     window.surface().LoadURL(path.toStdString());
     window.resize(1100, 640);
     window.show();
