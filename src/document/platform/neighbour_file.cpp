@@ -27,7 +27,8 @@ std::string directoryOf(const std::string& path)
 NeighbourFile::NeighbourFile(const std::string& target, mode_t mode)
     : target_(target)
 {
-    const auto stem = directoryOf(target) + ".quillmere-" + std::to_string(::getpid()) + '-';
+    static const auto ownNumber = std::to_string(::getpid());
+    const auto stem = directoryOf(target) + ".quillmere-" + ownNumber + '-';
     for (int i = 0; i < kMaxNames; ++i) {
         path_ = stem + std::to_string(i) + ".tmp";
         file_.emplace(path_, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW, mode);

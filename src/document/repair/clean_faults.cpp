@@ -7,6 +7,8 @@
 
 #include "document/text/tag_keys.h"
 
+#include <array>
+
 namespace quillmere {
 namespace {
 
@@ -76,28 +78,48 @@ constexpr Rule kRules[] = {
 // clang-format on
 constexpr std::size_t kOther = std::size(kRules) - 1;
 
+/// A rule as the walk applies it.
+struct Step {
+    CleanFaults makes;
+    CleanFaults stays;
+    CleanFaults enters;
+    std::uint8_t format;
+    std::uint8_t following; // place of the character behind a format's begin in its code
+};
+
+constexpr auto kSteps = [] {
+    std::array<Step, std::size(kRules)> steps{};
+    for (std::size_t i = 0; i < steps.size(); ++i) {
+        const Rule& rule = kRules[i];
+        steps.at(i) = {rule.makes | (kOfNextTag & ~rule.excuses), ~(rule.leaves | kOfNextTag),
+            rule.enters, rule.format, static_cast<std::uint8_t>(rule.key.text.size() - 1)};
+    }
+    return steps;
+}();
+
 class FaultWalk {
 public:
     void read(TagCode code)
     {
         static constexpr TagKeys<kOther> kKeys(kRules, &Rule::key);
-        const Rule& rule = kRules[kKeys.find(code)];
-        faults_ |= state_ & (rule.makes | (kOfNextTag & ~rule.excuses));
-        state_ = (state_ & ~(rule.leaves | kOfNextTag)) | rule.enters;
-        if (rule.format == 0) return;
-        if (rule.enters == 0) {
-            endFormat(rule.format);
-        } else {
-            beginFormat(rule.format);
-            // "<b><i>x" has text, "<b><img" and "<b> " may have some.
-            const auto following = tag_code::byteAt(code, rule.key.text.size() - 1);
-            if (following == '<' || following == ' ') state_ |= kEmptyFormat;
-        }
+        const Step& step = kSteps[kKeys.find(code)];
+        faults_ |= state_ & step.makes;
+        state_ = (state_ & step.stays) | step.enters;
+        if (step.format != 0) readFormat(step, code);
     }
 
     [[nodiscard]] CleanFaults faults() const { return faults_ | (state_ & kAtEnd); }
 
 private:
+    void readFormat(const Step& step, TagCode code)
+    {
+        if (step.enters == 0) return endFormat(step.format);
+        beginFormat(step.format);
+        // "<b><i>x" has text, "<b><img" and "<b> " may have some.
+        const auto following = tag_code::byteAt(code, step.following);
+        if (following == '<' || following == ' ') state_ |= kEmptyFormat;
+    }
+
     void beginFormat(unsigned format)
     {
         for (auto open = openFormats_; open != 0; open /= 8) {

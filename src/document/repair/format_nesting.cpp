@@ -10,6 +10,7 @@
 #include "document/text/tag_places.h"
 #include "document/text/text_cutter.h"
 #include "document/text/text_search.h"
+#include "document/text/windows1252.h"
 
 #include <algorithm>
 #include <array>
@@ -110,6 +111,15 @@ std::vector<Places> placesOf(std::string_view text, std::span<const TagPair> pai
     return tagPlaces(text, keys);
 }
 
+/// Whether a nested tag may begin at the '<' at `at`, by its first letter. Most tags are others.
+bool mayNest(std::string_view text, std::size_t at)
+{
+    constexpr std::size_t kLongestOpening = 2; // "</"
+    if (at + kLongestOpening >= text.size()) return false;
+    const char letter = lowerCase(text[text[at + 1] == '/' ? at + 2 : at + 1]);
+    return letter == 's' || letter == 'i' || letter == 'u' || letter == 'b';
+}
+
 /// One bit for each pair whose open and close tags do not take turns up to a last close tag.
 unsigned brokenPairs(std::string_view text)
 {
@@ -117,6 +127,7 @@ unsigned brokenPairs(std::string_view text)
     unsigned open = 0;
     unsigned broken = 0;
     for (auto at = text.find('<'); at != npos; at = text.find('<', at + 1)) {
+        if (!mayNest(text, at)) continue;
         const auto key = kKeys.find(tagCode(text.substr(at)));
         if (key == std::size(kNestedTags)) continue;
         const auto pair = 1U << key / 2;

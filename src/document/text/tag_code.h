@@ -1,8 +1,8 @@
 #pragma once
 
+#include "document/text/byte_words.h"
+
 #include <algorithm>
-#include <array>
-#include <bit>
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
@@ -27,32 +27,29 @@ inline constexpr std::size_t kLetters = 7;
 inline constexpr unsigned char kEndBit = 1;
 inline constexpr unsigned char kCommentBit = 2;
 
-using Bytes = std::array<unsigned char, sizeof(TagCode)>;
-
 constexpr TagCode ofEach(unsigned char byte)
 {
     return TagCode{0x0101010101010101} * byte;
 }
 
+/// The letters stand from the lowest byte on, the marks in the highest.
 constexpr unsigned char byteAt(TagCode code, std::size_t index)
 {
-    return std::bit_cast<Bytes>(code)[index];
+    return static_cast<unsigned char>(code >> 8 * index);
+}
+
+constexpr TagCode marksIn(unsigned char marks)
+{
+    return TagCode{marks} << 8 * kLetters;
 }
 
 /// All bits of the first `count` letters, and of the marks behind them if wanted.
 constexpr TagCode maskOf(std::size_t count, unsigned char marks)
 {
-    Bytes bytes{};
-    std::fill_n(bytes.begin(), count, static_cast<unsigned char>(0xFF));
-    bytes[kLetters] = marks;
-    return std::bit_cast<TagCode>(bytes);
+    return (count == 0 ? 0 : ~TagCode{} >> 8 * (sizeof(TagCode) - count)) | marksIn(marks);
 }
 
-// Made by the compiler; a number put together from bytes at run time takes longer than all else.
 inline constexpr TagCode kAllLetters = maskOf(kLetters, 0);
-/// The marks by their bits.
-inline constexpr std::array<TagCode, 4> kMarks{
-    maskOf(0, 0), maskOf(0, kEndBit), maskOf(0, kCommentBit), maskOf(0, kEndBit | kCommentBit)};
 
 /// Of eight characters at once: capitals become small, those beyond ASCII become 0.
 constexpr TagCode folded(TagCode characters)
@@ -66,39 +63,26 @@ constexpr TagCode folded(TagCode characters)
     return (ascii | capitals >> 2U) & ~beyond;
 }
 
-/// Where the name begins in a tag, and the marks of what stands ahead of it.
-struct Name {
-    std::size_t at = 1;
-    unsigned char marks = 0;
-
-    constexpr explicit Name(std::string_view tag)
-    {
-        if (tag.size() > 1 && tag[1] == kComment[1] && tag.starts_with(kComment)) {
-            at = kComment.size();
-            marks = kCommentBit;
-        }
-        if (at < tag.size() && tag[at] == '/') {
-            ++at;
-            marks |= kEndBit;
-        }
-    }
-};
+/// Where the name begins in a key.
+constexpr std::size_t nameBegin(std::string_view key)
+{
+    const std::size_t behindOpening = key.starts_with(kComment) ? kComment.size() : 1;
+    return behindOpening + (key.substr(behindOpening).starts_with('/') ? 1 : 0);
+}
 
 } // namespace tag_code
 
 /// The code of the tag that `text` begins with.
 [[nodiscard]] constexpr TagCode tagCode(std::string_view text)
 {
-    const tag_code::Name name(text);
-    std::array<char, sizeof(TagCode)> letters{};
-    if (name.at + letters.size() <= text.size()) {
-        std::copy_n(text.data() + name.at, letters.size(), letters.data()); // a single load
-    } else {
-        const auto count = text.size() - std::min(name.at, text.size());
-        std::copy_n(text.data() + text.size() - count, count, letters.data());
-    }
-    return (tag_code::folded(std::bit_cast<TagCode>(letters)) & tag_code::kAllLetters)
-        | tag_code::kMarks[name.marks];
+    using namespace tag_code;
+    constexpr TagCode kDashes = wordOf(kComment.data() + 1, kComment.size() - 1);
+    auto name = wordAt(text, 1);
+    const bool isComment = (name & maskOf(kComment.size() - 1, 0)) == kDashes;
+    if (isComment) name = wordAt(text, kComment.size());
+    const bool isEnd = byteAt(name, 0) == '/';
+    return folded(isEnd ? name >> 8U : name & kAllLetters)
+        | marksIn((isComment ? kCommentBit : 0) | (isEnd ? kEndBit : 0));
 }
 
 /// What the codes of all tags have in common that begin with a key.
@@ -109,7 +93,7 @@ struct TagPattern {
     {
         using namespace tag_code;
         if (kComment.starts_with(key)) return; // "<!" may begin "<!--" as well as "<!x"
-        const auto letters = key.substr(std::min(Name(key).at, key.size()));
+        const auto letters = key.substr(nameBegin(key));
         mask = maskOf(std::min(letters.size(), kLetters), 0xFF);
         wanted = tagCode(key) & mask;
         const bool isAscii = std::ranges::all_of(

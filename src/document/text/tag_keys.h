@@ -42,7 +42,7 @@ private:
 
     static constexpr std::size_t bucket(TagCode code)
     {
-        return tag_code::byteAt(code, 0) % 32U + tag_code::byteAt(code, tag_code::kLetters) * 32U;
+        return (code & 31U) | code >> 8 * tag_code::kLetters << 5U;
     }
 
     struct Entry {

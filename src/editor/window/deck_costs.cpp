@@ -46,8 +46,7 @@ QStringList costsOfSaving(
     MemoryWorkFiles files;
     WbmpSizes sizes(session.output);
     Assent assent;
-    DocumentSession trial{
-        files, sizes, assent, session.settings, session.words, session.output};
+    DocumentSession trial{files, sizes, assent, session.settings, session.words, session.output};
     try {
         return linesOf(DeckChanges(text, repairedDeck(trial, text, deckDir)));
     } catch (const Failure& failure) {

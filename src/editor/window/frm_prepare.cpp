@@ -62,10 +62,11 @@ std::vector<QWidget*> otherForms(const QWidget& window)
 } // namespace
 
 frmPrepare::frmPrepare(Session& session, WorkFiles& files, QWidget* parent)
-    : QWidget(parent, Qt::Window | Qt::FramelessWindowHint)
+    : SkinWindow(parent)
     , session_(session)
     , objBrowserCard(new DesignSurface(files, this))
 {
+    setWindowFlags(Qt::Window | Qt::FramelessWindowHint | Qt::WindowMinimizeButtonHint);
     setObjectName(QStringLiteral("frmPrepare"));
     setWindowTitle(kProgramTitle);
     objBrowserCard->setObjectName(QStringLiteral("objBrowserCard"));
@@ -73,9 +74,8 @@ frmPrepare::frmPrepare(Session& session, WorkFiles& files, QWidget* parent)
     session_.document.surface = objBrowserCard;
     offerStandardOutput
         = [this](const QStringList& costs) { return DeckCostsForm::offer(session_, costs, this); };
-    openOutside = [](const QString& address) {
-        QDesktopServices::openUrl(QUrl::fromUserInput(address));
-    };
+    openOutside
+        = [](const QString& address) { QDesktopServices::openUrl(QUrl::fromUserInput(address)); };
     makeTools();
     makeMenus();
     layOut();
@@ -86,6 +86,8 @@ frmPrepare::frmPrepare(Session& session, WorkFiles& files, QWidget* parent)
 frmPrepare::~frmPrepare()
 {
     if (session_.window == this) session_.window = nullptr;
+    if (session_.document.devices.front() == &pageStyle_)
+        session_.document.devices.front() = nullptr;
     if (session_.document.surface == objBrowserCard) session_.document.surface = nullptr;
 }
 
@@ -115,8 +117,8 @@ void frmPrepare::wire()
     clicked(btnAreaOne, &frmPrepare::btnAreaOne_Click);
     clicked(btnScript, &frmPrepare::btnScript_Click);
     clicked(btnShowProjekt, &frmPrepare::btnShowProjekt_Click);
-    connect(txtScript, &QPlainTextEdit::textChanged, this, [this] { mScriptChanged = true; });
-    txtScript->installEventFilter(this);
+    connect(txtScript, &QPlainTextEdit::textChanged, this, &frmPrepare::txtScript_Change);
+    connect(txtScript, &SourceEdit::aboutToBreak, this, &frmPrepare::txtScript_KeyPress);
     idle_.setSingleShot(true);
     idle_.setInterval(kIdleMs);
     connect(&idle_, &QTimer::timeout, this, &frmPrepare::storeWhenIdle);
@@ -126,6 +128,7 @@ void frmPrepare::wire()
 void frmPrepare::Form_Load()
 {
     OverlayForm(*this, session_);
+    overlayMenus();
     session_.document.deck.assign(1, {});
     session_.document.currentArea = 0;
     mDocChanged = false;
@@ -139,7 +142,8 @@ void frmPrepare::Form_Load()
 
 bool frmPrepare::event(QEvent* event)
 {
-    const bool handled = QWidget::event(event);
+    if (dropped(*event)) return true;
+    const bool handled = SkinWindow::event(event);
     if (event->type() == QEvent::WindowActivate) trap([this] { Form_Activate(); });
     return handled;
 }

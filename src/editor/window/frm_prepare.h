@@ -3,12 +3,15 @@
 #include "editor/design_surface.h"
 #include "editor/page/pasted_elements.h"
 #include "editor/window/form_openers.h"
+#include "editor/window/source_edit.h"
 #include "forms/named.h"
 #include "forms/session.h"
+#include "forms/tool_label.h"
+#include "forms/tool_picture.h"
+#include "forms/window_outline.h"
 
 #include <QLabel>
 #include <QMenu>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QTimer>
 #include <QWidget>
@@ -23,7 +26,7 @@ namespace quillmere {
 /// The main window. It shows one area of the open deck on the surface, or the whole deck as WML
 /// text, decides when the surface is written to its design work file and the deck to its own, and
 /// launches all tools. The index of the shown area is DocumentSession::currentArea.
-class frmPrepare : public QWidget, public DeckWindow {
+class frmPrepare : public SkinWindow, public DeckWindow {
     Q_OBJECT
 
 public:
@@ -93,27 +96,31 @@ private:
     static const Command kTools[];
     static const Command kMenuEntries[];
     static const Command kKeys[];
-    enum class Guards { None, DeckToSave, Deck, DeckAndSurface };
+    enum class Guards { None, ToSave, OpenDeck, DeckAndSurface };
 
     // the window itself
     void layOut();
     void wire();
     void wireSurface();
     void makeTools();
-    void makeTool(const Command& tool);
+    [[nodiscard]] ToolLabel* makeLabel(const char* name);
+    void takeSkin(const SkinRecord& skin);
     void makeMenus();
+    void overlayMenus();
     void makeKeys();
     void Form_Activate();
     void Form_Unload();
     void showTitle();
     [[nodiscard]] QString word(int id) const;
-    [[nodiscard]] QString captionOf(const char* control, const char* otherwise) const;
+    /// A text that the resources have as a variant of this form.
+    [[nodiscard]] QString resourceText(std::int16_t number, const char* otherwise) const;
     void trap(const std::function<void()>& routine);
 
     // areas
     [[nodiscard]] bool deckIsOpen() const;
     [[nodiscard]] DeckRecord& shownArea();
     [[nodiscard]] std::string shownDesignPath();
+    void refresh();
     void disableNavigation();
     void showNavigation();
     void showArea();
@@ -134,6 +141,9 @@ private:
     void storeWhenIdle();
     void tellStored();
     void writeDeckFile();
+    [[nodiscard]] std::string deckPath() const;
+    void rememberFile();
+    void requireOwnFile();
     void warnOfCosts();
     void useStandardOutput();
 
@@ -141,9 +151,9 @@ private:
     void btnScript_Click();
     void showSource();
     void takeSource();
+    void txtScript_Change();
     void txtScript_KeyPress();
     void undoInSource();
-    [[nodiscard]] std::string sourceText() const;
 
     // commands
     [[nodiscard]] bool allows(Guards guards);
@@ -153,7 +163,7 @@ private:
     void tellMissing(const QString& caption);
     void popUp(QMenu& menu, const char* tool);
     void insertElement(ElementKind kind, const char* form);
-    [[nodiscard]] bool refusesTable(const Hit& hit);
+    [[nodiscard]] bool refusesTable(const Hit& hit, ElementKind kind);
 
     void lblButtonSeiteSave();
     void lblButtonSeiteOpen();
@@ -213,7 +223,7 @@ private:
     QLabel* const lblDeckName = named<QLabel>("lblDeckName", this);
     QLabel* const lblCurAreaCaption = named<QLabel>("lblCurAreaCaption", this);
     DesignSurface* const objBrowserCard;
-    QPlainTextEdit* const txtScript = named<QPlainTextEdit>("txtScript", this);
+    SourceEdit* const txtScript = named<SourceEdit>("txtScript", this);
     QLabel* const lblToolTipForbtnAreaPrev = named<QLabel>("lblToolTipForbtnAreaPrev", this);
     QLabel* const lblToolTipAreaNext = named<QLabel>("lblToolTipAreaNext", this);
     QPushButton* const btnShowProjekt = named<QPushButton>("btnShowProjekt", this);
@@ -249,10 +259,14 @@ private:
     std::optional<Element> mMarkedTable;
     int mImageIndex = 0;
 
+    bool refreshWanted_ = false;
     std::string surfaceShows_; ///< the design work file that the surface was loaded from
     std::optional<SurfaceStyle> skinLook_; ///< of the surface, by the skin
+    PageStyle pageStyle_;
+    QRegion outline_;
     QTimer idle_;
     bool idleFailed_ = false; ///< and was told
+    std::string watched_; ///< the path that Session::deckFile remembers
     bool deckIsNew_ = false; ///< and not yet looked at for what saving would cost
 };
 

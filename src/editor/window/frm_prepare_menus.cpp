@@ -12,6 +12,7 @@
 
 #include <QApplication>
 #include <QClipboard>
+#include <QDir>
 #include <QFileInfo>
 #include <QMimeData>
 #include <QShortcut>
@@ -34,9 +35,9 @@ constexpr SubmenuCaption kSubmenus[] = {
 } // namespace
 
 const frmPrepare::Command frmPrepare::kMenuEntries[] = {
-    {"mnuSave", "Speichern", "Ctrl+S", Guards::DeckToSave, kNoForm, &frmPrepare::mnuSave,
+    {"mnuSave", "Speichern", "Ctrl+S", Guards::ToSave, kNoForm, &frmPrepare::mnuSave,
         "mnuContextSave"},
-    {"mnuSaveAs", "Speichern unter", "Ctrl+Shift+S", Guards::DeckToSave, kNoForm,
+    {"mnuSaveAs", "Speichern unter", "Ctrl+Shift+S", Guards::ToSave, kNoForm,
         &frmPrepare::mnuSaveAs, "mnuContextSave"},
     {"mnuOpenTemplate", "Von Vorlage", "", Guards::None, "frmTemplateMultiWml",
         &frmPrepare::mnuOpenTemplate, "mnuContextOpen"},
@@ -114,6 +115,23 @@ void frmPrepare::makeMenus()
     mnuContext2->insertSeparator(findChild<QAction*>("mnuContext2FormatText"));
 }
 
+/// Gives menus and their entries the texts of the resources.
+void frmPrepare::overlayMenus()
+{
+    const auto& table = session_.forms.table();
+    const auto* form = findForm(table, "frmPrepare");
+    if (form == nullptr) return;
+    const auto textOf = [&](const QObject& object) {
+        const auto* entry = findControl(table, *form, coreText(object.objectName()));
+        return entry == nullptr ? QString() : shownText(entry->Text);
+    };
+    for (auto* menu : findChildren<QMenu*>())
+        if (const auto text = textOf(*menu); !text.isEmpty()) menu->setTitle(text);
+    for (auto* action : findChildren<QAction*>())
+        if (const auto text = textOf(*action); !text.isEmpty() && action->menu() == nullptr)
+            action->setText(text);
+}
+
 void frmPrepare::makeKeys()
 {
     for (const auto& key : kKeys) {
@@ -132,7 +150,10 @@ void frmPrepare::mnuSaveAs()
 {
     store();
     session_.gSurfaceActive = false;
-    SaveDeckAsDialog(session_);
+    if (!SaveDeckAsDialog(session_)) return;
+    rememberFile();
+    showTitle();
+    tellStored();
 }
 
 void frmPrepare::mnuOpenTemplate()
@@ -180,8 +201,8 @@ void frmPrepare::showRecentDecks()
         auto* entry = new QAction(file.dir().dirName() + " / " + file.fileName(), mnuContextOpen);
         entry->setObjectName(QLatin1String(kRecentName));
         entry->setToolTip(file.filePath());
-        connect(entry, &QAction::triggered, this,
-            [this, path] { trap([&] { openRecent(path); }); });
+        connect(
+            entry, &QAction::triggered, this, [this, path] { trap([&] { openRecent(path); }); });
         mnuContextOpen->addAction(entry);
     }
 }

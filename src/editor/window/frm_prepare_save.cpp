@@ -8,11 +8,22 @@
 #include "document/platform/word_ids.h"
 #include "document/text/failure.h"
 #include "editor/window/deck_costs.h"
+#include "forms/text.h"
 #include "project/deck_files.h"
 
 #include <utility>
 
 namespace quillmere {
+namespace {
+
+constexpr auto kAlteredOutside
+    = "Die Datei „%1“ wurde von einem anderen Programm geändert, seit Sie sie geöffnet haben.\n"
+      "Soll sie durch Ihr Dokument ersetzt werden?";
+constexpr auto kRemovedOutside
+    = "Die Datei „%1“ wurde gelöscht oder verschoben, seit Sie sie geöffnet haben.\n"
+      "Soll sie mit Ihrem Dokument neu angelegt werden?";
+
+} // namespace
 
 bool frmPrepare::docChanged() const
 {
@@ -59,6 +70,7 @@ void frmPrepare::AskAndSaveTmpWmlDocToWmlDoc(bool Ask)
     const bool isChanged = docChanged();
     if (!deckIsOpen() || !isChanged) return;
     if (Ask && !session_.messages.ask(word::kSaveChanges, {}, MessageIcon::Question)) return;
+    requireOwnFile();
     store();
     const bool wasScriptChanged = std::exchange(mScriptChanged, false); // no question of its own
     try {
@@ -76,8 +88,34 @@ void frmPrepare::writeDeckFile()
 {
     WriteDeck(session_.document);
     const auto& first = session_.document.deck.front();
-    replaceFile(
-        first.deckDir + first.deckFile, session_.document.workFiles.read(first.wmlDir + first.wmlFile));
+    replaceFile(deckPath(), session_.document.workFiles.read(first.wmlDir + first.wmlFile));
+    rememberFile();
+}
+
+std::string frmPrepare::deckPath() const
+{
+    const auto& first = session_.document.deck.front();
+    return first.deckDir + first.deckFile;
+}
+
+void frmPrepare::rememberFile()
+{
+    watched_ = deckPath();
+    session_.deckFile.remember(watched_);
+}
+
+/// What another program wrote is replaced only where the person wants it.
+void frmPrepare::requireOwnFile()
+{
+    const auto change = watched_ == deckPath() ? session_.deckFile.change() : DeckFileChange::None;
+    if (change == DeckFileChange::None) return;
+    const auto question
+        = QString::fromUtf8(change == DeckFileChange::Removed ? kRemovedOutside : kAlteredOutside);
+    const auto name = shownPath(session_.document.deck.front().deckFile);
+    if (session_.messages.askText(question.arg(name), MessageIcon::Warning)) return;
+    throw FileFailure("Das Dokument wurde nicht gespeichert. Die Datei ist unverändert, und Ihr "
+                      "Text steht weiter im Fenster. Mit „Speichern unter“ können Sie ihm einen "
+                      "anderen Namen geben.");
 }
 
 /// Once for each deck that was opened, as soon as it is shown.
@@ -89,11 +127,13 @@ void frmPrepare::warnOfCosts()
     useStandardOutput();
 }
 
-/// The deck is opened once more: what the default drops on the way in is then there as well.
+/// The deck is opened once more: what the default drops on the way in is then there as well. One
+/// with changes, such as a recovered one, keeps them and is written by the switch from now on.
 void frmPrepare::useStandardOutput()
 {
     session_.settings.WriteSetting("StandardOutput", "Yes");
     session_.document.output = OutputRules(true);
+    if (docChanged()) return;
     const auto first = session_.document.deck.front();
     OpenDocument(session_, first.deckFile, first.deckDir);
 }

@@ -21,8 +21,6 @@ namespace {
 // Each step is a whole text; a day of typing must not fill the memory.
 constexpr std::size_t kMaxSourceSteps = 400;
 
-constexpr QChar kBlockEnd(0x2029); // what the widget holds for a line end
-
 /// The pointer that tells of work that goes on, as long as the object lives.
 class Hourglass {
 public:
@@ -87,13 +85,6 @@ void namePristine(DocumentSession& session)
 
 } // namespace
 
-// toPlainText() would make blanks of hard blanks.
-std::string frmPrepare::sourceText() const
-{
-    auto text = txtScript->document()->toRawText();
-    return coreText(text.replace(kBlockEnd, QStringLiteral("\r\n")));
-}
-
 void frmPrepare::btnScript_Click()
 {
     if (btnScript->text() == word(word::kGraphicView)) return btnAreaOne_Click();
@@ -114,9 +105,8 @@ void frmPrepare::showSource()
     const auto& first = session_.document.deck.front();
     const auto file = session_.document.workFiles.read(first.wmlDir + first.wmlFile);
     objBrowserCard->hide();
-    lblCharCount->setText(QStringLiteral("%1 Zeichen").arg(file.size()));
     mScriptChangedBefore = mScriptChanged;
-    txtScript->setPlainText(shownText(withCrLf(file)));
+    txtScript->setWml(withCrLf(file));
     const auto text = txtScript->toPlainText();
     if (mScriptUndo.front().isEmpty()) mScriptUndo.front() = text;
     if (mScriptInitial.isEmpty()) mScriptInitial = text;
@@ -135,6 +125,13 @@ void frmPrepare::SetScriptUndoFlagsBack()
         area.imageCursor = -1;
     surfaceShows_.clear();
     deckIsNew_ = true;
+}
+
+void frmPrepare::txtScript_Change()
+{
+    const int shown = txtScript->document()->characterCount() - 1; // not its last line end
+    lblCharCount->setText(QStringLiteral("%1 Zeichen").arg(shown));
+    if (!std::exchange(mScriptChanged, true)) showTitle();
 }
 
 /// Ahead of what a blank or Return changes: a step is a word or a line.
@@ -177,7 +174,7 @@ void frmPrepare::takeSource()
     const auto first = document.deck.front();
     const KeptFile wml(document.workFiles, first.wmlDir + first.wmlFile);
     const KeptFile pristine(document.workFiles, first.pristineDir + first.pristineFile);
-    const auto text = sourceText() + "\r\n";
+    const auto text = txtScript->wml() + "\r\n";
     try {
         document.workFiles.write(first.wmlDir + first.wmlFile, text);
         document.workFiles.write(first.pristineDir + first.pristineFile, text);

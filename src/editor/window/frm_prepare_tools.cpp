@@ -4,6 +4,7 @@
 #include "editor/window/frm_prepare.h"
 #include "editor/window/frm_prepare_commands.h"
 
+#include "document/design_text.h"
 #include "document/platform/word_ids.h"
 #include "forms/text.h"
 #include "project/deck_dialogs.h"
@@ -11,16 +12,31 @@
 
 namespace quillmere {
 
+namespace {
+
 constexpr const char* kAnyForm = "";
+
+constexpr int kToolWidth = 70, kToolHeight = 64;
+constexpr int kToolStep = 72;
+constexpr int kDeckTools = 9; // of kTools, in the bar above; then those of the elements
+
+/// Places of the tools without a skin: a row above and a column at the left.
+QRect toolPlace(int index)
+{
+    if (index < kDeckTools) return {28 + index * kToolStep, 66, kToolWidth, kToolHeight};
+    return {28, 156 + (index - kDeckTools) * kToolHeight, kToolWidth, kToolHeight};
+}
+
+} // namespace
 
 const frmPrepare::Command frmPrepare::kTools[] = {
     {"SeiteNew", "Neu", "Neues Dokument anlegen oder ein zuletzt geöffnetes öffnen", Guards::None,
         kAnyForm, &frmPrepare::lblButtonSeiteNew},
     {"SeiteOpen", "Öffnen", "Dokument öffnen (Strg+O)", Guards::None, kAnyForm,
         &frmPrepare::lblButtonSeiteOpen},
-    {"SeiteSave", "Sichern", "Dokument speichern (Strg+S)", Guards::DeckToSave, kAnyForm,
+    {"SeiteSave", "Sichern", "Dokument speichern (Strg+S)", Guards::ToSave, kAnyForm,
         &frmPrepare::lblButtonSeiteSave},
-    {"Undo", "Zurück", "Letzte Änderung zurücknehmen (Strg+Z)", Guards::Deck, kAnyForm,
+    {"Undo", "Zurück", "Letzte Änderung zurücknehmen (Strg+Z)", Guards::OpenDeck, kAnyForm,
         &frmPrepare::lblButtonUndo},
     {"Previour", "Vorschau", "Dokument auf einem Telefon ansehen", Guards::None, "frmPreview",
         &frmPrepare::lblButtonPreviour},
@@ -28,8 +44,7 @@ const frmPrepare::Command frmPrepare::kTools[] = {
         "frmPicKonvChoiceImage", &frmPrepare::lblButtonBildKonverter},
     {"Upload", "Upload", "Projekt auf den Server übertragen", Guards::DeckAndSurface,
         "frmUploadExtended", &frmPrepare::lblButtonUpload},
-    {"System", "System", "Einstellungen", Guards::None, "frmSystem",
-        &frmPrepare::lblButtonSystem},
+    {"System", "System", "Einstellungen", Guards::None, "frmSystem", &frmPrepare::lblButtonSystem},
     {"Help", "Hilfe", "Hilfe und Informationen (F1)", Guards::None, kAnyForm,
         &frmPrepare::lblButtonHelp},
     {"Area", "Bereich", "Bereich einfügen", Guards::DeckAndSurface, "frmArea",
@@ -50,11 +65,36 @@ const frmPrepare::Command frmPrepare::kTools[] = {
         &frmPrepare::lblButtonMorvane},
 };
 
+ToolLabel* frmPrepare::makeLabel(const char* name)
+{
+    auto* picture = new ToolPicture(QLatin1String("picButton") + QLatin1String(name), this);
+    auto* label = new ToolLabel(QLatin1String("lblButton") + QLatin1String(name), picture, this);
+    return label;
+}
+
+void frmPrepare::makeTools()
+{
+    int index = 0;
+    for (const auto& tool : kTools) {
+        auto* label = makeLabel(tool.control);
+        label->setText(QString::fromUtf8(tool.caption));
+        label->setToolTip(QString::fromUtf8(tool.hint));
+        label->setGeometry(toolPlace(index++));
+        connect(label, &ToolLabel::clicked, this, [this, &tool] { run(tool); });
+    }
+    auto* move = makeLabel("Move");
+    move->setFocusPolicy(Qt::NoFocus);
+    move->setCursor(Qt::SizeAllCursor);
+    connect(move, &ToolLabel::pressed, this, [this] { DragWindow(*this); });
+    connect(makeLabel("Minimize"), &ToolLabel::clicked, this, &QWidget::showMinimized);
+    connect(makeLabel("Close"), &ToolLabel::clicked, this, &QWidget::close);
+}
+
 bool frmPrepare::allows(Guards guards)
 {
     if (guards == Guards::None) return true;
     if (!deckIsOpen()) {
-        ShowMsg(guards == Guards::DeckToSave ? 3 : 1);
+        ShowMsg(guards == Guards::ToSave ? 3 : 1);
         return false;
     }
     if (guards != Guards::DeckAndSurface || !mScriptView) return true;
@@ -95,10 +135,14 @@ Hit frmPrepare::hitTest(std::string_view startTag, std::string_view endTag, bool
     return hits_.HitTest(startTag, endTag, text, objBrowserCard->selection(), refresh);
 }
 
-bool frmPrepare::refusesTable(const Hit& hit)
+/// Nothing goes into a table. A hit test for tables tells the table's begin, which does not lie in
+/// it, and so the caret in a cell counts as well.
+bool frmPrepare::refusesTable(const Hit& hit, ElementKind kind)
 {
     const auto text = ReadDesignText(session_.document, static_cast<std::size_t>(CurArea()));
-    if (!IsInsideTable(text, hit.position)) return false;
+    const bool isInCell = kind == ElementKind::Table && hit.Inside
+        && objBrowserCard->selection().type != SurfaceSelection::Type::Control;
+    if (!isInCell && !IsInsideTable(text, hit.position)) return false;
     ShowMsg(4);
     return true;
 }
@@ -109,8 +153,9 @@ void frmPrepare::insertElement(ElementKind kind, const char* form)
     const auto& tags = tagsOf(kind);
     store();
     const auto hit = hitTest(tags.start, tags.end, true);
-    if (refusesTable(hit)) return;
-    const bool isNoted = kind == ElementKind::Option && isYes(session_.settings, "ShowOptionMessage");
+    if (refusesTable(hit, kind)) return;
+    const bool isNoted
+        = kind == ElementKind::Option && isYes(session_.settings, "ShowOptionMessage");
     if (isNoted) (void)session_.messages.showNote(Note::Option);
     openForm(form, {true, hit});
 }

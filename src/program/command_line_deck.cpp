@@ -1,0 +1,39 @@
+// Held by command_line_deck_test.cpp.
+
+#include "program/command_line_deck.h"
+
+#include "document/platform/files.h"
+#include "document/text/text_search.h"
+#include "document/text/windows1252.h"
+
+#include <algorithm>
+
+namespace quillmere {
+
+namespace {
+
+constexpr std::string_view kDeckEnd = "wml";
+constexpr std::size_t kTooShort = 4;
+
+} // namespace
+
+std::optional<SplitPathResult> deckOfCommandLine(std::string_view commandLine)
+{
+    std::string path(trimBlanks(commandLine));
+    std::erase(path, '"');
+    auto deck = SplitPath(path);
+    const bool isDeck = !deck.directory.empty() && deck.name.size() > kTooShort
+        && lowerCase(deck.name).ends_with(kDeckEnd);
+    return isDeck ? std::optional(std::move(deck)) : std::nullopt;
+}
+
+std::string commandLineOf(std::span<char* const> arguments, const std::string& currentDirectory)
+{
+    std::string line;
+    for (const char* argument : arguments)
+        line.append(line.empty() ? "" : " ").append(argument);
+    const bool isBareName = !line.empty() && line.find('/') == line.npos;
+    return isBareName && fileExists(currentDirectory + line) ? currentDirectory + line : line;
+}
+
+} // namespace quillmere

@@ -1,0 +1,225 @@
+// The start is run() and what it calls, in this order; what waits for the window to stand is
+// firstActivation(). Held by start_test.cpp and, from outside, by the tests of the whole program.
+
+#include "program/program.h"
+
+#include "app/settings.h"
+#include "document/platform/paths.h"
+#include "document/text/failure.h"
+#include "forms/frm_about_quillmere.h"
+#include "forms/frm_assistent.h"
+#include "forms/overlay.h"
+#include "forms/text.h"
+#include "forms/theme.h"
+#include "forms/trap.h"
+#include "program/command_line_deck.h"
+#include "program/frm_start.h"
+#include "program/recovery_offer.h"
+#include "program/screenshots.h"
+#include "project/deck_dialogs.h"
+#include "project/deck_files.h"
+#include "project/frm_ask_projekt_dir.h"
+#include "project/frm_open_from_projekt_dir.h"
+
+#include <QApplication>
+#include <QScreen>
+
+#include <cmath>
+
+namespace quillmere {
+
+namespace {
+
+constexpr double kTwipsPerInch = 1440;
+constexpr int kDesignTwips = 15;
+constexpr int kYieldsBehindAssistant = 4;
+constexpr int kAlternativeTextPx = 11;
+constexpr std::size_t kEditorPageItem = 5;
+constexpr std::size_t kPreviewPageItem = 4;
+
+// Templates come with a later version.
+const auto kNoTemplates = QStringLiteral("Die Vorlagen geh\u00f6ren noch nicht zu dieser Version. "
+                                         "Es wurde kein Dokument angelegt.");
+
+QFont alternativeTextFont()
+{
+    auto font = QApplication::font();
+    font.setPixelSize(kAlternativeTextPx);
+    return font;
+}
+
+int screenTwipsPerPixel()
+{
+    const auto dpi = QGuiApplication::primaryScreen()->logicalDotsPerInchX();
+    return static_cast<int>(std::lround(kTwipsPerInch / dpi));
+}
+
+/// The directory that `directory` lies in; both have their separators.
+std::string parentOf(const std::string& directory)
+{
+    return SplitPath(withoutSeparator(directory)).directory;
+}
+
+PageStyle pageStyle(const SkinItem& item)
+{
+    return {item.BackColor, item.FontSize, std::string(item.FontName.text())};
+}
+
+void closeAllBut(const QWidget& window)
+{
+    for (auto* widget : QApplication::topLevelWidgets())
+        if (widget != &window && widget->isVisible()) widget->close();
+}
+
+} // namespace
+
+Program::Program(StartOptions options)
+    : options_(std::move(options))
+    , directories_(prepareDataDirectories(AppDirectory(), userDataDirectory()))
+    , painter_(alternativeTextFont())
+    , session_{settings_, messages_, fileDialogs_, files_, drives_, words_, forms_,
+          DocumentSession{workFiles_, displayCopies_, messages_, settings_, words_, OutputRules()}}
+    , window_(session_, workFiles_)
+{
+    messages_.useSession(session_);
+    fileDialogs_.useSession(session_);
+    session_.document.twipsPerPixel = screenTwipsPerPixel();
+    session_.afterStore = [this](bool isChanged) { noteDeck(isChanged); };
+    registerForms();
+}
+
+int Program::run()
+{
+    QApplication::setQuitOnLastWindowClosed(false); // the splash is none
+    ensureSettings();
+    showSplash();
+    trapped(messages_, [this] { window_.Form_Load(); });
+    applySkins();
+    closeAllBut(window_);
+    showMainWindow();
+    QApplication::setQuitOnLastWindowClosed(true);
+    return QApplication::exec();
+}
+
+void Program::ensureSettings()
+{
+    trapped(messages_, [this] {
+        EnsureDefaultSettings(settings_,
+            {directories_.shared, files_, drives_, kNativePathStyle, directories_.writable});
+    });
+    session_.document.output = OutputRules(isYes(settings_, "StandardOutput"));
+}
+
+void Program::showSplash()
+{
+    const auto skins = settings_.ReadSetting("Skins");
+    const auto picture = skins.empty() ? QString() : shownPath(skins + "splash.bmp");
+    frmStart(picture, [this] { loadResources(); }).exec();
+}
+
+void Program::loadResources()
+{
+    trapped(messages_, [this] { forms_.LoadFormResources(settings_); });
+    trapped(messages_, [this] { words_.LoadWordResources(settings_); });
+    OverlayForm(window_, session_);
+    window_.setWindowTitle(QStringLiteral("MORVANE Quillmere")); // the overlay cannot change it
+}
+
+void Program::applySkins()
+{
+    const bool bigFonts = IsBigFonts(session_.document.twipsPerPixel);
+    auto& skins = session_.skins;
+    trapped(messages_, [&] { ReadEditorSkins(skins, settings_); });
+    trapped(messages_, [&] { ReadPreviewSkins(skins, settings_, bigFonts); });
+    const auto editor = FindSelectedSkin(skins, true);
+    if (editor && *editor < skins.EditorSkins.size()) {
+        pages_[0] = pageStyle(skins.EditorSkins[*editor].items[kEditorPageItem]);
+        session_.document.devices[0] = &pages_[0];
+    }
+    if (const auto preview = FindSelectedSkin(skins, false)) {
+        pages_[1] = pageStyle(skins.PreviewSkins[*preview].items[kPreviewPageItem]);
+        session_.document.devices[1] = &pages_[1];
+    }
+    applyTheme(*qApp, activeTheme(skins));
+    trapped(messages_, [this] { window_.applySkin(); });
+}
+
+void Program::showMainWindow()
+{
+    window_.firstActivation = [this] { firstActivation(); };
+    const auto screen = QGuiApplication::primaryScreen()->availableGeometry();
+    window_.move(screen.center() - window_.rect().center());
+    window_.show();
+}
+
+// The window goes up a little once it stands, by 100 twips of the design's and back by 75.
+void Program::firstActivation()
+{
+    const double twips = session_.document.twipsPerPixel;
+    const double upTwips = twips * 100 / kDesignTwips - 75;
+    window_.move(window_.x(), window_.y() - static_cast<int>(std::lround(upTwips / twips)));
+    if (!options_.screenshots.isEmpty()) {
+        window_.offerStandardOutput = [](const QStringList&) { return false; }; // nobody answers
+        openCommandLine();
+        return takeScreenshots(window_, session_, options_.screenshots);
+    }
+    const bool isOpen
+        = offerCrashedRuns(session_, parentOf(workFiles_.directory())) || openCommandLine();
+    if (!isOpen) showAssistant();
+    window_.SetFocusToBrowser();
+}
+
+/// Whether the command line names a deck, be it one that can be opened or not.
+bool Program::openCommandLine()
+{
+    const auto deck = deckOfCommandLine(options_.commandLine);
+    if (!deck) return false;
+    trapped(messages_, [&] { OpenDocument(session_, deck->name, deck->directory); });
+    return true;
+}
+
+void Program::showAssistant()
+{
+    if (!isYes(settings_, "ShowStartDialog")) return;
+    session_.gSurfaceActive = false;
+    const auto trapping
+        = [this](auto routine) { return [this, routine] { trapped(messages_, routine); }; };
+    frmAssistent::showAndRun(session_,
+        {trapping([this] { frmAskProjektDir(session_, &window_).showModally(); }),
+            trapping([this] { OpenDeckDialog(session_); }),
+            [this] { messages_.showText(kNoTemplates, MessageIcon::None); }},
+        &window_);
+    for (int i = 0; i < kYieldsBehindAssistant; ++i)
+        QApplication::processEvents();
+}
+
+void Program::registerForms()
+{
+    const auto registerForm = [this]<class Form>(const char* name, std::in_place_type_t<Form>) {
+        window_.registerForm(
+            name, [this](const FormCall&) { Form(session_, &window_).showModally(); });
+    };
+    registerForm("frmAboutQuillmere", std::in_place_type<frmAboutQuillmere>);
+    registerForm("frmAskProjektDir", std::in_place_type<frmAskProjektDir>);
+    registerForm("frmOpenFromProjektDir", std::in_place_type<frmOpenFromProjektDir>);
+}
+
+// A note that cannot be written costs nothing but the recovery of what comes next; the store itself
+// told already that the disk is full.
+void Program::noteDeck(bool isChanged) const
+{
+    try {
+        writeRecoveryNote(session_.document, isChanged);
+    } catch (const FileFailure&) {
+        return;
+    }
+}
+
+void Program::showWindow()
+{
+    window_.showNormal();
+    window_.raise();
+    window_.activateWindow();
+}
+
+} // namespace quillmere
