@@ -1,5 +1,6 @@
 // quillmere-gallery FILE      shows an area on the editing surface, with its text beside it
-// quillmere-gallery --shots DIR [SAMPLES]  writes pictures of sample areas into DIR and ends
+// quillmere-gallery --shots DIR [SAMPLES]  writes pictures of sample areas and of the windows into
+// DIR and ends
 
 #include "app/settings.h"
 #include "app/word_resources.h"
@@ -9,6 +10,7 @@
 #include "editor/design_surface.h"
 #include "gallery/gallery_window.h"
 #include "gallery/shots.h"
+#include "gallery/window_shots.h"
 
 #include <QApplication>
 
@@ -38,6 +40,8 @@ int run(const QStringList& arguments)
     if (shots && arguments.size() > 2) {
         const auto own = QApplication::applicationDirPath() + "/Samples";
         writeShots(arguments.value(3, own), arguments.at(2));
+        const auto shipped = QApplication::applicationDirPath();
+        writeWindowShots(shipped + "/Skins", shipped + "/Examples", arguments.at(2));
         return 0;
     }
     if (!shots && arguments.size() == 2) return showArea(arguments.at(1));

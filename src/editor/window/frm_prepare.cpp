@@ -117,7 +117,7 @@ void frmPrepare::wire()
     clicked(btnAreaOne, &frmPrepare::btnAreaOne_Click);
     clicked(btnScript, &frmPrepare::btnScript_Click);
     clicked(btnShowProjekt, &frmPrepare::btnShowProjekt_Click);
-    connect(txtScript, &QPlainTextEdit::textChanged, this, [this] { mScriptChanged = true; });
+    connect(txtScript, &QPlainTextEdit::textChanged, this, &frmPrepare::txtScript_Change);
     connect(txtScript, &SourceEdit::aboutToBreak, this, &frmPrepare::txtScript_KeyPress);
     idle_.setSingleShot(true);
     idle_.setInterval(kIdleMs);
@@ -128,6 +128,7 @@ void frmPrepare::wire()
 void frmPrepare::Form_Load()
 {
     OverlayForm(*this, session_);
+    overlayMenus();
     session_.document.deck.assign(1, {});
     session_.document.currentArea = 0;
     mDocChanged = false;

@@ -106,12 +106,14 @@ private:
     [[nodiscard]] ToolLabel* makeLabel(const char* name);
     void takeSkin(const SkinRecord& skin);
     void makeMenus();
+    void overlayMenus();
     void makeKeys();
     void Form_Activate();
     void Form_Unload();
     void showTitle();
     [[nodiscard]] QString word(int id) const;
-    [[nodiscard]] QString captionOf(const char* control, const char* otherwise) const;
+    /// A text that the resources have as a variant of this form.
+    [[nodiscard]] QString resourceText(std::int16_t number, const char* otherwise) const;
     void trap(const std::function<void()>& routine);
 
     // areas
@@ -149,6 +151,7 @@ private:
     void btnScript_Click();
     void showSource();
     void takeSource();
+    void txtScript_Change();
     void txtScript_KeyPress();
     void undoInSource();
 

@@ -18,6 +18,13 @@
 #include <utility>
 
 namespace quillmere {
+namespace {
+
+// Numbers of texts of the form's resources.
+constexpr std::int16_t kTextSource = 2;
+constexpr std::int16_t kTextOf = 4;
+
+} // namespace
 
 bool frmPrepare::deckIsOpen() const
 {
@@ -94,16 +101,14 @@ void frmPrepare::showNavigation()
     if (!isOpen) return;
     btnShowProjekt->setEnabled(true);
     btnAreaOne->setEnabled(true);
-    btnAreaOne->setText(QStringLiteral("%1 %2 %3")
-                            .arg(CurArea() + 1)
-                            .arg(captionOf("btnAreaOne", "von"))
-                            .arg(areas));
+    btnAreaOne->setText(
+        QStringLiteral("%1 %2 %3").arg(CurArea() + 1).arg(resourceText(kTextOf, "von")).arg(areas));
 }
 
 void frmPrepare::showArea()
 {
     btnScript->setEnabled(true);
-    btnScript->setText(captionOf("btnScript", "Quelltext"));
+    btnScript->setText(resourceText(kTextSource, "Quelltext"));
     showCaptions();
     const auto path = shownDesignPath();
     if (surfaceShows_.empty()) objBrowserCard->hide(); // until it shows something of this deck

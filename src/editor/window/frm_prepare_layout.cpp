@@ -104,13 +104,11 @@ void frmPrepare::layOut()
     lblDeckName->raise();
 }
 
-QString frmPrepare::captionOf(const char* control, const char* otherwise) const
+QString frmPrepare::resourceText(std::int16_t number, const char* otherwise) const
 {
-    const auto& table = session_.forms.table();
-    const auto* form = findForm(table, "frmPrepare");
-    const auto* entry = form == nullptr ? nullptr : findControl(table, *form, control);
-    const bool isThere = entry != nullptr && !entry->Text.empty();
-    return isThere ? shownText(entry->Text) : QString::fromUtf8(otherwise);
+    const auto* entry = findForm(session_.forms.table(), "frmPrepare", number);
+    const bool isThere = entry != nullptr && !entry->Caption.empty();
+    return isThere ? shownText(entry->Caption) : QString::fromUtf8(otherwise);
 }
 
 void frmPrepare::applySkin()

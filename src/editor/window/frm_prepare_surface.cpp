@@ -25,12 +25,13 @@ namespace {
 struct ElementForm {
     ElementKind kind;
     const char* form;
+    const char* caption;
 };
 constexpr ElementForm kElementForms[] = {
-    {ElementKind::Option, "frmOption"},
-    {ElementKind::Link, "frmLinks"},
-    {ElementKind::Table, "frmTable"},
-    {ElementKind::Image, "frmImage"},
+    {ElementKind::Option, "frmOption", "Optionsfeld"},
+    {ElementKind::Link, "frmLinks", "Link"},
+    {ElementKind::Table, "frmTable", "Tabelle"},
+    {ElementKind::Image, "frmImage", "Bild"},
 };
 
 /// The deck among the files that are dropped; "" where there is none.
@@ -147,6 +148,7 @@ void frmPrepare::ondblclick()
     const auto marked = markedElement();
     if (!marked) return;
     const auto* row = std::ranges::find(kElementForms, marked->kind, &ElementForm::kind);
+    if (!hasForm(row->form)) return tellMissing(QString::fromUtf8(row->caption));
     openForm(row->form, {false, marked->hit});
 }
 
