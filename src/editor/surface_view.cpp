@@ -60,14 +60,15 @@ void DesignSurface::rebuild()
     const int scrolled = verticalScrollBar()->value();
     dropControl();
     caretBlock_ = 0;
-    auto* fresh = new QTextDocument(this);
-    fresh->setDocumentMargin(kPageMarginPx);
-    fresh->setDefaultTextOption(document()->defaultTextOption());
-    showPage(*fresh, page_, style_);
-    objects_.attachTo(*fresh);
-    setDocument(fresh);
+    // with the parent of the one it takes the place of: setDocument() deletes no others
+    auto& fresh = *new QTextDocument(document()->parent());
+    fresh.setDocumentMargin(kPageMarginPx);
+    fresh.setDefaultTextOption(document()->defaultTextOption());
+    showPage(fresh, page_, style_);
+    objects_.attachTo(fresh);
+    setDocument(&fresh);
     setCursorWidth(kCaretWidthPx); // a property of the document's layout
-    connect(fresh, &QTextDocument::contentsChange, this,
+    connect(&fresh, &QTextDocument::contentsChange, this,
         [this](int, int removed, int added) { keepInStep(removed, added); });
     verticalScrollBar()->setValue(scrolled);
 }
