@@ -12,7 +12,6 @@
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QTextBlock>
-#include <QTimer>
 
 #include <utility>
 
@@ -78,11 +77,12 @@ void DesignSurface::keepInStep(int removed, int added)
 {
     if (showing_ || removed == added) return;
     Q_ASSERT_X(false, "DesignSurface", "the document was changed past the page");
-    QTimer::singleShot(0, this, [this] {
+    const auto buildAgain = [this] {
         const auto place = placeAtPosition(textCursor().position());
         rebuild();
         setCaret(place);
-    });
+    };
+    QMetaObject::invokeMethod(this, buildAgain, Qt::QueuedConnection);
 }
 
 void DesignSurface::restyle()
