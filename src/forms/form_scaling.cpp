@@ -1,5 +1,5 @@
-// A pixel of a form as drawn is 15 twips there and fewer on a screen of more dots, so a factor below
-// 1 gives the same pixels. tests/forms/form_scaling_test.cpp holds this.
+// A pixel of a form as drawn is 15 twips there and fewer on a screen of more dots, so a factor
+// below 1 gives the same pixels. tests/forms/form_scaling_test.cpp holds this.
 
 #include "forms/form_scaling.h"
 
@@ -17,8 +17,7 @@ namespace {
 constexpr double kRightMargin = 50; // twips
 constexpr double kUploadMargin = 150;
 
-template <std::size_t Count>
-bool isOneOf(const QString& name, const char* const (&names)[Count])
+template <std::size_t Count> bool isOneOf(const QString& name, const char* const (&names)[Count])
 {
     return std::any_of(std::begin(names), std::end(names),
         [&](const char* other) { return name == QLatin1String(other); });

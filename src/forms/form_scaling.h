@@ -22,9 +22,10 @@ struct ScaledControl {
     double fontSize = 0;
 };
 
-/// Scales `form` and its `controls`: sizes, places and fonts go with the screen's twips over 15, but
-/// for the controls that are placed or styled elsewhere. The form then grows to hold them all.
-void scaleForm(ScaledControl& form, std::vector<ScaledControl>& controls, const ScreenTwips& screen);
+/// Scales `form` and its `controls`: sizes, places and fonts go with the screen's twips over 15,
+/// but for the controls that are placed or styled elsewhere. The form then grows to hold them all.
+void scaleForm(
+    ScaledControl& form, std::vector<ScaledControl>& controls, const ScreenTwips& screen);
 
 /// The same for a window and those of its direct children that stand at fixed places. `flag` is
 /// true wherever it is called. A form with a layout stays as it is: the layout holds its controls.
