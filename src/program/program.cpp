@@ -3,6 +3,8 @@
 
 #include "program/program.h"
 
+#include "editor/window/element_forms.h"
+
 #include "document/platform/paths.h"
 #include "document/text/failure.h"
 #include "forms/frm_about_quillmere.h"
@@ -186,6 +188,7 @@ void Program::showAssistant()
 
 void Program::registerForms()
 {
+    registerElementForms(window_, session_);
     window_.registerForm("frmAboutQuillmere",
         [this](const FormCall&) { frmAboutQuillmere(session_, &window_).showModally(); });
 }
