@@ -41,6 +41,9 @@ struct ElementDesk : WindowDesk {
     {
         withNextModal(std::move(form));
         choose(entry);
+        window.activateWindow();
+        surface().setFocus();
+        QApplication::processEvents();
     }
 };
 

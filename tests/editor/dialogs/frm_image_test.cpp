@@ -17,7 +17,7 @@ struct ImageDesk : ElementDesk {
         caretBehind("vorn");
     }
     QString path(const char* name) { return QString::fromStdString(folder.path() + name); }
-    ImageEntry& entry() { return session.document.deck.front().images.front(); }
+    ImageEntry& entry() { return session.document.deck.front().images.end()[-2]; }
 };
 
 TEST(FrmImage, InsertsAPictureThatIsChosen)

@@ -108,11 +108,11 @@ TEST(FrmLinks, TellsWhatIsMissing)
         type(form, "txtCaption", "");
         QTest::keyClick(&control(form, "txtCaption"), Qt::Key_Backspace);
         click(form, "btnNew");
-        EXPECT_TRUE(control(form, "txtCaption").hasFocus());
+        EXPECT_EQ(form.focusWidget(), &control(form, "txtCaption"));
         type(form, "txtCaption", "x");
         form.findChildren<QRadioButton*>("optShowAreaOrder").at(1)->setChecked(true);
         click(form, "btnNew");
-        EXPECT_TRUE(control(form, "txtUrlJump").hasFocus());
+        EXPECT_EQ(form.focusWidget(), &control(form, "txtUrlJump"));
         QTest::keyClick(&form, Qt::Key_Escape);
     });
     EXPECT_EQ(desk.messages.taken().size(), 2U);

@@ -78,7 +78,7 @@ TEST(FrmTable, RefusesNumbersOutOfItsLimits)
         QTest::qWait(20);
         EXPECT_EQ(desk.messages.taken(), std::vector<std::string>{"show 135: 1|30"});
         EXPECT_EQ(textOf(form, "txtRows"), "2");
-        EXPECT_TRUE(control(form, "txtRows").hasFocus());
+        EXPECT_EQ(form.focusWidget(), &control(form, "txtRows"));
         type(form, "txtRows", "a3b");
         EXPECT_EQ(textOf(form, "txtRows"), "3");
         type(form, "txtColumns", "11");
@@ -93,13 +93,15 @@ TEST(FrmTable, RefusesNumbersOutOfItsLimits)
     EXPECT_EQ(desk.content().find("<table"), std::string::npos);
 }
 
-TEST(FrmTable, DoesNotGoIntoATable)
+TEST(ElementForms, DoNotOpenInATable)
 {
     ElementDesk desk;
     desk.openCards({"<table title=\"t\" columns=\"1\"><tr><td>eins</td></tr></table>"});
     desk.caretBehind("ein");
-    desk.choose("mnuContext1InsertTable");
-    EXPECT_EQ(desk.messages.taken(), std::vector<std::string>{"show 49"});
+    for (const char* entry : {"mnuContext1InsertHyperlink", "mnuContext1InsertOption"}) {
+        desk.choose(entry);
+        EXPECT_EQ(desk.messages.taken(), std::vector<std::string>{"show 49"});
+    }
 }
 
 } // namespace

@@ -35,7 +35,6 @@ TEST(FrmTextFormat, FormatsWhatIsMarkedAndKeepsItMarked)
     EXPECT_NE(
         desk.content().find("eins<big><i><b> zwei</b></i></big><i> drei</i>"), std::string::npos)
         << desk.content();
-    desk.choose("mnuContext1FormatText");
 }
 
 TEST(FrmTextFormat, RefusesBordersThatAFormatMustNotCross)
