@@ -117,32 +117,37 @@ void DesignSurface::yieldToEvents()
 
 void DesignSurface::setLook(const SurfaceStyle& look)
 {
+    if (look == style_) return;
     style_ = look;
     restyle();
 }
 
 void DesignSurface::setFgColor(const QColor& colour)
 {
-    style_.ink = colour;
-    restyle();
+    auto look = style_;
+    look.ink = colour;
+    setLook(look);
 }
 
 void DesignSurface::setBgColor(const QColor& colour)
 {
-    style_.ground = colour;
-    restyle();
+    auto look = style_;
+    look.ground = colour;
+    setLook(look);
 }
 
 void DesignSurface::setFontFamily(const QString& family)
 {
-    style_.fontFamily = family.trimmed();
-    restyle();
+    auto look = style_;
+    look.fontFamily = family.trimmed();
+    setLook(look);
 }
 
 void DesignSurface::setFontSizePx(int size)
 {
-    style_.fontSizePx = size;
-    restyle();
+    auto look = style_;
+    look.fontSizePx = std::max(1, size);
+    setLook(look);
 }
 
 } // namespace quillmere

@@ -13,6 +13,7 @@ struct SurfaceStyle {
     QColor link{0x0B, 0x3F, 0xA8};
     QString fontFamily = QStringLiteral("Inter");
     int fontSizePx = 16;
+    friend bool operator==(const SurfaceStyle&, const SurfaceStyle&) = default;
 };
 
 /// The ink thinned on the ground: 0 is the ground, 1 the ink.

@@ -49,6 +49,7 @@ void DesignSurface::showAnew(std::string text, std::size_t caret)
     page_ = readSurfacePage(std::move(text));
     rebuild();
     setCaret(placeAt(page_, caret));
+    if (caretPlace() == firstPlace(page_)) verticalScrollBar()->setValue(0);
     emit changed();
 }
 

@@ -7,12 +7,15 @@
 #include "forms/text.h"
 
 #include <QAbstractButton>
+#include <QAction>
 #include <QComboBox>
 #include <QFileInfo>
 #include <QGroupBox>
 #include <QLabel>
 #include <QListWidget>
+#include <QMenu>
 #include <QPixmap>
+#include <QTabWidget>
 #include <QVariant>
 
 #include <optional>
@@ -36,10 +39,19 @@ void setCaption(QWidget& control, const std::string& text)
     if (auto* button = qobject_cast<QAbstractButton*>(&control)) button->setText(shown);
     if (auto* label = qobject_cast<QLabel*>(&control)) label->setText(shown);
     if (auto* box = qobject_cast<QGroupBox*>(&control)) box->setTitle(shown);
+    if (auto* menu = qobject_cast<QMenu*>(&control)) menu->setTitle(shown);
+}
+
+/// The tabs of a form are there before its texts.
+void nameTabs(QTabWidget& tabs, const std::vector<std::string>& names)
+{
+    for (int i = 0; i < tabs.count() && i < int(names.size()); ++i)
+        tabs.setTabText(i, shownText(names[std::size_t(i)]));
 }
 
 void addItems(QWidget& control, const std::string& list)
 {
+    if (auto* tabs = qobject_cast<QTabWidget*>(&control)) return nameTabs(*tabs, itemsOfList(list));
     for (const auto& item : itemsOfList(list)) {
         if (auto* combo = qobject_cast<QComboBox*>(&control)) combo->addItem(shownText(item));
         if (auto* box = qobject_cast<QListWidget*>(&control)) box->addItem(shownText(item));
@@ -84,6 +96,11 @@ void OverlayForm(QWidget& form, const Session& session, std::int16_t variant)
         const auto name = coreText(control->objectName());
         if (const auto* texts = findControl(table, *entry, name, arrayIndexOf(*control)))
             overlay(*control, *texts, session);
+    }
+    for (auto* action : form.findChildren<QAction*>()) {
+        if (action->objectName().isEmpty()) continue;
+        const auto* texts = findControl(table, *entry, coreText(action->objectName()));
+        if (texts != nullptr && !texts->Text.empty()) action->setText(shownText(texts->Text));
     }
 }
 

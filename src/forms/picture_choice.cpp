@@ -76,7 +76,7 @@ void PictureChoice::paintEvent(QPaintEvent*)
 
     const QRect place(kMarginPx, (height() - kPicturePx) / 2, kPicturePx, kPicturePx);
     if (!picture_.isNull()) painter.drawPixmap(place, picture_);
-    const int left = place.right() + kMarginPx;
+    const int left = picture_.isNull() ? kMarginPx : place.right() + kMarginPx;
     const QRect texts(left, kMarginPx, width() - left - kMarginPx, height() - 2 * kMarginPx);
     painter.setPen(palette().color(QPalette::ButtonText));
     painter.drawText(texts, Qt::AlignLeft | Qt::AlignBottom, toolTip());

@@ -192,10 +192,11 @@ FreePlaces freePlaces(const SkinRecord& skin)
     const QRect project = placeOf(itemOf(skin, SkinPart::ShowProject));
     const QRect title = placeOf(skin.buttons[16].clickArea);
     const QRect grip = placeOf(skin.buttons[19].picture);
+    const auto note = [](const QRect& place) { return place.adjusted(0, -kGap, 0, kGap); };
     return {between(title.right() + kGap, grip.left() - kGap, title),
         between(caption.right() + kGap, script.left() - 2 * kGap, caption),
-        between(page.left(), previous.left() - 2 * kGap, previous),
-        between(next.right() + 2 * kGap, project.right() + 1, next)};
+        note(between(page.left(), previous.left() - 2 * kGap, previous)),
+        note(between(next.right() + 2 * kGap, project.right() + 1, next))};
 }
 
 } // namespace quillmere

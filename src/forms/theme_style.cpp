@@ -3,6 +3,7 @@
 
 #include "forms/theme_style.h"
 
+#include <QAbstractScrollArea>
 #include <QPainter>
 #include <QPainterPath>
 #include <QStyleFactory>
@@ -109,6 +110,11 @@ void ThemeStyle::drawButton(
     else if (enabled && is(option, State_MouseOver))
         ground = blended(ground, theme_.ink, 0.09);
     drawShape(painter, option.rect, kButtonCorner, ground, edge);
+    if (!is(option, State_HasFocus) || !is(option, State_KeyboardFocusChange)) return;
+    // Two lines, so that the ring is seen on a button in the accent as well.
+    drawShape(painter, option.rect, kButtonCorner, Qt::transparent, theme_.accent, 2);
+    drawShape(painter, option.rect.adjusted(2, 2, -2, -2), kButtonCorner - 2, Qt::transparent,
+        theme_.shell, 1);
 }
 
 /// A field that has the focus shows it whichever way it came: the person writes there.
@@ -164,6 +170,12 @@ void ThemeStyle::drawPrimitive(PrimitiveElement element, const QStyleOption* opt
             frame != nullptr && frame->lineWidth > 0)
             return drawField(*option, *painter);
         break;
+    case PE_Frame:
+        if (qobject_cast<const QAbstractScrollArea*>(widget) == nullptr) break;
+        return drawShape(*painter, option->rect, 2, Qt::transparent,
+            is(*option, State_HasFocus)      ? theme_.accent
+                : is(*option, State_Enabled) ? theme_.edge
+                                             : theme_.hairline);
     case PE_FrameFocusRect:
         return drawRing(*option, *painter);
     case PE_IndicatorCheckBox:
@@ -242,8 +254,9 @@ void ThemeStyle::drawComplexControl(ComplexControl control, const QStyleOptionCo
 QRect ThemeStyle::subElementRect(
     SubElement element, const QStyleOption* option, const QWidget* widget) const
 {
-    if (element == SE_PushButtonFocusRect) return option->rect;
-    return QProxyStyle::subElementRect(element, option, widget);
+    constexpr int kTextMargin = 4;
+    const QRect usual = QProxyStyle::subElementRect(element, option, widget);
+    return element == SE_LineEditContents ? usual.adjusted(kTextMargin, 0, -kTextMargin, 0) : usual;
 }
 
 /// A scroll bar without arrows: the groove is all of it.

@@ -38,6 +38,12 @@ QFont fitting(QFont font, const QString& text, int width, const QPaintDevice* de
     return font;
 }
 
+/// The focus comes back to where it was when a menu or another window goes.
+bool isReturn(Qt::FocusReason reason)
+{
+    return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason;
+}
+
 bool isKeyboardReason(Qt::FocusReason reason)
 {
     return reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason
@@ -159,13 +165,13 @@ void ToolLabel::keyPressEvent(QKeyEvent* event)
 
 void ToolLabel::focusInEvent(QFocusEvent* event)
 {
-    keyboardFocus_ = isKeyboardReason(event->reason());
+    if (!isReturn(event->reason())) keyboardFocus_ = isKeyboardReason(event->reason());
     QAbstractButton::focusInEvent(event);
 }
 
 void ToolLabel::focusOutEvent(QFocusEvent* event)
 {
-    keyboardFocus_ = false;
+    if (!isReturn(event->reason())) keyboardFocus_ = false;
     QAbstractButton::focusOutEvent(event);
 }
 

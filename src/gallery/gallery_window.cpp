@@ -1,5 +1,6 @@
 #include "gallery/gallery_window.h"
 
+#include "document/platform/word_ids.h"
 #include "document/text/windows1252.h"
 #include "editor/design_surface.h"
 
@@ -11,7 +12,7 @@
 
 namespace quillmere {
 
-GalleryWindow::GalleryWindow(WorkFiles& files, QWidget* parent)
+GalleryWindow::GalleryWindow(WorkFiles& files, const Words& words, QWidget* parent)
     : QMainWindow(parent)
     , surface_(new DesignSurface(files))
     , text_(new QPlainTextEdit)
@@ -28,9 +29,11 @@ GalleryWindow::GalleryWindow(WorkFiles& files, QWidget* parent)
     connect(surface_, &QTextEdit::cursorPositionChanged, this, &GalleryWindow::showCaret);
     connect(surface_, &DesignSurface::failed, this,
         [this](const QString& description) { statusBar()->showMessage(description, 8000); });
-    connect(surface_, &DesignSurface::elementMovedIntoTable, this, [this] {
-        statusBar()->showMessage(QStringLiteral("In eine Tabelle gehört kein Element."), 8000);
-    });
+    const auto notIntoTable = toUtf8(words.GetWord(word::kNotIntoTable));
+    connect(surface_, &DesignSurface::elementMovedIntoTable, this,
+        [this, message = QString::fromStdString(notIntoTable).simplified()] {
+            statusBar()->showMessage(message, 8000);
+        });
 }
 
 void GalleryWindow::showText()

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document/platform/words.h"
 #include "document/platform/work_files.h"
 
 #include <QMainWindow>
@@ -17,7 +18,7 @@ class GalleryWindow : public QMainWindow {
     Q_OBJECT
 
 public:
-    explicit GalleryWindow(WorkFiles& files, QWidget* parent = nullptr);
+    GalleryWindow(WorkFiles& files, const Words& words, QWidget* parent = nullptr);
     [[nodiscard]] DesignSurface& surface() { return *surface_; }
 
 private:

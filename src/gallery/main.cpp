@@ -1,12 +1,16 @@
 // quillmere-gallery FILE      shows an area on the editing surface, with its text beside it
-// quillmere-gallery --shots DIR [SAMPLES]  writes pictures of sample areas into DIR and ends
+// quillmere-gallery --shots DIR [SAMPLES]  writes pictures of sample areas and of the windows into
+// DIR and ends
 
+#include "app/settings.h"
+#include "app/word_resources.h"
 #include "document/platform/disk_work_files.h"
 #include "document/text/failure.h"
 #include "document/text/windows1252.h"
 #include "editor/design_surface.h"
 #include "gallery/gallery_window.h"
 #include "gallery/shots.h"
+#include "gallery/window_shots.h"
 
 #include <QApplication>
 
@@ -18,7 +22,11 @@ namespace {
 int showArea(const QString& path)
 {
     DiskWorkFiles files;
-    GalleryWindow window(files);
+    MemorySettings settings;
+    settings.WriteSetting("Skins", QApplication::applicationDirPath().toStdString() + "/Skins/");
+    WordResources words;
+    words.LoadWordResources(settings);
+    GalleryWindow window(files, words);
     window.surface().LoadURL(path.toStdString());
     window.resize(1100, 640);
     window.show();
@@ -32,6 +40,8 @@ int run(const QStringList& arguments)
     if (shots && arguments.size() > 2) {
         const auto own = QApplication::applicationDirPath() + "/Samples";
         writeShots(arguments.value(3, own), arguments.at(2));
+        const auto shipped = QApplication::applicationDirPath();
+        writeWindowShots(shipped + "/Skins", shipped + "/Examples", arguments.at(2));
         return 0;
     }
     if (!shots && arguments.size() == 2) return showArea(arguments.at(1));

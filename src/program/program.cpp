@@ -3,14 +3,15 @@
 
 #include "program/program.h"
 
-#include "editor/window/element_forms.h"
-
+#include "app/settings.h"
 #include "document/platform/paths.h"
 #include "document/text/failure.h"
+#include "editor/window/element_forms.h"
 #include "forms/frm_about_quillmere.h"
 #include "forms/frm_assistent.h"
 #include "forms/overlay.h"
 #include "forms/text.h"
+#include "forms/theme.h"
 #include "forms/trap.h"
 #include "program/command_line_deck.h"
 #include "program/frm_start.h"
@@ -18,6 +19,8 @@
 #include "program/screenshots.h"
 #include "project/deck_dialogs.h"
 #include "project/deck_files.h"
+#include "project/frm_ask_projekt_dir.h"
+#include "project/frm_open_from_projekt_dir.h"
 
 #include <QApplication>
 #include <QScreen>
@@ -34,6 +37,10 @@ constexpr int kYieldsBehindAssistant = 4;
 constexpr int kAlternativeTextPx = 11;
 constexpr std::size_t kEditorPageItem = 5;
 constexpr std::size_t kPreviewPageItem = 4;
+
+// Templates come with a later version.
+const auto kNoTemplates = QStringLiteral("Die Vorlagen geh\u00f6ren noch nicht zu dieser Version. "
+                                         "Es wurde kein Dokument angelegt.");
 
 QFont alternativeTextFont()
 {
@@ -134,6 +141,7 @@ void Program::applySkins()
         pages_[1] = pageStyle(skins.PreviewSkins[*preview].items[kPreviewPageItem]);
         session_.document.devices[1] = &pages_[1];
     }
+    applyTheme(*qApp, activeTheme(skins));
     trapped(messages_, [this] { window_.applySkin(); });
 }
 
@@ -152,6 +160,7 @@ void Program::firstActivation()
     const double upTwips = twips * 100 / kDesignTwips - 75;
     window_.move(window_.x(), window_.y() - static_cast<int>(std::lround(upTwips / twips)));
     if (!options_.screenshots.isEmpty()) {
+        window_.offerStandardOutput = [](const QStringList&) { return false; }; // nobody answers
         openCommandLine();
         return takeScreenshots(window_, session_, options_.screenshots);
     }
@@ -174,13 +183,12 @@ void Program::showAssistant()
 {
     if (!isYes(settings_, "ShowStartDialog")) return;
     session_.gSurfaceActive = false;
-    const auto tool = [this](const char* name) {
-        return [this, name] { trapped(messages_, [&] { window_.openForm(name, {}); }); };
-    };
+    const auto trapping
+        = [this](auto routine) { return [this, routine] { trapped(messages_, routine); }; };
     frmAssistent::showAndRun(session_,
-        {tool("frmAskProjektDir"),
-            [this] { trapped(messages_, [this] { OpenDeckDialog(session_); }); },
-            tool("frmTemplateStartWml")},
+        {trapping([this] { frmAskProjektDir(session_, &window_).showModally(); }),
+            trapping([this] { OpenDeckDialog(session_); }),
+            [this] { messages_.showText(kNoTemplates, MessageIcon::None); }},
         &window_);
     for (int i = 0; i < kYieldsBehindAssistant; ++i)
         QApplication::processEvents();
@@ -189,8 +197,13 @@ void Program::showAssistant()
 void Program::registerForms()
 {
     registerElementForms(window_, session_);
-    window_.registerForm("frmAboutQuillmere",
-        [this](const FormCall&) { frmAboutQuillmere(session_, &window_).showModally(); });
+    const auto registerForm = [this]<class Form>(const char* name, std::in_place_type_t<Form>) {
+        window_.registerForm(
+            name, [this](const FormCall&) { Form(session_, &window_).showModally(); });
+    };
+    registerForm("frmAboutQuillmere", std::in_place_type<frmAboutQuillmere>);
+    registerForm("frmAskProjektDir", std::in_place_type<frmAskProjektDir>);
+    registerForm("frmOpenFromProjektDir", std::in_place_type<frmOpenFromProjektDir>);
 }
 
 // A note that cannot be written costs nothing but the recovery of what comes next; the store itself

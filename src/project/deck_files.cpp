@@ -70,6 +70,7 @@ std::string quoted(const std::string& path)
 void showDeck(Session& session, bool isChanged)
 {
     session.document.currentArea = 0;
+    session.deckFile.remember(placeOf(session).path());
     session.window->SetScriptUndoFlagsBack();
     session.window->setDocChanged(isChanged);
     session.window->RefreshSurface();
@@ -81,8 +82,8 @@ void requireOrdinaryFile(const std::string& path)
 {
     if (!fileExists(path) || regularFileExists(path)) return;
     throw FileFailure("Die Datei " + quoted(path)
-        + " kann nicht geöffnet werden: sie ist keine gewöhnliche "
-          "Datei. Es wurde nichts geändert.");
+        + " kann nicht geöffnet werden: sie ist keine gewöhnliche Datei. Es wurde nichts "
+          "geändert.");
 }
 
 // A picture or a program, or text in 16 bits a character.
@@ -99,15 +100,17 @@ void requireText(const DocumentSession& session, const std::string& path)
 /// The failure of a deck with its file's name in it.
 RuntimeFailure named(const RuntimeFailure& failure, const std::string& path)
 {
-    return RuntimeFailure("Das Dokument in der Datei " + quoted(path)
-        + " kann nicht geöffnet werden: " + failure.utf8() + ". Es wurde nichts geändert.");
+    const auto text = "Das Dokument in der Datei " + quoted(path)
+        + " kann nicht geöffnet werden: " + failure.utf8() + ". Es wurde nichts geändert.";
+    return RuntimeFailure{text};
 }
 
 RuntimeFailure tooLong(const std::string& path)
 {
-    return RuntimeFailure("Das Dokument in der Datei " + quoted(path)
+    const auto text = "Das Dokument in der Datei " + quoted(path)
         + " ist zu lang (Überlauf): ein Dokument kann höchstens 32767 Zeichen haben. Es wurde "
-          "nichts geändert.");
+          "nichts geändert.";
+    return RuntimeFailure{text};
 }
 
 void load(Session& session, const DeckPlace& place)
@@ -183,16 +186,21 @@ bool writeDeck(Session& session, const DeckPlace& old)
 /// The main window saves to where the records point. So the old file is never touched.
 bool saveAt(Session& session, const DeckPlace& place, const DeckPlace& old)
 {
-    bool isSaved = false;
-    setPlace(session.document.deck, place);
-    try {
-        isSaved = writeDeck(session, old);
-    } catch (...) {
+    const auto oldFile = session.deckFile;
+    const auto goBack = [&] {
         setPlace(session.document.deck, old);
+        session.deckFile = oldFile;
+    };
+    setPlace(session.document.deck, place);
+    session.deckFile.remember(place.path()); // what stands there may be replaced
+    try {
+        if (!writeDeck(session, old)) return goBack(), false;
+    } catch (...) {
+        goBack();
         throw;
     }
-    if (!isSaved) setPlace(session.document.deck, old);
-    return isSaved;
+    session.deckFile.remember(place.path());
+    return true;
 }
 
 bool mayReplace(Session& session, const DeckPlace& place, int word)

@@ -23,8 +23,9 @@ frmOpenFromProjektDir::frmOpenFromProjektDir(Session& session, QWidget* parent)
     fill();
     connect(lstFiles, &QListWidget::itemSelectionChanged, this,
         [this] { btnOk->setEnabled(!lstFiles->selectedItems().isEmpty()); });
-    connect(lstFiles, &QListWidget::itemDoubleClicked, this, [this] { trap([this] { open(); }); });
-    connect(btnOk, &QPushButton::clicked, this, [this] { trap([this] { open(); }); });
+    connect(lstFiles, &QListWidget::itemDoubleClicked, this,
+        [this] { trap([this] { openSelected(); }); });
+    connect(btnOk, &QPushButton::clicked, this, [this] { trap([this] { openSelected(); }); });
     connect(btnCancel, &QPushButton::clicked, this, &QDialog::reject);
     connect(btnHelp, &QPushButton::clicked, this, [this] { emit helpWanted(objectName()); });
 }
@@ -64,7 +65,7 @@ void frmOpenFromProjektDir::fill()
     }
 }
 
-void frmOpenFromProjektDir::open()
+void frmOpenFromProjektDir::openSelected()
 {
     const auto selected = lstFiles->selectedItems();
     if (selected.isEmpty()) return;

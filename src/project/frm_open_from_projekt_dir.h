@@ -19,7 +19,7 @@ public:
 private:
     void layOut();
     void fill();
-    void open();
+    void openSelected();
 
     QLabel* const lblPath = named<QLabel>("lblPath", this);
     QListWidget* const lstFiles = named<QListWidget>("lstFiles", this);

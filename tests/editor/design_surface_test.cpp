@@ -3,6 +3,7 @@
 #include "editor/surface_fixture.h"
 #include "support/area_texts.h"
 
+#include <QScrollBar>
 #include <QTextTable>
 
 #include <gtest/gtest.h>
@@ -192,6 +193,22 @@ TEST(DesignSurface, LooksAsItsStyleSays)
     EXPECT_EQ(surface.document()->defaultFont().pixelSize(), 30);
     EXPECT_EQ(surface.look().fontFamily, "Inter");
     EXPECT_EQ(surface.told(), "<p>|a <a href=\"#x\">b</a></p>");
+    surface.setFontSizePx(0);
+    EXPECT_EQ(surface.look().fontSizePx, 1);
+}
+
+TEST(DesignSurface, BeginsAtTheTopWithAnotherArea)
+{
+    ShownSurface surface;
+    std::string text = "<p>";
+    for (int line = 0; line < 200; ++line)
+        text += "Zeile<br/>";
+    surface.setDocumentHTML(text);
+    surface.press(Qt::Key_End, Qt::ControlModifier);
+    surface.type("x");
+    EXPECT_GT(surface.verticalScrollBar()->value(), 1000);
+    surface.setDocumentHTML(text);
+    EXPECT_EQ(surface.verticalScrollBar()->value(), 0);
 }
 
 } // namespace

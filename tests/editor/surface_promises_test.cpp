@@ -54,7 +54,7 @@ void markAtRandom(ShownSurface& surface, SmallRandom& random)
     const auto anchor = random.below(count);
     cursor.setPosition(static_cast<int>(anchor));
     if (random.chance(0.5)) {
-        const auto way = random.chance(0.7) ? random.below(8) : random.below(count);
+        const auto way = random.chance(0.9) ? random.below(8) : random.below(count);
         const auto end = std::min(count - 1, anchor + way);
         cursor.setPosition(static_cast<int>(end), QTextCursor::KeepAnchor);
     }
@@ -75,7 +75,7 @@ std::pair<std::size_t, std::size_t> reach(const ShownSurface& surface, const Dee
 }
 
 /// What of the text belongs to a block: its paragraph, or its cell and the tables round it where
-/// cells are marked; and all of an option list that begins or ends in it.
+/// cells are marked; and all of an option or a list that begins or ends in it.
 SourceRange pieceOf(const SurfacePage& page, std::size_t first, std::size_t last)
 {
     SourceRange piece{page.text.size(), 0};
@@ -90,10 +90,12 @@ SourceRange pieceOf(const SurfacePage& page, std::size_t first, std::size_t last
         if (block.cell != kNone && crossesCells)
             add(page.tables[page.cells[block.cell].table].source);
     }
-    for (const auto& element : page.elements)
-        if (element.kind == PageElement::Kind::Select && element.whole().begin < piece.end
-            && element.whole().end > piece.begin)
-            add(element.whole());
+    for (const auto& element : page.elements) {
+        const bool isOfList = element.kind == PageElement::Kind::Select
+            || element.kind == PageElement::Kind::Option;
+        const auto whole = element.whole();
+        if (isOfList && whole.begin < piece.end && whole.end > piece.begin) add(whole);
+    }
     return piece;
 }
 
@@ -146,7 +148,10 @@ void doAndCheck(ShownSurface& surface, const Deed& deed, bool isGoodText)
     ASSERT_EQ(surface.caretOffset(), offsetAt(surface.page(), surface.caretPlace()));
     const bool mayGoFar = !isGoodText;
     ASSERT_TRUE(mayGoFar || isSameOutside(page.text, after, pieceOf(page, first, last))) << after;
-    const bool mayTakeMarkers = !isAtCaret || radiosOf(page) != radiosOf(surface.page());
+    // an option goes with its radio button, and in loose tags with all else that it shows
+    const bool wholeElements = radiosOf(page) != radiosOf(surface.page())
+        || (!isGoodText && (deed.reachesBlockAhead || deed.reachesBlockBehind));
+    const bool mayTakeMarkers = !isAtCaret || wholeElements;
     ASSERT_TRUE(mayTakeMarkers || markersOf(page.text) == markersOf(after)) << after;
 }
 
@@ -178,7 +183,8 @@ TEST(SurfacePromises, HoldForAllKeysInAllKindsOfDocuments)
     test::forEachAreaText([&](const std::string& name, const std::string& text) {
         if (text.size() > kLongestText || testing::Test::HasFatalFailure()) return;
         SCOPED_TRACE(name + ", seed " + std::to_string(seed + 1));
-        liveWith(surface, text, ++seed, !name.starts_with("tags"));
+        const bool isGoodText = !name.starts_with("tags") && !name.starts_with("broken");
+        liveWith(surface, text, ++seed, isGoodText);
     });
     EXPECT_TRUE(surface.failures.isEmpty());
 }

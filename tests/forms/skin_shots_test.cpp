@@ -4,9 +4,15 @@
 #include "forms/skinned_window.h"
 #include "forms/theme.h"
 
-#include <QBuffer>
-#include <QDir>
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDialog>
+#include <QFormLayout>
 #include <QImage>
+#include <QLineEdit>
+#include <QMouseEvent>
+#include <QRadioButton>
 
 #include <gtest/gtest.h>
 
@@ -95,6 +101,102 @@ TEST(SkinShots, EverySkinDressesTheWholeWindow)
         EXPECT_TRUE(window.rect().contains(page));
         if (!shots.isEmpty())
             window.grab().save(shots + "/" + QString::fromStdString(name) + ".png");
+    }
+}
+
+TEST(SkinShots, EveryTelephoneLightsTheKeyThatIsHeld)
+{
+    const SkinSettings store(kSkins);
+    SkinTables tables;
+    ReadPreviewSkins(tables, store.settings, false);
+    const auto shots = qEnvironmentVariable("QUILLMERE_SHOTS");
+    for (std::size_t i = 0; i + 1 < tables.PreviewSkins.size(); ++i) {
+        for (auto& skin : tables.PreviewSkins)
+            skin.Selected
+                = &skin == &tables.PreviewSkins[i] ? SkinHead::kSelected : std::int16_t(0);
+        SkinnedPreview window;
+        ApplyPreviewSkin(window, tables, store.settings, nullptr);
+        const auto* body = window.findChild<QLabel*>("picSkin");
+        for (const auto* caption : {"lblCardCaption", "lblTaskCaption"}) {
+            auto* label = window.findChild<QLabel*>(caption);
+            label->setAutoFillBackground(true);
+            label->setAlignment(Qt::AlignCenter);
+            label->setText(caption == QLatin1String("lblCardCaption") ? "Willkommen" : "Auswahl");
+        }
+        window.resize(body->geometry().right() + 30, body->geometry().bottom() + 20);
+        window.show();
+        const auto rest = window.grab().toImage();
+        QMouseEvent press(QEvent::MouseButtonPress, QPointF(5, 5), QPointF(5, 5), Qt::LeftButton,
+            Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(window.findChild<ToolLabel*>("lblButtonCommit"), &press);
+        const auto held = window.grab();
+        EXPECT_NE(held.toImage(), rest);
+        if (!shots.isEmpty()) held.save(shots + QString("/telephone-%1.png").arg(i));
+    }
+}
+
+/// One of each control, for the pictures: at rest, chosen, disabled, deleting, accepting.
+class SampleDialog : public QDialog {
+public:
+    SampleDialog()
+    {
+        setWindowTitle("Tabelle");
+        auto* rows = new QFormLayout(this);
+        auto* field = new QLineEdit(QString::fromUtf8("Öffnungszeiten"), this);
+        rows->addRow("&Titel:", field);
+        auto* list = new QComboBox(this);
+        list->addItems({"Links", "Mittig", "Rechts"});
+        rows->addRow("&Ausrichtung:", list);
+        auto* off = new QLineEdit("45", this);
+        off->setEnabled(false);
+        rows->addRow("&Breite:", off);
+        for (const bool on : {true, false}) {
+            auto* box = new QCheckBox(QString::fromUtf8("Seitenverhältnis"), this);
+            box->setChecked(on);
+            rows->addRow(box);
+            auto* choice = new QRadioButton("Bereich dieses Dokuments", this);
+            choice->setAutoExclusive(false);
+            choice->setChecked(on);
+            rows->addRow(choice);
+        }
+        auto* text = new QPlainTextEdit(QString("Zeile\n").repeated(40), this);
+        text->setMaximumHeight(90);
+        rows->addRow(text);
+        rows->addRow(buttons());
+    }
+
+private:
+    QHBoxLayout* buttons()
+    {
+        auto* row = new QHBoxLayout;
+        auto* remove = new QPushButton(QString::fromUtf8("&Löschen"), this);
+        markAsDanger(*remove);
+        auto* cancel = new QPushButton("Abbrechen", this);
+        auto* accept = new QPushButton("OK", this);
+        accept->setDefault(true);
+        row->addWidget(remove);
+        row->addStretch();
+        row->addWidget(cancel);
+        row->addWidget(accept);
+        return row;
+    }
+};
+
+TEST(SkinShots, ADialogTakesTheColoursOfEverySkin)
+{
+    const SkinSettings store(kSkins);
+    SkinTables tables;
+    ReadEditorSkins(tables, store.settings);
+    const auto shots = qEnvironmentVariable("QUILLMERE_SHOTS");
+    for (std::size_t i = 0; i + 1 < tables.EditorSkins.size(); ++i) {
+        const auto theme = themeOf(tables.EditorSkins[i]);
+        applyTheme(*qobject_cast<QApplication*>(QApplication::instance()), theme);
+        SampleDialog dialog;
+        dialog.show();
+        QApplication::processEvents();
+        const auto picture = dialog.grab();
+        EXPECT_EQ(picture.toImage().pixelColor(3, 3), theme.shell);
+        if (!shots.isEmpty()) picture.save(shots + QString("/dialog-%1.png").arg(i));
     }
 }
 

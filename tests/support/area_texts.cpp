@@ -50,8 +50,10 @@ void forEachAreaText(const Use& use)
         [&](const std::string& name, const std::string& text) { useDeck(name, text, use); });
     for (std::uint64_t seed = 1; seed <= kDecks; ++seed) {
         bench::DeckOptions options;
-        options.brokenness = seed % 2 == 0 ? 0 : 0.3;
-        useDeck("deck " + std::to_string(seed), bench::generateDeck(seed, options), use);
+        const bool isBroken = seed % 2 != 0;
+        options.brokenness = isBroken ? 0.3 : 0;
+        useDeck((isBroken ? "broken deck " : "deck ") + std::to_string(seed),
+            bench::generateDeck(seed, options), use);
     }
     for (std::uint64_t seed = 1; seed <= kSoups; ++seed)
         use("tags " + std::to_string(seed), randomSoup(seed, kTokens, 10 + seed));

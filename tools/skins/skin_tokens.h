@@ -129,7 +129,7 @@ inline constexpr TelephoneTokens kWeitblick = {
     .litInk = 0xFFFFFF,
     .pad = 0xDAD1BF,
     .padInk = 0x3A3F43,
-    .engraving = 0x4A4F53,
+    .engraving = 0x3F4447,
 };
 inline constexpr TelephoneTokens kFalter = {
     .bodyLight = 0x8E2F3C,
@@ -140,7 +140,7 @@ inline constexpr TelephoneTokens kFalter = {
     .displayInk = 0x0C2430,
     .key = 0xF5E9E4,
     .keyInk = 0x571823,
-    .lit = 0x2C7FA6,
+    .lit = 0x27769C,
     .litInk = 0xFFFFFF,
     .pad = 0x6E222E,
     .padInk = 0xFBEDEA,

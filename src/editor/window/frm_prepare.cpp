@@ -86,6 +86,8 @@ frmPrepare::frmPrepare(Session& session, WorkFiles& files, QWidget* parent)
 frmPrepare::~frmPrepare()
 {
     if (session_.window == this) session_.window = nullptr;
+    if (session_.document.devices.front() == &pageStyle_)
+        session_.document.devices.front() = nullptr;
     if (session_.document.surface == objBrowserCard) session_.document.surface = nullptr;
 }
 
@@ -115,7 +117,7 @@ void frmPrepare::wire()
     clicked(btnAreaOne, &frmPrepare::btnAreaOne_Click);
     clicked(btnScript, &frmPrepare::btnScript_Click);
     clicked(btnShowProjekt, &frmPrepare::btnShowProjekt_Click);
-    connect(txtScript, &QPlainTextEdit::textChanged, this, [this] { mScriptChanged = true; });
+    connect(txtScript, &QPlainTextEdit::textChanged, this, &frmPrepare::txtScript_Change);
     connect(txtScript, &SourceEdit::aboutToBreak, this, &frmPrepare::txtScript_KeyPress);
     idle_.setSingleShot(true);
     idle_.setInterval(kIdleMs);
@@ -126,6 +128,7 @@ void frmPrepare::wire()
 void frmPrepare::Form_Load()
 {
     OverlayForm(*this, session_);
+    overlayMenus();
     session_.document.deck.assign(1, {});
     session_.document.currentArea = 0;
     mDocChanged = false;
@@ -139,6 +142,7 @@ void frmPrepare::Form_Load()
 
 bool frmPrepare::event(QEvent* event)
 {
+    if (dropped(*event)) return true;
     const bool handled = SkinWindow::event(event);
     if (event->type() == QEvent::WindowActivate) trap([this] { Form_Activate(); });
     return handled;

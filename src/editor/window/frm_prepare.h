@@ -104,20 +104,23 @@ private:
     void wireSurface();
     void makeTools();
     [[nodiscard]] ToolLabel* makeLabel(const char* name);
-    void placeFreely(const SkinRecord& skin);
+    void takeSkin(const SkinRecord& skin);
     void makeMenus();
+    void overlayMenus();
     void makeKeys();
     void Form_Activate();
     void Form_Unload();
     void showTitle();
     [[nodiscard]] QString word(int id) const;
-    [[nodiscard]] QString captionOf(const char* control, const char* otherwise) const;
+    /// A text that the resources have as a variant of this form.
+    [[nodiscard]] QString resourceText(std::int16_t number, const char* otherwise) const;
     void trap(const std::function<void()>& routine);
 
     // areas
     [[nodiscard]] bool deckIsOpen() const;
     [[nodiscard]] DeckRecord& shownArea();
     [[nodiscard]] std::string shownDesignPath();
+    void refresh();
     void disableNavigation();
     void showNavigation();
     void showArea();
@@ -148,6 +151,7 @@ private:
     void btnScript_Click();
     void showSource();
     void takeSource();
+    void txtScript_Change();
     void txtScript_KeyPress();
     void undoInSource();
 
@@ -159,7 +163,7 @@ private:
     void tellMissing(const QString& caption);
     void popUp(QMenu& menu, const char* tool);
     void insertElement(ElementKind kind, const char* form);
-    [[nodiscard]] bool refusesTable(const Hit& hit);
+    [[nodiscard]] bool refusesTable(const Hit& hit, ElementKind kind);
 
     void lblButtonSeiteSave();
     void lblButtonSeiteOpen();
@@ -255,8 +259,10 @@ private:
     std::optional<Element> mMarkedTable;
     int mImageIndex = 0;
 
+    bool refreshWanted_ = false;
     std::string surfaceShows_; ///< the design work file that the surface was loaded from
     std::optional<SurfaceStyle> skinLook_; ///< of the surface, by the skin
+    PageStyle pageStyle_;
     QRegion outline_;
     QTimer idle_;
     bool idleFailed_ = false; ///< and was told

@@ -18,6 +18,13 @@
 #include <utility>
 
 namespace quillmere {
+namespace {
+
+// Numbers of texts of the form's resources.
+constexpr std::int16_t kTextSource = 2;
+constexpr std::int16_t kTextOf = 4;
+
+} // namespace
 
 bool frmPrepare::deckIsOpen() const
 {
@@ -44,10 +51,22 @@ void frmPrepare::store()
     tellStored();
 }
 
+// Who wants it while it runs, such as a timer during a wait, gets it once more behind that.
 void frmPrepare::RefreshSurface()
 {
+    refreshWanted_ = true;
     if (mRefreshGuard >= 1) return;
-    const QScopedValueRollback guard(mRefreshGuard, mRefreshGuard + 1);
+    while (std::exchange(refreshWanted_, false)) {
+        const QScopedValueRollback guard(mRefreshGuard, mRefreshGuard + 1);
+        refresh();
+    }
+    if (!deckIsNew_ || !deckIsOpen()) return;
+    rememberFile();
+    QTimer::singleShot(0, this, [this] { trap([this] { warnOfCosts(); }); });
+}
+
+void frmPrepare::refresh()
+{
     mScriptView = false;
     btnAreaOne->setText({});
     disableNavigation();
@@ -82,28 +101,24 @@ void frmPrepare::showNavigation()
     if (!isOpen) return;
     btnShowProjekt->setEnabled(true);
     btnAreaOne->setEnabled(true);
-    btnAreaOne->setText(QStringLiteral("%1 %2 %3")
-                            .arg(CurArea() + 1)
-                            .arg(captionOf("btnAreaOne", "von"))
-                            .arg(areas));
+    btnAreaOne->setText(
+        QStringLiteral("%1 %2 %3").arg(CurArea() + 1).arg(resourceText(kTextOf, "von")).arg(areas));
 }
 
 void frmPrepare::showArea()
 {
     btnScript->setEnabled(true);
-    btnScript->setText(captionOf("btnScript", "Quelltext"));
-    objBrowserCard->show();
+    btnScript->setText(resourceText(kTextSource, "Quelltext"));
     showCaptions();
     const auto path = shownDesignPath();
+    if (surfaceShows_.empty()) objBrowserCard->hide(); // until it shows something of this deck
     objBrowserCard->LoadURL(path);
     surfaceShows_ = path;
+    objBrowserCard->show();
     waitForSurface(session_.document);
     if (shownArea().history.size() < 2)
         PushUndo(session_.document, -1, objBrowserCard->DocumentHTML());
     surfaceChanged();
-    if (!deckIsNew_) return;
-    rememberFile();
-    QTimer::singleShot(0, this, [this] { trap([this] { warnOfCosts(); }); });
 }
 
 void frmPrepare::showNoArea()

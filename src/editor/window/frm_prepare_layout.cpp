@@ -7,9 +7,10 @@
 #include "forms/overlay.h"
 #include "forms/skin_application.h"
 #include "forms/text.h"
+#include "forms/theme.h"
 #include "skins/skin_controls.h"
 
-#include <QFontDatabase>
+#include <QApplication>
 
 namespace quillmere {
 namespace {
@@ -62,41 +63,15 @@ constexpr DesignText kDesignTexts[] = {
     {"lblCharCount", "", "Zeichen des gezeigten Bereichs"},
 };
 
-QString rgb(const QColor& colour)
-{
-    return colour.name(QColor::HexRgb);
-}
-
-/// How the buttons of the window look; a step lighter under the pointer, a ring at the focus.
-QString buttonStyle(const QPalette& palette)
-{
-    return QStringLiteral("QPushButton { background: %1; color: %2; border: 1px solid %3;"
-                          " border-radius: 9px; padding: 0 8px; }"
-                          "QPushButton:hover { background: %4; }"
-                          "QPushButton:pressed { background: %5; color: %6; }"
-                          "QPushButton:focus { border: 2px solid %5; }"
-                          "QPushButton:disabled { color: %7; }")
-        .arg(rgb(palette.color(QPalette::Button)), rgb(palette.color(QPalette::ButtonText)),
-            rgb(palette.color(QPalette::Mid)), rgb(palette.color(QPalette::Button).lighter(108)),
-            rgb(palette.color(QPalette::Highlight)), rgb(palette.color(QPalette::HighlightedText)),
-            rgb(palette.color(QPalette::Mid)));
-}
-
 const SkinItem& itemOf(const SkinRecord& skin, SkinPart part)
 {
     return skin.items.at(static_cast<std::size_t>(part));
 }
 
-/// The colours that all controls of the window share, out of the skin's own values.
-QPalette windowPalette(QPalette palette, const SkinRecord& skin)
+/// How the pages of new areas look: like the surface.
+PageStyle pageStyleOf(const SkinItem& item)
 {
-    const auto& accent = itemOf(skin, SkinPart::Accent);
-    palette.setColor(QPalette::Highlight, skinColour(accent.BackColor));
-    palette.setColor(QPalette::HighlightedText, skinColour(accent.ForeColor));
-    palette.setColor(QPalette::Mid, skinColour(itemOf(skin, SkinPart::Well).ForeColor));
-    palette.setColor(
-        QPalette::PlaceholderText, skinColour(itemOf(skin, SkinPart::Hairline).ForeColor));
-    return palette;
+    return {item.BackColor, item.FontSize, std::string(item.FontName.text())};
 }
 
 } // namespace
@@ -129,17 +104,16 @@ void frmPrepare::layOut()
     lblDeckName->raise();
 }
 
-QString frmPrepare::captionOf(const char* control, const char* otherwise) const
+QString frmPrepare::resourceText(std::int16_t number, const char* otherwise) const
 {
-    const auto& table = session_.forms.table();
-    const auto* form = findForm(table, "frmPrepare");
-    const auto* entry = form == nullptr ? nullptr : findControl(table, *form, control);
-    const bool isThere = entry != nullptr && !entry->Text.empty();
-    return isThere ? shownText(entry->Text) : QString::fromUtf8(otherwise);
+    const auto* entry = findForm(session_.forms.table(), "frmPrepare", number);
+    const bool isThere = entry != nullptr && !entry->Caption.empty();
+    return isThere ? shownText(entry->Caption) : QString::fromUtf8(otherwise);
 }
 
 void frmPrepare::applySkin()
 {
+    applyTheme(*qobject_cast<QApplication*>(QApplication::instance()), activeTheme(session_.skins));
     ApplyEditorSkin(*this, session_.skins, session_.settings, [this](const PageLook& look) {
         objBrowserCard->setGeometry(look.place);
         skinLook_ = objBrowserCard->look();
@@ -150,35 +124,29 @@ void frmPrepare::applySkin()
     });
     const auto index = FindSelectedSkin(session_.skins, true);
     if (skinLook_ && index && *index < session_.skins.EditorSkins.size())
-        placeFreely(session_.skins.EditorSkins[*index]);
+        takeSkin(session_.skins.EditorSkins[*index]);
     SetWindowOutline(*this, session_.settings, outline_);
     applySurfaceLook();
 }
 
 /// What no item of the skin is for.
-void frmPrepare::placeFreely(const SkinRecord& skin)
+void frmPrepare::takeSkin(const SkinRecord& skin)
 {
     const auto places = freePlaces(skin);
     lblDeckName->setGeometry(places.fileName);
     lblCharCount->setGeometry(places.characters);
     lblToolTipForbtnAreaPrev->setGeometry(places.firstNote);
     lblToolTipAreaNext->setGeometry(places.lastNote);
-    setPalette(windowPalette(palette(), skin));
-    auto muted = lblCurAreaCaption->palette();
-    muted.setColor(QPalette::WindowText, palette().color(QPalette::PlaceholderText));
+    auto muted = palette();
+    muted.setColor(QPalette::WindowText, themeOf(skin).muted);
     for (auto* label : {lblDeckName, lblCharCount, lblToolTipForbtnAreaPrev, lblToolTipAreaNext}) {
         auto font = lblCurAreaCaption->font();
         font.setPixelSize(kNoteFontPx);
-        font.setWeight(QFont::Normal);
         label->setFont(font);
         label->setPalette(muted);
     }
-    for (auto* button : {btnShowProjekt, btnScript, btnAreaPrev, btnAreaOne, btnAreaNext}) {
-        button->setPalette(windowPalette(button->palette(), skin));
-        button->setStyleSheet(buttonStyle(button->palette()));
-    }
-    for (auto* label : findChildren<ToolLabel*>())
-        label->setPalette(windowPalette(label->palette(), skin));
+    pageStyle_ = pageStyleOf(itemOf(skin, SkinPart::Surface));
+    session_.document.devices.front() = &pageStyle_;
 }
 
 void frmPrepare::applySurfaceLook()

@@ -105,7 +105,6 @@ void frmPrepare::showSource()
     const auto& first = session_.document.deck.front();
     const auto file = session_.document.workFiles.read(first.wmlDir + first.wmlFile);
     objBrowserCard->hide();
-    lblCharCount->setText(QStringLiteral("%1 Zeichen").arg(file.size()));
     mScriptChangedBefore = mScriptChanged;
     txtScript->setWml(withCrLf(file));
     const auto text = txtScript->toPlainText();
@@ -126,6 +125,13 @@ void frmPrepare::SetScriptUndoFlagsBack()
         area.imageCursor = -1;
     surfaceShows_.clear();
     deckIsNew_ = true;
+}
+
+void frmPrepare::txtScript_Change()
+{
+    const int shown = txtScript->document()->characterCount() - 1; // not its last line end
+    lblCharCount->setText(QStringLiteral("%1 Zeichen").arg(shown));
+    if (!std::exchange(mScriptChanged, true)) showTitle();
 }
 
 /// Ahead of what a blank or Return changes: a step is a word or a line.

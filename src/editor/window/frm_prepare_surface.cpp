@@ -25,12 +25,13 @@ namespace {
 struct ElementForm {
     ElementKind kind;
     const char* form;
+    const char* caption;
 };
 constexpr ElementForm kElementForms[] = {
-    {ElementKind::Option, "frmOption"},
-    {ElementKind::Link, "frmLinks"},
-    {ElementKind::Table, "frmTable"},
-    {ElementKind::Image, "frmImage"},
+    {ElementKind::Option, "frmOption", "Optionsfeld"},
+    {ElementKind::Link, "frmLinks", "Link"},
+    {ElementKind::Table, "frmTable", "Tabelle"},
+    {ElementKind::Image, "frmImage", "Bild"},
 };
 
 /// The deck among the files that are dropped; "" where there is none.
@@ -82,6 +83,7 @@ void frmPrepare::wireSurface()
         [this](const QString& text) { session_.messages.ShowCriticalError(text); });
     objBrowserCard->installEventFilter(this);
     objBrowserCard->viewport()->installEventFilter(this);
+    txtScript->viewport()->installEventFilter(this);
     setAcceptDrops(true);
 }
 
@@ -146,6 +148,7 @@ void frmPrepare::ondblclick()
     const auto marked = markedElement();
     if (!marked) return;
     const auto* row = std::ranges::find(kElementForms, marked->kind, &ElementForm::kind);
+    if (!hasForm(row->form)) return tellMissing(QString::fromUtf8(row->caption));
     openForm(row->form, {false, marked->hit});
 }
 
@@ -252,11 +255,10 @@ bool frmPrepare::eventFilter(QObject* watched, QEvent* event)
 {
     if (watched == objBrowserCard && event->type() == QEvent::KeyPress)
         return surfaceKey(static_cast<QKeyEvent&>(*event));
-    if (watched == objBrowserCard->viewport()) {
-        if (event->type() == QEvent::Leave) session_.gSurfaceActive = false;
-        return dropped(*event);
-    }
-    return false;
+    if (watched == objBrowserCard->viewport() && event->type() == QEvent::Leave)
+        session_.gSurfaceActive = false;
+    const bool isView = watched == objBrowserCard->viewport() || watched == txtScript->viewport();
+    return isView && dropped(*event);
 }
 
 /// A deck that is dropped is opened, wherever it is dropped.

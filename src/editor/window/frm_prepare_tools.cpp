@@ -135,10 +135,14 @@ Hit frmPrepare::hitTest(std::string_view startTag, std::string_view endTag, bool
     return hits_.HitTest(startTag, endTag, text, objBrowserCard->selection(), refresh);
 }
 
-bool frmPrepare::refusesTable(const Hit& hit)
+/// Nothing goes into a table. A hit test for tables tells the table's begin, which does not lie in
+/// it, and so the caret in a cell counts as well.
+bool frmPrepare::refusesTable(const Hit& hit, ElementKind kind)
 {
     const auto text = ReadDesignText(session_.document, static_cast<std::size_t>(CurArea()));
-    if (!IsInsideTable(text, hit.position)) return false;
+    const bool isInCell = kind == ElementKind::Table && hit.Inside
+        && objBrowserCard->selection().type != SurfaceSelection::Type::Control;
+    if (!isInCell && !IsInsideTable(text, hit.position)) return false;
     ShowMsg(4);
     return true;
 }
@@ -149,7 +153,7 @@ void frmPrepare::insertElement(ElementKind kind, const char* form)
     const auto& tags = tagsOf(kind);
     store();
     const auto hit = hitTest(tags.start, tags.end, true);
-    if (refusesTable(hit)) return;
+    if (refusesTable(hit, kind)) return;
     const bool isNoted
         = kind == ElementKind::Option && isYes(session_.settings, "ShowOptionMessage");
     if (isNoted) (void)session_.messages.showNote(Note::Option);

@@ -1,5 +1,5 @@
 // Each hue is moved towards black or white until it can be read on all grounds. Held by
-// source_view_test.cpp.
+// source_edit_test.cpp.
 
 #include "editor/window/source_colours.h"
 

@@ -1,4 +1,4 @@
-// What belongs to the search is in source_edit_search.cpp. Held by source_view_test.cpp.
+// What belongs to the search is in source_edit_search.cpp. Held by source_edit_test.cpp.
 
 #include "editor/window/source_edit.h"
 
@@ -11,6 +11,7 @@
 #include <QFontDatabase>
 #include <QKeyEvent>
 #include <QPainter>
+#include <QShortcut>
 #include <QTextBlock>
 
 #include <algorithm>
@@ -53,11 +54,22 @@ void SourceEdit::wire()
     connect(document(), &QTextDocument::contentsChange, this, [this] { hits_.clear(); });
     connect(this, &QPlainTextEdit::textChanged, this, &SourceEdit::search);
     connect(this, &QPlainTextEdit::updateRequest, numbers_, [this] { numbers_->update(); });
+    addKey(QStringLiteral("Ctrl+F"), [this] { openSearch(false); });
+    addKey(QStringLiteral("Ctrl+H"), [this] { openSearch(true); });
+    addKey(QStringLiteral("F3"), [this] { findNext(true); });
+    addKey(QStringLiteral("Shift+F3"), [this] { findNext(false); });
     connect(bar_, &SourceSearchBar::queryChanged, this, &SourceEdit::search);
     connect(bar_, &SourceSearchBar::wanted, this, &SourceEdit::findNext);
     connect(bar_, &SourceSearchBar::replaceWanted, this, &SourceEdit::replaceHit);
     connect(bar_, &SourceSearchBar::replaceAllWanted, this, &SourceEdit::replaceAll);
     connect(bar_, &SourceSearchBar::closed, this, &SourceEdit::closeSearch);
+}
+
+/// The key works wherever the focus of the window is, as long as the source is shown.
+template <class Action> void SourceEdit::addKey(const QString& keys, const Action& action)
+{
+    auto* shortcut = new QShortcut(QKeySequence(keys), this);
+    connect(shortcut, &QShortcut::activated, this, action);
 }
 
 void SourceEdit::setWml(std::string_view text)
@@ -67,12 +79,12 @@ void SourceEdit::setWml(std::string_view text)
 
 std::string SourceEdit::wml() const
 {
-    auto text = plainText();
+    auto text = source();
     return coreText(text.replace(u'\n', QStringLiteral("\r\n")));
 }
 
 // toPlainText() would make blanks of hard blanks.
-QString SourceEdit::plainText() const
+QString SourceEdit::source() const
 {
     auto text = document()->toRawText();
     text.replace(QChar::ParagraphSeparator, u'\n');
@@ -109,7 +121,7 @@ void SourceEdit::layOut()
     const int barHeight = bar_->isHidden() ? 0 : bar_->sizeHint().height();
     setViewportMargins(numberWidth(), barHeight, 0, 0);
     const auto inner = contentsRect();
-    bar_->setGeometry(inner.left(), inner.top(), inner.width(), barHeight);
+    bar_->setGeometry(inner.left(), inner.top(), numberWidth() + viewport()->width(), barHeight);
     numbers_->setGeometry(
         inner.left(), inner.top() + barHeight, numberWidth(), inner.height() - barHeight);
 }
@@ -138,26 +150,9 @@ void SourceEdit::paintNumbers(QPaintEvent* event)
     }
 }
 
-bool SourceEdit::handleKey(const QKeyEvent& event)
-{
-    const bool isControl = event.modifiers() == Qt::ControlModifier;
-    if (isControl && event.key() == Qt::Key_F) {
-        openSearch(false);
-    } else if (isControl && event.key() == Qt::Key_H) {
-        openSearch(true);
-    } else if (event.key() == Qt::Key_F3) {
-        findNext(!(event.modifiers() & Qt::ShiftModifier));
-    } else if (event.key() == Qt::Key_Escape && isSearching()) {
-        closeSearch();
-    } else {
-        return false;
-    }
-    return true;
-}
-
 void SourceEdit::keyPressEvent(QKeyEvent* event)
 {
-    if (handleKey(*event)) return event->accept();
+    if (event->key() == Qt::Key_Escape && isSearching()) return closeSearch();
     if (isReadOnly()) return QPlainTextEdit::keyPressEvent(event);
     const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (isReturn || event->text() == QStringLiteral(" ")) emit aboutToBreak();
@@ -208,7 +203,7 @@ void SourceEdit::markRange(QList<QTextEdit::ExtraSelection>& marks, int begin, i
 void SourceEdit::markPair(QList<QTextEdit::ExtraSelection>& marks) const
 {
     if (document()->characterCount() > kMaxPairText || textCursor().hasSelection()) return;
-    const auto pair = tagPairAt(plainText(), textCursor().position());
+    const auto pair = tagPairAt(source(), textCursor().position());
     if (!pair) return;
     markRange(marks, pair->start.begin, pair->start.end);
     markRange(marks, pair->end.begin, pair->end.end);

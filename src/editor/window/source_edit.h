@@ -28,6 +28,8 @@ public:
     /// The text for the core, its lines ended by CR LF, but for the last. What Windows-1252 has not
     /// becomes character references; a hard blank stays one.
     [[nodiscard]] std::string wml() const;
+    /// The text as it stands, hard blanks included, its lines ended by LF.
+    [[nodiscard]] QString source() const;
 
     [[nodiscard]] const SourceColours& colours() const { return colours_; }
     [[nodiscard]] int numberWidth() const;
@@ -56,8 +58,7 @@ private:
     void wire();
     void takeColours();
     void layOut(); ///< numbers and bar round the text
-    bool handleKey(const QKeyEvent& event);
-    [[nodiscard]] QString plainText() const;
+    template <class Action> void addKey(const QString& keys, const Action& action);
 
     void search(); ///< finds the hits anew
     void showHits();

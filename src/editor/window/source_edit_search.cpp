@@ -36,7 +36,7 @@ void SourceEdit::closeSearch()
 void SourceEdit::search()
 {
     hits_.clear();
-    if (isSearching()) hits_ = findAll(plainText(), bar_->query());
+    if (isSearching()) hits_ = findAll(source(), bar_->query());
     hitLength_ = static_cast<int>(bar_->query().text.size());
     showHits();
     mark();
@@ -90,7 +90,7 @@ void SourceEdit::replaceAll()
     if (isReadOnly() || hits_.empty()) return;
     emit aboutToBreak();
     const auto count = hits_.size();
-    replaceWhole(replaceHits(plainText(), hits_, hitLength_, bar_->replacement()));
+    replaceWhole(replaceHits(source(), hits_, hitLength_, bar_->replacement()));
     bar_->showReplaced(count);
 }
 

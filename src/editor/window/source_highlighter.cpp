@@ -1,4 +1,4 @@
-// Held by source_view_test.cpp.
+// Held by source_edit_test.cpp.
 
 #include "editor/window/source_highlighter.h"
 

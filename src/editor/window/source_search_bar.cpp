@@ -92,8 +92,8 @@ void SourceSearchBar::wire()
 void SourceSearchBar::takeLook(const SourceColours& colours)
 {
     auto look = palette();
-    look.setColor(QPalette::Window, colours.numberGround);
-    look.setColor(QPalette::Button, colours.numberGround);
+    look.setColor(QPalette::Window, colours.lineGround);
+    look.setColor(QPalette::Button, colours.lineGround);
     look.setColor(QPalette::Base, colours.ground);
     for (const auto role : {QPalette::WindowText, QPalette::ButtonText, QPalette::Text})
         look.setColor(QPalette::Active, role, colours.ink);
@@ -147,7 +147,6 @@ void SourceSearchBar::showReplaced(std::size_t count)
 void SourceSearchBar::keyPressEvent(QKeyEvent* event)
 {
     if (event->key() == Qt::Key_Escape) emit closed();
-    if (event->key() == Qt::Key_F3) emit wanted(!(event->modifiers() & Qt::ShiftModifier));
     event->accept(); // what the fields have no use for is not typed into the source
 }
 

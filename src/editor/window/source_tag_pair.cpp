@@ -1,5 +1,5 @@
 // All tags up to the partner are walked from the front with a stack of open elements. Held by
-// source_view_test.cpp.
+// source_edit_test.cpp.
 
 #include "editor/window/source_tag_pair.h"
 

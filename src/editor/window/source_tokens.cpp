@@ -1,5 +1,5 @@
 // One pass over the line; each state has its own step, which takes as much as it can. Held by
-// source_view_test.cpp.
+// source_edit_test.cpp.
 
 #include "editor/window/source_tokens.h"
 

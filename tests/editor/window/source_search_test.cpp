@@ -97,6 +97,10 @@ TEST(SourceSearchBar, GoesFromHitToHitWithTheKeyboard)
     EXPECT_EQ(desk.edit.wml(), "eins zwei eins\r\nEins"); // no key got into the source
     desk.key(Qt::Key_F3);
     EXPECT_TRUE(desk.edit.isSearching()); // without a bar there is nothing to go on with
+    desk.edit.closeSearch();
+    desk.edit.setEnabled(false);
+    desk.key(Qt::Key_F, Qt::ControlModifier);
+    EXPECT_FALSE(desk.edit.isSearching());
 }
 
 TEST(SourceSearchBar, ReplacesOneAfterTheOtherAndAllInOneStep)
@@ -136,6 +140,22 @@ TEST(SourceSearchBar, TakesWhatIsMarkedAndMakesRoomForItself)
     EXPECT_GT(desk.edit.viewport()->geometry().top(), top + 20);
     desk.click("btnCloseSearch");
     EXPECT_EQ(desk.edit.viewport()->geometry().top(), top);
+}
+
+TEST(SourceSearchBar, ComesByItsKeyFromAnywhereInTheWindowWhileTheSourceIsShown)
+{
+    QWidget window;
+    SourceEdit edit(&window);
+    QPushButton button(&window);
+    edit.hide();
+    window.show();
+    QApplication::setActiveWindow(&window);
+    button.setFocus();
+    for (const bool isShown : {false, true}) {
+        edit.setVisible(isShown);
+        QTest::keyClick(&button, Qt::Key_F, Qt::ControlModifier);
+        EXPECT_EQ(edit.isSearching(), isShown);
+    }
 }
 
 } // namespace

@@ -8,10 +8,9 @@
 
 #include <QAction>
 #include <QApplication>
-#include <QKeyEvent>
 #include <QMenu>
-#include <QMouseEvent>
 #include <QPushButton>
+#include <QTest>
 
 #include <string>
 #include <vector>
@@ -39,7 +38,8 @@ struct WindowDesk : WindowSession {
     std::vector<QStringList> costs; ///< that were offered
     bool wantsStandard = false;
 
-    WindowDesk()
+    explicit WindowDesk(const std::string& skins = "Skins")
+        : WindowSession(skins)
     {
         ReadEditorSkins(session.skins, settings);
         window.offerStandardOutput = [this](const QStringList& told) {
@@ -89,10 +89,7 @@ struct WindowDesk : WindowSession {
     {
         auto* focus = QApplication::focusWidget();
         QWidget* target = focus != nullptr && window.isAncestorOf(focus) ? focus : &window;
-        QKeyEvent down(QEvent::KeyPress, key, held, text);
-        QApplication::sendEvent(target, &down);
-        QKeyEvent up(QEvent::KeyRelease, key, held, text);
-        QApplication::sendEvent(target, &up);
+        QTest::sendKeyEvent(QTest::Click, target, static_cast<Qt::Key>(key), text, held);
     }
     /// Types into what has the focus.
     void type(const QString& text)

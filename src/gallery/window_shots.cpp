@@ -1,0 +1,212 @@
+// A shot is a row: a name, what is done ahead of it, and the form that is pictured.
+
+#include "gallery/window_shots.h"
+
+#include "app/settings.h"
+#include "document/platform/disk_work_files.h"
+#include "document/platform/mount_table.h"
+#include "document/text/failure.h"
+#include "editor/dialogs/frm_image.h"
+#include "editor/dialogs/frm_justify.h"
+#include "editor/window/deck_costs.h"
+#include "editor/window/deck_costs_form.h"
+#include "editor/window/element_forms.h"
+#include "editor/window/frm_prepare.h"
+#include "forms/system_file_dialogs.h"
+#include "forms/text.h"
+#include "forms/window_messages.h"
+#include "imageconv/alternative_text_painter_qt.h"
+#include "imageconv/wbmp_display_copies.h"
+#include "project/deck_files.h"
+
+#include <QAction>
+#include <QApplication>
+#include <QDir>
+#include <QTimer>
+
+#include <algorithm>
+
+namespace quillmere {
+namespace {
+
+constexpr int kScreens[] = {96, 192}; // dpi
+constexpr int kAltTextPx = 11;
+constexpr int kModalMs = 300; // until a dialog stands
+
+QFont altTextFont()
+{
+    auto font = QApplication::font();
+    font.setPixelSize(kAltTextPx);
+    return font;
+}
+
+/// All that the windows stand on, with settings that are kept nowhere.
+struct GallerySession {
+    MemorySettings settings;
+    WordResources words;
+    FormResources forms;
+    WindowMessages messages{words};
+    SystemFileDialogs dialogs;
+    DiskFileSystem files;
+    MountTable drives;
+    DiskWorkFiles workFiles;
+    QtAlternativeTextPainter painter{altTextFont()};
+    WbmpDisplayCopies copies{OutputRules(), painter};
+    Session session{settings, messages, dialogs, files, drives, words, forms,
+        DocumentSession{workFiles, copies, messages, settings, words, OutputRules()}};
+
+    explicit GallerySession(const QString& skins)
+    {
+        settings.WriteSetting("Skins", corePath(skins + '/'));
+        words.LoadWordResources(settings);
+        forms.LoadFormResources(settings);
+        ReadEditorSkins(session.skins, settings);
+        messages.useSession(session);
+    }
+    /// Makes the skin `index` the active one and returns its name.
+    QString chooseSkin(std::size_t index)
+    {
+        for (auto& skin : session.skins.EditorSkins)
+            skin.Selected = 0;
+        auto& chosen = session.skins.EditorSkins.at(index);
+        chosen.Selected = SkinHead::kSelected;
+        return shownText(chosen.Model.text()).toLower();
+    }
+};
+
+void photograph(QWidget& window, const QString& path)
+{
+    QApplication::processEvents();
+    for (const int dpi : kScreens) {
+        const double scale = dpi / 96.0;
+        QImage picture((QSizeF(window.size()) * scale).toSize(), QImage::Format_ARGB32);
+        picture.setDevicePixelRatio(scale);
+        picture.fill(Qt::transparent);
+        window.render(&picture, {}, {}, QWidget::DrawWindowBackground | QWidget::DrawChildren);
+        const auto file = QStringLiteral("%1-%2.png").arg(path).arg(dpi);
+        if (!picture.save(file))
+            throw FileFailure("Das Bild " + file.toStdString() + " kann nicht geschrieben werden.");
+    }
+}
+
+/// The main window with a deck of the examples, and what is clicked in it.
+struct WindowShot {
+    const char* name;
+    const char* deck; ///< "": none is open
+    std::vector<const char*> clicks;
+};
+
+const WindowShot kWindowShots[] = {
+    {"leer", "", {}},
+    {"erster", "hofladen", {}},
+    {"tabelle", "hofladen", {"btnAreaNext"}},
+    {"auswahl", "hofladen", {"btnAreaNext", "btnAreaNext"}},
+    {"quelltext", "kino", {"btnScript"}},
+};
+
+void photographWindow(
+    GallerySession& gallery, const WindowShot& shot, const QString& examples, const QString& path)
+{
+    frmPrepare window(gallery.session, gallery.workFiles);
+    window.offerStandardOutput = [](const QStringList&) { return false; };
+    window.Form_Load();
+    window.applySkin();
+    window.show();
+    window.activateWindow();
+    QApplication::processEvents();
+    if (*shot.deck != '\0')
+        OpenDocument(gallery.session, "index.wml", corePath(examples + '/' + shot.deck + '/'));
+    for (const auto* button : shot.clicks)
+        window.findChild<QAbstractButton*>(QLatin1String(button))->click();
+    photograph(window, path);
+}
+
+void photographCosts(GallerySession& gallery, const QString& path)
+{
+    const std::string deck = "<wml><card id=\"a\" title=\"Gem\xFCse\"><p>M\xF6hren im Caf\xE9, "
+                             "<fieldset title=\"x\">2,40 \x80</fieldset></p></card></wml>";
+    DeckCostsForm form(
+        gallery.session, costsOfSaving(gallery.session.document, deck, "/"), nullptr);
+    form.show();
+    photograph(form, path);
+}
+
+/// A dialog over the deck of an example: what the caret stands behind, or what is marked.
+struct FormShot {
+    const char* name;
+    const char* area; ///< the number of clicks on the next area, as digits
+    const char* text;
+    bool isMarked;
+    const char* entry; ///< of the window's menus
+};
+
+constexpr FormShot kFormShots[] = {
+    {"frmArea-neu", "", "", false, "mnuContext1AreaInsert"},
+    {"frmArea", "", "", false, "mnuContext1AreaParameters"},
+    {"frmTable-neu", "", "", false, "mnuContext1InsertTable"},
+    {"frmTable", "1", "Kilo", false, "mnuContext2PrepareElement"},
+    {"frmOption", "", "", false, "mnuContext1InsertOption"},
+    {"frmLinks", "", "", false, "mnuContext1InsertHyperlink"},
+    {"frmTextFormat", "", "Hofladen", true, "mnuContext1FormatText"},
+};
+
+void photographModal(const QString& path)
+{
+    QTimer::singleShot(kModalMs, qApp, [path] {
+        auto* form = QApplication::activeModalWidget();
+        if (form == nullptr) return;
+        photograph(*form, path);
+        form->close();
+    });
+}
+
+void photographForms(GallerySession& gallery, const QString& examples, const QString& path)
+{
+    frmPrepare window(gallery.session, gallery.workFiles);
+    window.offerStandardOutput = [](const QStringList&) { return false; };
+    registerElementForms(window, gallery.session);
+    window.Form_Load();
+    window.show();
+    QApplication::processEvents();
+    OpenDocument(gallery.session, "index.wml", corePath(examples + "/hofladen/"));
+    for (const auto& shot : kFormShots) {
+        for (const char* digit = shot.area; *digit != '\0'; ++digit)
+            window.findChild<QAbstractButton*>("btnAreaNext")->click();
+        auto& surface = window.surface();
+        surface.moveCursor(QTextCursor::Start);
+        if (*shot.text != '\0') surface.find(QString::fromUtf8(shot.text));
+        if (!shot.isMarked) surface.setCaretOffset(surface.caretOffset());
+        photographModal(path + shot.name);
+        window.findChild<QAction*>(QLatin1String(shot.entry))->trigger();
+        for (const char* digit = shot.area; *digit != '\0'; ++digit)
+            window.findChild<QAbstractButton*>("btnAreaPrev")->click();
+    }
+    frmJustify justify(gallery.session, window.surface(), &window);
+    justify.SetInitializations();
+    justify.show();
+    photograph(justify, path + "frmJustify");
+    frmImage image(gallery.session, window.surface(), &window);
+    image.SetInitializations(true, {});
+    image.show();
+    photograph(image, path + "frmImage");
+    window.hide();
+}
+
+} // namespace
+
+void writeWindowShots(const QString& skins, const QString& examples, const QString& directory)
+{
+    QApplication::setCursorFlashTime(0); // the caret does not blink
+    QDir().mkpath(directory);
+    GallerySession gallery(skins);
+    const auto count = gallery.session.skins.EditorSkins.size() - 1; // the last one is a spare
+    for (std::size_t skin = 0; skin < count; ++skin) {
+        const auto path = directory + "/fenster-" + gallery.chooseSkin(skin) + '-';
+        for (const auto& shot : kWindowShots)
+            photographWindow(gallery, shot, examples, path + shot.name);
+        photographCosts(gallery, path + "verluste");
+    }
+    photographForms(gallery, examples, directory + "/form-");
+}
+
+} // namespace quillmere

@@ -1,0 +1,103 @@
+#include "editor/window/window_desk.h"
+
+#include "project/recent_decks.h"
+
+#include <gtest/gtest.h>
+
+namespace quillmere::test {
+namespace {
+
+constexpr auto kControl = Qt::ControlModifier;
+
+TEST(Keys, DoWhatPeopleExpect)
+{
+    WindowDesk desk;
+    desk.openCards({"eins", "zwei"});
+    desk.press(Qt::Key_PageDown, kControl);
+    EXPECT_EQ(desk.window.CurArea(), 1);
+    desk.press(Qt::Key_PageDown, kControl); // there is no further area
+    EXPECT_EQ(desk.window.CurArea(), 1);
+    desk.press(Qt::Key_PageUp, kControl);
+    EXPECT_EQ(desk.window.CurArea(), 0);
+
+    desk.caretBehind("eins");
+    desk.type("!");
+    desk.press(Qt::Key_S, kControl);
+    EXPECT_EQ(desk.saved(), deckOf({"eins!", "zwei"}));
+
+    const auto other = QString::fromStdString(desk.folder.put("other.wml", deckOf({"anders"})));
+    desk.dialogs.paths = {other};
+    desk.press(Qt::Key_O, kControl);
+    EXPECT_NE(desk.surface().DocumentHTML().find("anders"), std::string::npos);
+    desk.dialogs.paths = {QString::fromStdString(desk.folder.path() + "kopie.wml")};
+    desk.press(Qt::Key_S, kControl | Qt::ShiftModifier);
+    EXPECT_EQ(desk.folder.get("kopie.wml"), deckOf({"anders"}));
+    EXPECT_EQ(desk.window.windowTitle(), "kopie.wml - MORVANE Quillmere");
+
+    std::vector<std::string> opened;
+    desk.window.registerForm(
+        "frmAskProjektDir", [&](const FormCall&) { opened.emplace_back("new"); });
+    desk.window.registerForm("Help", [&](const FormCall&) { opened.emplace_back("help"); });
+    desk.press(Qt::Key_N, kControl);
+    desk.press(Qt::Key_F1);
+    EXPECT_EQ(opened, (std::vector<std::string>{"new", "help"}));
+}
+
+TEST(Keys, OfTheSurfaceReachTheFile)
+{
+    WindowDesk desk;
+    desk.openCards({"abc", "zwei"});
+    desk.caretBehind(">abc");
+    desk.press(Qt::Key_A, kControl);
+    desk.press(Qt::Key_X, kControl);
+    desk.type("neu ");
+    desk.press(Qt::Key_V, kControl);
+    desk.press(Qt::Key_V, kControl);
+    desk.press(Qt::Key_Z, kControl);
+    desk.press(Qt::Key_S, kControl);
+    EXPECT_EQ(desk.saved(), deckOf({"neu abc", "zwei"}));
+}
+
+TEST(Menus, TakeTheirTextsFromTheResources)
+{
+    const struct {
+        const char* skins;
+        const char* save;
+        const char* of;
+    } rows[] = {{"Skins", "Speichern", "1 von 2"}, {"Skins.en", "Save", "1 of 2"}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.skins);
+        WindowDesk desk(row.skins);
+        desk.openCards({"eins", "zwei"});
+        EXPECT_EQ(desk.control<QAction>("mnuSave").text(), row.save);
+        EXPECT_EQ(desk.control<QPushButton>("btnAreaOne").text(), row.of);
+    }
+}
+
+TEST(Menus, OfferTheDecksThatWereOpenLast)
+{
+    WindowDesk desk;
+    desk.openCards({"eins"});
+    const auto place = desk.folder.put("unter/zwei.wml", deckOf({"zwei"}));
+    RecentDecks(desk.settings).add(place);
+    const auto choose = [&] {
+        desk.click("lblButtonSeiteNew");
+        auto& menu = desk.control<QMenu>("mnuContextOpen");
+        ASSERT_TRUE(menu.isVisible());
+        menu.hide();
+        for (auto* entry : menu.actions())
+            if (entry->text() == "unter / zwei.wml") return entry->trigger();
+        FAIL() << "no such deck";
+    };
+    choose();
+    EXPECT_NE(desk.surface().DocumentHTML().find("zwei"), std::string::npos);
+    desk.openCards({"eins"});
+    std::filesystem::remove(place);
+    choose();
+    ASSERT_EQ(desk.messages.log.size(), 1U);
+    EXPECT_TRUE(desk.messages.log[0].starts_with("failure: "));
+    EXPECT_NE(desk.surface().DocumentHTML().find("eins"), std::string::npos);
+}
+
+} // namespace
+} // namespace quillmere::test

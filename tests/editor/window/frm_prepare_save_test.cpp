@@ -1,0 +1,185 @@
+#include "editor/window/deck_costs.h"
+#include "editor/window/window_desk.h"
+
+#include <QDragEnterEvent>
+#include <QDropEvent>
+#include <QElapsedTimer>
+#include <QMimeData>
+#include <QUrl>
+
+#include <algorithm>
+#include <filesystem>
+
+#include <gtest/gtest.h>
+
+namespace quillmere::test {
+namespace {
+
+/// Lets timers run.
+void wait(int ms)
+{
+    QElapsedTimer time;
+    time.start();
+    while (time.elapsed() < ms)
+        QApplication::processEvents(QEventLoop::AllEvents, 20);
+}
+
+TEST(Closing, AsksForChangesOnlyAndEmptiesTheDeck)
+{
+    const struct {
+        const char* name;
+        bool types, saves;
+    } rows[] = {{"nothing changed", false, false}, {"saves", true, true}, {"drops", true, false}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        WindowDesk desk;
+        desk.openCards({"x"});
+        desk.caretBehind(">x");
+        if (row.types) {
+            desk.type("y");
+            desk.messages.answers = {row.saves};
+        }
+        desk.press(Qt::Key_Escape);
+        EXPECT_FALSE(desk.window.isVisible());
+        EXPECT_EQ(desk.messages.log.size(), row.types ? 1U : 0U);
+        EXPECT_EQ(desk.saved(), deckOf({row.saves ? "xy" : "x"}));
+        EXPECT_EQ(desk.session.document.deck.size(), 1U);
+        EXPECT_TRUE(std::filesystem::is_empty(desk.workFiles.directory()));
+    }
+}
+
+TEST(Closing, WhatCannotBeSavedKeepsTheWindowOpen)
+{
+    WindowDesk desk;
+    const auto folder = desk.folder.path() + "deck/";
+    std::filesystem::create_directory(folder);
+    desk.folder.put("deck/deck.wml", deckOf({"x"}));
+    OpenDocument(desk.session, "deck.wml", folder);
+    desk.caretBehind(">x");
+    desk.type("y");
+    std::filesystem::rename(folder, desk.folder.path() + "moved");
+    desk.messages.answers = {true, true}; // to save, to make the file anew
+    desk.window.close();
+    EXPECT_TRUE(desk.window.isVisible());
+    EXPECT_TRUE(desk.messages.log.back().starts_with("failure: "));
+    EXPECT_TRUE(desk.window.docChanged());
+    EXPECT_NE(desk.surface().DocumentHTML().find(">xy<"), std::string::npos);
+}
+
+TEST(Saving, SaysSoBeforeItGoesOverAnotherProgramsText)
+{
+    WindowDesk desk;
+    desk.openCards({"x"});
+    desk.caretBehind(">x");
+    desk.type("y");
+    desk.folder.put("deck.wml", "<wml>fremd</wml>");
+    desk.messages.answers = {false};
+    desk.choose("mnuSave");
+    ASSERT_EQ(desk.messages.log.size(), 2U);
+    EXPECT_NE(desk.messages.log[0].find("von einem anderen Programm"), std::string::npos);
+    EXPECT_EQ(desk.saved(), "<wml>fremd</wml>");
+    EXPECT_TRUE(desk.window.docChanged());
+    desk.messages.answers = {true};
+    desk.choose("mnuSave");
+    EXPECT_EQ(desk.saved(), deckOf({"xy"}));
+    desk.caretBehind(">xy");
+    desk.type("z");
+    desk.choose("mnuSave"); // its own text is no other program's
+    EXPECT_EQ(desk.saved(), deckOf({"xyz"}));
+}
+
+TEST(Saving, AChangeIsStoredSoonAndToldToWhoWatchesOverCrashes)
+{
+    WindowDesk desk;
+    std::vector<bool> stored;
+    desk.openCards({"x"});
+    desk.session.afterStore = [&](bool changed) { stored.push_back(changed); };
+    desk.caretBehind(">x");
+    desk.type("y");
+    EXPECT_TRUE(stored.empty());
+    wait(1300);
+    EXPECT_EQ(stored, std::vector<bool>{true});
+    EXPECT_NE(desk.design(0).find(">xy<"), std::string::npos);
+}
+
+TEST(Dropping, OpensADeckAndRefusesOneThatIsTooLong)
+{
+    WindowDesk desk;
+    desk.openCards({"x"});
+    desk.folder.put("neu.WML", deckOf({"neu"}));
+    desk.folder.put("lang.wml", deckOf({std::string(40000, 'x')}));
+    const auto drop = [&](QWidget* target, const char* name) {
+        QMimeData clip;
+        clip.setUrls({QUrl::fromLocalFile(QString::fromStdString(desk.folder.path() + name))});
+        QDragEnterEvent enter({9, 9}, Qt::CopyAction, &clip, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(target, &enter);
+        EXPECT_TRUE(enter.isAccepted());
+        QDropEvent event({9, 9}, Qt::CopyAction, &clip, Qt::LeftButton, Qt::NoModifier);
+        QApplication::sendEvent(target, &event);
+    };
+    drop(desk.surface().viewport(), "neu.WML");
+    EXPECT_NE(desk.design(0).find("neu"), std::string::npos);
+    drop(&desk.window, "lang.wml");
+    EXPECT_NE(desk.design(0).find("neu"), std::string::npos);
+    ASSERT_EQ(desk.messages.log.size(), 1U);
+    EXPECT_NE(desk.messages.log[0].find("zu lang"), std::string::npos);
+}
+
+TEST(Costs, AreToldOnceForADeckAndTheSwitchIsOffered)
+{
+    WindowDesk desk;
+    desk.openCards({"nichts"});
+    EXPECT_TRUE(desk.costs.empty());
+    desk.open(deckOf({"Caf\xE9 <em>schr\xE4g</em>"}));
+    ASSERT_EQ(desk.costs.size(), 1U);
+    EXPECT_TRUE(desk.costs[0].join('|').contains(QString::fromUtf8("Café")));
+    desk.click("btnAreaOne");
+    EXPECT_EQ(desk.costs.size(), 1U);
+    EXPECT_FALSE(isYes(desk.settings, "StandardOutput"));
+
+    desk.wantsStandard = true;
+    desk.open(deckOf({"Caf\xE9"}));
+    EXPECT_EQ(desk.costs.size(), 2U);
+    EXPECT_TRUE(isYes(desk.settings, "StandardOutput"));
+    desk.caretBehind("Caf");
+    desk.type("x");
+    desk.choose("mnuSave");
+    EXPECT_NE(desk.saved().find("Cafx&#233;"), std::string::npos) << desk.saved();
+}
+
+TEST(Costs, OfALargeDeckAreKnownInABlink)
+{
+    WindowDesk desk;
+    std::vector<std::string> cards;
+    while (cards.size() < 20)
+        cards.push_back("M\xF6hren, <b>ein</b> B\xFCndchen<br/>" + std::string(1400, 'm'));
+    const auto deck = deckOf(cards);
+    ASSERT_GT(deck.size(), 29000U);
+    QElapsedTimer time;
+    time.start();
+    EXPECT_FALSE(costsOfSaving(desk.session.document, deck, desk.folder.path()).isEmpty());
+    EXPECT_LT(time.elapsed(), 100);
+}
+
+TEST(Speed, TheNextAreaIsPaintedWithin30Milliseconds)
+{
+    WindowDesk desk;
+    std::string card;
+    for (int i = 0; i < 60; ++i)
+        card += "Zeile mit <b>Text</b> und <a href=\"#a\">Sprung</a>, noch mehr Text<br/>";
+    desk.openCards({card, card, card, card, card});
+    std::vector<qint64> microseconds;
+    for (int i = 0; i < 20; ++i) {
+        QElapsedTimer time;
+        time.start();
+        desk.click(desk.isEnabled("btnAreaNext") ? "btnAreaNext" : "btnAreaPrev");
+        desk.window.repaint();
+        microseconds.push_back(time.nsecsElapsed() / 1000);
+    }
+    std::ranges::sort(microseconds);
+    RecordProperty("median_us", static_cast<int>(microseconds[10]));
+    EXPECT_LT(microseconds[10], 30000);
+}
+
+} // namespace
+} // namespace quillmere::test

@@ -1,0 +1,161 @@
+#include "editor/window/window_desk.h"
+
+#include "document/platform/word_ids.h"
+
+#include <gtest/gtest.h>
+
+namespace quillmere::test {
+namespace {
+
+struct SourceDesk : WindowDesk {
+    SourceEdit& source = control<SourceEdit>("txtScript");
+
+    explicit SourceDesk(const std::vector<std::string>& cards = {"eins", "zwei"})
+    {
+        openCards(cards);
+        click("btnScript");
+    }
+    /// Puts text in behind another one, by keys.
+    void typeBehind(const char* there, const QString& text)
+    {
+        source.moveCursor(QTextCursor::Start);
+        ASSERT_TRUE(source.find(QLatin1String(there)));
+        auto cursor = source.textCursor();
+        cursor.clearSelection();
+        source.setTextCursor(cursor);
+        source.setFocus();
+        type(text);
+    }
+    void setSource(const std::vector<std::string>& cards)
+    {
+        source.selectAll();
+        source.insertPlainText(QString::fromStdString(deckOf(cards)));
+    }
+};
+
+TEST(WindowSource, ShowsTheDeckAsItWouldBeSaved)
+{
+    SourceDesk desk;
+    EXPECT_EQ(desk.source.wml(), deckOf({"eins", "zwei"}));
+    EXPECT_TRUE(desk.source.isVisible());
+    EXPECT_FALSE(desk.surface().isVisible());
+    EXPECT_EQ(desk.control<QPushButton>("btnScript").text(), "Grafische Ansicht");
+    EXPECT_TRUE(desk.control<QPushButton>("btnAreaOne").hasFocus());
+
+    desk.click("btnScript"); // back again; nothing was typed, so nothing is asked
+    EXPECT_TRUE(desk.surface().isVisible());
+    EXPECT_FALSE(desk.source.isVisible());
+    EXPECT_EQ(desk.control<QPushButton>("btnScript").text(), "Quelltext");
+    EXPECT_FALSE(desk.window.docChanged());
+    EXPECT_NE(desk.surface().DocumentHTML().find("eins"), std::string::npos);
+}
+
+TEST(WindowSource, AnEditReplacesAllAreasOnceItIsAssentedTo)
+{
+    SourceDesk desk;
+    desk.typeBehind("eins", " neu");
+    desk.messages.answers = {true};
+    desk.click("btnAreaOne");
+    EXPECT_EQ(desk.messages.taken(), std::vector<std::string>{"ask 41"});
+    EXPECT_NE(desk.design(0).find("eins neu"), std::string::npos);
+    EXPECT_TRUE(desk.window.docChanged());
+    desk.choose("mnuSave");
+    EXPECT_EQ(desk.saved(), deckOf({"eins neu", "zwei"}));
+}
+
+TEST(WindowSource, NoWhileMovingOnDropsTheTextAndUndoCanBringItBack)
+{
+    SourceDesk desk;
+    desk.typeBehind("zwei", "!");
+    desk.messages.answers = {false};
+    desk.click("btnAreaNext");
+    EXPECT_EQ(desk.window.CurArea(), 1);
+    EXPECT_NE(desk.surface().DocumentHTML().find("zwei<"), std::string::npos);
+
+    desk.click("btnScript");
+    EXPECT_EQ(desk.source.wml(), deckOf({"eins", "zwei"}));
+    desk.messages.log.clear();
+    desk.messages.answers = {true};
+    desk.click("lblButtonUndo");
+    EXPECT_EQ(desk.messages.taken(), std::vector<std::string>{"ask 45"});
+    EXPECT_EQ(desk.source.wml(), deckOf({"eins", "zwei!"}));
+}
+
+TEST(WindowSource, FewerCardsLeaveTheLastOneShown)
+{
+    SourceDesk desk({"eins", "zwei", "drei"});
+    desk.click("btnScript");
+    desk.click("btnAreaNext");
+    desk.click("btnAreaNext");
+    desk.click("btnScript");
+    desk.setSource({"nur"});
+    desk.messages.answers = {true};
+    desk.click("btnScript");
+    EXPECT_EQ(desk.window.CurArea(), 0);
+    EXPECT_NE(desk.surface().DocumentHTML().find("nur"), std::string::npos);
+}
+
+TEST(WindowSource, UndoTakesWordsBackAndKeepsTheFirstTwoPlaces)
+{
+    SourceDesk desk;
+    desk.typeBehind("eins", " ab cd");
+    const char* const left[] = {"eins ab", "eins", "eins"};
+    for (const char* text : left) {
+        desk.click("lblButtonUndo");
+        EXPECT_EQ(desk.source.wml(), deckOf({text, "zwei"}));
+    }
+}
+
+TEST(WindowSource, SavingTakesTheTextAsItStandsAndAsksNothing)
+{
+    SourceDesk desk;
+    desk.typeBehind("eins", "1");
+    EXPECT_TRUE(desk.window.docChanged());
+    desk.choose("mnuSave");
+    EXPECT_EQ(desk.saved(), deckOf({"eins1", "zwei"}));
+    EXPECT_TRUE(desk.source.isVisible());
+    // what is typed and dropped behind it takes nothing of the saved text along
+    desk.typeBehind("eins1", "2");
+    desk.messages.answers = {false};
+    desk.click("btnAreaOne");
+    EXPECT_NE(desk.design(0).find("eins1<"), std::string::npos);
+    EXPECT_NE(desk.surface().DocumentHTML().find("eins1<"), std::string::npos);
+}
+
+TEST(WindowSource, ATextThatCannotBeADeckStaysInTheView)
+{
+    SourceDesk desk;
+    const auto open = desk.source.wml();
+    const struct {
+        const char* name;
+        QString text;
+    } rows[] = {
+        {"too long", QString(40000, 'x')},
+        {"a value that never ends", "<wml><card id=\"a\"><p><img src=\"x></p></card></wml>"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        desk.source.selectAll();
+        desk.source.insertPlainText(row.text);
+        desk.messages.answers = {true};
+        desk.click("btnAreaOne");
+        const auto told = desk.messages.taken();
+        ASSERT_EQ(told.size(), 2U);
+        EXPECT_TRUE(told[1].starts_with("failure: ")) << told[1];
+        EXPECT_TRUE(desk.source.isVisible());
+        EXPECT_EQ(desk.source.toPlainText(), row.text);
+        EXPECT_NE(desk.design(1).find("zwei"), std::string::npos);
+    }
+}
+
+TEST(WindowSource, ToolsOfTheSurfaceRefuse)
+{
+    SourceDesk desk;
+    for (const auto* tool : {"Area", "Table", "Image", "Link", "Option", "TextFormat", "Justify"}) {
+        desk.click((std::string("lblButton") + tool).c_str());
+        EXPECT_EQ(desk.messages.taken(), std::vector<std::string>{"show 47"}) << tool;
+    }
+}
+
+} // namespace
+} // namespace quillmere::test

@@ -1,0 +1,144 @@
+// The whole program, used from outside as a person does: by keys and by the mouse.
+
+#include "end_to_end/desktop.h"
+
+#include <gtest/gtest.h>
+
+#include <chrono>
+#include <thread>
+
+namespace quillmere {
+namespace {
+
+using test::Desktop;
+
+/// As the program itself writes it, so that opening it costs nothing and asks nothing.
+constexpr const char* kDeck = "<?xml version=\"1.0\"?>\r\n"
+                              "<!DOCTYPE wml PUBLIC \"-//WAPFORUM//DTD WML 1.1//EN\" "
+                              "\"http://www.wapforum.org/DTD/wml_1.1.xml\">\r\n"
+                              "<wml>\r\n"
+                              "<card id=\"a\" title=\"Erste\">\r\n"
+                              "<p>Guten Tag</p>\r\n"
+                              "</card>\r\n"
+                              "</wml>\r\n";
+
+struct WholeProgram : testing::Test {
+    Desktop desktop;
+    std::string deck = desktop.folder.put("meine decks/index.wml", kDeck);
+
+    static std::string changed()
+    {
+        std::string text = kDeck;
+        return text.insert(text.find("Guten"), "neu ");
+    }
+    std::string saved() { return desktop.folder.get("meine decks/index.wml"); }
+    pid_t open() { return desktop.start({QUILLMERE, deck}); }
+    /// The main window with the deck in it, in front.
+    std::string mainWindow()
+    {
+        auto window = desktop.window("index.wml.* MORVANE Quillmere");
+        desktop.focus(window);
+        return window;
+    }
+    void type()
+    {
+        (void)desktop.tell("key ctrl+Home");
+        (void)desktop.tell("type --delay 20 'neu '");
+        desktop.waitUntil(
+            "mark of a change", [this] { return desktop.windows("[*].*Quillmere") == 1; });
+    }
+    void press(const char* key) { (void)desktop.tell(std::string("key ") + key); }
+};
+
+TEST_F(WholeProgram, SavesWhatWasTypedAndNothingElse)
+{
+    const auto program = open();
+    (void)mainWindow();
+    type();
+    EXPECT_EQ(saved(), kDeck);
+    press("ctrl+s");
+    desktop.waitUntil("saved deck", [this] { return saved() != kDeck; });
+    EXPECT_EQ(saved(), changed());
+    press("Escape");
+    EXPECT_EQ(desktop.waitForEnd(program), 0);
+    EXPECT_TRUE(std::filesystem::is_empty(desktop.folder.path() + "tmp")) << "work files are left";
+}
+
+TEST_F(WholeProgram, ASecondStartBringsTheFirstToTheFrontAndLeaves)
+{
+    (void)open();
+    const auto window = mainWindow();
+    const auto settings = desktop.folder.get("config/MORVANE/Quillmere.conf");
+    (void)desktop.tell("windowminimize " + window);
+    desktop.waitUntil(
+        "minimized window", [&] { return desktop.windows("MORVANE Quillmere") == 0; });
+    EXPECT_EQ(desktop.waitForEnd(desktop.start({QUILLMERE, "/another/deck.wml"})), 0);
+    EXPECT_EQ(desktop.window("MORVANE Quillmere"), window);
+    EXPECT_EQ(desktop.folder.get("config/MORVANE/Quillmere.conf"), settings);
+}
+
+TEST_F(WholeProgram, EscapeAsksAboutChangesAndTakesBothAnswers)
+{
+    struct Answer {
+        const char* key;
+        std::string deck;
+    };
+    for (const auto& answer : {Answer{"n", kDeck}, Answer{"j", changed()}}) {
+        const auto program = open();
+        const auto window = mainWindow();
+        type();
+        press("Escape");
+        desktop.waitUntil("question", [&] {
+            const auto focused = desktop.tell("getwindowfocus");
+            return !focused.empty() && focused != window + "\n";
+        });
+        press(answer.key);
+        EXPECT_EQ(desktop.waitForEnd(program), 0);
+        EXPECT_EQ(saved(), answer.deck);
+    }
+}
+
+TEST_F(WholeProgram, IsMovedByItsHandle)
+{
+    (void)open();
+    const auto window = mainWindow();
+    const auto place = [&] { return desktop.tell("getwindowgeometry --shell " + window); };
+    const auto before = place();
+    (void)desktop.tell("mousemove --window " + window + " 480 30");
+    (void)desktop.tell("mousedown 1");
+    for (int i = 0; i < 5; ++i)
+        (void)desktop.tell("mousemove_relative -- -12 8");
+    (void)desktop.tell("mouseup 1");
+    const auto coordinate = [](const std::string& text, const char* name) {
+        return std::stoi(text.substr(text.find(name) + 2));
+    };
+    desktop.waitUntil("move", [&] { return place() != before; });
+    std::this_thread::sleep_for(std::chrono::milliseconds(300));
+    EXPECT_NEAR(coordinate(place(), "X="), coordinate(before, "X=") - 60, 14);
+    EXPECT_NEAR(coordinate(place(), "Y="), coordinate(before, "Y=") + 40, 10);
+}
+
+TEST_F(WholeProgram, OffersWhatAKilledProgramHadNotSaved)
+{
+    const auto program = open();
+    (void)mainWindow();
+    type();
+    std::this_thread::sleep_for(std::chrono::milliseconds(1500)); // until it was stored by itself
+    desktop.kill(program);
+    EXPECT_EQ(saved(), kDeck);
+
+    const auto next = desktop.start({QUILLMERE});
+    const auto question = desktop.window("^MORVANE Quillmere$");
+    std::this_thread::sleep_for(std::chrono::milliseconds(500));
+    press("Return");
+    (void)question;
+    (void)mainWindow();
+    press("ctrl+s");
+    desktop.waitUntil("saved deck", [this] { return saved() != kDeck; });
+    EXPECT_EQ(saved(), changed());
+    press("Escape");
+    EXPECT_EQ(desktop.waitForEnd(next), 0);
+}
+
+} // namespace
+} // namespace quillmere

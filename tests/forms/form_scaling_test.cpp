@@ -1,0 +1,87 @@
+#include "forms/form_scaling.h"
+
+#include <QLabel>
+
+#include <gtest/gtest.h>
+
+namespace quillmere {
+namespace {
+
+ScaledControl control(const char* name)
+{
+    return {name, 1500, 3000, 600, 900, 10};
+}
+
+struct Scaled {
+    ScaledControl form;
+    std::vector<ScaledControl> controls;
+};
+
+Scaled scaled(
+    const char* form, double width, double height, std::vector<const char*> names, int twips)
+{
+    Scaled result{{form, 0, 0, width, height, 10}, {}};
+    for (const auto* name : names)
+        result.controls.push_back(control(name));
+    scaleForm(result.form, result.controls, {twips, twips});
+    return result;
+}
+
+TEST(ScaleForm, AFormStaysOnTheScreenItWasDrawnFor)
+{
+    const auto result = scaled("frmArea", 9000, 9000, {"btnNew", "objBrowserCard"}, 15);
+    EXPECT_EQ(result.form.width, 9000);
+    EXPECT_EQ(result.controls[0].left, 1500);
+    EXPECT_EQ(result.controls[1].fontSize, 10);
+}
+
+TEST(ScaleForm, TwelveTwipsAPixelTakeAFifth)
+{
+    struct Row {
+        const char* name;
+        double left, width, font;
+    };
+    constexpr Row kRows[] = {
+        {"btnNew", 1200, 480, 8},
+        {"objBrowserCard", 1200, 600, 10},
+        {"objTemplateBrowser", 1200, 480, 10},
+        {"objPreviewBrowser", 1500, 600, 10},
+        {"lblCurAreaCaption", 1500, 600, 10},
+        {"lblCardCaption", 1200, 480, 10},
+        {"lblTaskCaption", 1200, 480, 10},
+        {"objDialog", 1500, 600, 10},
+        {"objTempPicture", 1500, 600, 10},
+    };
+    for (const auto& row : kRows) {
+        SCOPED_TRACE(row.name);
+        const auto result = scaled("frmArea", 9000, 9000, {row.name}, 12).controls[0];
+        EXPECT_EQ(result.left, row.left);
+        EXPECT_EQ(result.width, row.width);
+        EXPECT_EQ(result.fontSize, row.font);
+    }
+}
+
+TEST(ScaleForm, AFormGrowsToHoldItsControls)
+{
+    EXPECT_EQ(scaled("frmArea", 100, 100, {"btnNew"}, 15).form.width, 2150);
+    EXPECT_EQ(scaled("frmArea", 100, 100, {"btnNew"}, 15).form.height, 3900);
+    EXPECT_EQ(scaled("frmPreview", 100, 100, {"btnNew"}, 15).form.width, 100);
+    EXPECT_EQ(scaled("frmArea", 100, 9000, {"picSkin"}, 15).form.width, 100);
+    EXPECT_EQ(scaled("frmUploadExtended", 9000, 100, {"btnNew"}, 12).form.height, 3270);
+    EXPECT_EQ(scaled("frmUploadExtended", 9000, 100, {"btnNew"}, 15).form.height, 3900);
+}
+
+TEST(ScaleForm, PixelsStayWhatTheyAre)
+{
+    QWidget form;
+    form.setObjectName("frmInput");
+    form.resize(400, 300);
+    QLabel label(&form);
+    label.setGeometry(10, 20, 100, 30);
+    ScaleFormToScreen(form, true);
+    EXPECT_EQ(label.geometry(), QRect(10, 20, 100, 30));
+    EXPECT_EQ(form.size(), QSize(400, 300));
+}
+
+} // namespace
+} // namespace quillmere

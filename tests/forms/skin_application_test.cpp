@@ -1,0 +1,244 @@
+#include "forms/skin_application.h"
+
+#include "forms/skin_picture.h"
+#include "forms/skinned_window.h"
+#include "support/scratch_folder.h"
+
+#include <QDir>
+#include <QFile>
+#include <QImage>
+
+#include <gtest/gtest.h>
+
+namespace quillmere {
+namespace {
+
+const std::string kSkins = QUILLMERE_SOURCE_DIR "/data/Skins/";
+
+SkinItem someItem()
+{
+    SkinItem item;
+    item.Left = 10;
+    item.Top = 20;
+    item.Width = 30;
+    item.Height = 40;
+    item.BackColor = 0x0000FF; // red in the low byte
+    item.ForeColor = 0xFF0000;
+    item.FontName.set("Inter");
+    item.FontSize = 9;
+    return item;
+}
+
+/// A directory of skins of the test's own, with a picture and its double.
+class SkinFolder {
+public:
+    SkinFolder()
+        : store(folder.path())
+    {
+        picture("a.png", 30, Qt::green);
+        picture("a@2x.png", 60, Qt::blue);
+        picture("single.png", 30, Qt::red);
+    }
+    QString path(const char* name = "") const
+    {
+        return QString::fromStdString(folder.path()) + name;
+    }
+    void picture(const char* name, int side, const QColor& colour) const
+    {
+        QImage image(side, side, QImage::Format_RGB32);
+        image.fill(colour);
+        image.save(path(name));
+    }
+    void file(const char* name, const QByteArray& bytes) const
+    {
+        QFile file(path(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+    }
+
+    test::ScratchFolder folder;
+    SkinSettings store;
+};
+
+QByteArray bytesOf(const std::string& path)
+{
+    QFile file(QString::fromStdString(path));
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+TEST(ApplyItem, SetsWhatTheControlHas)
+{
+    const SkinFolder skins;
+    QWidget window;
+    QPushButton button(&window);
+    auto item = someItem();
+    item.Picture.set("a.png");
+    ApplyItem(button, item, skins.path());
+    EXPECT_EQ(button.geometry(), QRect(10, 20, 30, 40));
+    EXPECT_EQ(button.font().pointSize(), 9);
+    EXPECT_EQ(button.font().family(), "Inter");
+    EXPECT_EQ(button.palette().color(QPalette::Button), QColor(Qt::red));
+    EXPECT_EQ(button.palette().color(QPalette::ButtonText), QColor(Qt::blue));
+    EXPECT_FALSE(button.icon().isNull());
+
+    QLabel label(&window);
+    ApplyItem(label, item, skins.path());
+    EXPECT_EQ(label.pixmap(Qt::ReturnByValue).size(), QSize(30, 30));
+    ToolPicture picture("picButtonX", &window);
+    ApplyItem(picture, item, skins.path());
+    EXPECT_EQ(picture.picture().size(), QSize(30, 30));
+    QPlainTextEdit text(&window); // has no picture
+    ApplyItem(text, item, skins.path());
+    EXPECT_EQ(text.palette().color(QPalette::Base), QColor(Qt::red));
+}
+
+TEST(ApplyItem, BlanksLeaveWhatIsThere)
+{
+    const SkinFolder skins;
+    QWidget window;
+    QLabel label(&window);
+    auto item = someItem();
+    item.Picture.set("a.png");
+    ApplyItem(label, item, skins.path());
+    auto font = label.font();
+    for (const auto* name : {"", "missing.png", "../", "broken.png"}) {
+        SCOPED_TRACE(name);
+        skins.file("broken.png", bytesOf(kSkins + "papier-window.png").left(200));
+        item.Picture.set(name);
+        item.FontName.set("");
+        item.FontSize = 0;
+        item.Left = 11; // all ahead of the picture is still set
+        ApplyItem(label, item, skins.path());
+        EXPECT_EQ(label.pixmap(Qt::ReturnByValue).size(), QSize(30, 30));
+        EXPECT_EQ(label.font(), font);
+        EXPECT_EQ(label.x(), 11);
+    }
+}
+
+TEST(ApplyItem, BoundsWhatARecordAsksFor)
+{
+    QWidget window;
+    QLabel label(&window);
+    auto item = someItem();
+    item.Width = -5;
+    item.Height = 32767;
+    item.FontSize = 32767;
+    ApplyItem(label, item, "");
+    EXPECT_EQ(label.width(), 0);
+    EXPECT_LE(label.height(), 4096);
+    EXPECT_LE(label.font().pointSize(), 200);
+}
+
+TEST(SkinPicture, ComesAtDoubleSizeWhereTheScreenHasIt)
+{
+    const SkinFolder skins;
+    EXPECT_EQ(skinPicture(skins.path("a.png"), 1).size(), QSize(30, 30));
+    for (const double ratio : {1.25, 2.0}) {
+        const auto twice = skinPicture(skins.path("a.png"), ratio);
+        EXPECT_EQ(twice.size(), QSize(60, 60));
+        EXPECT_EQ(twice.deviceIndependentSize(), QSizeF(30, 30));
+    }
+    EXPECT_EQ(skinPicture(skins.path("single.png"), 2).deviceIndependentSize(), QSizeF(30, 30));
+    EXPECT_TRUE(skinPicture(skins.path("missing.png"), 2).isNull());
+    EXPECT_TRUE(skinPicture(skins.path(), 1).isNull()) << "a directory";
+}
+
+TEST(ApplyEditorSkin, KeepsTheWindowsPlaceAndFillsAllControls)
+{
+    const SkinSettings store(kSkins);
+    SkinTables tables;
+    ReadEditorSkins(tables, store.settings);
+    SkinnedWindow window;
+    window.move(77, 66);
+    PageLook page;
+    ApplyEditorSkin(window, tables, store.settings, [&](const PageLook& look) { page = look; });
+    EXPECT_EQ(window.pos(), QPoint(77, 66));
+    EXPECT_EQ(window.size(), QSize(960, 700));
+    EXPECT_FALSE(window.picture().isNull());
+    EXPECT_EQ(page.fontSizePx, 16);
+    EXPECT_EQ(page.fontFamily, "Inter");
+    EXPECT_EQ(page.bgColor, QColor(0xD3, 0xDE, 0xB4));
+    for (const auto tool : kSkinTools) {
+        const auto name = QString::fromLatin1(tool.data(), qsizetype(tool.size()));
+        EXPECT_GE(window.tool(name).width(), 32) << name.toStdString();
+        if (auto* picture = window.findChild<ToolPicture*>("picButton" + name)) {
+            EXPECT_FALSE(picture->picture().isNull()) << name.toStdString();
+            EXPECT_TRUE(picture->isHidden()) << name.toStdString();
+        }
+    }
+}
+
+TEST(ApplyEditorSkin, ASmallSurfaceStandsInTheMiddleOfItsPlace)
+{
+    const SkinSettings store(kSkins);
+    SkinTables tables;
+    ReadEditorSkins(tables, store.settings);
+    auto skin = tables.EditorSkins.front();
+    const auto whole = surfacePlace(skin, 14);
+    EXPECT_EQ(whole.width(), 782);
+    auto& surface = skin.items[std::size_t(SkinPart::Surface)];
+    surface.Width = 100;
+    surface.Height = 100;
+    const auto small = surfacePlace(skin, 14);
+    EXPECT_EQ(small.size(), QSize(114, 100));
+    EXPECT_TRUE(whole.contains(small));
+    surface.Width = 30000;
+    EXPECT_EQ(surfacePlace(skin, 14).width(), whole.width());
+}
+
+TEST(ApplyPreviewSkin, DressesThePreviewInEachTelephone)
+{
+    const SkinSettings store(kSkins);
+    SkinTables tables;
+    ReadPreviewSkins(tables, store.settings, false);
+    ASSERT_EQ(tables.PreviewSkins.size(), 4U);
+    for (std::size_t i = 0; i < 3; ++i) {
+        SCOPED_TRACE(std::string(tables.PreviewSkins[i].Model.text()));
+        for (auto& skin : tables.PreviewSkins)
+            skin.Selected = 0;
+        tables.PreviewSkins[i].Selected = SkinHead::kSelected;
+        SkinnedPreview window;
+        PageLook page;
+        ApplyPreviewSkin(
+            window, tables, store.settings, [&](const PageLook& look) { page = look; });
+        EXPECT_EQ(page.fontSizePx, 12);
+        const auto* body = window.findChild<QLabel*>("picSkin");
+        EXPECT_EQ(body->pixmap(Qt::ReturnByValue).size(), body->size());
+        for (const auto* inside : {"lblCardCaption", "lblTaskCaption", "lblButtonSelect",
+                 "lblButtonBack", "lblButtonCommit"}) {
+            const auto place = window.findChild<QWidget*>(inside)->geometry();
+            EXPECT_TRUE(body->geometry().contains(place)) << inside;
+            EXPECT_FALSE(place.intersects(page.place)) << inside;
+        }
+        EXPECT_TRUE(window.findChild<QWidget*>("picButtonBack")->isHidden());
+    }
+}
+
+TEST(ApplyEditorSkin, AnySkinFileLeavesAWindow)
+{
+    const auto good = bytesOf(kSkins + "Adjust.ini");
+    auto wild = good;
+    for (int i = 450; i < wild.size(); i += 7)
+        wild[i] = char(i * 31);
+    const QByteArray kFiles[] = {"", "x", good.left(20167), good.left(30000), good + "rest", wild,
+        QByteArray(20168, '\0'), QByteArray(3 * 20168, ' '), QByteArray(20168, '\xFF')};
+    for (const auto& bytes : kFiles) {
+        const SkinFolder skins;
+        skins.file("Adjust.ini", bytes);
+        skins.file("AdjuPrev.ini", bytesOf(kSkins + "AdjuPrev.ini"));
+        SkinTables tables;
+        ReadEditorSkins(tables, skins.store.settings);
+        ReadPreviewSkins(tables, skins.store.settings, false);
+        for (auto& skin : tables.PreviewSkins) // its index is beyond the editor's skins
+            skin.Selected
+                = &skin == &tables.PreviewSkins[2] ? SkinHead::kSelected : std::int16_t(0);
+        SkinnedWindow window;
+        window.resize(300, 200);
+        ApplyEditorSkin(window, tables, skins.store.settings, [](const PageLook&) {});
+        window.grab();
+        EXPECT_FALSE(window.size().isEmpty());
+    }
+}
+
+} // namespace
+} // namespace quillmere

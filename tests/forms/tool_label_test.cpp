@@ -1,0 +1,121 @@
+#include "forms/tool_label.h"
+
+#include <QFocusEvent>
+#include <QImage>
+#include <QSignalSpy>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+namespace quillmere {
+namespace {
+
+class ToolLabelTest : public testing::Test {
+protected:
+    ToolLabelTest()
+    {
+        window.resize(300, 200);
+        for (auto* widget : {static_cast<QWidget*>(&picture), static_cast<QWidget*>(&tool)})
+            widget->setGeometry(20, 20, 70, 64);
+        tool.setText("Tabelle");
+        QPalette colours(Qt::white, Qt::black);
+        colours.setColor(QPalette::Highlight, Qt::red);
+        window.setPalette(colours);
+        window.show();
+        window.activateWindow();
+        EXPECT_TRUE(QTest::qWaitForWindowActive(&window));
+    }
+    QImage shot() { return tool.grab().toImage(); }
+
+    QWidget window;
+    ToolPicture picture{"picButtonTable", &window};
+    ToolLabel tool{"lblButtonTable", &picture, &window};
+    QSignalSpy down{&tool, &ToolLabel::mouseDown};
+    QSignalSpy up{&tool, &ToolLabel::mouseUp};
+    QSignalSpy clicked{&tool, &ToolLabel::clicked};
+    const QPoint inside{30, 30};
+    const QPoint outside{200, 150};
+};
+
+TEST_F(ToolLabelTest, ThePictureShowsWhileTheMouseHoldsTheTool)
+{
+    EXPECT_TRUE(picture.isHidden());
+    for (const auto button : {Qt::LeftButton, Qt::RightButton}) {
+        QTest::mousePress(&tool, button, {}, inside);
+        EXPECT_TRUE(picture.isVisible());
+        EXPECT_EQ(down.takeLast().front().value<Qt::MouseButton>(), button);
+        QTest::mouseRelease(&tool, button, {}, inside);
+        EXPECT_TRUE(picture.isHidden());
+        EXPECT_EQ(up.takeLast().front().value<Qt::MouseButton>(), button);
+    }
+    EXPECT_EQ(clicked.count(), 1) << "the right button does nothing";
+}
+
+TEST_F(ToolLabelTest, AReleaseOutsideOfTheToolDoesNothing)
+{
+    QTest::mousePress(&tool, Qt::LeftButton, {}, inside);
+    QTest::mouseRelease(&tool, Qt::LeftButton, {}, outside);
+    EXPECT_EQ(up.count(), 1);
+    EXPECT_EQ(clicked.count(), 0);
+    EXPECT_TRUE(picture.isHidden());
+}
+
+TEST_F(ToolLabelTest, KeysActAndADisabledToolDoesNot)
+{
+    tool.setFocus(Qt::TabFocusReason);
+    QTest::keyPress(&tool, Qt::Key_Space);
+    EXPECT_TRUE(picture.isVisible());
+    QTest::keyRelease(&tool, Qt::Key_Space);
+    EXPECT_TRUE(picture.isHidden());
+    QTest::keyClick(&tool, Qt::Key_Return);
+    EXPECT_EQ(clicked.count(), 2);
+    tool.setEnabled(false);
+    QTest::mouseClick(&tool, Qt::LeftButton, {}, inside);
+    EXPECT_EQ(clicked.count(), 2);
+}
+
+TEST_F(ToolLabelTest, AToolThatGoesWhileItIsHeldLetsGo)
+{
+    QTest::mousePress(&tool, Qt::LeftButton, {}, inside);
+    tool.hide();
+    EXPECT_TRUE(picture.isHidden());
+    tool.show();
+    EXPECT_FALSE(tool.isDown());
+}
+
+TEST_F(ToolLabelTest, EachStateIsSeen)
+{
+    tool.clearFocus(); // which the window gave it when it came up
+    const auto rest = shot();
+    tool.setFocus(Qt::TabFocusReason);
+    const auto ring = shot();
+    EXPECT_EQ(ring.pixelColor(35, 1), QColor(Qt::red));
+    EXPECT_NE(rest.pixelColor(35, 1), QColor(Qt::red));
+    QFocusEvent left(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
+    QFocusEvent back(QEvent::FocusIn, Qt::ActiveWindowFocusReason);
+    QApplication::sendEvent(&tool, &left);
+    QApplication::sendEvent(&tool, &back);
+    EXPECT_EQ(shot(), ring) << "another window was used meanwhile";
+    tool.clearFocus();
+    tool.setFocus(Qt::MouseFocusReason);
+    EXPECT_EQ(shot(), rest) << "the ring is the keyboard's";
+    tool.setEnabled(false);
+    EXPECT_NE(shot(), rest);
+    tool.setEnabled(true);
+    QTest::mousePress(&tool, Qt::LeftButton, {}, inside);
+    EXPECT_NE(shot(), rest);
+    QTest::mouseRelease(&tool, Qt::LeftButton, {}, outside);
+}
+
+TEST_F(ToolLabelTest, ACaptionIsNeverClipped)
+{
+    tool.setText("Bildkonverterfenster");
+    const auto image = shot();
+    for (int y = 0; y < image.height(); ++y) { // nothing of the text at the edges
+        EXPECT_EQ(image.pixelColor(0, y), image.pixelColor(0, 0));
+        EXPECT_EQ(image.pixelColor(69, y), image.pixelColor(69, 0));
+    }
+}
+
+} // namespace
+} // namespace quillmere

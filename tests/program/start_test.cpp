@@ -1,0 +1,93 @@
+#include "program/frm_start.h"
+#include "program/single_instance.h"
+
+#include "support/scratch_folder.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QTest>
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace quillmere {
+namespace {
+
+using test::ScratchFolder;
+
+struct Instances : testing::Test {
+    ScratchFolder folder;
+    QString store = QString::fromStdString(folder.path() + "Quillmere.conf");
+};
+
+TEST_F(Instances, TheSecondShowsTheFirstAndTheNextIsFirstAgain)
+{
+    int shown = 0;
+    {
+        SingleInstance first(store);
+        ASSERT_TRUE(first.isFirst());
+        first.onAsked([&] { ++shown; });
+        const SingleInstance second(store);
+        EXPECT_FALSE(second.isFirst());
+        second.ActivatePreviousInstance();
+        second.ActivatePreviousInstance();
+        EXPECT_TRUE(QTest::qWaitFor([&] { return shown == 2; }));
+        EXPECT_TRUE(SingleInstance(store + "2").isFirst()) << "another store";
+        EXPECT_FALSE(QFile::exists(store));
+    }
+    EXPECT_TRUE(SingleInstance(store).isFirst());
+}
+
+TEST_F(Instances, OneThatWasKilledDoesNotStandInTheWay)
+{
+    int channel[2];
+    ASSERT_EQ(::pipe(channel), 0);
+    const auto child = ::fork();
+    if (child == 0) {
+        const SingleInstance first(store);
+        static_cast<void>(::write(channel[1], first.isFirst() ? "1" : "0", 1));
+        ::pause();
+        ::_exit(0);
+    }
+    char begun = 0;
+    ASSERT_EQ(::read(channel[0], &begun, 1), 1);
+    EXPECT_EQ(begun, '1');
+    EXPECT_FALSE(SingleInstance(store).isFirst());
+    ::kill(child, SIGKILL);
+    ::waitpid(child, nullptr, 0);
+    SingleInstance next(store);
+    EXPECT_TRUE(next.isFirst());
+    bool isShown = false;
+    next.onAsked([&] { isShown = true; });
+    SingleInstance(store).ActivatePreviousInstance();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return isShown; }));
+}
+
+TEST(Splash, StandsForItsTimeWhateverIsPressedAndDoesItsWorkOnce)
+{
+    int work = 0;
+    qint64 workedMs = 0;
+    QElapsedTimer clock;
+    frmStart splash("/nowhere/splash.bmp", [&] {
+        ++work;
+        workedMs = clock.elapsed();
+    });
+    QTimer::singleShot(100, &splash, [&] {
+        QTest::keyClick(&splash, Qt::Key_Escape);
+        splash.close();
+        EXPECT_TRUE(splash.isVisible());
+    });
+    clock.start();
+    splash.exec();
+    EXPECT_EQ(work, 1);
+    EXPECT_GE(workedMs, 745);
+    EXPECT_LT(workedMs, 1000);
+    EXPECT_FALSE(splash.isVisible());
+}
+
+} // namespace
+} // namespace quillmere
