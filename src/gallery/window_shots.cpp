@@ -6,8 +6,11 @@
 #include "document/platform/disk_work_files.h"
 #include "document/platform/mount_table.h"
 #include "document/text/failure.h"
+#include "editor/dialogs/frm_image.h"
+#include "editor/dialogs/frm_justify.h"
 #include "editor/window/deck_costs.h"
 #include "editor/window/deck_costs_form.h"
+#include "editor/window/element_forms.h"
 #include "editor/window/frm_prepare.h"
 #include "forms/system_file_dialogs.h"
 #include "forms/text.h"
@@ -16,8 +19,10 @@
 #include "imageconv/wbmp_display_copies.h"
 #include "project/deck_files.h"
 
+#include <QAction>
 #include <QApplication>
 #include <QDir>
+#include <QTimer>
 
 #include <algorithm>
 
@@ -26,6 +31,7 @@ namespace {
 
 constexpr int kScreens[] = {96, 192}; // dpi
 constexpr int kAltTextPx = 11;
+constexpr int kModalMs = 300; // until a dialog stands
 
 QFont altTextFont()
 {
@@ -125,6 +131,67 @@ void photographCosts(GallerySession& gallery, const QString& path)
     photograph(form, path);
 }
 
+/// A dialog over the deck of an example: what the caret stands behind, or what is marked.
+struct FormShot {
+    const char* name;
+    const char* area; ///< the number of clicks on the next area, as digits
+    const char* text;
+    bool isMarked;
+    const char* entry; ///< of the window's menus
+};
+
+constexpr FormShot kFormShots[] = {
+    {"frmArea-neu", "", "", false, "mnuContext1AreaInsert"},
+    {"frmArea", "", "", false, "mnuContext1AreaParameters"},
+    {"frmTable-neu", "", "", false, "mnuContext1InsertTable"},
+    {"frmTable", "1", "Kilo", false, "mnuContext2PrepareElement"},
+    {"frmOption", "", "", false, "mnuContext1InsertOption"},
+    {"frmLinks", "", "", false, "mnuContext1InsertHyperlink"},
+    {"frmTextFormat", "", "Hofladen", true, "mnuContext1FormatText"},
+};
+
+void photographModal(const QString& path)
+{
+    QTimer::singleShot(kModalMs, qApp, [path] {
+        auto* form = QApplication::activeModalWidget();
+        if (form == nullptr) return;
+        photograph(*form, path);
+        form->close();
+    });
+}
+
+void photographForms(GallerySession& gallery, const QString& examples, const QString& path)
+{
+    frmPrepare window(gallery.session, gallery.workFiles);
+    window.offerStandardOutput = [](const QStringList&) { return false; };
+    registerElementForms(window, gallery.session);
+    window.Form_Load();
+    window.show();
+    QApplication::processEvents();
+    OpenDocument(gallery.session, "index.wml", corePath(examples + "/hofladen/"));
+    for (const auto& shot : kFormShots) {
+        for (const char* digit = shot.area; *digit != '\0'; ++digit)
+            window.findChild<QAbstractButton*>("btnAreaNext")->click();
+        auto& surface = window.surface();
+        surface.moveCursor(QTextCursor::Start);
+        if (*shot.text != '\0') surface.find(QString::fromUtf8(shot.text));
+        if (!shot.isMarked) surface.setCaretOffset(surface.caretOffset());
+        photographModal(path + shot.name);
+        window.findChild<QAction*>(QLatin1String(shot.entry))->trigger();
+        for (const char* digit = shot.area; *digit != '\0'; ++digit)
+            window.findChild<QAbstractButton*>("btnAreaPrev")->click();
+    }
+    frmJustify justify(gallery.session, window.surface(), &window);
+    justify.SetInitializations();
+    justify.show();
+    photograph(justify, path + "frmJustify");
+    frmImage image(gallery.session, window.surface(), &window);
+    image.SetInitializations(true, {});
+    image.show();
+    photograph(image, path + "frmImage");
+    window.hide();
+}
+
 } // namespace
 
 void writeWindowShots(const QString& skins, const QString& examples, const QString& directory)
@@ -139,6 +206,7 @@ void writeWindowShots(const QString& skins, const QString& examples, const QStri
             photographWindow(gallery, shot, examples, path + shot.name);
         photographCosts(gallery, path + "verluste");
     }
+    photographForms(gallery, examples, directory + "/form-");
 }
 
 } // namespace quillmere

@@ -6,6 +6,7 @@
 #include "app/settings.h"
 #include "document/platform/paths.h"
 #include "document/text/failure.h"
+#include "editor/window/element_forms.h"
 #include "forms/frm_about_quillmere.h"
 #include "forms/frm_assistent.h"
 #include "forms/overlay.h"
@@ -200,6 +201,7 @@ void Program::showAssistant()
 
 void Program::registerForms()
 {
+    registerElementForms(window_, session_);
     const auto registerForm = [this]<class Form>(const char* name, std::in_place_type_t<Form>) {
         window_.registerForm(
             name, [this](const FormCall&) { Form(session_, &window_).showModally(); });

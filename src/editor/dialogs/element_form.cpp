@@ -46,12 +46,11 @@ QString ElementForm::word(int id) const
     return shownText(session().words.GetWord(id));
 }
 
-QString ElementForm::formText(const char* id, const QString& otherwise) const
+QString ElementForm::formText(std::int16_t variant, const char* otherwise) const
 {
-    const auto& table = session().forms.table();
-    const auto* form = findForm(table, coreText(objectName()));
-    const auto* entry = form == nullptr ? nullptr : findControl(table, *form, id);
-    return entry == nullptr || entry->Text.empty() ? otherwise : shownText(entry->Text);
+    const auto* entry = findForm(session().forms.table(), coreText(objectName()), variant);
+    const bool hasText = entry != nullptr && !entry->Caption.empty();
+    return hasText ? shownText(entry->Caption) : QString::fromUtf8(otherwise);
 }
 
 bool ElementForm::confirms(int id) const

@@ -10,9 +10,17 @@
 #include <QPushButton>
 
 #include <cstddef>
+#include <cstdint>
 #include <string>
 
 namespace quillmere {
+
+// The variants of a form's resources that hold a single text each.
+namespace text_variant {
+inline constexpr std::int16_t kEditText = 1; ///< title of the form that changes an element
+inline constexpr std::int16_t kNewText = 2; ///< title of the form that inserts one
+inline constexpr std::int16_t kAreaText = 4; ///< stands ahead of an area's number
+} // namespace text_variant
 
 /// What the dialogs of elements share: the surface and the text of the shown area, and the buttons.
 /// The surface must be stored in the area's design work file before such a form opens.
@@ -28,8 +36,8 @@ protected:
     /// The position from which a found element is searched: one ahead of it.
     [[nodiscard]] static int searchPosition(const Hit& hit);
     [[nodiscard]] QString word(int id) const;
-    /// The text that the resources have for the entry `id` of this form, or else `otherwise`.
-    [[nodiscard]] QString formText(const char* id, const QString& otherwise) const;
+    /// The caption of the variant `variant` of this form's resources, or else `otherwise`.
+    [[nodiscard]] QString formText(std::int16_t variant, const char* otherwise) const;
     /// Puts a word as a question with the stop icon; true for Yes.
     [[nodiscard]] bool confirms(int id) const;
     /// Tells what is wrong with a control's content and brings the focus there.

@@ -9,7 +9,6 @@
 #include "document/platform/word_ids.h"
 #include "editor/elements/jump_edit.h"
 #include "editor/elements/typed_values.h"
-#include "forms/overlay.h"
 #include "forms/text.h"
 
 #include <QGridLayout>
@@ -22,7 +21,6 @@ namespace quillmere {
 namespace {
 
 constexpr const char* kNewTitle = "Nicht festgelegt";
-constexpr std::int16_t kNewAreaTexts = 1; // variant of the form's texts
 
 QString typed(std::string_view markup)
 {
@@ -76,12 +74,11 @@ void frmArea::SetInitializations(bool newElement)
 {
     loadTexts();
     NewElement = newElement;
-    objFrmLink->fillAreas(formText("4", "Bereich"));
+    objFrmLink->fillAreas(formText(text_variant::kAreaText, "Bereich"));
     objFrmLink->setDefaults();
     btnDelete->setVisible(!NewElement);
     if (NewElement) {
-        setWindowTitle("Bereich einfügen");
-        OverlayForm(*this, session(), kNewAreaTexts);
+        setWindowTitle(formText(text_variant::kNewText, "Bereich einfügen"));
         txtId->setText(typed(freeId()));
         txtTitle->setText(kNewTitle);
     } else {

@@ -116,7 +116,8 @@ void frmImage::SetInitializations(bool newElement, const Hit& hit)
     mImageFound = hit.Inside;
     mImagePos = searchPosition(hit);
     NewElement = newElement || !mImageFound;
-    setWindowTitle(NewElement ? formText("2", "Bild einfügen") : formText("1", "Bild bearbeiten"));
+    setWindowTitle(NewElement ? formText(text_variant::kNewText, "Bild einfügen")
+                              : formText(text_variant::kEditText, "Bild bearbeiten"));
     btnDelete->setVisible(!NewElement);
     for (auto* field : {txtImage, txtHeight, txtWidth})
         field->clear();

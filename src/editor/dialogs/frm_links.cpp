@@ -40,12 +40,12 @@ void frmLinks::SetInitializations(bool newElement, const Hit& hit)
     mLinkFound = hit.Inside;
     mLinkPos = searchPosition(hit);
     NewElement = newElement || !mLinkFound;
-    objFrmLink->fillAreas(formText("4", "Bereich"));
+    objFrmLink->fillAreas(formText(text_variant::kAreaText, "Bereich"));
     objFrmLink->setDefaults();
     const auto marked = surface().selectedText().simplified();
     txtCaption->setText(markedText().empty() || marked.isEmpty() ? word(word::kLinkText) : marked);
-    setWindowTitle(
-        NewElement ? formText("2", "Hyperlink einfügen") : formText("1", "Hyperlink bearbeiten"));
+    setWindowTitle(NewElement ? formText(text_variant::kNewText, "Hyperlink einfügen")
+                              : formText(text_variant::kEditText, "Hyperlink bearbeiten"));
     btnDelete->setVisible(!NewElement);
     const auto link = NewElement ? std::nullopt : GetLink(designText(), mLinkPos);
     if (link) {

@@ -40,11 +40,11 @@ void frmOption::SetInitializations(bool newElement, const Hit& hit)
     mOptionFound = hit.Inside;
     mOptionPos = searchPosition(hit);
     NewElement = newElement || !mOptionFound;
-    objFrmLink->fillAreas(formText("4", "Bereich"));
+    objFrmLink->fillAreas(formText(text_variant::kAreaText, "Bereich"));
     objFrmLink->setDefaults();
     txtCaption->setText(word(word::kOptionText) + QString::number(area() + 1));
-    setWindowTitle(NewElement ? formText("2", "Optionsfeld einfügen")
-                              : formText("1", "Optionsfeld bearbeiten"));
+    setWindowTitle(NewElement ? formText(text_variant::kNewText, "Optionsfeld einfügen")
+                              : formText(text_variant::kEditText, "Optionsfeld bearbeiten"));
     btnDelete->setVisible(!NewElement);
     const auto option = NewElement ? std::nullopt : GetOption(designText(), mOptionPos);
     if (option) {

@@ -77,6 +77,8 @@ void frmTable::SetInitializations(bool newElement, const Hit& hit)
     loadTexts();
     if (cboAlign->count() == 0) cboAlign->addItems({"Links", "Mittig", "Rechts"});
     NewElement = newElement;
+    setWindowTitle(NewElement ? formText(text_variant::kNewText, "Tabelle einfügen")
+                              : formText(text_variant::kEditText, "Tabelle bearbeiten"));
     mTableFound = hit.Inside;
     mTablePos = searchPosition(hit);
     const double number = QRandomGenerator::global()->generateDouble() * kTitleNumbers;

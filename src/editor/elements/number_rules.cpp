@@ -6,12 +6,19 @@
 
 #include <algorithm>
 #include <charconv>
+#include <iterator>
 
 namespace quillmere {
 
 namespace {
 
 constexpr std::size_t kMaxFieldLength = 9;
+constexpr std::size_t kMaxTypedLength = 8;
+
+bool isDigit(char character)
+{
+    return character >= '0' && character <= '9';
+}
 
 std::string_view digitsOf(std::string_view text)
 {
@@ -22,14 +29,17 @@ std::string_view digitsOf(std::string_view text)
 
 std::string NumberFilter(std::string_view text)
 {
-    return CleanNumberText(text);
+    auto digits = CleanNumberText(text);
+    if (!digits.empty()) return digits;
+    std::ranges::copy_if(text, std::back_inserter(digits), isDigit);
+    return digits.substr(0, kMaxTypedLength);
 }
 
 bool isFieldNumber(std::string_view text)
 {
     const auto digits = digitsOf(text);
     return text.size() <= kMaxFieldLength && !digits.empty()
-        && std::ranges::all_of(digits, [](char c) { return c >= '0' && c <= '9'; });
+        && std::ranges::all_of(digits, isDigit);
 }
 
 std::optional<int> fieldNumber(std::string_view text, NumberLimits limits)

@@ -8,7 +8,8 @@
 
 namespace quillmere {
 
-/// What stays of a text while it is typed: see CleanNumberText. At most 8 digits.
+/// What stays of a text while it is typed: see CleanNumberText; of a text that is no number its
+/// digits, so that a letter typed by mistake does not empty the field. At most 8 digits.
 [[nodiscard]] std::string NumberFilter(std::string_view text);
 
 /// Whether a text counts as a number: at most 9 characters, all digits, or digits with a comma

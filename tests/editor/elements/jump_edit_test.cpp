@@ -54,7 +54,7 @@ TEST(NumberRules, AreThoseOfTheFields)
         EXPECT_EQ(isFieldNumber(row.text), row.isNumber);
         EXPECT_EQ(fieldNumber(row.text, {1, 30}), row.value);
     }
-    EXPECT_EQ(NumberFilter("12a"), "");
+    EXPECT_EQ(NumberFilter("12a3"), "123");
     EXPECT_EQ(NumberFilter("1.234"), "1234");
     EXPECT_EQ(NumberFilter("1234567890"), "12345678");
 }

@@ -44,7 +44,7 @@ TEST(LinkEdits, KeepWhatStandsAround)
     EXPECT_TRUE(canBecomeLink(text, {3, 10}));
     EXPECT_FALSE(canBecomeLink(text, {3, 22})); // two paragraphs
     EXPECT_FALSE(canBecomeLink(text, {21, 28})); // a line break
-    EXPECT_FALSE(canBecomeLink(text, {27, 40})); // a link
+    EXPECT_FALSE(canBecomeLink(text, {27, 41})); // a link
     const std::string old = "x<A HREF=#a title=t><b>y</b></A>z<a href=\"#\">2</a>";
     EXPECT_EQ(
         withCaret(ReplaceLink(old, 1, {"n", "#n"})), "x<a href=\"#n\">n</a>|z<a href=\"#\">2</a>");

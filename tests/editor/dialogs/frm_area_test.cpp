@@ -1,0 +1,95 @@
+#include "document/card_attributes.h"
+#include "editor/dialogs/element_desk.h"
+
+#include <QComboBox>
+
+namespace quillmere::test {
+namespace {
+
+TEST(FrmArea, AddsAnAreaBehindTheLast)
+{
+    ElementDesk desk;
+    desk.openCards({"eins"});
+    desk.use("mnuContext1AreaInsert", [](QWidget& form) {
+        EXPECT_FALSE(control(form, "btnDelete").isVisible());
+        EXPECT_EQ(textOf(form, "txtId"), "Bereich2");
+        type(form, "txtId", "Kontakt");
+        type(form, "txtTitle", "Wer \"wir\" sind");
+        QTest::keyClick(&form, Qt::Key_Return);
+    });
+    auto& document = desk.session.document;
+    EXPECT_EQ(document.currentArea, 1);
+    EXPECT_EQ(GetCardAttributes(document, 1).id, "Kontakt");
+    EXPECT_EQ(GetCardAttributes(document, 1).title, "Wer &quot;wir&quot; sind");
+    EXPECT_EQ(GetJump(document, 0).target, "#Kontakt"); // the area ahead leads there
+    EXPECT_EQ(GetJump(document, 1).label, "");
+}
+
+TEST(FrmArea, ChangesIdTitleAndJump)
+{
+    ElementDesk desk;
+    desk.openCards({"<a href=\"#b\">zwei</a>", "zwei"});
+    desk.use("mnuContext1AreaParameters", [](QWidget& form) {
+        type(form, "txtJumpSelectionCaption", "Los");
+        control<QComboBox>(form, "cboLink").setCurrentIndex(1);
+        click(form, "btnNew");
+    });
+    auto& document = desk.session.document;
+    EXPECT_EQ(GetJump(document, 0).label, "Los");
+    EXPECT_EQ(GetJump(document, 0).target, "#b");
+    desk.window.RefreshSurface();
+    desk.click("btnAreaNext");
+    desk.use("mnuContext1AreaParameters", [](QWidget& form) {
+        type(form, "txtId", "c");
+        click(form, "btnNew");
+    });
+    EXPECT_EQ(GetJump(document, 0).target, "#c"); // what led there leads there still
+    EXPECT_NE(desk.content(0).find("<a href=\"#c\">"), std::string::npos);
+    desk.click("btnAreaPrev");
+    desk.use("mnuContext1AreaParameters", [](QWidget& form) {
+        EXPECT_EQ(textOf(form, "txtJumpSelectionCaption"), "Los");
+        EXPECT_EQ(control<QComboBox>(form, "cboLink").currentText(), "Bereich 2");
+        type(form, "txtJumpSelectionCaption", "");
+        QTest::keyClick(&control(form, "txtJumpSelectionCaption"), Qt::Key_Backspace);
+        click(form, "btnNew");
+    });
+    EXPECT_EQ(desk.design(0).find("<!--do"), std::string::npos);
+}
+
+TEST(FrmArea, RefusesIdsThatNoLinkCanLeadTo)
+{
+    ElementDesk desk;
+    desk.openCards({"eins", "zwei"});
+    const auto before = desk.design(0);
+    desk.use("mnuContext1AreaParameters", [](QWidget& form) {
+        for (const char* id : {"b", "x y", "a\"b", " "}) {
+            type(form, "txtId", id);
+            click(form, "btnNew");
+            EXPECT_TRUE(form.isVisible()) << id;
+            EXPECT_EQ(form.focusWidget(), &control(form, "txtId"));
+        }
+        QTest::keyClick(&form, Qt::Key_Escape);
+    });
+    EXPECT_EQ(desk.messages.taken().size(), 4U);
+    EXPECT_EQ(desk.design(0), before);
+}
+
+TEST(FrmArea, DeletesAreasToTheLast)
+{
+    ElementDesk desk;
+    desk.openCards({"eins", "zwei"});
+    desk.click("btnAreaNext");
+    desk.messages.answers = {true, true};
+    const auto remove = [](QWidget& form) { click(form, "btnDelete"); };
+    desk.use("mnuContext1AreaParameters", remove);
+    EXPECT_EQ(desk.session.document.currentArea, 0);
+    EXPECT_NE(desk.content().find("eins"), std::string::npos);
+    EXPECT_TRUE(desk.window.docChanged());
+    desk.use("mnuContext1AreaParameters", remove);
+    EXPECT_EQ(areaCount(desk.session.document.deck), 0U);
+    EXPECT_FALSE(desk.surface().isVisible());
+    EXPECT_EQ(desk.messages.taken(), (std::vector<std::string>{"ask 4", "ask 4"}));
+}
+
+} // namespace
+} // namespace quillmere::test
