@@ -44,7 +44,8 @@ DeckCostsForm::DeckCostsForm(Session& session, const QStringList& costs, QWidget
     column->addWidget(lblDescription);
     column->addWidget(lstCosts, 1);
     column->addLayout(buttons);
-    resize(kWidthPx, sizeHint().height());
+    resize(kWidthPx, column->totalHeightForWidth(kWidthPx));
+    btnStandard->setFocus();
 }
 
 bool DeckCostsForm::offer(Session& session, const QStringList& costs, QWidget* parent)

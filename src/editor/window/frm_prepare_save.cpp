@@ -127,11 +127,13 @@ void frmPrepare::warnOfCosts()
     useStandardOutput();
 }
 
-/// The deck is opened once more: what the default drops on the way in is then there as well.
+/// The deck is opened once more: what the default drops on the way in is then there as well. One
+/// with changes, such as a recovered one, keeps them and is written by the switch from now on.
 void frmPrepare::useStandardOutput()
 {
     session_.settings.WriteSetting("StandardOutput", "Yes");
     session_.document.output = OutputRules(true);
+    if (docChanged()) return;
     const auto first = session_.document.deck.front();
     OpenDocument(session_, first.deckFile, first.deckDir);
 }
