@@ -62,10 +62,10 @@ void frmTextFormat::layOut()
 {
     auto* boxes = new QVBoxLayout(Frame1);
     for (auto* box : {chkBold, chkItalic, chkUnderline})
-        boxes->addWidget(box);
+        boxes->addWidget(box, 0, Qt::AlignLeft);
     auto* sizes = new QVBoxLayout(optFrame);
     for (auto* button : optSchrift)
-        sizes->addWidget(button);
+        sizes->addWidget(button, 0, Qt::AlignLeft);
     lblPrevBackground->setFrameShape(QFrame::StyledPanel);
     lblPrevBackground->setAutoFillBackground(true);
     lblPrevBackground->setBackgroundRole(QPalette::Base);
