@@ -20,8 +20,8 @@ constexpr int kLargestPoints = 200;
 
 QRect placeOf(const SkinItem& item)
 {
-    return QRect(item.Left, item.Top, std::clamp<int>(item.Width, 0, kLargestSize),
-        std::clamp<int>(item.Height, 0, kLargestSize));
+    return {item.Left, item.Top, std::clamp<int>(item.Width, 0, kLargestSize),
+        std::clamp<int>(item.Height, 0, kLargestSize)};
 }
 
 void setPlace(QWidget& control, const SkinItem& item)
@@ -104,7 +104,7 @@ QString skinDirectory(const SettingsStore& settings)
 /// A place left of or right of another one, in the same row.
 QRect between(int left, int right, const QRect& row)
 {
-    return QRect(left, row.top(), std::max(0, right - left), row.height());
+    return {left, row.top(), std::max(0, right - left), row.height()};
 }
 
 constexpr int kGap = 8;
@@ -114,7 +114,7 @@ constexpr int kGap = 8;
 QColor skinColour(std::int32_t colour)
 {
     const auto bits = static_cast<std::uint32_t>(colour);
-    return QColor(int(bits & 0xFFU), int(bits >> 8U & 0xFFU), int(bits >> 16U & 0xFFU));
+    return {int(bits & 0xFFU), int(bits >> 8U & 0xFFU), int(bits >> 16U & 0xFFU)};
 }
 
 void ApplyItem(QWidget& control, const SkinItem& item, const QString& directory)
@@ -176,6 +176,10 @@ void ApplyPreviewSkin(QWidget& frmPreview, SkinTables& tables, const SettingsSto
     if (!index) return;
     const auto skin = tables.PreviewSkins[*index];
     const auto directory = skinDirectory(settings);
+    auto palette = frmPreview.palette();
+    palette.setColor(
+        QPalette::Window, skinColour(itemOf(skin, PreviewPart::AddressLabel).BackColor));
+    frmPreview.setPalette(palette);
     if (display) display(pageLook(itemOf(skin, PreviewPart::Display), screenTwips(frmPreview)));
     for (const auto& control : kPreviewControls)
         applyTo(frmPreview, shownText(control.name), itemOf(skin, control.part), directory);

@@ -43,7 +43,8 @@ void ApplyItem(QWidget& control, const SkinItem& item, const QString& directory)
 void ApplyEditorSkin(QWidget& frmPrepare, SkinTables& tables, const SettingsStore& settings,
     const StylePage& surface);
 
-/// The same for the preview and the active telephone; the pressed keys are hidden.
+/// The same for the preview and the active telephone; the pressed keys are hidden. The window's
+/// ground is that of lblAddress.
 void ApplyPreviewSkin(QWidget& frmPreview, SkinTables& tables, const SettingsStore& settings,
     const StylePage& display);
 

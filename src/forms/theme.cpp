@@ -6,6 +6,9 @@
 #include "forms/theme_style.h"
 #include "skins/skin_controls.h"
 
+#include <cmath>
+#include <memory>
+
 namespace quillmere {
 
 namespace {
@@ -36,7 +39,7 @@ bool isDark(const QColor& colour)
 
 QColor blended(const QColor& from, const QColor& to, double share)
 {
-    const auto part = [share](int a, int b) { return int(a + (b - a) * share + 0.5); };
+    const auto part = [share](int a, int b) { return int(std::lround(a + (b - a) * share)); };
     return QColor(
         part(from.red(), to.red()), part(from.green(), to.green()), part(from.blue(), to.blue()));
 }
@@ -115,7 +118,8 @@ void applyTheme(QApplication& application, const Theme& theme)
     constexpr int kControlPoints = 10;
     QFont font(QStringLiteral("Inter"));
     font.setPointSize(kControlPoints);
-    QApplication::setStyle(new ThemeStyle(theme)); // the application owns it
+    auto style = std::make_unique<ThemeStyle>(theme);
+    QApplication::setStyle(style.release()); // the application owns it
     application.setFont(font);
     application.setPalette(paletteOf(theme));
 }

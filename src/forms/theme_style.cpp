@@ -232,7 +232,10 @@ void ThemeStyle::drawCombo(
     const QStyleOptionComplex& option, QPainter& painter, const QWidget* widget) const
 {
     const auto* combo = qstyleoption_cast<const QStyleOptionComboBox*>(&option);
-    QStyleOption field(option);
+    QStyleOption field;
+    field.rect = option.rect;
+    field.palette = option.palette;
+    field.state = option.state;
     field.state.setFlag(State_HasFocus,
         is(option, State_HasFocus) && (combo->editable || is(option, State_KeyboardFocusChange)));
     drawField(field, painter);

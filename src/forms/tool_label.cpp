@@ -78,7 +78,7 @@ bool ToolLabel::isBeside() const
 QRect ToolLabel::captionPlace() const
 {
     if (isBeside()) return rect().adjusted(kIconRoom, 0, -2, 0);
-    return QRect(2, height() - kCaptionHeight - 5, width() - 4, kCaptionHeight);
+    return {2, height() - kCaptionHeight - 5, width() - 4, kCaptionHeight};
 }
 
 void ToolLabel::showHeld()

@@ -57,7 +57,7 @@ enum class PreviewPart : std::size_t {
     TaskCaption = 2,
     Address = 3,
     Display = 4,
-    AddressLabel = 5,
+    AddressLabel = 5, ///< its BackColor is the preview's ground as well
     SearchButton = 6,
     DisplayDefault = 7, ///< the maker's values of the display; no control takes them
 };

@@ -16,6 +16,8 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 namespace quillmere {
 namespace {
 
@@ -123,7 +125,9 @@ TEST(SkinShots, EveryTelephoneLightsTheKeyThatIsHeld)
             label->setAlignment(Qt::AlignCenter);
             label->setText(caption == QLatin1String("lblCardCaption") ? "Willkommen" : "Auswahl");
         }
-        window.resize(body->geometry().right() + 30, body->geometry().bottom() + 20);
+        window.findChild<QLabel*>("lblAddress")->setText("Adresse:");
+        window.findChild<QLineEdit*>("txtAdress")->setText("~/cafe/index.wml");
+        window.resize(std::max(body->geometry().right() + 20, 399), body->geometry().bottom() + 20);
         window.show();
         const auto rest = window.grab().toImage();
         QMouseEvent press(QEvent::MouseButtonPress, QPointF(5, 5), QPointF(5, 5), Qt::LeftButton,

@@ -61,6 +61,11 @@ TEST(SkinTokens, EveryEditorSkinCanBeReadInEveryState)
 
 TEST(SkinTokens, EveryTelephoneCanBeRead)
 {
+    constexpr StageTokens kStage;
+    expectContrasts({
+        {"label round the telephone", kStage.ink, kStage.ground, kTextContrast},
+        {"address", kStage.fieldInk, kStage.field, kTextContrast},
+    });
     for (const auto* t : {&kNordlicht, &kWeitblick, &kFalter}) {
         expectContrasts({
             {"page", t->displayInk, t->display, kTextContrast},

@@ -13,8 +13,8 @@ QString textOf(std::string_view text)
 
 QRectF iconPlace(const ToolPlace& tool, const QPointF& corner)
 {
-    return QRectF(corner.x() + (tool.box.width - tool.iconSize) / 2.0, corner.y() + tool.iconTop,
-        tool.iconSize, tool.iconSize);
+    return {corner.x() + (tool.box.width - tool.iconSize) / 2.0, corner.y() + tool.iconTop,
+        double(tool.iconSize), double(tool.iconSize)};
 }
 
 /// The shell is a little lighter at its top, as if lit from there, and has a line round it.

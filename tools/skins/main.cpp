@@ -12,7 +12,7 @@
 #include <QFile>
 #include <QGuiApplication>
 
-#include <cstdio>
+#include <iostream>
 #include <string>
 
 namespace quillmere {
@@ -84,13 +84,13 @@ int main(int argc, char** argv)
     const QGuiApplication application(argc, argv);
     const auto arguments = QGuiApplication::arguments();
     if (arguments.size() != 3) {
-        std::fputs("make-skins ICONS DATA\n", stderr);
+        std::cerr << "make-skins ICONS DATA\n";
         return 1;
     }
     try {
         quillmere::writeAll(arguments[1], arguments[2]);
     } catch (const quillmere::Failure& failure) {
-        std::fprintf(stderr, "%s\n", failure.utf8().c_str());
+        std::cerr << failure.utf8() << '\n';
         return 2;
     }
     return 0;

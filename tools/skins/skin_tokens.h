@@ -84,6 +84,14 @@ inline constexpr SkinTokens kEditorTokens[] = {
 /// How far a colour under the pointer goes from its ground to the ink, in percent.
 inline constexpr std::uint32_t kHoverShare = 9;
 
+/// The colours of the preview round its telephone, the same with every skin of the editor.
+struct StageTokens {
+    std::uint32_t ground = 0xA9BBC5;
+    std::uint32_t ink = 0x1E262B;
+    std::uint32_t field = 0xF8F5EE; ///< the line for addresses and its button
+    std::uint32_t fieldInk = 0x23292E;
+};
+
 /// The colours of one telephone, as 0xRRGGBB.
 struct TelephoneTokens {
     std::uint32_t bodyLight = 0; ///< the body runs from the one to the other

@@ -88,8 +88,9 @@ void drawPad(QPainter& painter, const Telephone& telephone)
     const auto& t = telephone.tokens;
     painter.setFont(programFont(14, QFont::DemiBold));
     for (int i = 0; i < kLabels.size(); ++i) {
-        const QRectF place(box.left + (i % columns) * (width + gap),
-            box.top + (i / columns) * (height + gap), width, height);
+        const int row = i / columns;
+        const QRectF place(box.left + (i % columns) * (width + gap), box.top + row * (height + gap),
+            width, height);
         const double corner = std::min(width, height) / 2;
         fillRounded(painter, place, corner, colour(t.pad));
         strokeRounded(painter, place, corner, colour(mixed(t.pad, 0x000000, 28)));

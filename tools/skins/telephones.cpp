@@ -134,7 +134,8 @@ private:
 
     void setScreen()
     {
-        const auto& [t, screen] = std::pair(telephone_.tokens, telephone_.screen);
+        const auto& t = telephone_.tokens;
+        const auto& screen = telephone_.screen;
         const auto caption = [&](int top) {
             return placed(telephone_, {screen.left, top, screen.width, kCaptionHeight});
         };
@@ -151,15 +152,16 @@ private:
     void setAddress()
     {
         const int width = std::max(kPreviewWidth, telephone_.picture.width + 40);
-        const auto& colours = kEditorTokens[0];
-        const auto look = [&](Box box, std::uint32_t back) {
-            return ItemLook{box, back, colours.ink, "", ItemLook::kControlPoints};
+        constexpr StageTokens kStage;
+        const auto look = [](Box box, std::uint32_t back, std::uint32_t fore) {
+            return ItemLook{box, back, fore, "", ItemLook::kControlPoints};
         };
-        set(PreviewPart::AddressLabel, look({20, 16, 64, 36}, colours.shell));
-        set(PreviewPart::Address, look({88, 16, width - 152, 36}, colours.panel));
-        set(PreviewPart::SearchButton, look({width - 56, 16, 36, 36}, colours.panel));
+        set(PreviewPart::AddressLabel, look({20, 16, 64, 36}, kStage.ground, kStage.ink));
+        set(PreviewPart::Address, look({88, 16, width - 152, 36}, kStage.field, kStage.fieldInk));
+        set(PreviewPart::SearchButton,
+            look({width - 56, 16, 36, 36}, kStage.field, kStage.fieldInk));
         record_.items.at(static_cast<std::size_t>(PreviewPart::SearchButton))
-            .Picture.set("schiefer-icon-folder-open.png");
+            .Picture.set("papier-icon-folder-open.png");
     }
 
     void setKeys()

@@ -139,7 +139,7 @@ private:
     void undoOnSurface();
     void undoOfKey();
     void storeWhenIdle();
-    void tellStored();
+    void tellStored() const;
     void writeDeckFile();
     [[nodiscard]] std::string deckPath() const;
     void rememberFile();

@@ -175,7 +175,7 @@ void frmPrepare::mnuAboutQuillmere()
     openForm("frmAboutQuillmere", {});
 }
 
-void frmPrepare::mnuMoreAboutQuillmere()
+void frmPrepare::mnuMoreAboutQuillmere() // NOLINT(readability-make-member-function-const): a row
 {
     const auto file = session_.settings.ReadSetting("HyperlinkFile");
     if (!file.empty()) openOutside(shownPath(file));
@@ -190,8 +190,10 @@ void frmPrepare::ShowHelp()
 /// The decks that were open last stand below the ways to a new one.
 void frmPrepare::showRecentDecks()
 {
-    for (auto* old : mnuContextOpen->findChildren<QAction*>(QLatin1String(kRecentName)))
-        delete old;
+    for (auto* old : mnuContextOpen->findChildren<QAction*>(QLatin1String(kRecentName))) {
+        mnuContextOpen->removeAction(old);
+        old->deleteLater();
+    }
     const auto paths = RecentDecks(session_.settings).paths();
     if (paths.empty()) return;
     auto* heading = mnuContextOpen->addSection(QStringLiteral("Zuletzt geöffnet"));

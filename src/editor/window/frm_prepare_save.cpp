@@ -60,7 +60,7 @@ void frmPrepare::storeWhenIdle()
     }
 }
 
-void frmPrepare::tellStored()
+void frmPrepare::tellStored() const
 {
     if (session_.afterStore) session_.afterStore(docChanged());
 }
