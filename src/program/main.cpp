@@ -9,8 +9,9 @@
 #include <QDir>
 #include <QFont>
 #include <QIcon>
-
-#include <cstdio>
+#include <QLibraryInfo>
+#include <QMessageBox>
+#include <QTranslator>
 
 namespace quillmere {
 namespace {
@@ -23,6 +24,16 @@ void setLook()
     QFont font(QStringLiteral("Inter"));
     font.setPointSizeF(kFontPt);
     QApplication::setFont(font);
+    const auto logo = QString::fromStdString(AppDirectory()) + QStringLiteral("Logo.ico");
+    if (QFile::exists(logo)) QApplication::setWindowIcon(QIcon(logo));
+}
+
+/// Texts of Qt's own, such as those in its dialog for files.
+void translateQt(QTranslator& translator)
+{
+    const auto folder = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+    if (translator.load(QStringLiteral("qtbase_de"), folder))
+        QApplication::installTranslator(&translator);
 }
 
 StartOptions optionsOf(std::span<char* const> arguments)
@@ -43,6 +54,8 @@ int start(std::span<char* const> arguments)
         return 0;
     }
     setLook();
+    QTranslator translator;
+    translateQt(translator);
     Program program(optionsOf(arguments));
     instance.onAsked([&program] { program.showWindow(); });
     return program.run();
@@ -61,7 +74,9 @@ int main(int argumentCount, char** arguments)
         return quillmere::start(
             std::span(arguments, static_cast<std::size_t>(argumentCount)).subspan(1));
     } catch (const quillmere::Failure& failure) {
-        std::fprintf(stderr, "%s\n", failure.utf8().c_str());
+        // Without a place for work files, say, there is no program yet that could show it.
+        QMessageBox::critical(nullptr, QApplication::applicationDisplayName(),
+            QString::fromStdString(failure.utf8()));
         return 1;
     }
 }

@@ -120,8 +120,13 @@ void Program::showSplash()
 
 void Program::loadResources()
 {
-    trapped(messages_, [this] { forms_.LoadFormResources(settings_); });
-    trapped(messages_, [this] { words_.LoadWordResources(settings_); });
+    // Where settings cannot be kept there is no skin, but nobody should face empty messages.
+    MemorySettings shipped;
+    shipped.WriteSetting("Skins", directories_.writable + "Skins/");
+    const bool hasSkins = !settings_.ReadSetting("Skins").empty();
+    const SettingsStore& source = hasSkins ? static_cast<const SettingsStore&>(settings_) : shipped;
+    trapped(messages_, [&] { forms_.LoadFormResources(source); });
+    trapped(messages_, [&] { words_.LoadWordResources(source); });
     OverlayForm(window_, session_);
     window_.setWindowTitle(QStringLiteral("MORVANE Quillmere")); // the overlay cannot change it
 }

@@ -118,6 +118,20 @@ TEST_F(WholeProgram, IsMovedByItsHandle)
     EXPECT_NEAR(coordinate(place(), "Y="), coordinate(before, "Y=") + 40, 10);
 }
 
+TEST_F(WholeProgram, WorksWithoutAStoreOfSettings)
+{
+    std::filesystem::remove(desktop.folder.path() + "config");
+    (void)desktop.folder.put("config", "a file where the folder should be");
+    const auto program = open();
+    (void)mainWindow();
+    type();
+    press("ctrl+s");
+    desktop.waitUntil("saved deck", [this] { return saved() != kDeck; });
+    EXPECT_EQ(saved(), changed());
+    press("Escape");
+    EXPECT_EQ(desktop.waitForEnd(program), 0);
+}
+
 TEST_F(WholeProgram, OffersWhatAKilledProgramHadNotSaved)
 {
     const auto program = open();
@@ -128,10 +142,10 @@ TEST_F(WholeProgram, OffersWhatAKilledProgramHadNotSaved)
     EXPECT_EQ(saved(), kDeck);
 
     const auto next = desktop.start({QUILLMERE});
-    const auto question = desktop.window("^MORVANE Quillmere$");
+    desktop.waitUntil(
+        "question over the window", [&] { return desktop.windows("^MORVANE Quillmere$") == 2; });
     std::this_thread::sleep_for(std::chrono::milliseconds(500));
     press("Return");
-    (void)question;
     (void)mainWindow();
     press("ctrl+s");
     desktop.waitUntil("saved deck", [this] { return saved() != kDeck; });
