@@ -144,7 +144,7 @@ constexpr FormShot kFormShots[] = {
     {"frmArea-neu", "", "", false, "mnuContext1AreaInsert"},
     {"frmArea", "", "", false, "mnuContext1AreaParameters"},
     {"frmTable-neu", "", "", false, "mnuContext1InsertTable"},
-    {"frmTable", "1", "Kilo", false, "mnuContext2PrepareElement"},
+    {"frmTable", "1", "Kochäpfel", false, "mnuContext2PrepareElement"},
     {"frmOption", "", "", false, "mnuContext1InsertOption"},
     {"frmLinks", "", "", false, "mnuContext1InsertHyperlink"},
     {"frmTextFormat", "", "Hofladen", true, "mnuContext1FormatText"},

@@ -88,7 +88,7 @@ void frmImage::layOut()
     lblDescExtendedInfo->setWordWrap(true);
     auto* rows = new QVBoxLayout(this);
     rows->addLayout(top);
-    rows->addWidget(chkCommitAll);
+    rows->addWidget(chkCommitAll, 0, Qt::AlignLeft);
     rows->addWidget(objFrame);
     rows->addStretch();
     rows->addLayout(buttonRow(btnNew, btnDelete));

@@ -52,7 +52,8 @@ frmTextFormat::frmTextFormat(Session& session, DesignSurface& surface, QWidget* 
     optSchrift[2]->setText("K&lein");
     for (int i = 0; i < 3; ++i)
         optSchrift.at(static_cast<std::size_t>(i))->setProperty("arrayIndex", i);
-    lblPreviour->setText("Vorschau:");
+    lblPreview->setText("Vorschau:");
+    lblPreviour->setText("AaBbÄäÖö");
     btnOk->setText("&OK");
     layOut();
     wire();
@@ -62,21 +63,21 @@ void frmTextFormat::layOut()
 {
     auto* boxes = new QVBoxLayout(Frame1);
     for (auto* box : {chkBold, chkItalic, chkUnderline})
-        boxes->addWidget(box);
+        boxes->addWidget(box, 0, Qt::AlignLeft);
     auto* sizes = new QVBoxLayout(optFrame);
     for (auto* button : optSchrift)
-        sizes->addWidget(button);
+        sizes->addWidget(button, 0, Qt::AlignLeft);
     lblPrevBackground->setFrameShape(QFrame::StyledPanel);
     lblPrevBackground->setAutoFillBackground(true);
     lblPrevBackground->setBackgroundRole(QPalette::Base);
     lblPrevBackground->setMinimumHeight(kPreviewHeightPx);
-    lblPreview->setAlignment(Qt::AlignCenter);
-    lblPreview->setTextFormat(Qt::PlainText);
-    (new QVBoxLayout(lblPrevBackground))->addWidget(lblPreview);
+    lblPreviour->setAlignment(Qt::AlignCenter);
+    lblPreviour->setTextFormat(Qt::PlainText);
+    (new QVBoxLayout(lblPrevBackground))->addWidget(lblPreviour);
     auto* grid = new QGridLayout(this);
     grid->addWidget(Frame1, 0, 0);
     grid->addWidget(optFrame, 0, 1);
-    grid->addWidget(lblPreviour, 1, 0, 1, 2);
+    grid->addWidget(lblPreview, 1, 0, 1, 2);
     grid->addWidget(lblPrevBackground, 2, 0, 1, 2);
     grid->addLayout(buttonRow(btnOk, nullptr), 3, 0, 1, 2);
     grid->setColumnStretch(0, 1);
@@ -129,7 +130,7 @@ void frmTextFormat::SetInitializations()
     setBox(*chkUnderline, formats.underlined);
     if (formats.size) optSchrift.at(static_cast<std::size_t>(*formats.size))->setChecked(true);
     const auto text = surface().selectedText().simplified();
-    lblPreview->setText(text.isEmpty() || text.size() > kPreviewLength ? "Beispieltext" : text);
+    if (!text.isEmpty() && text.size() <= kPreviewLength) lblPreviour->setText(text);
     showPreview();
     chkBold->setFocus();
 }
@@ -155,7 +156,7 @@ void frmTextFormat::showPreview()
         : size == LetterSize::Small               ? kSmallFactor
                                                   : 1;
     font.setPointSizeF(QFontInfo(font).pointSizeF() * factor);
-    lblPreview->setFont(font);
+    lblPreviour->setFont(font);
 }
 
 void frmTextFormat::btnOk_Click()

@@ -42,9 +42,9 @@ private:
     QGroupBox* const optFrame = named<QGroupBox>("optFrame", this);
     const std::array<QRadioButton*, 3> optSchrift{named<QRadioButton>("optSchrift", optFrame),
         named<QRadioButton>("optSchrift", optFrame), named<QRadioButton>("optSchrift", optFrame)};
-    QLabel* const lblPreviour = named<QLabel>("lblPreviour", this);
+    QLabel* const lblPreview = named<QLabel>("lblPreview", this);
     QFrame* const lblPrevBackground = named<QFrame>("lblPrevBackground", this);
-    QLabel* const lblPreview = named<QLabel>("lblPreview", lblPrevBackground);
+    QLabel* const lblPreviour = named<QLabel>("lblPreviour", lblPrevBackground);
     QPushButton* const btnOk = named<QPushButton>("btnOk", this);
 };
 

@@ -34,15 +34,13 @@ TargetBox::TargetBox(Session& session, QWidget* parent)
 void TargetBox::layOut()
 {
     auto* grid = new QGridLayout(this);
-    grid->addWidget(optShowAreaOrder[0], 0, 0, 1, 2);
-    grid->addWidget(cboLink, 1, 0, 1, 2);
-    grid->addWidget(optShowAreaOrder[1], 2, 0, 1, 2);
-    grid->addWidget(txtUrlJump, 3, 0);
-    grid->addWidget(btnSearchUrl, 3, 1);
-    grid->setColumnStretch(0, 1);
-    const int indent = fontMetrics().averageCharWidth() * 3;
-    for (int row : {1, 3})
-        grid->itemAtPosition(row, 0)->widget()->setContentsMargins(indent, 0, 0, 0);
+    grid->addWidget(optShowAreaOrder[0], 0, 0, 1, 3, Qt::AlignLeft);
+    grid->addWidget(cboLink, 1, 1, 1, 2);
+    grid->addWidget(optShowAreaOrder[1], 2, 0, 1, 3, Qt::AlignLeft);
+    grid->addWidget(txtUrlJump, 3, 1);
+    grid->addWidget(btnSearchUrl, 3, 2);
+    grid->setColumnMinimumWidth(0, fontMetrics().averageCharWidth() * 3);
+    grid->setColumnStretch(1, 1);
 }
 
 void TargetBox::wire()

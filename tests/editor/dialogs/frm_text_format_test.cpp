@@ -21,7 +21,7 @@ TEST(FrmTextFormat, FormatsWhatIsMarkedAndKeepsItMarked)
         EXPECT_TRUE(choice(form, 0).isChecked());
         QTest::keyClick(&control(form, "chkBold"), Qt::Key_Space);
         choice(form, 1).click();
-        EXPECT_TRUE(control<QLabel>(form, "lblPreview").font().bold());
+        EXPECT_TRUE(control<QLabel>(form, "lblPreviour").font().bold());
         QTest::keyClick(&form, Qt::Key_Return);
     });
     EXPECT_NE(desk.content().find("eins<big><b> zwei</b></big> drei"), std::string::npos);
