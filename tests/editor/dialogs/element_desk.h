@@ -50,7 +50,9 @@ struct ElementDesk : WindowDesk {
 inline void type(QWidget& form, const char* field, const QString& text)
 {
     auto& control = test::control<QLineEdit>(form, field);
+    form.activateWindow();
     control.setFocus();
+    EXPECT_TRUE(QTest::qWaitFor([&] { return control.hasFocus(); }, 2000)) << field;
     control.selectAll();
     QTest::keyClicks(&control, text);
 }

@@ -75,7 +75,7 @@ TEST(FrmTable, RefusesNumbersOutOfItsLimits)
     desk.use("mnuContext1InsertTable", [&desk](QWidget& form) {
         type(form, "txtRows", "31");
         QTest::keyClick(&control(form, "txtRows"), Qt::Key_Tab);
-        QTest::qWait(20);
+        EXPECT_TRUE(QTest::qWaitFor([&] { return !desk.messages.log.empty(); }, 2000));
         EXPECT_EQ(desk.messages.taken(), std::vector<std::string>{"show 135: 1|30"});
         EXPECT_EQ(textOf(form, "txtRows"), "2");
         EXPECT_EQ(form.focusWidget(), &control(form, "txtRows"));
