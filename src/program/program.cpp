@@ -138,12 +138,12 @@ void Program::applySkins()
     trapped(messages_, [&] { ReadPreviewSkins(skins, settings_, bigFonts); });
     const auto editor = FindSelectedSkin(skins, true);
     if (editor && *editor < skins.EditorSkins.size()) {
-        pages_[0] = pageStyle(skins.EditorSkins[*editor].items[kEditorPageItem]);
-        session_.document.devices[0] = &pages_[0];
+        pages_.front() = pageStyle(skins.EditorSkins[*editor].items[kEditorPageItem]);
+        session_.document.devices[0] = &pages_.front();
     }
     if (const auto preview = FindSelectedSkin(skins, false)) {
-        pages_[1] = pageStyle(skins.PreviewSkins[*preview].items[kPreviewPageItem]);
-        session_.document.devices[1] = &pages_[1];
+        pages_.back() = pageStyle(skins.PreviewSkins[*preview].items[kPreviewPageItem]);
+        session_.document.devices[1] = &pages_.back();
     }
     applyTheme(*qApp, activeTheme(skins));
     trapped(messages_, [this] { window_.applySkin(); });
