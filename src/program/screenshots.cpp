@@ -39,7 +39,7 @@ public:
     void start() { then(&Screenshots::takeMain); }
 
 private:
-    void then(void (Screenshots::*step)()) { QTimer::singleShot(kSettleMs, this, step); }
+    void then(void (Screenshots::*step)()) const { QTimer::singleShot(kSettleMs, this, step); }
     void takeMain()
     {
         write(window_, "main");
