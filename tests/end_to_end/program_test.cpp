@@ -33,11 +33,13 @@ struct WholeProgram : testing::Test {
     }
     std::string saved() { return desktop.folder.get("meine decks/index.wml"); }
     pid_t open() { return desktop.start({QUILLMERE, deck}); }
+    static void rest() { std::this_thread::sleep_for(std::chrono::milliseconds(500)); }
     /// The main window with the deck in it, in front.
     std::string mainWindow()
     {
         auto window = desktop.window("index.wml.* MORVANE Quillmere");
         desktop.focus(window);
+        rest(); // the title is there a little ahead of the area
         return window;
     }
     void type()
@@ -47,7 +49,6 @@ struct WholeProgram : testing::Test {
         desktop.waitUntil(
             "mark of a change", [this] { return desktop.windows("[*].*Quillmere") == 1; });
     }
-    static void rest() { std::this_thread::sleep_for(std::chrono::milliseconds(500)); }
     void press(const char* key) { (void)desktop.tell(std::string("key ") + key); }
 };
 
