@@ -23,6 +23,7 @@
 
 #include <QApplication>
 #include <QScreen>
+#include <QTimer>
 
 #include <cmath>
 
@@ -33,6 +34,7 @@ namespace {
 constexpr double kTwipsPerInch = 1440;
 constexpr int kDesignTwips = 15;
 constexpr int kYieldsBehindAssistant = 4;
+constexpr int kActivationPatienceMs = 300;
 constexpr int kAlternativeTextPx = 11;
 constexpr std::size_t kEditorPageItem = 5;
 constexpr std::size_t kPreviewPageItem = 4;
@@ -155,11 +157,20 @@ void Program::showMainWindow()
     const auto screen = QGuiApplication::primaryScreen()->availableGeometry();
     window_.move(screen.center() - window_.rect().center());
     window_.show();
+    window_.activateWindow();
+    // A desktop may give the keyboard to another window, or to none, when the splash goes. The
+    // start goes on all the same.
+    QTimer::singleShot(kActivationPatienceMs, &window_, [this] {
+        if (hasBegun_) return;
+        QEvent activation(QEvent::WindowActivate);
+        QApplication::sendEvent(&window_, &activation);
+    });
 }
 
 // The window goes up a little once it stands, by 100 twips of the design's and back by 75.
 void Program::firstActivation()
 {
+    hasBegun_ = true;
     const double twips = session_.document.twipsPerPixel;
     const double upTwips = twips * 100 / kDesignTwips - 75;
     window_.move(window_.x(), window_.y() - static_cast<int>(std::lround(upTwips / twips)));
