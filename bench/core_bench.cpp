@@ -13,6 +13,7 @@
 #include "document/repair/format_nesting.h"
 #include "document/repair/paragraphs.h"
 #include "document/repair/radio_buttons.h"
+#include "document/repair/transliteration.h"
 #include "document/repair/wml_layout.h"
 #include "document/text/failure.h"
 #include "document/wml_to_design.h"

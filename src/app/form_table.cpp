@@ -4,6 +4,7 @@
 
 #include "app/resource_text.h"
 #include "document/text/record_fields.h"
+#include "document/text/text_lines.h"
 #include "document/text/windows1252.h"
 
 #include <algorithm>
@@ -168,7 +169,7 @@ FormEntry formFromTag(std::string_view tag)
 FormTable formsFromText(std::string_view text)
 {
     FormTable table;
-    const std::string joined = withoutLineBreaks(text);
+    const std::string joined = joinLines(text);
     ResourceEntries forms(joined, "<form", "</form");
     while (const auto source = forms.next()) {
         const auto& form = table.forms.emplace_back(formFromTag(source->tag));

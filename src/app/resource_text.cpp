@@ -10,13 +10,6 @@
 
 namespace quillmere {
 
-std::string withoutLineBreaks(std::string_view text)
-{
-    std::string joined(text);
-    std::erase_if(joined, [](char character) { return character == '\r' || character == '\n'; });
-    return joined;
-}
-
 std::string_view resourceAttribute(std::string_view tag, std::string_view name)
 {
     const auto found = findIgnoringCase(tag, name);

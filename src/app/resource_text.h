@@ -7,12 +7,10 @@
 #include <string>
 #include <string_view>
 
-// What the text files of words and forms have in common. Line breaks carry no meaning in them.
+// What the text files of words and forms have in common. Line breaks carry no meaning in them: they
+// are read with their lines joined.
 
 namespace quillmere {
-
-/// A resource file's text with its lines joined.
-[[nodiscard]] std::string withoutLineBreaks(std::string_view text);
 
 /// The value of an attribute in a tag such as `<word id=5 rem="a b">`; "" where the tag has none.
 /// `name` is lower case with "=" behind it. Ignores case and takes the first place where the name
@@ -20,8 +18,8 @@ namespace quillmere {
 [[nodiscard]] std::string_view resourceAttribute(std::string_view tag, std::string_view name);
 
 /// A text as a record's field of `width` bytes gives it back: up to its first zero byte, without
-/// blanks at its ends, and cut.
-/// So a resource reads alike from both of its file forms, and no entry can be of any length.
+/// blanks at its ends, and cut. So a resource reads alike from both of its file forms, and no entry
+/// can be of any length.
 [[nodiscard]] std::string fieldText(std::string_view value, std::size_t width);
 
 /// A whole number of 16 bits with blanks round it; nullopt for any other text.

@@ -5,6 +5,7 @@
 
 #include "app/resource_text.h"
 #include "document/text/record_fields.h"
+#include "document/text/text_lines.h"
 
 #include <algorithm>
 #include <utility>
@@ -56,7 +57,7 @@ std::string_view argumentFor(std::size_t gap, const std::vector<std::string_view
 WordTable wordsFromText(std::string_view text)
 {
     WordTable table;
-    const std::string joined = withoutLineBreaks(text);
+    const std::string joined = joinLines(text);
     ResourceEntries entries(joined, "<word", "</word");
     while (const auto entry = entries.next()) {
         const auto id = shortNumber(resourceAttribute(entry->tag, "id="));

@@ -194,6 +194,17 @@ const Command& commandNamed(const std::string& name)
     return *found;
 }
 
+ExitStatus runCommand(const Command& command, const Parsed& parsed)
+{
+    try {
+        requireOptionsOf(command, parsed.letters);
+        return command.run(parsed.arguments);
+    } catch (BadArguments& bad) {
+        bad.command = command.name;
+        throw;
+    }
+}
+
 ExitStatus runParsed(Parsed parsed)
 {
     Arguments& arguments = parsed.arguments;
@@ -212,8 +223,7 @@ ExitStatus runParsed(Parsed parsed)
         print(helpFor(command));
         return ExitStatus::Done;
     }
-    requireOptionsOf(command, parsed.letters);
-    return command.run(arguments);
+    return runCommand(command, parsed);
 }
 
 } // namespace

@@ -19,6 +19,7 @@ enum class ExitStatus {
 /// Arguments that the program does not understand; the text is UTF-8.
 struct BadArguments {
     std::string message;
+    std::string command = {}; ///< whose help tells more; "": the program's
 };
 
 /// What stands on the command line, options sorted out. Options may stand anywhere.

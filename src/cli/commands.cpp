@@ -14,8 +14,9 @@ constexpr Command kCommands[] = {
         "Decks gehen mit --out-dir oder jedes an seinen Ort. Schlägt ein Deck fehl, bleibt\n"
         "seine Datei, wie sie war, und die nächsten folgen. Ist ein Ergebnis nicht\n"
         "wohlgeformt, steht das auf der Standardfehlerausgabe; geschrieben wird es trotzdem.\n"
-        "--keep-work schreibt seine Dateien vor dem Deck, und --backup seine Kopie, wenn das\n"
-        "Deck sich ändert. --json gibt ein einziges JSON-Dokument aus, eine Liste mit einem\n"
+        "--keep-work schreibt seine Dateien vor dem Deck und ersetzt, was schon so heißt; was\n"
+        "von einem Deck mit mehr Bereichen daliegt, bleibt. --backup schreibt seine Kopie, wenn\n"
+        "das Deck sich ändert. --json gibt ein einziges JSON-Dokument aus, eine Liste mit einem\n"
         "Objekt je Deck; was fehlschlug, hat darin „error“.",
         &runRepair},
     {"areas", "DECK.wml [--json]", "zeigt die Bereiche eines Decks", "j",
@@ -34,7 +35,9 @@ constexpr Command kCommands[] = {
         "o", "Zeichnet das Bild auf dem Grund des Geräts, wie die Bearbeitung es zeigt.",
         &runWbmpShow},
     {"words", "[NUMMER [TEXT]...]", "zeigt die Texte des Programms", "w",
-        "Ohne Nummer alle, die nicht leer sind; sonst einen, mit den Texten in seinen Lücken.",
+        "Ohne Nummer alle, die nicht leer sind; sonst einen, mit den Texten in seinen Lücken.\n"
+        "Gelesen wird ResWords.res oder, wo sie fehlt, ResWords.ini, aus der sie dann entsteht:\n"
+        "Eine geänderte ResWords.ini gilt, sobald ResWords.res gelöscht ist.",
         &runWords},
 };
 

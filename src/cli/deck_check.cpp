@@ -11,9 +11,11 @@ std::optional<std::string> doubtAbout(const std::string& path, const DocumentSes
     const std::string text = readDeckOf(session);
     const auto card = findIgnoringCase(text, "<card");
     const bool holdsCard = card != npos && text.find('>', card) != npos;
-    if (holdsCard && text.find('\0') == npos) return std::nullopt;
-    return "Die Datei „" + path
-        + "“ enthält keine vollständige Karte (<card>) und ist wohl kein WML-Deck.";
+    const bool isBinary = text.find('\0') != npos; // UTF-16 is told so as well
+    if (holdsCard && !isBinary) return std::nullopt;
+    const std::string reason
+        = isBinary ? "Nullbytes wie eine Binärdatei" : "keine vollständige Karte (<card>)";
+    return "Die Datei „" + path + "“ enthält " + reason + " und ist wohl kein WML-Deck.";
 }
 
 std::string readDeckOf(const DocumentSession& session)

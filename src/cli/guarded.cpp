@@ -25,13 +25,15 @@ std::optional<Problem> problemOf(const std::string& about, const std::function<v
         action();
         return std::nullopt;
     } catch (const BadArguments& bad) {
-        return Problem{ExitStatus::BadArguments, bad.message};
+        return Problem{ExitStatus::BadArguments, bad.message, bad.command};
     } catch (const Overflow& failure) {
         return refusal(
             about, failure.utf8() + ": Der Text oder sein Ergebnis hat mehr als 32767 Zeichen.");
     } catch (const InvalidArgument& failure) {
         return refusal(about,
-            failure.utf8() + ": Dem Text fehlt etwas, etwa ein schließendes Anführungszeichen.");
+            failure.utf8()
+                + ": Dem Text fehlt etwas, etwa ein schließendes Anführungszeichen "
+                  "oder das Ende einer Auswahlliste.");
     } catch (const RuntimeFailure& failure) {
         return refusal(about, failure.utf8() + ": Eine Größe im Text ist keine Zahl.");
     } catch (const LostOutput&) {
@@ -54,7 +56,9 @@ ExitStatus guarded(const std::string& about, const std::function<ExitStatus()>& 
     }
     if (!problem) return status;
     const bool isCall = problem->status == ExitStatus::BadArguments;
-    complain(problem->message + (isCall ? " Hilfe zeigt „quillmere-cli --help“." : ""));
+    const auto command = problem->command.empty() ? "" : problem->command + " ";
+    complain(
+        problem->message + (isCall ? " Hilfe zeigt „quillmere-cli " + command + "--help“." : ""));
     return problem->status;
 }
 

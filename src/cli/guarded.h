@@ -12,6 +12,7 @@ namespace quillmere::cli {
 struct Problem {
     ExitStatus status = ExitStatus::RunFailure;
     std::string message; ///< UTF-8
+    std::string command = {}; ///< of bad arguments: whose help tells more, as far as it is known
 };
 
 /// Runs `action` and returns what it throws as a problem; nullopt where it is done. `about` (UTF-8,

@@ -1,7 +1,7 @@
 // Each deck gets a session of its own, so that one deck cannot touch the next and memory stays that
-// of one deck. Where the results go to another folder, some decks are repaired and then all of them
-// written: the waits for the disk make the processor forget the program, which costs more time than
-// the repair. Held by tests/cli/repair_test.cpp.
+// of one deck. Where the results go to another folder, each step is done for some decks in a row:
+// the waits for the disk make the processor forget the program, which costs more time than the
+// repair, and what is written together is flushed together. Held by tests/cli/repair_test.cpp.
 
 #include "cli/commands.h"
 #include "cli/core_session.h"
@@ -19,6 +19,7 @@
 
 #include <algorithm>
 #include <set>
+#include <utility>
 
 namespace quillmere::cli {
 
@@ -36,6 +37,7 @@ struct RepairedDeck {
     std::optional<DeckChangesReport> changes; ///< where they are told
     std::optional<std::string> doubt; ///< whether it was a deck
     std::optional<DeckFault> fault; ///< of what is written
+    std::optional<FileReplacement> file; ///< once it stands beside the old one
     std::optional<Problem> problem;
 };
 
@@ -101,32 +103,55 @@ void repairOne(const Run& run, RepairedDeck& deck)
     deck.changes->stable = repairedAgain(deck.written, deck.input, arguments) == deck.written;
 }
 
-void writeOne(Run& run, const RepairedDeck& deck)
+/// Writes the deck beside the file that it will replace.
+void beginWriting(Run& run, RepairedDeck& deck)
 {
     if (deck.changes) run.report.tell(deck.input, *deck.changes, deck.plan, deck.written);
-    if (!run.arguments.dryRun) carryOut(deck.plan, deck.areaTexts, deck.written, run.files);
-    if (deck.fault) complain(deck.input + ": " + toUtf8(describeFault(*deck.fault)));
+    if (!run.arguments.dryRun) deck.file = carryOut(deck.plan, deck.areaTexts, deck.written);
 }
 
-/// Writes what waits, in the order of the call, with all that is to be said of each deck.
+/// Does a step with each deck that has no problem yet.
+template <typename Step> void forEachSound(std::vector<RepairedDeck>& decks, Step step)
+{
+    for (RepairedDeck& deck : decks) {
+        if (!deck.problem) deck.problem = problemOf(deck.input, [&] { step(deck); });
+        if (deck.problem) deck.file.reset();
+    }
+}
+
+/// Says all that is to be said of a deck in the end.
+void tellEnd(Run& run, const RepairedDeck& deck)
+{
+    if (deck.doubt) complain(*deck.doubt);
+    if (!deck.problem && deck.fault)
+        complain(deck.input + ": " + toUtf8(describeFault(*deck.fault)));
+    run.report.finishDeck(deck.input, deck.problem);
+    if (!deck.problem) return;
+    complain(deck.problem->message);
+    run.status = std::max(run.status, deck.problem->status);
+}
+
 void writeWaiting(Run& run)
 {
-    for (RepairedDeck& deck : run.waiting) {
-        if (deck.doubt) complain(*deck.doubt);
-        if (!deck.problem) deck.problem = problemOf(deck.input, [&] { writeOne(run, deck); });
-        run.report.finishDeck(deck.input, deck.problem);
-        if (!deck.problem) continue;
-        complain(deck.problem->message);
-        run.status = std::max(run.status, deck.problem->status);
-    }
-    run.waiting.clear();
+    forEachSound(run.waiting, [&](RepairedDeck& deck) { beginWriting(run, deck); });
+    forEachSound(run.waiting, [](RepairedDeck& deck) {
+        if (deck.file) deck.file->flush();
+    });
+    forEachSound(run.waiting, [&](RepairedDeck& deck) {
+        if (deck.file) run.files.finish(*deck.file);
+    });
+    const auto written = std::exchange(run.waiting, {});
     run.waitingBytes = 0;
+    for (const RepairedDeck& deck : written)
+        tellEnd(run, deck);
 }
 
 void repairAll(Run& run)
 {
-    // A deck that is written in its place may be a later one as well, by another name.
-    const auto decksAtOnce = run.arguments.outDir ? kDecksAtOnce : 1;
+    // A deck that is written in its place may be a later one as well, by another name, and what is
+    // told of a deck before and behind its writing stands together.
+    const bool isAlone = !run.arguments.outDir || run.report.wanted();
+    const auto decksAtOnce = isAlone ? 1 : kDecksAtOnce;
     for (const std::string& input : run.arguments.operands) {
         RepairedDeck& deck = run.waiting.emplace_back();
         deck.input = input;

@@ -43,10 +43,20 @@ void requireOthersThan(const RepairPlan& plan, const std::string& input)
     }
 }
 
-// A folder that is still to be made is not asked.
+/// Whether the folder comes about ahead of the result in it.
+bool isStillToBeMade(const std::string& folder, const Arguments& arguments)
+{
+    std::error_code ignored;
+    if (folder.empty() || fs::is_directory(folder, ignored)) return false;
+    if (arguments.outDir) return true;
+    return arguments.keepWork
+        && NormalisePath(*arguments.keepWork).starts_with(NormalisePath(folder));
+}
+
 void requireWritable(const Arguments& arguments, const RepairPlan& plan)
 {
-    if (plan.output == "-" || (arguments.outDir && !fs::is_directory(*arguments.outDir))) return;
+    if (plan.output == "-") return;
+    if (isStillToBeMade(SplitPath(plan.output).directory, arguments)) return;
     requireReplaceable(plan.output);
 }
 
@@ -96,22 +106,28 @@ RepairPlan RepairPlanner::plan(
     if (arguments_.backup && readFile(input) != written) plan.backup = freeBackupName(input);
     if (arguments_.keepWork) plan.workFiles = workFileNames(*arguments_.keepWork, areas);
     requireOthersThan(plan, input);
-    if (arguments_.dryRun) requireWritable(arguments_, plan);
+    // Work files must not be left of a deck that then cannot be written.
+    if (arguments_.dryRun || arguments_.keepWork) requireWritable(arguments_, plan);
     return plan;
 }
 
-void carryOut(const RepairPlan& plan, const std::vector<std::string>& areaTexts,
-    std::string_view written, FileReplacements& replacements)
+std::optional<FileReplacement> carryOut(
+    const RepairPlan& plan, const std::vector<std::string>& areaTexts, std::string_view written)
 {
     keepWorkFiles(plan, areaTexts);
-    if (plan.output == "-") return printBytes(written);
-    if (plan.backup) createFile(*plan.backup, readFile(plan.output), plan.output);
+    if (plan.output == "-") {
+        printBytes(written);
+        return std::nullopt;
+    }
+    if (!plan.backup) return FileReplacement(plan.output, written);
+    createFile(*plan.backup, readFile(plan.output), plan.output);
     try {
-        replacements.replace(plan.output, written);
+        replaceFile(plan.output, written);
     } catch (const FileFailure&) {
-        if (plan.backup) removeFile(*plan.backup); // the deck has its bytes still
+        removeFile(*plan.backup); // the deck has its bytes still
         throw;
     }
+    return std::nullopt;
 }
 
 } // namespace quillmere::cli

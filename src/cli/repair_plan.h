@@ -33,7 +33,8 @@ public:
     [[nodiscard]] std::string outputPath(const std::string& input) const;
     /// Where `written`, the repaired deck `input`, and its areas' work files go. Throws
     /// BadArguments where a work file would be the deck or the result, and where what is no
-    /// ordinary file would be replaced by itself.
+    /// ordinary file would be replaced by itself; FileFailure where it is seen that the result
+    /// cannot be written, as far as a dry run or work files ask for it.
     [[nodiscard]] RepairPlan plan(
         const std::string& input, std::size_t areas, std::string_view written) const;
 
@@ -43,8 +44,9 @@ private:
 };
 
 /// Does as planned: work files, backup, deck, in this order. `areaTexts` is what goes into the work
-/// files. Throws FileFailure; the deck's file is then as it was.
-void carryOut(const RepairPlan& plan, const std::vector<std::string>& areaTexts,
-    std::string_view written, FileReplacements& replacements);
+/// files. Returns what is still to be flushed and to take the deck's place, if anything is. Throws
+/// FileFailure; the deck's file is then as it was.
+[[nodiscard]] std::optional<FileReplacement> carryOut(
+    const RepairPlan& plan, const std::vector<std::string>& areaTexts, std::string_view written);
 
 } // namespace quillmere::cli

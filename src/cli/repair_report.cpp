@@ -55,7 +55,9 @@ std::string planText(const RepairPlan& plan, std::string_view written)
 {
     std::string text = outputText(plan, written);
     if (plan.backup) text += "Das alte Deck bliebe als " + quoted(*plan.backup) + ".\n";
-    if (!plan.workFiles.empty())
+    if (plan.workFiles.size() == 1)
+        text += "Arbeitsdatei: " + quoted(plan.workFiles.front()) + ".\n";
+    if (plan.workFiles.size() > 1)
         text += "Arbeitsdateien: " + quoted(plan.workFiles.front()) + " bis "
             + quoted(plan.workFiles.back()) + ".\n";
     return text + "Geschrieben wurde nichts (--dry-run).\n";

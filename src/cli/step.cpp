@@ -11,6 +11,7 @@
 #include "document/repair/do_block.h"
 #include "document/repair/format_nesting.h"
 #include "document/repair/paragraphs.h"
+#include "document/repair/transliteration.h"
 #include "document/repair/wml_layout.h"
 #include "document/text/limits.h"
 #include "document/wml_to_design.h"

@@ -86,7 +86,7 @@ std::string CardSplitter::takeDoBlock()
     const auto ahead = text_.substr(begin_, first - begin_);
     begin_ += block.size();
     text_.replace(begin_, ahead.size(), ahead);
-    if (ahead.find('<') != npos) forgetPlaces(); // else no tag has moved, and none can be joined
+    if (!ahead.empty()) forgetPlaces(); // else all that is known of what is left still holds
     return block;
 }
 

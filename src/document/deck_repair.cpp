@@ -10,7 +10,7 @@ namespace {
 
 std::string putIntoWorkFile(WorkFiles& files, const std::string& text)
 {
-    std::string name = files.createFile("Wml", ".wml");
+    std::string name = files.createFile(kWorkFilePrefix, kWmlFileSuffix);
     files.write(files.directory() + name, text);
     return name;
 }

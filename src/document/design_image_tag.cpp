@@ -3,7 +3,7 @@
 
 #include "document/design_image_tag.h"
 
-#include "document/repair/clean_design_html.h"
+#include "document/repair/transliteration.h"
 #include "document/text/failure.h"
 #include "document/text/text_search.h"
 
@@ -21,7 +21,7 @@ constexpr std::string_view kWidth = "width=\"";
 constexpr std::array<std::string_view, 2> kSpaces{"vspace=\"", "hspace=\""};
 
 /// The size behind `name` in a style such as "height: 20px"; nullopt where the name is missing.
-std::optional<std::int32_t> pixelsBehind(std::string_view tag, std::string_view name)
+std::optional<std::int32_t> sizeBehind(std::string_view tag, std::string_view name)
 {
     const auto at = tag.find(name);
     if (at == npos) return std::nullopt;
@@ -92,8 +92,8 @@ void DesignImageTags::appendSource(Rewriter& result, const ImageEntry& entry) co
 void DesignImageTags::readSize(const Tag& tag, ImageEntry& entry) const
 {
     const auto lower = tag.in(text_.lower);
-    if (const auto height = pixelsBehind(lower, "height:")) entry.heightPx = *height;
-    if (const auto width = pixelsBehind(lower, "width:")) entry.widthPx = *width;
+    if (const auto height = sizeBehind(lower, "height:")) entry.heightPx = *height;
+    if (const auto width = sizeBehind(lower, "width:")) entry.widthPx = *width;
 }
 
 } // namespace quillmere

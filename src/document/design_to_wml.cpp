@@ -1,6 +1,6 @@
 // The way back from the surface, which writes tags in upper case and values without quotes. Tags
 // that no row names are dropped, and so are comments that are no markers. Held by
-// conversions_literal_test.cpp and, as the way in, by conversions_literal_test.cpp.
+// conversions_literal_test.cpp, as the way in.
 
 #include "document/design_to_wml.h"
 

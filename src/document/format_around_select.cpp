@@ -4,6 +4,7 @@
 
 #include "document/format_around_select.h"
 
+#include "document/repair/format_pairs.h"
 #include "document/select_format_plan.h"
 #include "document/tag_rules.h"
 #include "document/text/limits.h"
@@ -18,15 +19,6 @@
 
 namespace quillmere {
 namespace {
-
-/// In the order of the deletions, which is the opposite of that of the look for them.
-constexpr std::array<TagPair, 5> kFormats{{
-    {"<big>", "</big>"},
-    {"<small>", "</small>"},
-    {"<i>", "</i>"},
-    {"<b>", "</b>"},
-    {"<u>", "</u>"},
-}};
 
 void deleteTags(std::string& text, const TagPair& pair, std::span<const SelectCut> cuts)
 {
@@ -133,9 +125,9 @@ void RepairFormatAroundSelect(std::string& text, DocumentSession& session)
 {
     requireAddressable(text);
     if (findIgnoringCase(text, kSelectKeys[0]) == npos || !touchesLists(text)) return;
-    if (!needsRepair(text, kFormats)) return;
+    if (!needsRepair(text, kFormatPairs)) return;
     if (isDeclined(session)) return;
-    for (const TagPair& pair : kFormats)
+    for (const TagPair& pair : kFormatPairs)
         FormatAroundSelect(text, pair.open, pair.close, true);
 }
 

@@ -1,10 +1,11 @@
 // Everything that can fail stands ahead of the first change of the deck. Held by images_test.cpp.
 
 #include "document/images.h"
-#include "document/design_page.h"
 
+#include "document/design_page.h"
 #include "document/design_text.h"
 #include "document/image_tags.h"
+#include "document/picture_name.h"
 #include "document/platform/files.h"
 #include "document/platform/paths.h"
 #include "document/platform/word_ids.h"
@@ -126,8 +127,9 @@ bool isSameFile(const std::string& left, const std::string& right)
 void copyPicture(const std::string& name, const std::string& fromDirectory,
     const std::string& toDirectory, Prompter& prompter)
 {
-    const std::string source = fromDirectory + name;
-    const std::string target = toDirectory + name;
+    const std::string file = nameOnDisk(fromDirectory, name);
+    const std::string source = fromDirectory + file;
+    const std::string target = toDirectory + file;
     const std::array<std::string, 1> gaps{name};
     if (!fileExists(source)) {
         prompter.show(word::kPictureNotCopied, gaps, MessageIcon::Warning);
@@ -159,11 +161,14 @@ std::string RegisterImage(DocumentSession& session, std::size_t areaIndex, const
         return known->displayDir + known->displayFile;
     if (!isPicturePath(path)) return {};
 
-    DisplayCopy copy = session.displayCopies.draw(path, alternativeText, groundOf(session));
+    const auto source = splitSource(path, area.deckDir);
+    DisplayCopy copy
+        = session.displayCopies.draw(source.directory + nameOnDisk(source.directory, source.name),
+            alternativeText, groundOf(session));
     const auto display = displayName(session, chosen);
     session.workFiles.write(display.directory + display.file, std::move(copy.bmp));
     session.imageColour = copy.imageColour;
-    area.images.back() = newEntry(display, splitSource(path, area.deckDir), copy);
+    area.images.back() = newEntry(display, source, copy);
     area.images.emplace_back();
     return display.directory + display.file;
 }

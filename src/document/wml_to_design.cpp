@@ -1,7 +1,6 @@
 // Each tag is decided by the first row of the table whose key it contains. Most tags stay
 // as they are, so that the text between two changes is copied at once. Held by
-// conversions_literal_test.cpp and, against a version that replaces tag after tag in the text
-// itself, by conversions_literal_test.cpp.
+// conversions_literal_test.cpp, against a version that replaces tag after tag in the text itself.
 
 #include "document/wml_to_design.h"
 

@@ -147,9 +147,9 @@ void DesignSurface::startDragging()
 {
     mayDragFrom_.reset();
     droppedInside_ = false;
-    auto* drag = new QDrag(this);
-    drag->setMimeData(createMimeDataFromSelection());
-    const auto done = drag->exec(Qt::CopyAction | Qt::MoveAction, Qt::MoveAction);
+    auto& drag = *new QDrag(this); // deletes itself
+    drag.setMimeData(createMimeDataFromSelection());
+    const auto done = drag.exec(Qt::CopyAction | Qt::MoveAction, Qt::MoveAction);
     if (done == Qt::MoveAction && !droppedInside_) editByKey([this] { apply(deletion()); });
 }
 

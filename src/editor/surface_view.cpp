@@ -12,7 +12,6 @@
 #include <QScopedValueRollback>
 #include <QScrollBar>
 #include <QTextBlock>
-#include <QTimer>
 
 #include <utility>
 
@@ -60,14 +59,15 @@ void DesignSurface::rebuild()
     const int scrolled = verticalScrollBar()->value();
     dropControl();
     caretBlock_ = 0;
-    auto* fresh = new QTextDocument(this);
-    fresh->setDocumentMargin(kPageMarginPx);
-    fresh->setDefaultTextOption(document()->defaultTextOption());
-    showPage(*fresh, page_, style_);
-    objects_.attachTo(*fresh);
-    setDocument(fresh);
+    // with the parent of the one it takes the place of: setDocument() deletes no others
+    auto& fresh = *new QTextDocument(document()->parent());
+    fresh.setDocumentMargin(kPageMarginPx);
+    fresh.setDefaultTextOption(document()->defaultTextOption());
+    showPage(fresh, page_, style_);
+    objects_.attachTo(fresh);
+    setDocument(&fresh);
     setCursorWidth(kCaretWidthPx); // a property of the document's layout
-    connect(fresh, &QTextDocument::contentsChange, this,
+    connect(&fresh, &QTextDocument::contentsChange, this,
         [this](int, int removed, int added) { keepInStep(removed, added); });
     verticalScrollBar()->setValue(scrolled);
 }
@@ -77,11 +77,12 @@ void DesignSurface::keepInStep(int removed, int added)
 {
     if (showing_ || removed == added) return;
     Q_ASSERT_X(false, "DesignSurface", "the document was changed past the page");
-    QTimer::singleShot(0, this, [this] {
+    const auto buildAgain = [this] {
         const auto place = placeAtPosition(textCursor().position());
         rebuild();
         setCaret(place);
-    });
+    };
+    QMetaObject::invokeMethod(this, buildAgain, Qt::QueuedConnection);
 }
 
 void DesignSurface::restyle()

@@ -3,11 +3,11 @@
 #include "forms/frm_message.h"
 
 #include "document/platform/word_ids.h"
+#include "forms/message_icon.h"
 #include "forms/text.h"
 
 #include <QGridLayout>
 #include <QHBoxLayout>
-#include <QStyle>
 
 #include <algorithm>
 
@@ -38,7 +38,6 @@ const NoteRule& ruleOf(Note kind)
 }
 
 constexpr int kTextWidthPx = 380;
-constexpr int kIconSizePx = 48;
 
 } // namespace
 
@@ -57,8 +56,8 @@ frmMessage::frmMessage(Session& session, QWidget* parent)
 
 void frmMessage::layOut()
 {
-    const auto icon = style()->standardIcon(QStyle::SP_MessageBoxInformation, nullptr, this);
-    picOpenTemplate->setPixmap(icon.pixmap(kIconSizePx));
+    picOpenTemplate->setPixmap(
+        messageIcon(MessageIcon::None, activeTheme(session().skins), devicePixelRatioF()));
     lblDescription->setTextFormat(Qt::PlainText);
     lblDescription->setWordWrap(true);
     lblDescription->setMinimumWidth(kTextWidthPx);

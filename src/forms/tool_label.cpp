@@ -99,9 +99,10 @@ void ToolLabel::paintEvent(QPaintEvent* /*event*/)
         painter.setBrush(faded(palette().color(QPalette::WindowText), kHoverShare));
         painter.drawRoundedRect(rect(), kCorner, kCorner);
     }
+    paintCaption(painter);
+    // over the icon below and the caption alike
     if (!isEnabled())
         painter.fillRect(rect(), faded(palette().color(QPalette::Window), kDisabledShare));
-    paintCaption(painter);
     if (!keyboardFocus_ || !hasFocus()) return;
     painter.setPen(
         QPen(palette().color(held ? QPalette::HighlightedText : QPalette::Highlight), 2));
@@ -116,7 +117,8 @@ void ToolLabel::paintCaption(QPainter& painter) const
     QFont wanted = font();
     wanted.setWeight(isBeside() ? QFont::DemiBold : QFont::Medium);
     painter.setFont(fitting(wanted, text(), place.width(), this));
-    painter.setPen(palette().color(onAccent ? QPalette::HighlightedText : QPalette::WindowText));
+    painter.setPen(palette().color(
+        QPalette::Active, onAccent ? QPalette::HighlightedText : QPalette::WindowText));
     const int alignment = isBeside() ? Qt::AlignVCenter | Qt::AlignLeft : int(Qt::AlignCenter);
     painter.drawText(place, alignment | Qt::TextHideMnemonic | Qt::TextSingleLine, text());
 }

@@ -3,6 +3,7 @@
 #include "forms/window_messages.h"
 
 #include "forms/frm_message.h"
+#include "forms/message_icon.h"
 #include "forms/overlay.h"
 #include "forms/session.h"
 #include "forms/text.h"
@@ -81,6 +82,9 @@ QMessageBox::StandardButton WindowMessages::shown(
     nameButtons(box);
     if (session_ != nullptr) {
         OverlayForm(box, *session_);
+        const auto theme = activeTheme(session_->skins);
+        if (box.icon() != QMessageBox::NoIcon)
+            box.setIconPixmap(messageIcon(icon, theme, box.devicePixelRatioF()));
         session_->gSurfaceActive = false;
     }
     return static_cast<QMessageBox::StandardButton>(box.exec());

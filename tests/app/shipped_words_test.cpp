@@ -3,6 +3,7 @@
 #include "app/word_table.h"
 #include "document/platform/files.h"
 #include "document/platform/path_checks.h"
+#include "document/text/text_lines.h"
 #include "document/text/windows1252.h"
 
 #include <gtest/gtest.h>
@@ -23,7 +24,7 @@ const WordTable& shipped()
 std::multiset<int> idsOfTheFile()
 {
     std::multiset<int> ids;
-    const auto text = withoutLineBreaks(readFile(kFile));
+    const auto text = joinLines(readFile(kFile));
     ResourceEntries entries(text, "<word", "</word");
     while (const auto entry = entries.next())
         ids.insert(shortNumber(resourceAttribute(entry->tag, "id=")).value_or(-1));

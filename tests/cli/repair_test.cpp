@@ -88,6 +88,11 @@ TEST_F(Cli, KeepWorkNeverTakesThePlaceOfDeckOrResult)
     for (const char* name : {"d.wml", "Wml0.htm", "w/Wml1.htm"})
         EXPECT_EQ(folder.get(name), kDeck) << name;
     EXPECT_FALSE(folder.has("o.wml") || folder.has("neu"));
+    for (const char* unwritable : {"@none/o.wml", "@v"}) // nor is it left of what cannot be written
+        EXPECT_EQ(cli({"repair", "@d.wml", "-o", unwritable, "--keep-work", "@neu"}).status, 2);
+    EXPECT_FALSE(folder.has("neu"));
+    EXPECT_EQ(cli({"repair", "@d.wml", "-o", "@neu/o.wml", "--keep-work", "@neu"}).status, 0);
+    EXPECT_TRUE(folder.has("neu/o.wml") && folder.has("neu/Wml1.htm"));
 }
 
 TEST_F(Cli, BackupKeepsTheOldBytesAndNoOther)
@@ -165,7 +170,7 @@ TEST_F(Cli, JsonHasTheDecksThatFailed)
     EXPECT_EQ(endsOf(result.output),
         "{\"deck\": \"" + path + "q\u2603.wml\", \"written\": false, \"error\": \"" + path
             + "q\u2603.wml: Ungültiger Prozeduraufruf oder ungültiges Argument: Dem Text fehlt "
-              "etwas, etwa ein schließendes Anführungszeichen. "
+              "etwas, etwa ein schließendes Anführungszeichen oder das Ende einer Auswahlliste. "
             + unchanged + ",\n, \"output\": \"" + path
             + "out/d.wml\", \"bytes\": 170, \"backup\": null, \"workFiles\": [], "
               "\"written\": true, \"error\": null},\n, \"output\": \""

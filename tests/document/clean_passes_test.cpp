@@ -1,6 +1,8 @@
 #include "document/repair/clean_passes.h"
 
+#include "document/repair/clean_blanks.h"
 #include "document/repair/clean_design_html.h"
+#include "document/repair/transliteration.h"
 #include "document/text/failure.h"
 #include "literal/cleaning.h"
 #include "support/token_soup.h"

@@ -69,6 +69,29 @@ TEST_F(Images, GetOneEntryAndOneDisplayCopyForEachArea)
     EXPECT_EQ(NewWbmpName(deck.session) + FindFreeBmpName(deck.session), "WBmp0.wbmpBmp4.bmp");
 }
 
+TEST_F(Images, AreFoundWhereTheDiskHasTheirNamesInUtf8)
+{
+    const test::ScratchFolder folder;
+    areas[0].deckDir = folder.path();
+    folder.put("b\u00E4r.wbmp", "B");
+    folder.put("k\xFCr.wbmp", "K"); // a disk of the old code page
+    const std::pair<const char*, const char*> rows[] = {
+        {"b\xE4r.wbmp", "b\u00E4r.wbmp"},
+        {"b&#228;r.wbmp", "b\u00E4r.wbmp"}, // as the standard rules write it
+        {"k\xFCr.wbmp", "k\xFCr.wbmp"},
+        {"&#8364;&#8364;&#1;.wbmp", "\u20AC\u20AC&#1;.wbmp"}, // not there
+    };
+    for (const auto& [name, file] : rows) {
+        EXPECT_NE(add(0, folder.path() + name), "");
+        EXPECT_EQ(deck.copies.drawn.back(), folder.path() + file + "|Text");
+    }
+    EXPECT_EQ(areas[0].images[1].sourceFile, "b\xE4r.wbmp") << "as the deck writes it";
+    test::ScriptedPrompter nobody;
+    auto session = deck.sessionWith(nobody);
+    CopyDeckImages("<img src=\"b\xE4r.wbmp\"/>", folder.path(), folder.path() + "neu/", session);
+    EXPECT_EQ(folder.get("neu/b\u00E4r.wbmp"), "B");
+}
+
 TEST_F(Images, AreFoundInTimeAndInAListThatWasStartedAnew)
 {
     for (const char* name : {"a", "b", "c"})

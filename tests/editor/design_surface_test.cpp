@@ -197,6 +197,14 @@ TEST(DesignSurface, LooksAsItsStyleSays)
     EXPECT_EQ(surface.look().fontSizePx, 1);
 }
 
+TEST(DesignSurface, KeepsNoDocumentThatItShowsNoMore)
+{
+    ShownSurface surface;
+    for (const char* text : {"<p>a</p>", kTable, "", "<p>b</p>"})
+        surface.setDocumentHTML(text);
+    EXPECT_EQ(surface.findChildren<QTextDocument*>().size(), 1);
+}
+
 TEST(DesignSurface, BeginsAtTheTopWithAnotherArea)
 {
     ShownSurface surface;

@@ -1,5 +1,6 @@
 #include "forms/frm_input.h"
 #include "forms/frm_message.h"
+#include "forms/message_icon.h"
 #include "forms/window_messages.h"
 
 #include "document/platform/word_ids.h"
@@ -38,6 +39,11 @@ struct Notes : testing::Test {
     {
         withNextModal(use);
         return messages.showNote(kind);
+    }
+    bool hasIcon(QWidget& box, MessageIcon icon)
+    {
+        const auto wanted = messageIcon(icon, activeTheme(program.session.skins), 1);
+        return dynamic_cast<QMessageBox&>(box).iconPixmap().toImage() == wanted.toImage();
     }
     std::string setting(const NoteCase& note) { return program.settings.ReadSetting(note.setting); }
 };
@@ -85,7 +91,7 @@ TEST_F(Notes, QuestionsAreAnsweredByTheKeyboardAndTextsAreShownAsTheyAre)
             auto& box = dynamic_cast<QMessageBox&>(window);
             EXPECT_TRUE(box.text().contains(QString::fromStdString(gap)));
             EXPECT_EQ(box.textFormat(), Qt::PlainText);
-            EXPECT_EQ(box.icon(), QMessageBox::Question);
+            EXPECT_TRUE(hasIcon(box, MessageIcon::Question));
             if (row.key > 'Z') {
                 QTest::keyClick(&box, static_cast<Qt::Key>(row.key));
             } else {
@@ -99,13 +105,13 @@ TEST_F(Notes, QuestionsAreAnsweredByTheKeyboardAndTextsAreShownAsTheyAre)
     EXPECT_FALSE(program.session.gSurfaceActive);
     QApplication::setOverrideCursor(Qt::WaitCursor);
     withNextModal([&](QWidget& window) {
-        EXPECT_EQ(dynamic_cast<QMessageBox&>(window).icon(), QMessageBox::Critical);
+        EXPECT_TRUE(hasIcon(window, MessageIcon::Critical));
         EXPECT_EQ(QApplication::overrideCursor(), nullptr);
         QTest::keyClick(&window, Qt::Key_Escape);
     });
     messages.ShowCriticalError("Die Platte ist voll.");
     withNextModal([&](QWidget& window) {
-        EXPECT_EQ(dynamic_cast<QMessageBox&>(window).icon(), QMessageBox::Information);
+        EXPECT_TRUE(hasIcon(window, MessageIcon::None));
         click(window, "btnOk");
     });
     messages.show(word::kNoDeckOpen, {}, MessageIcon::None);

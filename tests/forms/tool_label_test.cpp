@@ -20,6 +20,7 @@ protected:
         tool.setText("Tabelle");
         QPalette colours(Qt::white, Qt::black);
         colours.setColor(QPalette::Highlight, Qt::red);
+        colours.setColor(QPalette::HighlightedText, Qt::green);
         window.setPalette(colours);
         window.show();
         window.activateWindow();

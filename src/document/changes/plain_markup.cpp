@@ -74,13 +74,17 @@ private:
 
     bool passHead()
     {
-        for (const auto piece : kHead) {
-            if (!text_.substr(at_).starts_with(piece)) return false;
-            const auto end = at_ + piece.size();
-            at_ = std::min(text_.find('<', end), text_.size());
-            if (!isBlank(text_.substr(end, at_ - end))) return false;
-        }
-        return true;
+        return std::all_of(std::begin(kHead), std::end(kHead),
+            [this](std::string_view piece) { return passPiece(piece); });
+    }
+
+    /// With the white space behind it.
+    bool passPiece(std::string_view piece)
+    {
+        if (!text_.substr(at_).starts_with(piece)) return false;
+        const auto end = at_ + piece.size();
+        at_ = std::min(text_.find('<', end), text_.size());
+        return isBlank(text_.substr(end, at_ - end));
     }
 
     bool passStartTag()

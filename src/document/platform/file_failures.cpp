@@ -13,10 +13,13 @@ struct Reason {
     std::errc code;
     std::string_view text;
 };
+// A file is replaced by a new one, so that a folder can refuse it as well.
+constexpr std::string_view kRefused
+    = "der Zugriff darauf oder auf den übergeordneten Ordner ist verweigert";
 constexpr std::array kReasons{
     Reason{std::errc::no_such_file_or_directory, "Datei oder Ordner gibt es nicht"},
-    Reason{std::errc::permission_denied, "der Zugriff ist verweigert"},
-    Reason{std::errc::operation_not_permitted, "der Zugriff ist verweigert"},
+    Reason{std::errc::permission_denied, kRefused},
+    Reason{std::errc::operation_not_permitted, kRefused},
     Reason{std::errc::is_a_directory, "es ist ein Ordner"},
     Reason{std::errc::file_exists, "es gibt schon eine Datei mit diesem Namen"},
     Reason{std::errc::not_a_directory, "ein Teil des Pfades ist kein Ordner"},

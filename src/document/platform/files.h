@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <limits>
+#include <memory>
 #include <set>
 #include <string>
 #include <string_view>
@@ -36,6 +37,29 @@ void requireReplaceable(const std::string& path);
 /// where the name is taken; there is then no new file.
 void createFile(const std::string& path, std::string_view bytes, const std::string& model);
 
+/// The steps of replaceFile(), so that those of several files can be done side by side. Each throws
+/// FileFailure; the old file is then as it was. Signals that end the program wait until it goes.
+class FileReplacement {
+public:
+    /// Writes `bytes` beside the file. A device or pipe is written as it is, and all is done.
+    FileReplacement(const std::string& path, std::string_view bytes);
+    FileReplacement(FileReplacement&&) noexcept;
+    FileReplacement& operator=(FileReplacement&&) noexcept;
+    FileReplacement(const FileReplacement&) = delete;
+    FileReplacement& operator=(const FileReplacement&) = delete;
+    /// What has not taken the file's place is removed.
+    ~FileReplacement();
+
+    /// Waits until the bytes are on the disk.
+    void flush();
+    /// Takes the file's place. Returns the directory that is to be flushed; "" where there is none.
+    [[nodiscard]] std::string takePlace();
+
+private:
+    struct Neighbour;
+    std::unique_ptr<Neighbour> neighbour_; // null once all is done
+};
+
 /// Replaces many files, each as replaceFile() does, but flushes every directory just once, at its
 /// own end. Until then a crash of the machine may bring back some of the old files, each whole.
 class FileReplacements {
@@ -49,6 +73,8 @@ public:
 
     /// Throws as replaceFile() does.
     void replace(const std::string& path, std::string_view bytes);
+    /// The last step of a replacement that was flushed.
+    void finish(FileReplacement& flushed);
 
 private:
     std::set<std::string> directories_; // with files that were replaced

@@ -77,18 +77,56 @@ void requireAccess(const std::string& path, const std::string& target)
         throw cannotWrite(target, lastError());
 }
 
-void replaceTarget(
-    const std::string& target, const std::optional<struct stat>& old, std::string_view bytes)
+} // namespace
+
+/// With the target's name, which it refers to.
+struct FileReplacement::Neighbour {
+    std::string target;
+    NeighbourFile file;
+
+    Neighbour(std::string name, const std::optional<struct stat>& old, std::string_view bytes)
+        : target(std::move(name))
+        , file(target, old ? kPrivateMode : kUsualMode)
+    {
+        file.write(bytes);
+        if (old) file.resemble(*old);
+    }
+};
+
+FileReplacement::FileReplacement(const std::string& path, std::string_view bytes)
 {
+    auto old = statusOf(path);
+    const bool isLink = old && S_ISLNK(old->st_mode);
+    const bool isFollowed = isLink && !leadsToDevice(path);
+    const auto target = isFollowed ? behindLinks(path) : path;
+    if (isFollowed) old = statusOf(target);
+    if (old && S_ISDIR(old->st_mode))
+        throw cannotWrite(path, std::make_error_code(std::errc::is_a_directory));
+    if (old && (isDevice(*old) || S_ISLNK(old->st_mode))) {
+        writeToDevice(target, bytes);
+        return;
+    }
     if (old) requireAccess(target, target); // else a new name would pass by its write protection
-    NeighbourFile neighbour(target, old ? kPrivateMode : kUsualMode);
-    neighbour.write(bytes);
-    if (old) neighbour.resemble(*old);
-    neighbour.flush();
-    neighbour.takeTheTargetsPlace();
+    neighbour_ = std::make_unique<Neighbour>(target, old, bytes);
 }
 
-} // namespace
+FileReplacement::FileReplacement(FileReplacement&&) noexcept = default;
+FileReplacement& FileReplacement::operator=(FileReplacement&&) noexcept = default;
+FileReplacement::~FileReplacement() = default;
+
+void FileReplacement::flush()
+{
+    if (neighbour_) neighbour_->file.flush();
+}
+
+std::string FileReplacement::takePlace()
+{
+    if (!neighbour_) return {};
+    neighbour_->file.takeTheTargetsPlace();
+    auto directory = directoryOf(neighbour_->target);
+    neighbour_.reset();
+    return directory;
+}
 
 std::string readFile(const std::string& path, std::size_t maxBytes)
 {
@@ -119,16 +157,15 @@ FileReplacements::~FileReplacements()
 
 void FileReplacements::replace(const std::string& path, std::string_view bytes)
 {
-    auto old = statusOf(path);
-    if (old && S_ISLNK(old->st_mode) && leadsToDevice(path)) return writeToDevice(path, bytes);
-    const bool isLink = old && S_ISLNK(old->st_mode);
-    const auto target = isLink ? behindLinks(path) : path;
-    if (isLink) old = statusOf(target);
-    if (old && S_ISDIR(old->st_mode))
-        throw cannotWrite(path, std::make_error_code(std::errc::is_a_directory));
-    if (old && isDevice(*old)) return writeToDevice(target, bytes);
-    replaceTarget(target, old, bytes);
-    directories_.insert(directoryOf(target));
+    FileReplacement replacement(path, bytes);
+    replacement.flush();
+    finish(replacement);
+}
+
+void FileReplacements::finish(FileReplacement& flushed)
+{
+    auto directory = flushed.takePlace();
+    if (!directory.empty()) directories_.insert(std::move(directory));
 }
 
 void replaceFile(const std::string& path, std::string_view bytes)
@@ -155,7 +192,11 @@ void createFile(const std::string& path, std::string_view bytes, const std::stri
     if (!createWorkFile(path))
         throw cannotWrite(path, std::make_error_code(std::errc::file_exists));
     try {
-        replaceTarget(path, like, bytes);
+        NeighbourFile neighbour(path, kPrivateMode);
+        neighbour.write(bytes);
+        neighbour.resemble(like);
+        neighbour.flush();
+        neighbour.takeTheTargetsPlace();
     } catch (const FileFailure&) {
         removeFile(path);
         throw;

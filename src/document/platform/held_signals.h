@@ -1,11 +1,10 @@
 #pragma once
 
-#include <csignal>
-
 namespace quillmere {
 
-/// Holds back the signals that ask the program to end, from this thread, until its own end: they
-/// arrive then. What lies on the disk for the moment only is removed ahead of them.
+/// Holds back the signals that ask the program to end, from this thread, until the end of the last
+/// one of its kind: they arrive then. What lies on the disk for the moment only is removed ahead
+/// of them.
 class HeldSignals {
 public:
     HeldSignals();
@@ -14,9 +13,6 @@ public:
     HeldSignals(HeldSignals&&) = delete;
     HeldSignals& operator=(HeldSignals&&) = delete;
     ~HeldSignals();
-
-private:
-    sigset_t before_{};
 };
 
 } // namespace quillmere

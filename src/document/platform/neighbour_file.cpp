@@ -16,6 +16,8 @@ namespace {
 constexpr mode_t kModeBits = 07777;
 constexpr int kMaxNames = 100; // crashed runs with the same process number may have left some
 
+thread_local int standing = 0; // files at the moment, whose names are not tried
+
 } // namespace
 
 std::string directoryOf(const std::string& path)
@@ -29,10 +31,13 @@ NeighbourFile::NeighbourFile(const std::string& target, mode_t mode)
 {
     static const auto ownNumber = std::to_string(::getpid());
     const auto stem = directoryOf(target) + ".quillmere-" + ownNumber + '-';
-    for (int i = 0; i < kMaxNames; ++i) {
+    for (int i = standing; i < standing + kMaxNames; ++i) {
         path_ = stem + std::to_string(i) + ".tmp";
         file_.emplace(path_, O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW, mode);
-        if (file_->isOpen()) return;
+        if (file_->isOpen()) {
+            ++standing;
+            return;
+        }
         if (errno != EEXIST) break;
     }
     throw cannotWrite(target_, lastError());
@@ -40,6 +45,7 @@ NeighbourFile::NeighbourFile(const std::string& target, mode_t mode)
 
 NeighbourFile::~NeighbourFile()
 {
+    --standing;
     if (!path_.empty()) ::unlink(path_.c_str());
 }
 

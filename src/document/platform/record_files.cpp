@@ -20,7 +20,7 @@ void removeRecordFile(const std::string& path)
 {
     std::error_code error;
     std::filesystem::remove(path, error);
-    if (error) throw FileFailure("Die Datei " + path + " kann nicht gelöscht werden.");
+    if (error) throw FileFailure("Die Datei „" + path + "“ kann nicht gelöscht werden.");
 }
 
 } // namespace quillmere

@@ -1,7 +1,8 @@
 // What is cut here always ends at a '<', so each '<' looks back over the blanks in front of it.
 // Held by clean_passes_test.cpp.
 
-#include "document/repair/clean_passes.h"
+#include "document/repair/clean_blanks.h"
+
 #include "document/text/text_cutter.h"
 #include "document/text/text_search.h"
 

@@ -1,7 +1,7 @@
 // How text that stands in no paragraph gets one; the card's end marker stands already, behind the
 // do block. Held by clean_passes_test.cpp.
 
-#include "document/repair/clean_paragraphs.h"
+#include "document/repair/clean_card_text.h"
 
 #include <algorithm>
 #include <utility>

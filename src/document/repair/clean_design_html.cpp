@@ -4,14 +4,19 @@
 
 #include "document/repair/clean_design_html.h"
 
+#include "document/repair/clean_blanks.h"
 #include "document/repair/clean_brackets.h"
+#include "document/repair/clean_card_text.h"
 #include "document/repair/clean_do_block.h"
 #include "document/repair/clean_options.h"
+#include "document/repair/clean_paragraph_merge.h"
 #include "document/repair/clean_paragraphs.h"
 #include "document/repair/clean_passes.h"
 #include "document/repair/clean_tables.h"
 #include "document/repair/format_nesting.h"
+#include "document/repair/format_pairs.h"
 #include "document/repair/paragraphs.h"
+#include "document/repair/transliteration.h"
 #include "document/text/limits.h"
 
 #include <string>
@@ -20,13 +25,13 @@
 namespace quillmere {
 namespace {
 
-struct TagPair {
+struct ElementKeys {
     SearchKey open;
     SearchKey close;
 };
 
 // Pictures come twice: a link or list around one may have brought it a paragraph meanwhile.
-constexpr TagPair kElementsInParagraphs[] = {
+constexpr ElementKeys kElementsInParagraphs[] = {
     {"<img", "</img"},
     {"<a", "</a"},
     {"<!--select", "<!--/select"},
@@ -39,13 +44,6 @@ constexpr TagPair kElementsInParagraphs[] = {
     {"<i>", "</i>"},
     {"<u>", "</u>"},
 };
-constexpr TagPair kFormatsOfOneParagraph[] = {
-    {"<big>", "</big>"},
-    {"<small>", "</small>"},
-    {"<i>", "</i>"},
-    {"<b>", "</b>"},
-    {"<u>", "</u>"},
-};
 
 void wrapElements(EditedText& text)
 {
@@ -55,7 +53,7 @@ void wrapElements(EditedText& text)
 
 void splitFormats(EditedText& text)
 {
-    for (const auto& pair : kFormatsOfOneParagraph)
+    for (const TagPair& pair : kFormatPairs)
         SplitAtParagraphs(text, pair.open, pair.close);
 }
 

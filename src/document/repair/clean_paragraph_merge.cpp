@@ -2,7 +2,7 @@
 // stays, and neighbours without alignment. Both keep what they know of the first paragraph's tag,
 // since thousands may melt into one. Held by clean_passes_test.cpp.
 
-#include "document/repair/clean_paragraphs.h"
+#include "document/repair/clean_paragraph_merge.h"
 
 #include <algorithm>
 

@@ -4,7 +4,6 @@
 #include "document/text/edited_text.h"
 
 #include <span>
-#include <string>
 #include <string_view>
 
 namespace quillmere {
@@ -18,10 +17,5 @@ struct CleanPass {
 
 /// The passes ahead of the transliteration, in their order.
 [[nodiscard]] std::span<const CleanPass> cleanPasses();
-
-/// Behind the transliteration: cuts the blanks ahead of each tag, with a single line end among
-/// them. Between two tags that have nothing else between them a line end goes without blanks as
-/// well.
-void cutBlanksAheadOfTags(std::string& text);
 
 } // namespace quillmere

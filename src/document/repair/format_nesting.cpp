@@ -5,6 +5,7 @@
 #include "document/repair/format_nesting.h"
 
 #include "document/repair/format_overlap.h"
+#include "document/repair/format_pairs.h"
 #include "document/text/limits.h"
 #include "document/text/tag_keys.h"
 #include "document/text/tag_places.h"
@@ -93,15 +94,6 @@ private:
     std::size_t resumeAt_ = 0;
 };
 
-/// The five formats that may overlap, in the order in which they are held against each other.
-constexpr std::array<TagPair, 5> kOverlappingPairs{{
-    {"<big>", "</big>"},
-    {"<small>", "</small>"},
-    {"<i>", "</i>"},
-    {"<b>", "</b>"},
-    {"<u>", "</u>"},
-}};
-
 /// The places of the open and the close tag of each pair.
 std::vector<Places> placesOf(std::string_view text, std::span<const TagPair> pairs)
 {
@@ -171,13 +163,13 @@ void RepairOverlap(std::string& text, std::string_view openA, std::string_view c
 void RepairFormatNesting(std::string& text)
 {
     requireAddressable(text);
-    auto places = placesOf(text, kOverlappingPairs);
-    for (std::size_t a = 0; a < kOverlappingPairs.size(); ++a) {
-        for (std::size_t b = 0; b < kOverlappingPairs.size(); ++b) {
+    auto places = placesOf(text, kFormatPairs);
+    for (std::size_t a = 0; a < kFormatPairs.size(); ++a) {
+        for (std::size_t b = 0; b < kFormatPairs.size(); ++b) {
             if (a == b) continue;
-            const bool moved = nestOverlaps(text, kOverlappingPairs[a], kOverlappingPairs[b],
+            const bool moved = nestOverlaps(text, kFormatPairs[a], kFormatPairs[b],
                 {places[2 * a], places[2 * a + 1], places[2 * b], places[2 * b + 1]});
-            if (moved) places = placesOf(text, kOverlappingPairs);
+            if (moved) places = placesOf(text, kFormatPairs);
         }
     }
 }

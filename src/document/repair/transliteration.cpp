@@ -1,7 +1,7 @@
 // One sweep over the characters; a text of 7 bits is left untouched. Held by
 // clean_passes_test.cpp.
 
-#include "document/repair/clean_design_html.h"
+#include "document/repair/transliteration.h"
 
 #include "document/text/limits.h"
 #include "document/text/windows1252.h"

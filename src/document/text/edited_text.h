@@ -31,8 +31,8 @@ public:
     [[nodiscard]] std::string_view whole();
 
     /// The first place at or behind `from` where `key` stands; npos where there is none. What
-    /// `key` tells must outlive this text. With `limit` nothing is read for
-    /// places from there on, and what is known of them is the answer.
+    /// `key` tells must outlive this text. `limit` is for who needs no place from there on: nothing
+    /// is read for them, and where there is none ahead of it the answer is any from it on, or npos.
     [[nodiscard]] std::size_t find(
         const SearchKey& key, std::size_t from = 0, std::size_t limit = npos);
     /// The last place ahead of `before` where `key` begins, of those from `from` on. Nothing of

@@ -1,5 +1,5 @@
 // What a deletion joins was parted by deleted tags only, so it shows as well when all are deleted.
-// Held by corrections_test.cpp and corrections_test.cpp.
+// Held by corrections_test.cpp.
 
 #include "document/text/tag_places.h"
 

@@ -120,6 +120,7 @@ struct PageElement {
 struct PagePlace {
     std::size_t block = 0;
     std::size_t offset = 0; ///< 0 to the number of items of the block
+    // NOLINTNEXTLINE(modernize-use-nullptr): the check takes the comparison's own 0 for a pointer
     friend auto operator<=>(const PagePlace&, const PagePlace&) = default;
 };
 
