@@ -21,6 +21,7 @@ namespace quillmere {
 namespace {
 
 constexpr const char* kNewTitle = "Nicht festgelegt";
+constexpr const char* kNewId = "Bereich"; // and a number
 
 QString typed(std::string_view markup)
 {
@@ -104,7 +105,7 @@ std::string frmArea::freeId() const
     auto number = areaCount(session().document.deck);
     std::string id;
     do {
-        id = "Bereich" + std::to_string(++number);
+        id = kNewId + std::to_string(++number);
     } while (hasId(areaCount(session().document.deck), id));
     return id;
 }
@@ -135,10 +136,23 @@ bool frmArea::hasGoodId() const
     return false;
 }
 
+/// AddArea links the last area to the id that it gives the new one. Where another area has that id,
+/// as after one was deleted, the link is made here, to the id that the area is to get.
+void frmArea::linkFromLast()
+{
+    auto& document = session().document;
+    const auto count = areaCount(document.deck);
+    const bool isTaken = hasId(count, kNewId + std::to_string(count + 1));
+    if (!isTaken || !GetJump(document, count - 1).target.empty()) return;
+    SetJump(document, count - 1,
+        {{}, session().words.GetWord(word::kJumpLabel), "#" + coreText(txtId->text().trimmed())});
+}
+
 void frmArea::addArea()
 {
     auto& document = session().document;
     const auto first = document.deck.front();
+    linkFromLast();
     AddArea(document, false, first.deckFile, first.deckDir);
     document.currentArea = static_cast<int>(areaCount(document.deck)) - 1;
 }
@@ -190,8 +204,9 @@ void frmArea::btnNew_Click()
 {
     if (!hasGoodId()) return;
     Jump wanted{{}, valueOf(*txtJumpSelectionCaption), {}};
-    const bool hasAddress = !objFrmLink->address().text().trimmed().isEmpty();
-    if (wanted.label.empty() && hasAddress && shownJump_.label.empty())
+    const auto address = objFrmLink->address().text().trimmed();
+    const bool hasNewAddress = !address.isEmpty() && address != typed(shownJump_.target);
+    if (wanted.label.empty() && hasNewAddress && shownJump_.label.empty())
         return complain("Bitte geben Sie eine Beschriftung für den Auswahl-Button ein. Ohne sie "
                         "kann der Bereich keinen Sprung haben.",
             *txtJumpSelectionCaption);

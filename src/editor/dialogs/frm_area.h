@@ -30,6 +30,7 @@ private:
     [[nodiscard]] std::string freeId() const;
     [[nodiscard]] bool hasGoodId() const;
     [[nodiscard]] bool hasId(std::size_t areaIndex, const std::string& id) const;
+    void linkFromLast();
     void addArea();
     void setIdAndTitle();
     void renameTargets(const std::string& oldId, const std::string& newId);

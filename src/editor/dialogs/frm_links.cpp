@@ -6,7 +6,10 @@
 #include "document/platform/word_ids.h"
 #include "editor/elements/typed_values.h"
 
+#include <QTextCursor>
 #include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace quillmere {
 
@@ -82,6 +85,21 @@ void frmLinks::btnNew_Click()
     linkMarkedText(wanted);
 }
 
+/// The blanks at the borders of what is marked stay in the sentence: the link takes the place of
+/// the words alone.
+void frmLinks::markWithoutBlanks()
+{
+    const auto marked = surface().selectedText();
+    const auto isText = [](QChar character) { return !character.isSpace(); };
+    const auto ahead = std::find_if(marked.begin(), marked.end(), isText) - marked.begin();
+    const auto behind = std::find_if(marked.rbegin(), marked.rend(), isText) - marked.rbegin();
+    auto cursor = surface().textCursor();
+    const auto end = cursor.selectionEnd() - static_cast<int>(behind);
+    cursor.setPosition(cursor.selectionStart() + static_cast<int>(ahead));
+    cursor.setPosition(end, QTextCursor::KeepAnchor);
+    surface().setTextCursor(cursor);
+}
+
 void frmLinks::linkMarkedText(const LinkSettings& wanted)
 {
     if (!canBecomeLink(designText(), markedText()))
@@ -89,6 +107,7 @@ void frmLinks::linkMarkedText(const LinkSettings& wanted)
                         "der in einem Absatz steht und kein Bild, keinen Zeilenumbruch und keinen "
                         "anderen Link enthält. Das Dokument ist unverändert.",
             *txtCaption);
+    markWithoutBlanks();
     surface().pasteHTML(linkMarkup(wanted));
     const auto caret = surface().caretOffset();
     SaveSurface(session().document, area());

@@ -24,6 +24,7 @@ public:
 private:
     void layOut();
     [[nodiscard]] SourceRange markedText() const;
+    void markWithoutBlanks();
     void linkMarkedText(const LinkSettings& wanted);
     void btnNew_Click();
     void btnDelete_Click();

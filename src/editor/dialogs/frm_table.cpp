@@ -76,11 +76,11 @@ void frmTable::SetInitializations(bool newElement, const Hit& hit)
 {
     loadTexts();
     if (cboAlign->count() == 0) cboAlign->addItems({"Links", "Mittig", "Rechts"});
-    NewElement = newElement;
-    setWindowTitle(NewElement ? formText(text_variant::kNewText, "Tabelle einfügen")
-                              : formText(text_variant::kEditText, "Tabelle bearbeiten"));
     mTableFound = hit.Inside;
     mTablePos = searchPosition(hit);
+    NewElement = newElement || !mTableFound;
+    setWindowTitle(NewElement ? formText(text_variant::kNewText, "Tabelle einfügen")
+                              : formText(text_variant::kEditText, "Tabelle bearbeiten"));
     const double number = QRandomGenerator::global()->generateDouble() * kTitleNumbers;
     TableSettings table;
     table.title = session().words.GetWord(word::kTableTitle)
@@ -88,7 +88,7 @@ void frmTable::SetInitializations(bool newElement, const Hit& hit)
     show(table);
     btnDelete->setEnabled(!NewElement);
     if (NewElement) return hideForNewElement();
-    if (const auto found = GetTable(designText(), mTablePos); found && mTableFound) show(*found);
+    if (const auto found = GetTable(designText(), mTablePos)) show(*found);
     txtTitle->selectAll();
     txtTitle->setFocus();
 }
@@ -127,7 +127,7 @@ void frmTable::btnNew_Click()
     const auto wanted = settings();
     if (!wanted) return;
     const auto text = designText();
-    if (mTableFound && !NewElement) return apply(SetTable(text, mTablePos, *wanted));
+    if (!NewElement) return apply(SetTable(text, mTablePos, *wanted));
     apply(InsertTable(text, mTablePos, *wanted));
     surface().moveCursor(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
 }

@@ -107,12 +107,14 @@ private:
             {{last, behind}, CloseOpenParagraphs(page_, kNone, last, kParagraphEnd), false});
     }
 
-    /// Whether a <br> and nothing else parts a line from the one ahead, and neither is empty.
+    /// Whether a <br> or </br> and nothing else parts a line from the one ahead, and neither is
+    /// empty.
     [[nodiscard]] bool hasBreakBetween(std::size_t line) const
     {
-        return line < lines_.size() && !lines_[line].source.empty()
-            && !lines_[line - 1].source.empty()
-            && standsAt(page_.text, lines_[line - 1].source.end, "<br");
+        if (line >= lines_.size() || lines_[line].source.empty() || lines_[line - 1].source.empty())
+            return false;
+        const auto end = lines_[line - 1].source.end;
+        return standsAt(page_.text, end, "<br") || standsAt(page_.text, end, "</br");
     }
 
     /// Puts the border of two paragraphs between a line and the one ahead of it.

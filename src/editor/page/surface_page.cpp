@@ -146,8 +146,8 @@ void PageReader::readObject(std::size_t index)
 
 ItemKind PageReader::kindOf(const MarkupTag& tag) const
 {
+    if (tag.name == TagName::LineBreak) return ItemKind::LineBreak; // </br> as well
     if (tag.isEnd) return ItemKind::Chip;
-    if (tag.name == TagName::LineBreak) return ItemKind::LineBreak;
     if (tag.name == TagName::Picture) return ItemKind::Picture;
     const bool isRadio = tag.name == TagName::Input
         && equalIgnoringCase(attributeOf(tag.source.in(page_.text), "type"), "radio");

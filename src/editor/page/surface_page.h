@@ -31,7 +31,7 @@ struct SourceRange {
 enum class ItemKind : std::uint8_t {
     Character, ///< a character, or the entity that stands for it
     Blank, ///< a run of white space, shown as one blank
-    LineBreak, ///< <br>
+    LineBreak, ///< <br>, and </br>, which each new table has behind it
     Picture, ///< <img>, with the </img> behind it
     Radio, ///< <input type=radio>
     Chip, ///< a tag that the surface cannot show, or that does not fit where it stands

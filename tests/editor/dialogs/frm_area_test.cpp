@@ -25,6 +25,37 @@ TEST(FrmArea, AddsAnAreaBehindTheLast)
     EXPECT_EQ(GetJump(document, 1).label, "");
 }
 
+TEST(FrmArea, LeadsToANewAreaWhoseFirstIdIsTaken)
+{
+    ElementDesk desk;
+    auto wml = deckOf({"eins"});
+    wml.replace(wml.find("id=\"a\""), 6, "id=\"Bereich2\"");
+    desk.open(wml);
+    desk.use("mnuContext1AreaInsert", [](QWidget& form) {
+        EXPECT_EQ(textOf(form, "txtId"), "Bereich3");
+        click(form, "btnNew");
+    });
+    EXPECT_EQ(GetCardAttributes(desk.session.document, 1).id, "Bereich3");
+    EXPECT_EQ(GetJump(desk.session.document, 0).target, "#Bereich3");
+    EXPECT_EQ(GetJump(desk.session.document, 0).name, "Sprung");
+}
+
+TEST(FrmArea, KeepsAJumpWithoutCaption)
+{
+    ElementDesk desk;
+    auto wml = deckOf({"eins"});
+    wml.insert(wml.find("<p "), "<do type=\"accept\"><go href=\"http://a.de/\"/></do>\r\n");
+    desk.open(wml);
+    desk.use("mnuContext1AreaParameters", [](QWidget& form) {
+        EXPECT_EQ(textOf(form, "txtUrlJump"), "http://a.de/");
+        type(form, "txtTitle", "Neu");
+        click(form, "btnNew");
+    });
+    EXPECT_TRUE(desk.messages.taken().empty());
+    EXPECT_EQ(GetCardAttributes(desk.session.document, 0).title, "Neu");
+    EXPECT_EQ(GetJump(desk.session.document, 0).target, "http://a.de/");
+}
+
 TEST(FrmArea, ChangesIdTitleAndJump)
 {
     ElementDesk desk;

@@ -98,12 +98,43 @@ TEST(FrmTable, RefusesNumbersOutOfItsLimits)
 TEST(ElementForms, DoNotOpenInATable)
 {
     ElementDesk desk;
-    desk.openCards({"<table title=\"t\" columns=\"1\"><tr><td>eins</td></tr></table>"});
-    desk.caretBehind("ein");
-    for (const char* entry : {"mnuContext1InsertHyperlink", "mnuContext1InsertOption"}) {
-        desk.choose(entry);
-        EXPECT_EQ(desk.messages.taken(), std::vector<std::string>{"show 49"});
+    desk.openCards({"<table title=\"t\" columns=\"2\"><tr><td>eins</td><td></td></tr></table>x"});
+    const auto before = desk.content();
+    for (const char* place : {"ein", "</td><td>"}) {
+        desk.caretBehind(place);
+        const auto point = desk.surface().cursorRect().center();
+        desk.caretBehind("</table>x");
+        QTest::mouseClick(desk.surface().viewport(), Qt::LeftButton, {}, point);
+        for (const char* entry :
+            {"mnuContext1InsertHyperlink", "mnuContext1InsertOption", "mnuContext1InsertTable"}) {
+            desk.choose(entry);
+            EXPECT_EQ(desk.messages.taken(), std::vector<std::string>{"show 49"}) << entry << place;
+        }
+        for (const char* tool : {"lblButtonTable", "lblButtonLink", "lblButtonOption"}) {
+            QTest::mouseClick(&desk.control<QWidget>(tool), Qt::LeftButton);
+            EXPECT_EQ(desk.messages.taken(), std::vector<std::string>{"show 49"}) << tool << place;
+        }
     }
+    EXPECT_EQ(desk.content(), before);
+}
+
+TEST(FrmTable, ShowsNoChipBehindANewOne)
+{
+    ElementDesk desk;
+    desk.openCards({"vorn"});
+    desk.caretBehind("vorn");
+    desk.use("mnuContext1InsertTable", [](QWidget& form) { click(form, "btnNew"); });
+    EXPECT_NE(desk.content().find("</br>"), std::string::npos);
+    EXPECT_FALSE(desk.surface().toPlainText().contains(QChar::ObjectReplacementCharacter))
+        << desk.surface().toPlainText().toStdString();
+    desk.caretBehind("<!--Test2-->");
+    const auto point = desk.surface().cursorRect().center();
+    desk.caretBehind("vorn");
+    QTest::mouseClick(desk.surface().viewport(), Qt::LeftButton, {}, point);
+    desk.type("x");
+    desk.window.store();
+    EXPECT_NE(desk.content().find("</table><!--Test--> x<!--Test2--></br>"), std::string::npos)
+        << desk.content();
 }
 
 } // namespace

@@ -58,6 +58,7 @@ TEST(AlignLines, CutsParagraphsAtLines)
             "<p>[a<br/>b<br/>c]<br/>d</p>"},
         {"outside of paragraphs", "a<br/>[b<br/>c]<br/>d", kCenter,
             "a<p align=\"center\">[b<br/>c]</p>d"},
+        {"a break that is an end tag", "a</br>b|", kCenter, "a<p align=\"center\">b|</p>"},
         {"in a table: all of it", "<p>x<table><tr><td>a|b</td></tr></table>y</p>", kCenter,
             "<p>x</p><p align=\"center\"><table><tr><td>a|b</td></tr></table></p><p>y</p>"},
         {"next to a table, and back",

@@ -45,7 +45,7 @@ TEST(SurfacePage, ShowsTextAndObjects)
         {"other inputs", "<input><input type=text>", "-:<input><input type=text>"},
         {"tags that nobody knows", "<font size=2>a</font><center/>",
             "-:<font size=2>a</font><center/>"},
-        {"an end is no break", "a</br>", "-:a</br>"},
+        {"an end that is a break", "a</br>b</BR >", "-:a/b/"},
         {"a tag ends at the first '>'", "<img alt=\"a>b\">", "-:@b\">"},
         {"every '<' with a '>' behind it begins a tag", "1 < 2 > 1 <<b>x", "-:1_< 2 >_1_<<b>x"},
         {"a '<' without '>'", "a<b", "-:a<b"},
