@@ -10,6 +10,8 @@
 #include <QAbstractTextDocumentLayout>
 #include <QFontMetricsF>
 #include <QPainter>
+#include <QTextBlock>
+#include <QTextDocument>
 
 #include <algorithm>
 #include <cmath>
@@ -21,6 +23,7 @@ constexpr double kAboveMiddlePx = 1.5; // the middle of capitals lies above that
 constexpr double kRadioPx = 20;
 constexpr double kRadioGapPx = 4; // ahead of the option's text
 constexpr double kRadioRingPx = 14;
+constexpr double kBetweenOptionsPx = 20; // options stand in one line, as their text does
 constexpr double kChipPaddingPx = 9;
 constexpr double kChipGapPx = 3;
 constexpr qsizetype kMaxChipName = 24;
@@ -64,11 +67,26 @@ void drawChip(
     painter.drawText(body, Qt::AlignCenter, chipName(tag));
 }
 
+/// Whether the object at this position begins its paragraph or a line after a break.
+bool beginsLine(QTextDocument* document, int position)
+{
+    const auto block = document->findBlock(position);
+    return position == block.position()
+        || document->characterAt(position - 1) == QChar(QChar::LineSeparator);
+}
+
+QSizeF radioSize(QTextDocument* document, int position)
+{
+    const double ahead = beginsLine(document, position) ? 0 : kBetweenOptionsPx;
+    return {ahead + kRadioPx + kRadioGapPx, kRadioPx};
+}
+
+/// The ring stands at the right, next to the option's text.
 void drawRadio(QPainter& painter, const QRectF& place, const SurfaceStyle& style)
 {
-    QRectF ring(0, 0, kRadioRingPx, kRadioRingPx);
-    ring.moveCenter(
-        place.center() - QPointF((kRadioPx - kRadioRingPx + kRadioGapPx) / 2 - 1, kAboveMiddlePx));
+    const double ringLeft = kRadioPx + kRadioGapPx - 1;
+    QRectF ring(place.right() - ringLeft, 0, kRadioRingPx, kRadioRingPx);
+    ring.moveTop(place.center().y() - kAboveMiddlePx - kRadioRingPx / 2);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(style.ink, 1.75));
     painter.setBrush(Qt::NoBrush);
@@ -171,10 +189,11 @@ void InlineObjects::attachTo(QTextDocument& document)
         document.documentLayout()->registerHandler(type, this);
 }
 
-QSizeF InlineObjects::intrinsicSize(QTextDocument*, int, const QTextFormat& format)
+QSizeF InlineObjects::intrinsicSize(
+    QTextDocument* document, int position, const QTextFormat& format)
 {
     const auto source = objectSource(format);
-    if (format.objectType() == kRadioObject) return {kRadioPx + kRadioGapPx, kRadioPx};
+    if (format.objectType() == kRadioObject) return radioSize(document, position);
     if (format.objectType() == kChipObject) return chipSize(style_, source);
     const auto tag = readPictureTag(viewOf(source));
     const auto image = pictures_.find(tag.path);
