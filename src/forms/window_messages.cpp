@@ -10,6 +10,7 @@
 
 #include <QAbstractButton>
 #include <QApplication>
+#include <QKeyEvent>
 #include <QPushButton>
 
 namespace quillmere {
@@ -60,6 +61,15 @@ QWidget* windowInFront()
     return modal != nullptr ? modal : QApplication::activeWindow();
 }
 
+/// A key that is still held from before answers nothing, such as the Escape that closed the window.
+class HeldKeys final : public QObject {
+public:
+    bool eventFilter(QObject*, QEvent* event) override
+    {
+        return event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->isAutoRepeat();
+    }
+};
+
 // A waiting pointer over a message would say that it cannot be answered.
 void restorePointer()
 {
@@ -87,6 +97,8 @@ QMessageBox::StandardButton WindowMessages::shown(
             box.setIconPixmap(messageIcon(icon, theme, box.devicePixelRatioF()));
         session_->gSurfaceActive = false;
     }
+    HeldKeys held;
+    QApplication::instance()->installEventFilter(&held); // until its end
     return static_cast<QMessageBox::StandardButton>(box.exec());
 }
 

@@ -92,6 +92,9 @@ TEST_F(Notes, QuestionsAreAnsweredByTheKeyboardAndTextsAreShownAsTheyAre)
             EXPECT_TRUE(box.text().contains(QString::fromStdString(gap)));
             EXPECT_EQ(box.textFormat(), Qt::PlainText);
             EXPECT_TRUE(hasIcon(box, MessageIcon::Question));
+            QKeyEvent held(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier, {}, true);
+            QApplication::sendEvent(&box, &held);
+            EXPECT_TRUE(box.isVisible());
             if (row.key > 'Z') {
                 QTest::keyClick(&box, static_cast<Qt::Key>(row.key));
             } else {

@@ -152,7 +152,9 @@ std::size_t offsetInJoinedLines(std::string_view text, std::size_t offset)
     const auto ahead = text.substr(0, offset);
     const auto lineEnds
         = std::ranges::count_if(ahead, [](char c) { return c == '\r' || c == '\n'; });
-    return offset - static_cast<std::size_t>(lineEnds);
+    const auto tag = text.substr(0, text.find_first_of("\r\n")).find('<');
+    const auto dropped = tag == std::string_view::npos ? 0 : std::min(tag, offset);
+    return offset - dropped - static_cast<std::size_t>(lineEnds);
 }
 
 } // namespace quillmere

@@ -34,8 +34,8 @@ namespace quillmere {
 [[nodiscard]] std::size_t innermostElement(
     const SurfacePage& page, std::size_t offset, PageElement::Kind kind);
 
-/// The offset in the text that is left when all CR and LF are taken out of `text`, as
-/// ReadDesignText gives it.
+/// The offset in the text as ReadDesignText gives it: without all CR and LF, and without what
+/// stands ahead of the first '<' of its first line.
 [[nodiscard]] std::size_t offsetInJoinedLines(std::string_view text, std::size_t offset);
 
 } // namespace quillmere

@@ -184,10 +184,11 @@ void frmPrepare::showTitle()
     setWindowTitle(name.isEmpty() ? kProgramTitle : name + changed + " - " + kProgramTitle);
 }
 
-// Escape ends the program, as a person of this program knows it; changes are asked for.
+// Escape ends the program, as a person of this program knows it; changes are asked for. Not the
+// Escape that closed a dialog and is still held.
 void frmPrepare::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Escape)
+    if (event->key() == Qt::Key_Escape && !event->isAutoRepeat())
         close();
     else if (event->key() == Qt::Key_F12)
         showNormal();

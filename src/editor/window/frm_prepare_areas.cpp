@@ -24,6 +24,17 @@ namespace {
 constexpr std::int16_t kTextSource = 2;
 constexpr std::int16_t kTextOf = 4;
 
+/// Where in `now` ends what differs from `before`.
+std::size_t behindChange(std::string_view before, std::string_view now)
+{
+    const auto same = std::ranges::mismatch(before, now).in1 - before.begin();
+    const auto most = std::min(before.size(), now.size()) - static_cast<std::size_t>(same);
+    std::size_t tail = 0;
+    while (tail < most && before[before.size() - 1 - tail] == now[now.size() - 1 - tail])
+        ++tail;
+    return now.size() - tail;
+}
+
 } // namespace
 
 bool frmPrepare::deckIsOpen() const
@@ -178,10 +189,12 @@ void frmPrepare::btnShowProjekt_Click()
     openForm("frmOpenFromProjektDir", {});
 }
 
+/// Not of a surface that shows another text, such as behind an area that could not be loaded.
 void frmPrepare::keepUndoState()
 {
+    if (!deckIsOpen() || mScriptView || surfaceShows_ != shownDesignPath()) return;
     const auto& shown = objBrowserCard->DocumentHTML();
-    if (deckIsOpen() && shownArea().history.back() != shown) PushUndo(session_.document, -1, shown);
+    if (shownArea().history.back() != shown) PushUndo(session_.document, -1, shown);
 }
 
 void frmPrepare::undoOnSurface()
@@ -191,7 +204,9 @@ void frmPrepare::undoOnSurface()
     if (history.size() < 3) return; // entry 0 is no state, and the first state cannot be passed
     history.pop_back();
     waitForSurface(session_.document);
+    const auto caret = behindChange(objBrowserCard->DocumentHTML(), history.back());
     objBrowserCard->setDocumentHTML(history.back());
+    objBrowserCard->setCaretOffset(caret);
     waitForSurface(session_.document);
     store();
     if (shownArea().imageCursor >= 0) ReadImageTags(session_.document);

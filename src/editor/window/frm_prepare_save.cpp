@@ -72,14 +72,8 @@ void frmPrepare::AskAndSaveTmpWmlDocToWmlDoc(bool Ask)
     if (Ask && !session_.messages.ask(word::kSaveChanges, {}, MessageIcon::Question)) return;
     requireOwnFile();
     store();
-    const bool wasScriptChanged = std::exchange(mScriptChanged, false); // no question of its own
-    try {
-        SavePreparedDokumentAndShowArea(false);
-        writeDeckFile();
-    } catch (...) {
-        mScriptChanged = wasScriptChanged;
-        throw;
-    }
+    if (mScriptView) takeSource(); // which stays taken where the file cannot be written
+    writeDeckFile();
     setDocChanged(false);
     tellStored();
 }

@@ -56,9 +56,10 @@ private:
 };
 
 /// Gives the view another text as one step of its own undo, with the caret behind what differs.
-void replaceText(QPlainTextEdit& view, const QString& wanted)
+void replaceText(SourceEdit& view, const QString& wanted)
 {
-    const auto shown = view.toPlainText();
+    const auto shown = view.source();
+    if (shown == wanted) return;
     const auto [mine, other] = std::ranges::mismatch(shown, wanted);
     const auto same = mine - shown.begin();
     const auto most = std::min(shown.size(), wanted.size()) - same;
@@ -107,7 +108,7 @@ void frmPrepare::showSource()
     objBrowserCard->hide();
     mScriptChangedBefore = mScriptChanged;
     txtScript->setWml(withCrLf(file));
-    const auto text = txtScript->toPlainText();
+    const auto text = txtScript->source();
     if (mScriptUndo.front().isEmpty()) mScriptUndo.front() = text;
     if (mScriptInitial.isEmpty()) mScriptInitial = text;
     txtScript->setEnabled(true);
@@ -138,7 +139,7 @@ void frmPrepare::txtScript_Change()
 void frmPrepare::txtScript_KeyPress()
 {
     if (mScriptUndo.size() > kMaxSourceSteps) mScriptUndo.erase(mScriptUndo.begin() + 1);
-    mScriptUndo.push_back(txtScript->toPlainText());
+    mScriptUndo.push_back(txtScript->source());
 }
 
 void frmPrepare::undoInSource()
@@ -155,7 +156,7 @@ void frmPrepare::undoInSource()
 void frmPrepare::SavePreparedDokumentAndShowArea(bool Show)
 {
     if (mScriptView && deckIsOpen()) {
-        if (mScriptChanged) mScriptInitial = txtScript->toPlainText();
+        if (mScriptChanged) mScriptInitial = txtScript->source();
         const bool isTaken = !mScriptChanged
             || session_.messages.ask(word::kTakeSource, {}, MessageIcon::Question);
         // Without showing an area the text is taken whatever the answer was.
@@ -189,6 +190,7 @@ void frmPrepare::takeSource()
     if (std::exchange(mScriptChanged, false)) mDocChanged = true;
     const int last = static_cast<int>(areaCount(document.deck)) - 1;
     document.currentArea = std::min(document.currentArea, last);
+    tellStored(); // the work files are others now
 }
 
 } // namespace quillmere

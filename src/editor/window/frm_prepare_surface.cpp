@@ -193,6 +193,7 @@ void frmPrepare::insertAsElement(ElementKind kind, const std::string& clip, cons
     const auto text = ReadDesignText(session_.document, area);
     const auto paste = pasteElement(text, hit.position, clip, kind);
     if (paste.tableTestAt > 0 && IsInsideTable(text, paste.tableTestAt)) ShowMsg(4);
+    keepUndoState();
     WriteDesignText(session_.document, area, paste.design);
     setDocChanged(true);
     RefreshSurface();

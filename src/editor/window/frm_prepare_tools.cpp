@@ -126,6 +126,7 @@ void frmPrepare::openForm(const std::string& name, const FormCall& call)
     session_.gSurfaceActive = false;
     const auto form = forms_.find(name);
     if (form == forms_.end()) return tellMissing(QString::fromStdString(name));
+    keepUndoState(); // what the mouse changed
     form->second(call);
 }
 

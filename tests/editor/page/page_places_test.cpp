@@ -114,12 +114,20 @@ TEST(PagePlaces, LieInElements)
     EXPECT_EQ(innermostElement(page, 0, Kind::Paragraph), kNone); // ahead of its content
 }
 
-TEST(PagePlaces, KnowTheTextWithoutItsLineEnds)
+TEST(PagePlaces, KnowTheTextAsItIsReadAgain)
 {
-    const std::string text = "a\r\n\nb\rc";
-    constexpr std::size_t kJoined[] = {0, 1, 1, 1, 1, 2, 2, 3};
-    for (std::size_t offset = 0; offset <= text.size(); ++offset)
-        EXPECT_EQ(offsetInJoinedLines(text, offset), kJoined[offset]) << offset;
+    const struct {
+        std::string_view text;
+        std::vector<std::size_t> offsets;
+    } rows[] = {
+        {"a\r\n\nb\rc", {0, 1, 1, 1, 1, 2, 2, 3}},
+        {"?a<b\nc", {0, 0, 0, 1, 2, 2, 3}}, // what stands ahead of the first tag is dropped
+        {"a\nb<c", {0, 1, 1, 2, 3, 4}}, // but of the first line only
+    };
+    for (const auto& row : rows)
+        for (std::size_t offset = 0; offset <= row.text.size(); ++offset)
+            EXPECT_EQ(offsetInJoinedLines(row.text, offset), row.offsets.at(offset))
+                << row.text << offset;
 }
 
 } // namespace

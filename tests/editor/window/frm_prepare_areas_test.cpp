@@ -70,7 +70,10 @@ TEST(Areas, UndoGoesBackToTheStateOfTheStart)
     desk.type("abc");
     for (const char* left : {"xab", "xa", "x"}) {
         desk.click("lblButtonUndo");
-        EXPECT_NE(desk.design(0).find(std::string(">") + left + "</"), std::string::npos) << left;
+        const auto shown = std::string(">") + left;
+        EXPECT_NE(desk.design(0).find(shown + "</"), std::string::npos) << left;
+        const auto& text = desk.surface().DocumentHTML();
+        EXPECT_EQ(desk.surface().caretOffset(), text.find(shown) + shown.size());
     }
     desk.click("lblButtonUndo");
     EXPECT_EQ(desk.surface().DocumentHTML(), atStart);

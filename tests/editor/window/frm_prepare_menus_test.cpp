@@ -41,6 +41,9 @@ TEST(Keys, DoWhatPeopleExpect)
     desk.press(Qt::Key_N, kControl);
     desk.press(Qt::Key_F1);
     EXPECT_EQ(opened, (std::vector<std::string>{"new", "help"}));
+    QKeyEvent held(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier, {}, true);
+    QApplication::sendEvent(&desk.window, &held); // it closed a dialog
+    EXPECT_TRUE(desk.window.isVisible());
 }
 
 TEST(Keys, OfTheSurfaceReachTheFile)

@@ -54,9 +54,12 @@ TEST(WindowSource, AnEditReplacesAllAreasOnceItIsAssentedTo)
 {
     SourceDesk desk;
     desk.typeBehind("eins", " neu");
+    std::vector<bool> stored;
+    desk.session.afterStore = [&](bool changed) { stored.push_back(changed); };
     desk.messages.answers = {true};
     desk.click("btnAreaOne");
     EXPECT_EQ(desk.messages.taken(), std::vector<std::string>{"ask 41"});
+    EXPECT_EQ(stored, std::vector<bool>{true}) << "the areas have other work files now";
     EXPECT_NE(desk.design(0).find("eins neu"), std::string::npos);
     EXPECT_TRUE(desk.window.docChanged());
     desk.choose("mnuSave");
@@ -66,7 +69,7 @@ TEST(WindowSource, AnEditReplacesAllAreasOnceItIsAssentedTo)
 TEST(WindowSource, NoWhileMovingOnDropsTheTextAndUndoCanBringItBack)
 {
     SourceDesk desk;
-    desk.typeBehind("zwei", "!");
+    desk.typeBehind("zwei", QStringLiteral("\u00a0!")); // a hard blank stays one
     desk.messages.answers = {false};
     desk.click("btnAreaNext");
     EXPECT_EQ(desk.window.CurArea(), 1);
@@ -78,7 +81,7 @@ TEST(WindowSource, NoWhileMovingOnDropsTheTextAndUndoCanBringItBack)
     desk.messages.answers = {true};
     desk.click("lblButtonUndo");
     EXPECT_EQ(desk.messages.taken(), std::vector<std::string>{"ask 45"});
-    EXPECT_EQ(desk.source.wml(), deckOf({"eins", "zwei!"}));
+    EXPECT_EQ(desk.source.wml(), deckOf({"eins", "zwei\xA0!"}));
 }
 
 TEST(WindowSource, FewerCardsLeaveTheLastOneShown)
@@ -120,6 +123,23 @@ TEST(WindowSource, SavingTakesTheTextAsItStandsAndAsksNothing)
     desk.click("btnAreaOne");
     EXPECT_NE(desk.design(0).find("eins1<"), std::string::npos);
     EXPECT_NE(desk.surface().DocumentHTML().find("eins1<"), std::string::npos);
+}
+
+TEST(WindowSource, WhatWasTakenStaysAChangeUntilTheFileHasIt)
+{
+    SourceDesk desk;
+    desk.typeBehind("eins", "1");
+    const auto file = desk.folder.path() + "deck.wml";
+    std::filesystem::remove(file);
+    std::filesystem::create_directory(file);
+    desk.messages.answers = {true, true}; // to save, to make the file anew
+    desk.window.close();
+    EXPECT_TRUE(desk.messages.taken().back().starts_with("failure: "));
+    EXPECT_TRUE(desk.source.isVisible());
+    desk.click("btnAreaOne");
+    EXPECT_TRUE(desk.messages.log.empty());
+    EXPECT_NE(desk.surface().DocumentHTML().find("eins1"), std::string::npos);
+    EXPECT_TRUE(desk.window.docChanged());
 }
 
 TEST(WindowSource, ATextThatCannotBeADeckStaysInTheView)
