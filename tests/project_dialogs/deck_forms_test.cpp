@@ -119,6 +119,9 @@ TEST(frmAskProjektDir, StaysOpenWhereNothingWasMade)
     ASSERT_EQ(told.size(), 2U);
     EXPECT_TRUE(told.back().starts_with("failure: Der Ordner")) << told.back();
     EXPECT_TRUE(shown.form.isVisible() && desk.deck().empty());
+    shown.click("btnHelp");
+    QTest::keyClick(&shown.control<QLineEdit>("txtPath"), Qt::Key_F1);
+    EXPECT_EQ(desk.window.helps, 2);
     QTest::keyClick(&shown.form, Qt::Key_Escape);
     EXPECT_FALSE(shown.form.isVisible());
     EXPECT_EQ(desk.folder.get("index.wml"), deckOf("alt"));
