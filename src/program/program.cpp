@@ -25,6 +25,7 @@
 
 #include <QApplication>
 #include <QScreen>
+#include <QTimer>
 
 #include <cmath>
 
@@ -33,6 +34,7 @@ namespace quillmere {
 namespace {
 
 constexpr int kYieldsBehindAssistant = 4;
+constexpr int kActivationPatienceMs = 300;
 constexpr int kAlternativeTextPx = 11;
 constexpr std::size_t kEditorPageItem = 5;
 constexpr std::size_t kPreviewPageItem = 4;
@@ -134,12 +136,12 @@ void Program::applySkins()
     trapped(messages_, [&] { ReadPreviewSkins(skins, settings_, bigFonts); });
     const auto editor = FindSelectedSkin(skins, true);
     if (editor && *editor < skins.EditorSkins.size()) {
-        pages_[0] = pageStyle(skins.EditorSkins[*editor].items[kEditorPageItem]);
-        session_.document.devices[0] = &pages_[0];
+        pages_.front() = pageStyle(skins.EditorSkins[*editor].items[kEditorPageItem]);
+        session_.document.devices[0] = &pages_.front();
     }
     if (const auto preview = FindSelectedSkin(skins, false)) {
-        pages_[1] = pageStyle(skins.PreviewSkins[*preview].items[kPreviewPageItem]);
-        session_.document.devices[1] = &pages_[1];
+        pages_.back() = pageStyle(skins.PreviewSkins[*preview].items[kPreviewPageItem]);
+        session_.document.devices[1] = &pages_.back();
     }
     applyTheme(*qApp, activeTheme(skins));
     trapped(messages_, [this] { window_.applySkin(); });
@@ -151,11 +153,20 @@ void Program::showMainWindow()
     const auto screen = QGuiApplication::primaryScreen()->availableGeometry();
     window_.move(screen.center() - window_.rect().center());
     window_.show();
+    window_.activateWindow();
+    // A desktop may give the keyboard to another window, or to none, when the splash goes. The
+    // start goes on all the same.
+    QTimer::singleShot(kActivationPatienceMs, &window_, [this] {
+        if (hasBegun_) return;
+        QEvent activation(QEvent::WindowActivate);
+        QApplication::sendEvent(&window_, &activation);
+    });
 }
 
 // The window goes up a little once it stands, by 100 twips of the design's and back by 75.
 void Program::firstActivation()
 {
+    hasBegun_ = true;
     const double twips = session_.document.twipsPerPixel;
     const double upTwips = twips * 100 / kDesignTwips - 75;
     window_.move(window_.x(), window_.y() - static_cast<int>(std::lround(upTwips / twips)));

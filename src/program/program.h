@@ -68,6 +68,7 @@ private:
     void noteDeck(bool isChanged) const;
 
     StartOptions options_;
+    bool hasBegun_ = false; // firstActivation() ran
     DataDirectories directories_;
     clsRegistry settings_;
     DiskFileSystem files_;

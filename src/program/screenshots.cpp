@@ -11,7 +11,7 @@
 #include <QTimer>
 
 #include <cstdio>
-#include <functional>
+#include <utility>
 
 namespace quillmere {
 
@@ -29,43 +29,46 @@ QPixmap pictureOf(QWidget& window)
 
 class Screenshots : public QObject {
 public:
-    Screenshots(frmPrepare& window, Session& session, const QString& directory)
+    Screenshots(frmPrepare& window, Session& session, QString directory)
         : QObject(&window)
         , window_(window)
         , session_(session)
-        , directory_(directory)
+        , directory_(std::move(directory))
     {
     }
-
-    void start()
-    {
-        then([this] {
-            write(window_, "main");
-            clickSource();
-            then([this] {
-                write(window_, "source");
-                clickSource();
-                then([this] { showAssistant(); });
-            });
-        });
-    }
+    void start() { then(&Screenshots::takeMain); }
 
 private:
-    void then(const std::function<void()>& step) { QTimer::singleShot(kSettleMs, this, step); }
-    void clickSource()
+    void then(void (Screenshots::*step)()) const { QTimer::singleShot(kSettleMs, this, step); }
+    void takeMain()
     {
-        if (auto* button = window_.findChild<QAbstractButton*>("btnScript")) button->click();
+        write(window_, "main");
+        clickSource();
+        then(&Screenshots::takeSource);
+    }
+    void takeSource()
+    {
+        write(window_, "source");
+        clickSource();
+        then(&Screenshots::showAssistant);
     }
     void showAssistant()
     {
-        then([this] {
-            auto* form = QApplication::activeModalWidget();
-            if (form == nullptr) return end(1);
-            write(*form, "assistant");
-            form->close();
-        });
+        then(&Screenshots::takeAssistant);
         frmAssistent::showAndRun(session_, {}, &window_);
-        end(isWhole_ ? 0 : 1);
+        end();
+    }
+    void takeAssistant()
+    {
+        auto* form = QApplication::activeModalWidget();
+        isWhole_ = isWhole_ && form != nullptr;
+        if (form == nullptr) return;
+        write(*form, "assistant");
+        form->close();
+    }
+    void clickSource()
+    {
+        if (auto* button = window_.findChild<QAbstractButton*>("btnScript")) button->click();
     }
     void write(QWidget& window, const char* name)
     {
@@ -75,11 +78,11 @@ private:
         else
             isWhole_ = false;
     }
-    void end(int status)
+    void end()
     {
         window_.closeAtOnce();
         window_.close();
-        QApplication::exit(status);
+        QApplication::exit(isWhole_ ? 0 : 1);
     }
 
     frmPrepare& window_;

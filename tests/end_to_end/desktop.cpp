@@ -54,7 +54,8 @@ Desktop::Desktop()
     requireTools();
     const auto number = folder.path() + "display";
     (void)start({"/bin/sh", "-c",
-        "exec Xvfb -displayfd 3 -screen 0 1280x900x24 -nolisten tcp 3>" + number + " 2>/dev/null"});
+        "exec Xvfb -displayfd 3 -screen 0 1280x900x24 -nolisten tcp -noreset 3>" + number
+            + " 2>/dev/null"});
     waitUntil("a screen", [&] { return folder.get("display").ends_with('\n'); });
     display_ = ":" + linesOf(folder.get("display")).front();
     for (const auto* name : {"config", "data", "run", "tmp"})

@@ -33,11 +33,13 @@ struct WholeProgram : testing::Test {
     }
     std::string saved() { return desktop.folder.get("meine decks/index.wml"); }
     pid_t open() { return desktop.start({QUILLMERE, deck}); }
+    static void rest() { std::this_thread::sleep_for(std::chrono::milliseconds(500)); }
     /// The main window with the deck in it, in front.
     std::string mainWindow()
     {
         auto window = desktop.window("index.wml.* MORVANE Quillmere");
         desktop.focus(window);
+        rest(); // the title is there a little ahead of the area
         return window;
     }
     void type()
@@ -117,14 +119,16 @@ TEST_F(WholeProgram, IsMovedByItsHandle)
     const auto before = place();
     (void)desktop.tell("mousemove --window " + window + " 480 30");
     (void)desktop.tell("mousedown 1");
+    rest(); // until the window manager has the pointer
     for (int i = 0; i < 5; ++i)
         (void)desktop.tell("mousemove_relative -- -12 8");
+    rest();
     (void)desktop.tell("mouseup 1");
     const auto coordinate = [](const std::string& text, const char* name) {
         return std::stoi(text.substr(text.find(name) + 2));
     };
     desktop.waitUntil("move", [&] { return place() != before; });
-    std::this_thread::sleep_for(std::chrono::milliseconds(300));
+    rest();
     EXPECT_NEAR(coordinate(place(), "X="), coordinate(before, "X=") - 60, 14);
     EXPECT_NEAR(coordinate(place(), "Y="), coordinate(before, "Y=") + 40, 10);
 }
@@ -188,7 +192,7 @@ TEST_F(WholeProgram, OffersWhatAKilledProgramHadNotSaved)
     const auto next = desktop.start({QUILLMERE});
     desktop.waitUntil(
         "question over the window", [&] { return desktop.windows("^MORVANE Quillmere$") == 2; });
-    std::this_thread::sleep_for(std::chrono::milliseconds(500));
+    rest();
     press("Return");
     (void)mainWindow();
     press("ctrl+s");

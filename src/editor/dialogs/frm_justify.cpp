@@ -32,7 +32,7 @@ QIcon alignmentPicture(const QWidget& form, Alignment alignment)
         painter.fillRect(left, top, length, 2, form.palette().windowText());
         top += kLineStepPx;
     }
-    return QIcon(picture);
+    return {picture};
 }
 
 } // namespace

@@ -7,7 +7,10 @@
 #include "forms/trap.h"
 
 #include <QFocusEvent>
+#include <QKeyEvent>
 #include <QSignalBlocker>
+#include <QStyle>
+#include <QStyleFactory>
 #include <QTimer>
 
 #include <algorithm>
@@ -23,6 +26,10 @@ NumberField::NumberField(
     , scroll_(scroll)
 {
     if (scroll_ != nullptr) {
+        // The program's own scroll bars have no arrows, which are all that is used of these.
+        auto* const withArrows = QStyleFactory::create("Fusion");
+        withArrows->setParent(scroll_);
+        scroll_->setStyle(withArrows);
         connect(scroll_, &QScrollBar::valueChanged, this,
             [this](int value) { field_->setText(QString::number(-value)); });
     }
@@ -81,12 +88,24 @@ bool NumberField::eventFilter(QObject* watched, QEvent* event)
     const auto reason = [event] { return static_cast<QFocusEvent*>(event)->reason(); };
     if (event->type() == QEvent::FocusIn && reason() != Qt::PopupFocusReason)
         QTimer::singleShot(0, field_, &QLineEdit::selectAll);
+    if (event->type() == QEvent::KeyPress && stepBy(static_cast<QKeyEvent*>(event)->key()))
+        return true;
     const bool isLeft = event->type() == QEvent::FocusOut
         && (reason() == Qt::TabFocusReason || reason() == Qt::BacktabFocusReason
             || reason() == Qt::MouseFocusReason || reason() == Qt::ShortcutFocusReason);
     // The focus has not moved yet; a message box would get it.
     if (isLeft) QTimer::singleShot(0, this, [this] { leave(); });
     return QObject::eventFilter(watched, event);
+}
+
+/// The keys up and down move the scroll bar; false for any other key.
+bool NumberField::stepBy(int key)
+{
+    if (scroll_ == nullptr || (key != Qt::Key_Up && key != Qt::Key_Down)) return false;
+    scroll_->triggerAction(
+        key == Qt::Key_Up ? QScrollBar::SliderSingleStepSub : QScrollBar::SliderSingleStepAdd);
+    field_->selectAll();
+    return true;
 }
 
 void NumberField::leave()

@@ -14,7 +14,7 @@ namespace quillmere {
 /// Holds a field to the rules for numbers: all of it is marked when it gets the focus, nothing that
 /// is no number stays while it is typed, and when it is left with a number out of its limits the
 /// person is told, the field goes back to its fallback and keeps the focus. A scroll bar beside it
-/// holds the number negated, so that up means more.
+/// holds the number negated, so that up means more; the keys up and down move it as well.
 class NumberField : public QObject {
     Q_OBJECT
 
@@ -35,6 +35,7 @@ protected:
 
 private:
     void filter();
+    [[nodiscard]] bool stepBy(int key);
     void leave();
 
     Session& session_;

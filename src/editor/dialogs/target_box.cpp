@@ -94,7 +94,7 @@ std::string TargetBox::target()
 
 std::string TargetBox::completed(const QString& typed)
 {
-    const auto asTyped = valueMarkup(typed.toStdU16String());
+    auto asTyped = valueMarkup(typed.toStdU16String());
     if (typed.isEmpty() || typed.startsWith('#')) return asTyped;
     const auto& deckDir = session_.document.deck.front().deckDir;
     if (session_.files.fileExists(deckDir + corePath(typed))) return asTyped;

@@ -15,6 +15,8 @@ TEST(FrmTable, InsertsATableAndMarksItsFirstCell)
         EXPECT_FALSE(control(form, "txtTitle").isVisible());
         EXPECT_FALSE(control(form, "btnDelete").isVisible());
         EXPECT_EQ(textOf(form, "txtRows"), "2");
+        QTest::keyClick(&control(form, "txtRows"), Qt::Key_Up);
+        EXPECT_EQ(textOf(form, "txtRows"), "3");
         type(form, "txtRows", "1");
         EXPECT_EQ(control<QScrollBar>(form, "objScrollRows").value(), -1);
         QTest::keyClick(&form, Qt::Key_Return);
