@@ -13,6 +13,13 @@ constexpr const char* kFormsFile = "ResForms1.res";
 constexpr const char* kControlsFile = "ResForms2.res";
 constexpr const char* kTextFile = "ResForms.ini";
 
+/// Files that were cut off lack forms or controls; a table may be without controls.
+bool areWhole(const std::string& forms, const std::string& controls)
+{
+    return !forms.empty() && forms.size() % kFormRecordSize == 0
+        && controls.size() % kControlRecordSize == 0;
+}
+
 } // namespace
 
 void FormResources::LoadFormResources(const SettingsStore& settings)
@@ -20,8 +27,10 @@ void FormResources::LoadFormResources(const SettingsStore& settings)
     const auto skins = settings.ReadSetting("Skins");
     if (skins.empty()) return;
     if (fileExists(skins + kFormsFile) && fileExists(skins + kControlsFile)) {
-        table_ = formsFromRecords(readFile(skins + kFormsFile), readFile(skins + kControlsFile));
-        return;
+        const auto forms = readFile(skins + kFormsFile);
+        const auto controls = readFile(skins + kControlsFile);
+        table_ = formsFromRecords(forms, controls);
+        if (areWhole(forms, controls)) return;
     }
     if (!fileExists(skins + kTextFile)) return;
     table_ = formsFromText(readFile(skins + kTextFile));

@@ -9,7 +9,8 @@ namespace quillmere {
 class FormResources {
 public:
     /// Reads "ResForms1.res" and "ResForms2.res" where both exist, else "ResForms.ini", which it
-    /// then compiles into the two. Where they cannot be written the texts are there all the same.
+    /// then compiles into the two. Where they cannot be written the texts are there all the same;
+    /// where one does not end with a record they are made anew, if the text file is there.
     /// Without any file or setting the table stays as it is. Throws FileFailure for a file that
     /// cannot be read.
     void LoadFormResources(const SettingsStore& settings);

@@ -14,6 +14,12 @@ namespace {
 constexpr const char* kCompiledFile = "ResWords.res";
 constexpr const char* kTextFile = "ResWords.ini";
 
+/// A file that was cut off lacks words.
+bool isWhole(const std::string& bytes)
+{
+    return !bytes.empty() && bytes.size() % kWordRecordSize == 0;
+}
+
 } // namespace
 
 void WordResources::LoadWordResources(const SettingsStore& settings)
@@ -21,8 +27,9 @@ void WordResources::LoadWordResources(const SettingsStore& settings)
     const auto skins = settings.ReadSetting("Skins");
     if (skins.empty()) return;
     if (fileExists(skins + kCompiledFile)) {
-        table_ = wordsFromRecords(readFile(skins + kCompiledFile));
-        return;
+        const auto bytes = readFile(skins + kCompiledFile);
+        table_ = wordsFromRecords(bytes);
+        if (isWhole(bytes)) return;
     }
     if (!fileExists(skins + kTextFile)) return;
     table_ = wordsFromText(readFile(skins + kTextFile));

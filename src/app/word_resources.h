@@ -14,7 +14,8 @@ namespace quillmere {
 class WordResources final : public Words {
 public:
     /// Reads "ResWords.res" or, where there is none, "ResWords.ini", and then compiles the latter
-    /// into the former. So a changed text file takes effect once the compiled one was deleted.
+    /// into the former. So a changed text file takes effect once the compiled one was deleted; one
+    /// that does not end with a record is made anew where the text file is there.
     /// Where the compiled file cannot be written the words are there all the same. Without any file
     /// or setting the table stays as it is. Throws FileFailure for a file that cannot be read.
     void LoadWordResources(const SettingsStore& settings);

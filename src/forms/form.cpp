@@ -14,6 +14,9 @@ Form::Form(Session& session, const QString& name, QWidget* parent)
     , session_(session)
 {
     setObjectName(name);
+    connect(this, &Form::helpWanted, this, [this] {
+        if (session_.window != nullptr) trap([this] { session_.window->ShowHelp(); });
+    });
 }
 
 void Form::loadTexts()

@@ -9,8 +9,9 @@
 
 namespace quillmere {
 
-/// A dialog of the program: its name finds its texts in the resources. Escape closes it, F1 shows
-/// the help. The routines of its events run in trapped().
+/// A dialog of the program: its name finds its texts in the resources. Escape closes it, F1 and
+/// helpWanted() show the help by way of the main window. The routines of its events run in
+/// trapped().
 class Form : public QDialog {
     Q_OBJECT
 

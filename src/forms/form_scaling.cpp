@@ -54,7 +54,7 @@ void growTo(ScaledControl& form, const Edges& edges, const ScreenTwips& screen)
         if (form.height <= edges.bottom) form.height = edges.bottom;
         if (form.width <= edges.right + kRightMargin) form.width = edges.right + kRightMargin;
     }
-    if (form.name == QLatin1String("frmUploadExtended") && IsBigFonts(screen.y)
+    if (form.name == QLatin1String("frmUploadExtended") && IsBigFonts(screen.x)
         && form.height <= edges.bottom + kUploadMargin)
         form.height = edges.bottom + kUploadMargin;
 }

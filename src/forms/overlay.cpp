@@ -4,6 +4,7 @@
 // tests/forms/overlay_test.cpp holds this.
 
 #include "forms/session.h"
+#include "forms/skin_picture.h"
 #include "forms/text.h"
 
 #include <QAbstractButton>
@@ -14,7 +15,6 @@
 #include <QLabel>
 #include <QListWidget>
 #include <QMenu>
-#include <QPixmap>
 #include <QTabWidget>
 #include <QVariant>
 
@@ -61,10 +61,8 @@ void addItems(QWidget& control, const std::string& list)
 void setPicture(QWidget& control, const QString& file)
 {
     if (file.isEmpty()) return;
-    const QPixmap picture(file);
-    if (picture.isNull() || control.setProperty("picture", picture)) return;
-    if (auto* label = qobject_cast<QLabel*>(&control)) label->setPixmap(picture);
-    if (auto* button = qobject_cast<QAbstractButton*>(&control)) button->setIcon(picture);
+    const auto picture = skinPicture(file, control.devicePixelRatioF());
+    if (!picture.isNull()) showPicture(control, picture);
 }
 
 void overlay(QWidget& control, const ControlEntry& entry, const Session& session)

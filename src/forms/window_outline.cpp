@@ -22,7 +22,7 @@ constexpr int kFarthest = 16384; // a polygon's cost grows with its height
 std::vector<DevicePoint> outlineFor(const QWidget& form, const SettingsStore& settings)
 {
     try {
-        return readOutline(settings, IsBigFonts(screenTwips(form).y));
+        return readOutline(settings, IsBigFonts(screenTwips(form).x));
     } catch (const FileFailure&) {
         return {}; // a window with corners is better than none
     }

@@ -12,12 +12,19 @@
 #include "editor/window/deck_costs_form.h"
 #include "editor/window/element_forms.h"
 #include "editor/window/frm_prepare.h"
+#include "forms/frm_about_quillmere.h"
+#include "forms/frm_assistent.h"
+#include "forms/frm_input.h"
+#include "forms/frm_message.h"
 #include "forms/system_file_dialogs.h"
 #include "forms/text.h"
 #include "forms/window_messages.h"
 #include "imageconv/alternative_text_painter_qt.h"
 #include "imageconv/wbmp_display_copies.h"
 #include "project/deck_files.h"
+#include "project/frm_ask_projekt_dir.h"
+#include "project/frm_deck_open.h"
+#include "project/frm_open_from_projekt_dir.h"
 
 #include <QAction>
 #include <QApplication>
@@ -160,6 +167,40 @@ void photographModal(const QString& path)
     });
 }
 
+void photographForm(Form& form, const QString& path)
+{
+    form.loadTexts();
+    form.show();
+    photograph(form, path + form.objectName());
+    form.close();
+}
+
+/// The forms that stand on the open deck alone, and those of messages.
+void photographPlainForms(Session& session, const QString& path)
+{
+    for (const auto kind :
+        {Note::Option, Note::Image, Note::Plain, Note::ImageLayout, Note::SelectRepair}) {
+        frmMessage note(session);
+        note.SetInitializations(kind);
+        photographForm(note, path + QString::number(static_cast<int>(kind)) + '-');
+    }
+    frmInput input(session);
+    input.SetParameters(
+        {"Neuer Ordner", "Der Ordner wird im Projekt angelegt.", "&Name:", "bilder"});
+    photographForm(input, path);
+    frmDeckOpen decks(session);
+    decks.ShowTab("open");
+    photographForm(decks, path);
+    frmAssistent assistant(session);
+    photographForm(assistant, path);
+    frmAboutQuillmere about(session);
+    photographForm(about, path);
+    frmAskProjektDir place(session);
+    photographForm(place, path);
+    frmOpenFromProjektDir project(session);
+    photographForm(project, path);
+}
+
 void photographForms(GallerySession& gallery, const QString& examples, const QString& path)
 {
     frmPrepare window(gallery.session, gallery.workFiles);
@@ -189,6 +230,7 @@ void photographForms(GallerySession& gallery, const QString& examples, const QSt
     image.SetInitializations(true, {});
     image.show();
     photograph(image, path + "frmImage");
+    photographPlainForms(gallery.session, path);
     window.hide();
 }
 

@@ -2,6 +2,8 @@
 
 #include "program/frm_start.h"
 
+#include "forms/skin_picture.h"
+
 #include <QCloseEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -19,7 +21,7 @@ constexpr QSize kPlainSize{480, 300};
 
 frmStart::frmStart(const QString& picture, std::function<void()> work, QWidget* parent)
     : QDialog(parent, Qt::SplashScreen | Qt::FramelessWindowHint)
-    , picture_(picture)
+    , picture_(skinPicture(picture, devicePixelRatioF()))
     , work_(std::move(work))
 {
     setObjectName(QStringLiteral("frmStart"));
@@ -27,8 +29,9 @@ frmStart::frmStart(const QString& picture, std::function<void()> work, QWidget* 
     objTimer.setTimerType(Qt::PreciseTimer); // never longer than told
     objTimer.setInterval(kShownMs);
     connect(&objTimer, &QTimer::timeout, this, &frmStart::objTimer_Timer);
-    setFixedSize(picture_.isNull() ? kPlainSize : picture_.size());
     const auto screen = QGuiApplication::primaryScreen()->availableGeometry();
+    const auto size = picture_.isNull() ? kPlainSize : picture_.deviceIndependentSize().toSize();
+    setFixedSize(size.boundedTo(screen.size()));
     move(screen.center() - rect().center());
 }
 

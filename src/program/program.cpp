@@ -10,6 +10,7 @@
 #include "forms/frm_about_quillmere.h"
 #include "forms/frm_assistent.h"
 #include "forms/overlay.h"
+#include "forms/screen_twips.h"
 #include "forms/text.h"
 #include "forms/theme.h"
 #include "forms/trap.h"
@@ -32,8 +33,6 @@ namespace quillmere {
 
 namespace {
 
-constexpr double kTwipsPerInch = 1440;
-constexpr int kDesignTwips = 15;
 constexpr int kYieldsBehindAssistant = 4;
 constexpr int kActivationPatienceMs = 300;
 constexpr int kAlternativeTextPx = 11;
@@ -49,12 +48,6 @@ QFont alternativeTextFont()
     auto font = QApplication::font();
     font.setPixelSize(kAlternativeTextPx);
     return font;
-}
-
-int screenTwipsPerPixel()
-{
-    const auto dpi = QGuiApplication::primaryScreen()->logicalDotsPerInchX();
-    return static_cast<int>(std::lround(kTwipsPerInch / dpi));
 }
 
 /// The directory that `directory` lies in; both have their separators.
@@ -86,7 +79,7 @@ Program::Program(StartOptions options)
 {
     messages_.useSession(session_);
     fileDialogs_.useSession(session_);
-    session_.document.twipsPerPixel = screenTwipsPerPixel();
+    session_.document.twipsPerPixel = screenTwips(window_).x;
     session_.afterStore = [this](bool isChanged) { noteDeck(isChanged); };
     registerForms();
 }
@@ -122,13 +115,15 @@ void Program::showSplash()
 
 void Program::loadResources()
 {
-    // Where settings cannot be kept there is no skin, but nobody should face empty messages.
+    trapped(messages_, [&] { forms_.LoadFormResources(settings_); });
+    trapped(messages_, [&] { words_.LoadWordResources(settings_); });
+    // Where settings cannot be kept there is no skin, and one of somebody's own may be without
+    // texts, but nobody should face empty messages.
     MemorySettings shipped;
     shipped.WriteSetting("Skins", directories_.writable + "Skins/");
-    const bool hasSkins = !settings_.ReadSetting("Skins").empty();
-    const SettingsStore& source = hasSkins ? static_cast<const SettingsStore&>(settings_) : shipped;
-    trapped(messages_, [&] { forms_.LoadFormResources(source); });
-    trapped(messages_, [&] { words_.LoadWordResources(source); });
+    if (forms_.table().forms.empty())
+        trapped(messages_, [&] { forms_.LoadFormResources(shipped); });
+    if (words_.table().empty()) trapped(messages_, [&] { words_.LoadWordResources(shipped); });
     OverlayForm(window_, session_);
     window_.setWindowTitle(QStringLiteral("MORVANE Quillmere")); // the overlay cannot change it
 }
@@ -235,6 +230,9 @@ void Program::noteDeck(bool isChanged) const
 
 void Program::showWindow()
 {
+    // While the splash stands the window comes anyway; shown now it would have its first activation
+    // behind it before the start is through.
+    if (!window_.isVisible()) return;
     window_.showNormal();
     window_.raise();
     window_.activateWindow();

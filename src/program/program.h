@@ -50,7 +50,7 @@ public:
 
     /// Shows the splash and the main window, and returns once that is closed.
     int run();
-    /// Brings the main window to the front.
+    /// Brings the main window to the front, once it stands.
     void showWindow();
 
 private:

@@ -154,9 +154,24 @@ void frmDeckOpen::validate()
         isDeckOpen(session()) && !txtSaveAsFileName->text().trimmed().isEmpty());
 }
 
+/// The directory lies on the drive with the longest root that it begins with.
+void frmDeckOpen::showDrive()
+{
+    int shown = -1;
+    std::size_t longest = 0;
+    for (int i = 0; i < objDrive->count(); ++i) {
+        const auto root = corePath(objDrive->itemText(i));
+        if (root.size() <= longest || !directory_.starts_with(root)) continue;
+        shown = i;
+        longest = root.size();
+    }
+    objDrive->setCurrentIndex(shown);
+}
+
 void frmDeckOpen::goTo(const std::string& directory)
 {
     directory_ = directory;
+    showDrive();
     lblDirectory->setText(shownPath(directory));
     objDirectory->clear();
     if (above(directory) != directory) objDirectory->addItem(shownText(kUp));

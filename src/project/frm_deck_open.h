@@ -38,6 +38,7 @@ private:
     void arm(int page);
     void validate(); ///< the one place that enables the buttons of the pages
     void goTo(const std::string& directory);
+    void showDrive();
     void enter(const QListWidgetItem& folder);
     void takeFile(const QListWidgetItem& file);
     void finish(bool isDone);

@@ -46,6 +46,27 @@ TEST_F(ResourceFiles, TheTextFormIsCompiledOnceAndThenTheCompiledOneWins)
     EXPECT_EQ(word() + form(), "");
 }
 
+TEST_F(ResourceFiles, ACompiledFileThatWasCutOffIsMadeAnewFromTheText)
+{
+    folder.put("ResWords.ini", "<word id=2>Zwei</word>");
+    folder.put("ResForms.ini", "<Form id=frmA skip=-1><control id=btnOk>Los</control></Form>");
+    EXPECT_EQ(word() + form(), "ZweifrmA");
+    for (const char* name : {"ResWords.res", "ResForms1.res", "ResForms2.res"}) {
+        SCOPED_TRACE(name);
+        const auto whole = folder.get(name);
+        const auto lengths = {std::size_t{0}, std::size_t{9}, whole.size() - 1};
+        for (const auto length : lengths) {
+            if (length == 0 && std::string(name) == "ResForms2.res") continue; // no controls
+            folder.put(name, whole.substr(0, length));
+            EXPECT_EQ(word() + form(), "ZweifrmA");
+            EXPECT_EQ(folder.get(name), whole);
+        }
+    }
+    std::filesystem::remove(folder.path() + "ResWords.ini");
+    folder.put("ResWords.res", folder.get("ResWords.res") + "rest");
+    EXPECT_EQ(word(), "Zwei") << "what is there counts where there is no text";
+}
+
 TEST_F(ResourceFiles, WhereTheCompiledFileCannotBeWrittenTheTextsAreThere)
 {
     folder.put("ResWords.ini", "<word id=2>Zwei</word>");

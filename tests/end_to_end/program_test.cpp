@@ -79,6 +79,17 @@ TEST_F(WholeProgram, ASecondStartBringsTheFirstToTheFrontAndLeaves)
     EXPECT_EQ(desktop.folder.get("config/MORVANE/Quillmere.conf"), settings);
 }
 
+TEST_F(WholeProgram, ASecondStartDuringTheSplashDoesNotDisturbTheFirst)
+{
+    const auto program = open();
+    desktop.waitUntil(
+        "splash", [this] { return desktop.tell("search --onlyvisible --class quillmere") != ""; });
+    EXPECT_EQ(desktop.waitForEnd(open()), 0);
+    (void)mainWindow(); // with the deck in it
+    press("Escape");
+    EXPECT_EQ(desktop.waitForEnd(program), 0);
+}
+
 TEST_F(WholeProgram, EscapeAsksAboutChangesAndTakesBothAnswers)
 {
     struct Answer {
@@ -134,6 +145,39 @@ TEST_F(WholeProgram, WorksWithoutAStoreOfSettings)
     EXPECT_EQ(saved(), changed());
     press("Escape");
     EXPECT_EQ(desktop.waitForEnd(program), 0);
+}
+
+TEST_F(WholeProgram, WorksWithSkinFilesThatAreDamaged)
+{
+    for (const char* name : {"Adjust.ini", "AdjuPrev.ini", "AdjPnt.ini", "UserDef.ini",
+             "ResWords.res", "ResForms1.res", "ResForms2.res", "splash.bmp"})
+        (void)desktop.folder.put(std::string("Skins/") + name, "damaged");
+    (void)desktop.folder.put(
+        "config/MORVANE/Quillmere.conf", "[General]\nSkins=" + desktop.folder.path() + "Skins/\n");
+    const auto program = open();
+    (void)mainWindow();
+    type();
+    press("ctrl+s");
+    desktop.waitUntil("saved deck", [this] { return saved() != kDeck; });
+    EXPECT_EQ(saved(), changed());
+    press("Escape");
+    EXPECT_EQ(desktop.waitForEnd(program), 0);
+}
+
+TEST_F(WholeProgram, SaysThatADeckOfTheCommandLineIsTooLongAndGoesOn)
+{
+    const auto text = std::string(kDeck).replace(
+        std::string_view(kDeck).find("Guten"), 5, std::string(40000, 'x'));
+    (void)desktop.folder.put("meine decks/index.wml", text);
+    const auto program = open();
+    desktop.waitUntil(
+        "message over the window", [&] { return desktop.windows("^MORVANE Quillmere$") == 2; });
+    std::this_thread::sleep_for(std::chrono::milliseconds(500));
+    press("Return");
+    desktop.focus(desktop.window("^MORVANE Quillmere$"));
+    press("Escape");
+    EXPECT_EQ(desktop.waitForEnd(program), 0);
+    EXPECT_EQ(saved(), text);
 }
 
 TEST_F(WholeProgram, OffersWhatAKilledProgramHadNotSaved)

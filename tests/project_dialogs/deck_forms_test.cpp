@@ -119,6 +119,9 @@ TEST(frmAskProjektDir, StaysOpenWhereNothingWasMade)
     ASSERT_EQ(told.size(), 2U);
     EXPECT_TRUE(told.back().starts_with("failure: Der Ordner")) << told.back();
     EXPECT_TRUE(shown.form.isVisible() && desk.deck().empty());
+    shown.click("btnHelp");
+    QTest::keyClick(&shown.control<QLineEdit>("txtPath"), Qt::Key_F1);
+    EXPECT_EQ(desk.window.helps, 2);
     QTest::keyClick(&shown.form, Qt::Key_Escape);
     EXPECT_FALSE(shown.form.isVisible());
     EXPECT_EQ(desk.folder.get("index.wml"), deckOf("alt"));
@@ -160,8 +163,12 @@ TEST(frmDeckOpen, DoesItsThreeTasksInOneDirectory)
     desk.settings.WriteSetting("LastPath1", folder + "a");
     desk.folder.put("a/eins.wml", deckOf("eins"));
     desk.folder.put("b/zwei.wml", deckOf("zwei"));
+    for (const auto& root : {std::string("/proc/"), folder + "b/", std::string("/")})
+        desk.drives.kinds.emplace_back(root, DriveKind::CdRom);
     {
         Shown<frmDeckOpen> shown(desk);
+        auto& drive = shown.control<QComboBox>("objDrive");
+        EXPECT_EQ(drive.currentText(), "/");
         shown.form.ShowTab(QStringLiteral("open"));
         EXPECT_FALSE(shown.isEnabled("btnOpen") || shown.isEnabled("btnSaveCurProjectAs"));
         auto& folders = shown.control<QListWidget>("objDirectory");
@@ -170,6 +177,7 @@ TEST(frmDeckOpen, DoesItsThreeTasksInOneDirectory)
         QTest::keyClick(&folders, Qt::Key_Return); // one up
         folders.setCurrentItem(folders.findItems(QStringLiteral("b"), Qt::MatchExactly).at(0));
         QTest::keyClick(&folders, Qt::Key_Return);
+        EXPECT_EQ(drive.currentText().toStdString(), folder + "b/");
         auto& files = shown.control<QListWidget>("objFileList");
         files.setCurrentRow(0);
         EXPECT_EQ(shown.text("txtFileName") + shown.text("txtSaveAsFileName"), "zwei.wmlzwei.wml");

@@ -22,6 +22,7 @@ public:
 
     bool isChanged = false;
     int shown = 0; ///< how often the surface was loaded
+    int helps = 0; ///< how often the help was wanted
     std::vector<int> shownMessages;
 
     void SetFocusToBrowser() override { }
@@ -38,7 +39,7 @@ public:
         isChanged = false;
     }
     void SetScriptUndoFlagsBack() override { }
-    void ShowHelp() override { }
+    void ShowHelp() override { ++helps; }
     void ShowMsg(int Index) override { shownMessages.push_back(Index); }
     void setDocChanged(bool changed) override { isChanged = changed; }
     [[nodiscard]] bool docChanged() const override { return isChanged; }

@@ -19,11 +19,6 @@ ElementForm::ElementForm(
     btnHelp->setText("&Hilfe");
     connect(btnCancel, &QPushButton::clicked, this, &QDialog::reject);
     connect(btnHelp, &QPushButton::clicked, this, [this] { emit helpWanted(objectName()); });
-    connect(this, &Form::helpWanted, this, [this] {
-        trap([this] {
-            if (this->session().window != nullptr) this->session().window->ShowHelp();
-        });
-    });
 }
 
 std::size_t ElementForm::area() const
