@@ -1,4 +1,4 @@
-// Held by picture_tag_test.cpp.
+// Held by inline_objects_test.cpp.
 
 #include "editor/picture_tag.h"
 

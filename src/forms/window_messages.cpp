@@ -61,13 +61,31 @@ QWidget* windowInFront()
     return modal != nullptr ? modal : QApplication::activeWindow();
 }
 
-/// A key that is still held from before answers nothing, such as the Escape that closed the window.
-class HeldKeys final : public QObject {
+/// Keeps a message from being answered by accident: a key that is still held from before answers
+/// nothing, such as the Escape that closed the window, and a question only its two buttons.
+class Deliberately final : public QObject {
 public:
-    bool eventFilter(QObject*, QEvent* event) override
+    Deliberately(const QMessageBox& box, bool isQuestion)
+        : box_(box)
+        , isQuestion_(isQuestion)
     {
-        return event->type() == QEvent::KeyPress && static_cast<QKeyEvent*>(event)->isAutoRepeat();
     }
+
+    bool eventFilter(QObject* receiver, QEvent* event) override
+    {
+        if (event->type() == QEvent::KeyPress) {
+            const auto* key = static_cast<QKeyEvent*>(event);
+            return key->isAutoRepeat() || (isQuestion_ && key->key() == Qt::Key_Escape);
+        }
+        const bool isClosed = receiver == &box_ && event->type() == QEvent::Close;
+        if (!isClosed || !isQuestion_ || !event->spontaneous()) return false;
+        event->ignore();
+        return true;
+    }
+
+private:
+    const QMessageBox& box_;
+    bool isQuestion_;
 };
 
 // A waiting pointer over a message would say that it cannot be answered.
@@ -88,7 +106,7 @@ QMessageBox::StandardButton WindowMessages::shown(
     box.setObjectName(QStringLiteral("frmMessageBox"));
     box.setTextFormat(Qt::PlainText); // names of files may look like markup
     box.setDefaultButton(isQuestion ? QMessageBox::Yes : QMessageBox::Ok);
-    box.setEscapeButton(isQuestion ? QMessageBox::No : QMessageBox::Ok);
+    if (!isQuestion) box.setEscapeButton(QMessageBox::Ok);
     nameButtons(box);
     if (session_ != nullptr) {
         OverlayForm(box, *session_);
@@ -97,8 +115,8 @@ QMessageBox::StandardButton WindowMessages::shown(
             box.setIconPixmap(messageIcon(icon, theme, box.devicePixelRatioF()));
         session_->gSurfaceActive = false;
     }
-    HeldKeys held;
-    QApplication::instance()->installEventFilter(&held); // until its end
+    Deliberately deliberately(box, isQuestion);
+    QApplication::instance()->installEventFilter(&deliberately); // until its end
     return static_cast<QMessageBox::StandardButton>(box.exec());
 }
 

@@ -85,8 +85,7 @@ TEST_F(Notes, QuestionsAreAnsweredByTheKeyboardAndTextsAreShownAsTheyAre)
         int key;
         bool answer;
     };
-    for (const auto& row :
-        {Row{Qt::Key_Return, true}, {Qt::Key_Escape, false}, {'J', true}, {'N', false}}) {
+    for (const auto& row : {Row{Qt::Key_Return, true}, {'J', true}, {'N', false}}) {
         withNextModal([&](QWidget& window) {
             auto& box = dynamic_cast<QMessageBox&>(window);
             EXPECT_TRUE(box.text().contains(QString::fromStdString(gap)));
@@ -95,6 +94,8 @@ TEST_F(Notes, QuestionsAreAnsweredByTheKeyboardAndTextsAreShownAsTheyAre)
             QKeyEvent held(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier, {}, true);
             QApplication::sendEvent(&box, &held);
             EXPECT_TRUE(box.isVisible());
+            QTest::keyClick(&box, Qt::Key_Escape);
+            EXPECT_TRUE(box.isVisible()) << "Escape answers no question";
             if (row.key > 'Z') {
                 QTest::keyClick(&box, static_cast<Qt::Key>(row.key));
             } else {

@@ -1,4 +1,4 @@
-// Held by image_edit_test.cpp.
+// Held by frm_image_test.cpp.
 
 #include "editor/elements/image_edit.h"
 

@@ -1,4 +1,4 @@
-// Held by typed_values_test.cpp.
+// Held by frm_area_test.cpp and link_edit_test.cpp.
 
 #include "editor/elements/typed_values.h"
 

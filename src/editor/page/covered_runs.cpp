@@ -1,6 +1,6 @@
 // Of each place the chain of its cells is known, from the innermost to the outermost one. Where the
 // chains part, each place is outside of tables or in a cell of a table of the common ground.
-// Held by covered_runs_test.cpp.
+// Held by delete_edits_test.cpp.
 
 #include "editor/page/covered_runs.h"
 

@@ -1,5 +1,5 @@
 // A plain blank is written only where a browser shows it: behind a character that is none, and
-// ahead of one. Held by typed_text_test.cpp.
+// ahead of one. Held by type_edits_test.cpp.
 
 #include "editor/page/typed_text.h"
 

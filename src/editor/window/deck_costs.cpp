@@ -1,5 +1,5 @@
 // The deck is repaired in memory, as an opening and a saving would, and compared. Held by
-// deck_costs_test.cpp.
+// frm_prepare_tools_test.cpp.
 
 #include "editor/window/deck_costs.h"
 

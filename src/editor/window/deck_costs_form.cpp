@@ -1,4 +1,4 @@
-// Held by deck_costs_test.cpp.
+// Held by frm_prepare_tools_test.cpp.
 
 #include "editor/window/deck_costs_form.h"
 

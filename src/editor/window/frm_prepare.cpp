@@ -1,7 +1,7 @@
 // The window's life: start, activation, keys, end. Areas are in frm_prepare_areas.cpp, saving in
 // frm_prepare_save.cpp, the source view in frm_prepare_source.cpp, tools and menus in
 // frm_prepare_tools.cpp and frm_prepare_menus.cpp, the surface's events in
-// frm_prepare_surface.cpp. Held by frm_prepare_test.cpp and its neighbours.
+// frm_prepare_surface.cpp. Held by frm_prepare_tools_test.cpp and its neighbours.
 
 #include "editor/window/frm_prepare.h"
 

@@ -1,6 +1,6 @@
 // Showing areas and moving between them. The surface is only ever stored into the file that it was
 // loaded from, so that no area gets another one's text, whatever failed on the way. Held by
-// area_navigation_test.cpp.
+// frm_prepare_areas_test.cpp.
 
 #include "editor/window/frm_prepare.h"
 

@@ -1,6 +1,6 @@
 // Where everything stands and how it looks. The skin's records place the controls; without a skin
 // the places below hold, which are those of a design without pictures. Held by
-// frm_prepare_look_test.cpp.
+// frm_prepare_tools_test.cpp.
 
 #include "editor/window/frm_prepare.h"
 

@@ -1,5 +1,5 @@
 // The source view: the deck as WML text. What is written there replaces all areas. Held by
-// source_view_test.cpp.
+// frm_prepare_source_test.cpp.
 
 #include "editor/window/frm_prepare.h"
 

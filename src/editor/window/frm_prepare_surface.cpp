@@ -1,4 +1,4 @@
-// What the person does on the surface. Held by frm_prepare_surface_test.cpp.
+// What the person does on the surface. Held by frm_prepare_menus_test.cpp.
 
 #include "editor/window/frm_prepare.h"
 
