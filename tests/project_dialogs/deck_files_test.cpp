@@ -104,7 +104,7 @@ TEST(OpenDocument, LeavesTheOpenDeckAloneWhereItFails)
     desk.folder.put("decks/programm.wml",
         std::string("\x7F"
                     "ELF\0\0<card id=\"a\">",
-            21));
+            19));
     desk.folder.put("decks/zitat.wml", "<wml><card id=\"a\"><p><img src=\"x/></p></card></wml>");
     std::filesystem::create_symlink("/dev/zero", folder + "null.wml");
     ASSERT_EQ(::mkfifo((folder + "rohr.wml").c_str(), 0600), 0);
