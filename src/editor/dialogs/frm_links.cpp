@@ -7,56 +7,28 @@
 #include "editor/elements/typed_values.h"
 
 #include <QTextCursor>
-#include <QVBoxLayout>
 
 #include <algorithm>
 
 namespace quillmere {
 
 frmLinks::frmLinks(Session& session, DesignSurface& surface, QWidget* parent)
-    : ElementForm(session, surface, "frmLinks", parent)
+    : TargetForm(session, surface, "frmLinks", parent)
 {
     setWindowTitle("Hyperlink");
-    objFrmCaption->setTitle("Beschriftung");
-    txtCaption->setAccessibleName("Beschriftung");
-    btnNew->setText("&OK");
-    btnDelete->setText("&Löschen");
-    layOut();
     onClick(btnNew, &frmLinks::btnNew_Click);
     onClick(btnDelete, &frmLinks::btnDelete_Click);
 }
 
-void frmLinks::layOut()
-{
-    (new QVBoxLayout(objFrmCaption))->addWidget(txtCaption);
-    auto* rows = new QVBoxLayout(this);
-    rows->addWidget(objFrmCaption);
-    rows->addWidget(objFrmLink);
-    rows->addStretch();
-    rows->addLayout(buttonRow(btnNew, btnDelete));
-    txtCaption->setMinimumWidth(fontMetrics().averageCharWidth() * 48);
-}
-
 void frmLinks::SetInitializations(bool newElement, const Hit& hit)
 {
-    loadTexts();
-    mLinkFound = hit.Inside;
+    begin(newElement, hit, {"Hyperlink einfügen", "Hyperlink bearbeiten"});
     mLinkPos = searchPosition(hit);
-    NewElement = newElement || !mLinkFound;
-    objFrmLink->fillAreas(formText(text_variant::kAreaText, "Bereich"));
-    objFrmLink->setDefaults();
     const auto marked = surface().selectedText().simplified();
     txtCaption->setText(markedText().empty() || marked.isEmpty() ? word(word::kLinkText) : marked);
-    setWindowTitle(NewElement ? formText(text_variant::kNewText, "Hyperlink einfügen")
-                              : formText(text_variant::kEditText, "Hyperlink bearbeiten"));
-    btnDelete->setVisible(!NewElement);
     const auto link = NewElement ? std::nullopt : GetLink(designText(), mLinkPos);
-    if (link) {
-        txtCaption->setText(QString::fromStdU16String(typedFrom(link->caption)));
-        objFrmLink->setTarget(link->target);
-    }
+    if (link) showElement(link->caption, link->target);
     txtCaption->selectAll();
-    txtCaption->setFocus();
 }
 
 /// What is marked of text; empty where an object is marked, or nothing.

@@ -1,11 +1,9 @@
 // What holds for every page, whatever its text.
 
 #include "editor/page/page_places.h"
-#include "generator/deck_generator.h"
-#include "support/small_deck.h"
+#include "support/design_samples.h"
 #include "support/small_random.h"
 #include "support/stopwatch.h"
-#include "support/token_soup.h"
 
 #include <gtest/gtest.h>
 
@@ -18,43 +16,11 @@
 namespace quillmere {
 namespace {
 
-constexpr auto kTags = std::to_array<std::string_view>({"<p>", "<p align=center>", "</p>",
-    "<table>", "<TABLE border=1>", "</table>", "<tr>", "</tr>", "<td>", "</td>", "<th>", "</TH>",
-    "<tbody>", "<b>", "</b>", "<i>", "</i>", "<big>", "</small>", "<a href=x>", "</a>",
-    "<img src=\"a\">", "</img>", "<input type=radio>", "<br/>", "</br>", "<center>", "</center>",
-    "<font size=\"2\">", "<!--select-->", "<!--/select-->", "<!--option a=\"b\"-->",
-    "<!--/option-->", "<!-- x > y -->", "<!--", "-->", "<", ">", "&", "&amp;", "&auml", "&#65",
-    "&#", "a", "b", " ", "  ", "\r\n", "\t", "<BODY>", "</BODY>", "<html>", "</html>",
-    "<!--card-->", "<!--/card-->", "<!--do-->", "<!--/do-->", "<!x>", "<td", "<a"});
-
-// Few, so that what they make often fits.
-constexpr auto kParts = std::to_array<std::string_view>({"<table><tr><td>", "</td></tr></table>",
-    "</td><td>", "</td></tr>", "<tr><td>", "</table>", "</td>", "<p>", "</p>", "<b>", "</b>", "<a>",
-    "</a>", "<!--x-->", "<!--/x-->", "a", " ", "\r\n", "<br/>", "<x>"});
-
-constexpr auto kBlanks = std::to_array<std::string_view>(
-    {" ", "\r\n", "<p>", "</p>", "<b>", "</a>", "<a>", "<!--x-->", "a", "<table><tr><td></table>"});
-
-void forEachText(const std::function<void(const std::string&)>& check)
+/// Areas of whole decks and of broken ones.
+void forEachDeckText(const test::UseText& check)
 {
-    test::forEachSequence(kBlanks, 4, check);
-    for (std::uint64_t seed = 0; seed < 3000; ++seed) {
-        check(test::randomSoup(seed, kTags, 3 + seed % 40));
-        check(test::randomSoup(seed, kParts, 3 + seed % 25));
-        check("<table><tr><td>" + test::randomSoup(seed, kParts, 3 + seed % 25));
-    }
-}
-
-void forEachDeckText(const std::function<void(const std::string&)>& check)
-{
-    for (std::uint64_t seed = 0; seed < 30; ++seed) {
-        SCOPED_TRACE(seed);
-        test::SmallDeck deck;
-        deck.load(bench::generateDeck(
-            seed, {.targetBytes = 1200, .brokenness = seed % 3 == 0 ? 0.2 : 0.0}));
-        for (std::size_t area = 0; area + 1 < deck.session.deck.size(); ++area)
-            check(deck.design(area));
-    }
+    for (const double faults : {0.0, 0.2})
+        test::forEachDeckText(faults, check);
 }
 
 /// As other editors left them.
@@ -163,7 +129,7 @@ TEST(PageProperties, AllRangesLieInTheTextInTheirOrder)
         expectOrderedPlaces(page);
         ASSERT_FALSE(testing::Test::HasFailure()) << text;
     };
-    forEachText(check);
+    test::forEachSoup(check);
     forEachDeckText(check);
     forEachOldText(check);
 }
@@ -270,7 +236,7 @@ void expectExactTyping(const std::string& text)
 
 TEST(PageProperties, WhatIsTypedShowsUpThereAndChangesNothingElse)
 {
-    forEachText(expectExactTyping);
+    test::forEachSoup(expectExactTyping);
     forEachDeckText(expectExactTyping);
     forEachOldText(expectExactTyping);
 }
