@@ -1,6 +1,6 @@
-// The tags of the pristine text are linked by what their keys have in common, so that each is
-// passed once; a key that is missed once is missing for good, as the walk never goes back. Held by
-// corrections_test.cpp.
+// Mostly the next tag is the one that is asked for. Where it is not, the tags of the pristine text are
+// linked by what their keys have in common, so that each is passed once; a key that is missed once
+// is missing for good, as the walk never goes back. Held by corrections_test.cpp.
 
 #include "document/repair/tag_gaps.h"
 
@@ -14,6 +14,12 @@ namespace {
 bool isWhite(char character)
 {
     return static_cast<unsigned char>(character) < 33;
+}
+
+/// Letters have different low bits, so that mostly one key has the bucket.
+std::size_t bucketOf(std::uint16_t key)
+{
+    return (key ^ key >> 5U) & 0xFFU;
 }
 
 } // namespace
@@ -64,24 +70,37 @@ PristineWalk::PristineWalk(std::string_view text)
         if (tag.size() == kTagKeyLength || tag == "<>")
             tags_.push_back({static_cast<std::uint32_t>(at), kNone, keyOf(tag)});
     }
-    buckets_.fill(kNone);
-    for (auto i = static_cast<Index>(tags_.size()); i-- > 0;)
-        tags_[i].nextInBucket = std::exchange(bucketOf(tags_[i].key), i);
 }
 
-std::optional<GapSpace> PristineWalk::goTo(std::string_view tag)
+void PristineWalk::fillBuckets()
 {
-    const auto key = keyOf(tag);
-    if (missing_[key]) return std::nullopt;
-    auto& first = bucketOf(key);
-    while (first != kNone && tags_[first].offset < from_)
+    bucketsAreFilled_ = true;
+    buckets_.fill(kNone);
+    for (auto i = static_cast<Index>(tags_.size()); i-- > next_;)
+        tags_[i].nextInBucket = std::exchange(buckets_[bucketOf(tags_[i].key)], i);
+}
+
+PristineWalk::Index PristineWalk::findInBucket(Key key)
+{
+    if (missing_[key]) return kNone;
+    if (!bucketsAreFilled_) fillBuckets();
+    auto& first = buckets_[bucketOf(key)];
+    while (first != kNone && first < next_)
         first = tags_[first].nextInBucket;
     auto found = first;
     while (found != kNone && tags_[found].key != key)
         found = tags_[found].nextInBucket;
     missing_[key] = found == kNone;
+    return found;
+}
+
+std::optional<GapSpace> PristineWalk::goTo(std::string_view tag)
+{
+    const auto key = keyOf(tag);
+    const bool isNext = next_ < tags_.size() && tags_[next_].key == key;
+    const auto found = isNext ? next_ : findInBucket(key);
     if (found == kNone) return std::nullopt;
-    from_ = tags_[found].offset + 1;
+    next_ = found + 1;
     gaps_.goAheadOf(tags_[found].offset);
     if (!gaps_.exists()) return std::nullopt;
     return gaps_.space();

@@ -72,13 +72,15 @@ private:
     };
 
     [[nodiscard]] static Key keyOf(std::string_view tag);
-    /// Letters have different low bits, so that mostly one key has the bucket.
-    [[nodiscard]] Index& bucketOf(Key key) { return buckets_[(key & 31U) | (key >> 3U & 0x3E0U)]; }
+    void fillBuckets();
+    [[nodiscard]] Index findInBucket(Key key);
 
     std::vector<Tag> tags_; // in the order of the text
-    std::array<Index, 1024> buckets_; // the first tag that the walk may not have passed
+    Index next_ = 0; // the first one that the walk has not passed
+    // Of no use as long as it is always the next one that is asked for:
+    bool bucketsAreFilled_ = false;
+    std::array<Index, 256> buckets_; // the first tag that the walk may not have passed
     std::bitset<0x10000> missing_; // keys of which none is left
-    std::size_t from_ = 0;
     GapWalk gaps_;
 };
 

@@ -120,8 +120,8 @@ private:
         if (text_.substr(begin, end - begin) == space) return;
         inserted_ += space.size();
         requireAddressableLength(inserted_);
-        rewriter_.insert(begin, space);
         rewriter_.drop(begin, end);
+        rewriter_.append(space);
     }
 
     std::string_view text_;
