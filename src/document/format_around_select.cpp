@@ -7,6 +7,7 @@
 #include "document/repair/format_pairs.h"
 #include "document/select_format_plan.h"
 #include "document/tag_rules.h"
+#include "document/text/character_walk.h"
 #include "document/text/limits.h"
 #include "document/text/tag_places.h"
 #include "document/text/text_edits.h"
@@ -74,7 +75,8 @@ bool touchesLists(std::string_view text)
 {
     unsigned open = 0; // one bit for each format
     bool inList = false;
-    for (auto at = text.find('<'); at != npos; at = text.find('<', at + 1)) {
+    CharacterWalk openings(text, '<');
+    for (auto at = openings.next(); at != npos; at = openings.next()) {
         const auto tag = kTags.ruleFor(text, at);
         if (tag == TagRules::kNone) continue;
         if (tag < std::size(kSelectKeys)) {

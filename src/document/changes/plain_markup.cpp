@@ -5,6 +5,7 @@
 #include "document/changes/plain_markup.h"
 
 #include "document/changes/character_references.h"
+#include "document/text/character_walk.h"
 
 #include <algorithm>
 #include <array>
@@ -42,6 +43,7 @@ class PlainMarkup {
 public:
     explicit PlainMarkup(std::string_view text)
         : text_(text)
+        , openings_(text, '<')
     {
     }
 
@@ -50,7 +52,7 @@ public:
         if (!isBlank(text_.substr(text_.rfind('>') + 1)) || !passHead()) return std::nullopt;
         while (at_ < text_.size()) {
             tagBegin_ = at_;
-            nextTag_ = std::min(text_.find('<', at_ + 1), text_.size());
+            nextTag_ = std::min(openings_.nextFrom(at_ + 1), text_.size());
             const bool isEnd = text_[at_ + 1] == '/';
             if (!(isEnd ? passEndTag() : passStartTag())) return std::nullopt;
             if (isEnd && !close()) return verdict(MarkupFault::WrongEnd, {name_, tagBegin_});
@@ -156,6 +158,7 @@ private:
     }
 
     std::string_view text_;
+    CharacterWalk openings_;
     std::size_t at_ = 0;
     std::size_t tagBegin_ = 0;
     std::size_t nextTag_ = 0; // or the text's end

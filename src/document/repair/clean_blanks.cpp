@@ -3,6 +3,7 @@
 
 #include "document/repair/clean_blanks.h"
 
+#include "document/text/character_walk.h"
 #include "document/text/text_cutter.h"
 #include "document/text/text_search.h"
 
@@ -35,7 +36,8 @@ std::size_t beginOfCut(std::string_view text, std::size_t tag)
 void cutBlanksAheadOfTags(std::string& text)
 {
     TextCutter cutter(text);
-    for (auto tag = text.find('<', 1); tag != npos; tag = text.find('<', tag + 1)) {
+    CharacterWalk tags(text, '<');
+    for (auto tag = tags.nextFrom(1); tag != npos; tag = tags.next()) {
         const bool mayBeBlank = text[tag - 1] == ' ' || text[tag - 1] == kLineEnd.back();
         const auto begin = mayBeBlank ? beginOfCut(text, tag) : tag;
         if (begin == tag) continue;

@@ -4,6 +4,7 @@
 
 #include "document/repair/clean_brackets.h"
 
+#include "document/text/character_walk.h"
 #include "document/text/text_search.h"
 
 namespace quillmere {
@@ -27,10 +28,12 @@ void thinOut(std::string& text, char bracket, char opposite)
 /// Whether '<' and '>' take turns, as nearly always.
 bool areInPairs(std::string_view text)
 {
-    auto end = text.find('>');
-    for (auto at = text.find('<'); at != npos; end = text.find('>', end + 1)) {
+    CharacterWalk openings(text, '<');
+    CharacterWalk ends(text, '>');
+    auto end = ends.next();
+    for (auto at = openings.next(); at != npos; end = ends.next()) {
         if (end == npos || end < at) return false;
-        at = text.find('<', at + 1);
+        at = openings.next();
         if (at < end) return false;
     }
     return end == npos;

@@ -6,6 +6,7 @@
 
 #include "document/repair/format_overlap.h"
 #include "document/repair/format_pairs.h"
+#include "document/text/character_walk.h"
 #include "document/text/limits.h"
 #include "document/text/tag_keys.h"
 #include "document/text/tag_places.h"
@@ -118,7 +119,8 @@ unsigned brokenPairs(std::string_view text)
     static constexpr TagKeys<std::size(kNestedTags)> kKeys(kNestedTags);
     unsigned open = 0;
     unsigned broken = 0;
-    for (auto at = text.find('<'); at != npos; at = text.find('<', at + 1)) {
+    CharacterWalk openings(text, '<');
+    for (auto at = openings.next(); at != npos; at = openings.next()) {
         if (!mayNest(text, at)) continue;
         const auto key = kKeys.find(tagCode(text.substr(at)));
         if (key == std::size(kNestedTags)) continue;

@@ -4,6 +4,7 @@
 
 #include "document/repair/tag_gaps.h"
 
+#include "document/text/character_walk.h"
 #include "document/text/windows1252.h"
 
 #include <utility>
@@ -65,7 +66,8 @@ PristineWalk::PristineWalk(std::string_view text)
 {
     constexpr std::size_t kUsualDistance = 12;
     tags_.reserve(text.size() / kUsualDistance);
-    for (auto at = text.find('<'); at != npos; at = text.find('<', at + 1)) {
+    CharacterWalk openings(text, '<');
+    for (auto at = openings.next(); at != npos; at = openings.next()) {
         const auto tag = text.substr(at, kTagKeyLength);
         if (tag.size() == kTagKeyLength || tag == "<>")
             tags_.push_back({static_cast<std::uint32_t>(at), kNone, keyOf(tag)});

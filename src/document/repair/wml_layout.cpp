@@ -6,6 +6,7 @@
 #include "document/repair/wml_layout.h"
 
 #include "document/repair/tag_gaps.h"
+#include "document/text/character_walk.h"
 #include "document/text/limits.h"
 #include "document/text/text_search.h"
 
@@ -145,8 +146,9 @@ void BreakWmlLines(std::string& text)
     requireAddressable(text);
     Rewriter result(text);
     IndentCount indent;
+    CharacterWalk tags(text, '<');
     auto resumeAt = npos;
-    for (auto at = findIgnoringCase(text, "<wml"); at != npos; at = text.find('<', resumeAt)) {
+    for (auto at = findIgnoringCase(text, "<wml"); at != npos; at = tags.nextFrom(resumeAt)) {
         resumeAt = at + 1;
         const bool isClose = at + 1 < text.size() && text[at + 1] == '/';
         if (getsOwnLine(text, at)) {
@@ -165,7 +167,8 @@ void RestoreWhitespace(std::string& text, std::string_view pristine)
     PristineWalk pristineTags(pristine);
     GapRewriter result(text);
     const auto end = text.rfind('>') + 1; // 0 where there is none
-    for (auto at = text.find('<'); at < end; at = text.find('<', at + 1)) {
+    CharacterWalk tags(text, '<');
+    for (auto at = tags.next(); at < end; at = tags.next()) {
         const auto space = pristineTags.goTo(std::string_view(text).substr(at, kTagKeyLength));
         if (space) result.setSpace(at, *space);
     }

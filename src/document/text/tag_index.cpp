@@ -4,6 +4,8 @@
 
 #include "document/text/tag_index.h"
 
+#include "document/text/character_walk.h"
+
 #include <algorithm>
 
 namespace quillmere {
@@ -53,7 +55,8 @@ void TagIndex::read(std::string_view text)
     size_ = text.size();
     ahead_.clear(text.size() / kUsualDistance);
     behind_.clear(0);
-    for (auto at = text.find('<'); at != std::string_view::npos; at = text.find('<', at + 1))
+    CharacterWalk openings(text, '<');
+    for (auto at = openings.next(); at != std::string_view::npos; at = openings.next())
         append(at, tagCode(text.substr(at)));
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "document/text/character_walk.h"
+
 #include <cstddef>
 #include <optional>
 #include <string_view>
@@ -23,20 +25,21 @@ struct Tag {
 class TagScanner {
 public:
     explicit TagScanner(std::string_view text)
-        : text_(text)
-        , nextBegin_(text.find('<'))
+        : begins_(text, '<')
+        , ends_(text, '>')
+        , nextBegin_(begins_.next())
     {
     }
     /// The next tag; nullopt where no complete tag is left.
     [[nodiscard]] std::optional<Tag> next()
     {
-        if (nextBegin_ < position_) nextBegin_ = text_.find('<', position_);
+        if (nextBegin_ < position_) nextBegin_ = begins_.nextFrom(position_);
         if (nextBegin_ == kNowhere) return std::nullopt;
         const auto begin = nextBegin_;
         // Behind "<" any '>' ends the tag, and all stray '>' ahead of it are passed over.
-        if (nextEnd_ != kNowhere && nextEnd_ <= begin) nextEnd_ = text_.find('>', begin + 1);
+        if (nextEnd_ != kNowhere && nextEnd_ <= begin) nextEnd_ = ends_.nextFrom(begin + 1);
         if (nextEnd_ == kNowhere) return std::nullopt;
-        nextBegin_ = text_.find('<', begin + 1);
+        nextBegin_ = begins_.next();
         position_ = nextEnd_ + 1;
         return Tag{begin, position_, nextBegin_ < nextEnd_};
     }
@@ -46,7 +49,8 @@ public:
 
 private:
     static constexpr auto kNowhere = std::string_view::npos;
-    std::string_view text_;
+    CharacterWalk begins_;
+    CharacterWalk ends_;
     std::size_t position_ = 0;
     std::size_t nextBegin_; // the first '<' behind that of the last tag
     std::size_t nextEnd_ = 0; // the first '>' behind that of the last tag's begin
