@@ -1,6 +1,7 @@
 // The rest of the text is never copied: a card is taken by moving its begin on, and what would be
-// put into it only to be cut off again is not put in. Held by card_splitter_test.cpp, which splits
-// with repeated searches over a text that is cut and put together in each step.
+// put into it only to be cut off again is not put in. The tags that matter are found once. Held by
+// card_splitter_test.cpp, which splits with repeated searches over a text that is cut and put
+// together in each step.
 
 #include "document/card_splitter.h"
 
@@ -8,12 +9,13 @@
 #include "document/text/limits.h"
 
 #include <algorithm>
+#include <array>
 
 namespace quillmere {
 namespace {
 
-constexpr std::string_view kCard = "<card";
 constexpr std::string_view kCardEnd = "</card";
+constexpr std::array<std::string_view, 3> kMarks{"<card", kCardEnd, "<do"}; // as Mark tells them
 constexpr std::string_view kCorrectedHead
     = R"(<card id="Korrigiert" title="Nicht festgelegt" newcontext="true">)";
 
@@ -22,12 +24,9 @@ constexpr std::string_view kCorrectedHead
 CardSplitter::CardSplitter(std::string text)
     : text_(std::move(text))
     , end_(text_.size())
-    , firstCard_(text_, kCard)
-    , secondCard_(text_, kCard)
-    , cardEnd_(text_, kCardEnd)
-    , firstDo_(text_, "<do")
 {
     requireAddressable(text_);
+    findMarks(begin_, end_);
 }
 
 std::optional<CardSource> CardSplitter::next()
@@ -41,7 +40,7 @@ std::optional<CardSource> CardSplitter::next()
         trimRest();
         // A round that leaves the text as it was would be followed by the same one for ever.
         hasMore_ = round != Round::HeadOpen && rest().size() != sizeAtStart
-            && firstCard_.next(begin_) != npos;
+            && next(Mark::Card) != npos;
         if (round == Round::CardTaken) return card;
         if (round == Round::HeadOpen) return std::nullopt;
     }
@@ -56,8 +55,8 @@ CardSplitter::Round CardSplitter::takeCard(CardSource& card)
 
 bool CardSplitter::takeHead(std::string& head)
 {
-    const auto card = firstCard_.next(begin_);
-    const auto cardEnd = cardEnd_.next(begin_);
+    const auto card = next(Mark::Card);
+    const auto cardEnd = next(Mark::CardEnd);
     // npos is the greatest offset, so that comparisons hold for what is missing, too.
     const bool isWhole = card < cardEnd && secondCard() >= cardEnd;
     if (!isWhole) {
@@ -73,11 +72,11 @@ bool CardSplitter::takeHead(std::string& head)
 
 std::string CardSplitter::takeDoBlock()
 {
-    const auto cardEnd = cardEnd_.next(begin_);
-    const auto first = firstDo_.next(begin_);
+    const auto cardEnd = next(Mark::CardEnd);
+    const auto first = next(Mark::Do);
     if (cardEnd == npos || first > cardEnd || cardEnd == endWithoutDo_) return {};
-    std::string part = text_.substr(first, cardEnd + kCardEnd.size() - first);
-    auto block = TakeDoBlock(part);
+    auto block = text_.substr(
+        first, doBlockLength(std::string_view(text_).substr(first, cardEnd - first)));
     if (block.empty()) {
         endWithoutDo_ = cardEnd;
         return block;
@@ -86,21 +85,21 @@ std::string CardSplitter::takeDoBlock()
     const auto ahead = text_.substr(begin_, first - begin_);
     begin_ += block.size();
     text_.replace(begin_, ahead.size(), ahead);
-    if (!ahead.empty()) forgetPlaces(); // else all that is known of what is left still holds
+    findMarks(begin_, begin_ + ahead.size());
     return block;
 }
 
 bool CardSplitter::takeBody(std::string& body)
 {
     const auto second = secondCard();
-    const auto cardEnd = cardEnd_.next(begin_);
+    const auto cardEnd = next(Mark::CardEnd);
     if (cardEnd != npos && second > cardEnd) {
         body = takeTo(cardEnd);
         const auto close = text_.find('>', cardEnd);
         if (close != npos) begin_ = close + 1;
         return true;
     }
-    if (firstCard_.next(begin_) != npos && second == npos) return false;
+    if (next(Mark::Card) != npos && second == npos) return false;
     body = takeTo(std::min(second, end_));
     return true;
 }
@@ -125,18 +124,38 @@ std::string CardSplitter::takeTo(std::size_t offset)
     return taken;
 }
 
-std::size_t CardSplitter::secondCard()
+std::size_t CardSplitter::next(Mark mark)
 {
-    const auto first = firstCard_.next(begin_);
-    return first == npos ? npos : secondCard_.next(first + 1);
+    passTo(begin_);
+    const auto& places = places_[static_cast<std::size_t>(mark)];
+    return places.empty() ? npos : places.back();
 }
 
-void CardSplitter::forgetPlaces()
+std::size_t CardSplitter::secondCard()
 {
-    firstCard_ = ForwardFinder(text_, kCard);
-    secondCard_ = ForwardFinder(text_, kCard);
-    cardEnd_ = ForwardFinder(text_, kCardEnd);
-    firstDo_ = ForwardFinder(text_, "<do");
+    passTo(begin_);
+    const auto& cards = places_[static_cast<std::size_t>(Mark::Card)];
+    return cards.size() < 2 ? npos : cards[cards.size() - 2];
+}
+
+void CardSplitter::passTo(std::size_t offset)
+{
+    for (auto& places : places_) {
+        while (!places.empty() && places.back() < offset)
+            places.pop_back();
+    }
+}
+
+void CardSplitter::findMarks(std::size_t begin, std::size_t end)
+{
+    passTo(end);
+    // A mark may begin ahead of `end` and reach beyond it.
+    const auto piece = std::string_view(text_).substr(begin, end + kCardEnd.size() - 1 - begin);
+    const auto found = findTags(piece, kMarks);
+    for (auto tag = found.rbegin(); tag != found.rend(); ++tag) {
+        if (begin + tag->offset < end)
+            places_[tag->key].push_back(static_cast<TagOffset>(begin + tag->offset));
+    }
 }
 
 } // namespace quillmere

@@ -1,8 +1,11 @@
 #pragma once
 
+#include "document/text/tag_places.h"
 #include "document/text/text_search.h"
 
+#include <array>
 #include <cstddef>
+#include <cstdint>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -37,6 +40,7 @@ public:
 
 private:
     enum class Round { CardTaken, HeadOpen, Abandoned };
+    enum class Mark : std::uint8_t { Card, CardEnd, Do };
     Round takeCard(CardSource& card);
     [[nodiscard]] bool takeHead(std::string& head);
     [[nodiscard]] std::string takeDoBlock();
@@ -45,18 +49,19 @@ private:
 
     [[nodiscard]] std::string_view rest() const;
     [[nodiscard]] std::string takeTo(std::size_t offset);
+    /// The first mark in what is left; npos where there is none.
+    [[nodiscard]] std::size_t next(Mark mark);
     [[nodiscard]] std::size_t secondCard();
-    void forgetPlaces();
+    void passTo(std::size_t offset);
+    /// Finds the marks from `begin` up to `end` anew, behind which they are known.
+    void findMarks(std::size_t begin, std::size_t end);
 
     std::string text_;
     std::size_t begin_ = 0; // what is left of the text
     std::size_t end_ = 0;
     bool hasMore_ = true;
 
-    ForwardFinder firstCard_;
-    ForwardFinder secondCard_;
-    ForwardFinder cardEnd_;
-    ForwardFinder firstDo_;
+    std::array<Places, 3> places_; // of each mark that is left, the next one last
     std::size_t endWithoutDo_ = npos; // ahead of this card end there is no do block to take
 };
 

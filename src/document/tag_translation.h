@@ -55,9 +55,7 @@ public:
     {
         if (tag.end != end_) { // else it is a part of the last one
             end_ = tag.end;
-            const auto written = tag.in(source_);
-            std::transform(written.begin(), written.end(), lower_.data() + tag.begin,
-                [](char character) { return lowerCase(character); });
+            lowerCaseInto(lower_.data() + tag.begin, tag.in(source_));
         }
         return tag.in(lower_);
     }

@@ -8,6 +8,13 @@
 
 namespace quillmere {
 
+std::size_t doBlockLength(std::string_view text)
+{
+    const auto lastEnd = findLastIgnoringCase(text, "</do");
+    const auto tagEnd = lastEnd == npos ? npos : text.find('>', lastEnd);
+    return tagEnd == npos ? 0 : tagEnd + 1;
+}
+
 std::string TakeDoBlock(std::string& text)
 {
     requireAddressable(text);
@@ -15,11 +22,8 @@ std::string TakeDoBlock(std::string& text)
     if (cardEnd == npos) return {};
     const std::string_view card = std::string_view(text).substr(0, cardEnd);
     const auto begin = findIgnoringCase(card, "<do");
-    const auto lastEnd = findLastIgnoringCase(card, "</do");
-    if (begin == npos || lastEnd == npos || lastEnd < begin) return {};
-    const auto tagEnd = card.find('>', lastEnd);
-    if (tagEnd == npos) return {};
-    std::string block = text.substr(begin, tagEnd + 1 - begin);
+    if (begin == npos) return {};
+    std::string block = text.substr(begin, doBlockLength(card.substr(begin)));
     text.erase(begin, block.size());
     return block;
 }

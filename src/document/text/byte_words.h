@@ -32,6 +32,32 @@ inline constexpr std::size_t kWordLength = 8;
     return word;
 }
 
+inline void storeWord(char* at, std::uint64_t word)
+{
+    if (std::endian::native == std::endian::little)
+        std::memcpy(at, &word, kWordLength);
+    else
+        for (std::size_t i = 0; i < kWordLength; ++i)
+            at[i] = static_cast<char>(word >> 8 * i);
+}
+
+/// The same byte eight times.
+[[nodiscard]] constexpr std::uint64_t wordOfEach(unsigned char byte)
+{
+    return std::uint64_t{0x0101010101010101} * byte;
+}
+
+inline constexpr std::uint64_t kHighBits = wordOfEach(0x80);
+
+/// Eight characters of ASCII with capitals made small.
+[[nodiscard]] constexpr std::uint64_t smallAscii(std::uint64_t word)
+{
+    const auto fromA = word + wordOfEach(0x80 - 'A'); // the high bit tells
+    const auto behindZ = word + wordOfEach(0x80 - 'Z' - 1);
+    const auto capitals = fromA & ~behindZ & kHighBits;
+    return word | capitals >> 2U;
+}
+
 /// The eight characters of `text` from `offset` on, with zeros behind its end.
 [[nodiscard]] constexpr std::uint64_t wordAt(std::string_view text, std::size_t offset)
 {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include <algorithm>
 #include <array>
 #include <bit>
 #include <cstddef>
@@ -48,6 +47,15 @@ namespace character_marks {
 #endif
 }
 
+/// The same of the block that a text begins with, or of a shorter text. `wanted` is no zero.
+[[nodiscard]] inline std::uint64_t in(std::string_view text, char wanted)
+{
+    if (text.size() >= sizeof(CharacterBlock)) return of(text.data(), wanted);
+    CharacterBlock block{};
+    text.copy(block.data(), text.size());
+    return of(block.data(), wanted);
+}
+
 } // namespace character_marks
 
 /// Walks the places of one character in a text from left to right, which costs less than a search
@@ -90,14 +98,7 @@ private:
 
     void readBlock()
     {
-        const auto left = text_.size() - block_;
-        if (left >= kBlock) {
-            marks_ = character_marks::of(text_.data() + block_, wanted_);
-        } else {
-            CharacterBlock last{};
-            std::copy_n(text_.data() + block_, left, last.data());
-            marks_ = character_marks::of(last.data(), wanted_);
-        }
+        marks_ = character_marks::in(text_.substr(block_), wanted_);
         block_ += kBlock;
     }
 

@@ -27,11 +27,6 @@ inline constexpr std::size_t kLetters = 7;
 inline constexpr unsigned char kEndBit = 1;
 inline constexpr unsigned char kCommentBit = 2;
 
-constexpr TagCode ofEach(unsigned char byte)
-{
-    return TagCode{0x0101010101010101} * byte;
-}
-
 /// The letters stand from the lowest byte on, the marks in the highest.
 constexpr unsigned char byteAt(TagCode code, std::size_t index)
 {
@@ -54,13 +49,8 @@ inline constexpr TagCode kAllLetters = maskOf(kLetters, 0);
 /// Of eight characters at once: capitals become small, those beyond ASCII become 0.
 constexpr TagCode folded(TagCode characters)
 {
-    constexpr TagCode kHighBits = ofEach(0x80);
-    const auto ascii = characters & ~kHighBits;
-    const auto fromA = ascii + ofEach(0x80 - 'A'); // the high bit tells
-    const auto behindZ = ascii + ofEach(0x80 - 'Z' - 1);
-    const auto capitals = fromA & ~behindZ & kHighBits;
     const auto beyond = ((characters & kHighBits) >> 7U) * 0xFF;
-    return (ascii | capitals >> 2U) & ~beyond;
+    return smallAscii(characters & ~kHighBits) & ~beyond;
 }
 
 /// Where the name begins in a key.

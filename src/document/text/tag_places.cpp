@@ -3,6 +3,7 @@
 
 #include "document/text/tag_places.h"
 
+#include "document/text/character_walk.h"
 #include "document/text/text_search.h"
 
 #include <array>
@@ -66,7 +67,8 @@ std::vector<FoundTag> findTags(std::string_view text, std::span<const std::strin
     const KeyTable table(keys);
     std::vector<FoundTag> found;
     found.reserve(kUsualTags);
-    for (auto at = text.find('<'); at != npos; at = text.find('<', at + 1)) {
+    CharacterWalk openings(text, '<');
+    for (auto at = openings.next(); at != npos; at = openings.next()) {
         auto number = table.first(initialAt(text, at)); // most tags have another one
         for (; number != 0; number = table.behind(number)) {
             if (standsAt(text, at, keys[number - 1]))

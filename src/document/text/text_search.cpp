@@ -3,15 +3,17 @@
 
 #include "document/text/text_search.h"
 
+#include "document/text/character_walk.h"
 #include "document/text/windows1252.h"
 
 #include <algorithm>
 #include <array>
+#include <bit>
 
 namespace quillmere {
 namespace {
 
-constexpr std::size_t kBlock = 64;
+constexpr std::size_t kBlock = sizeof(CharacterBlock);
 
 bool isLetter(char character)
 {
@@ -19,56 +21,53 @@ bool isLetter(char character)
     return (code >= 'a' && code <= 'z') || code > 127;
 }
 
-// One character of a key, compared without regard to case and without a branch.
-struct AnyCase {
-    unsigned char mask;
-    unsigned char wanted;
-
+/// Where one character of a key may stand in a block, in any case.
+class AnyCase {
+public:
     explicit AnyCase(char keyCharacter)
-        : mask(isLetter(keyCharacter) ? 0x20 : 0)
-        , wanted(static_cast<unsigned char>(keyCharacter))
+        : small_(keyCharacter)
+        , isLetter_(isLetter(keyCharacter))
     {
-        if (wanted > 127) mask = wanted = 0xFF; // matches all, the rest is left to standsAt
     }
-    // 1 or 0, since the loop below must not branch.
-    [[nodiscard]] unsigned char matches(char character) const
+    [[nodiscard]] std::uint64_t marksIn(const char* block) const
     {
-        return static_cast<unsigned char>((static_cast<unsigned char>(character) | mask) == wanted);
+        constexpr int kSmall = 0x20;
+        constexpr auto kAll = ~std::uint64_t{};
+        if (static_cast<unsigned char>(small_) > 127) return kAll; // the rest is left to standsAt
+        const auto marks = character_marks::of(block, small_);
+        if (!isLetter_) return marks;
+        return marks | character_marks::of(block, static_cast<char>(small_ ^ kSmall));
     }
+
+private:
+    char small_;
+    bool isLetter_;
 };
 
-// Looks at the first and last character of a key for 64 places at a time, in a loop that the
-// compiler turns into a few instructions of the processor's vector unit.
+/// Looks at the first and last character of a key for 64 places at a time.
 class EndsOfKey {
 public:
     explicit EndsOfKey(std::string_view key)
-        : first_(key.front())
+        : key_(key)
+        , first_(key.front())
         , last_(key.back())
     {
     }
 
     /// The first place of the block that `text` begins with, of those from `from` on.
-    [[nodiscard]] std::size_t findInBlock(
-        std::string_view text, std::string_view key, std::size_t from = 0) const
+    [[nodiscard]] std::size_t findInBlock(std::string_view text, std::size_t from = 0) const
     {
-        std::array<char, kBlock> candidates;
-        unsigned char any = 0;
-        const char* const firsts = text.data();
-        const char* const lasts = firsts + key.size() - 1;
-        for (std::size_t i = 0; i < kBlock; ++i) {
-            const auto both = first_.matches(firsts[i]) & last_.matches(lasts[i]);
-            candidates[i] = static_cast<char>(both);
-            any = static_cast<unsigned char>(any | both);
+        auto marks = first_.marksIn(text.data());
+        if (marks != 0) marks &= last_.marksIn(text.data() + key_.size() - 1);
+        for (marks = marks >> from << from; marks != 0; marks &= marks - 1) {
+            const auto at = static_cast<std::size_t>(std::countr_zero(marks));
+            if (standsAt(text, at, key_)) return at;
         }
-        if (any == 0) return npos;
-        const std::string_view marks(candidates.data(), kBlock);
-        auto at = marks.find('\1', from);
-        while (at != npos && !standsAt(text, at, key))
-            at = marks.find('\1', at + 1);
-        return at;
+        return npos;
     }
 
 private:
+    std::string_view key_;
     AnyCase first_;
     AnyCase last_;
 };
@@ -110,6 +109,14 @@ std::size_t findPlaceByPlace(std::string_view text, std::string_view key, std::s
     return npos;
 }
 
+std::size_t findLastPlaceByPlace(std::string_view text, std::string_view key, std::size_t before)
+{
+    for (auto at = std::min(before, text.size()); at-- > 0;) {
+        if (standsAt(text, at, key)) return at;
+    }
+    return npos;
+}
+
 } // namespace
 
 std::size_t findIgnoringCase(std::string_view text, std::string_view key, std::size_t from)
@@ -120,22 +127,26 @@ std::size_t findIgnoringCase(std::string_view text, std::string_view key, std::s
     if (places < kBlock || from >= places) return findPlaceByPlace(text, key, from);
     const EndsOfKey ends(key);
     for (; from + kBlock <= places; from += kBlock) {
-        const auto found = ends.findInBlock(text.substr(from), key);
+        const auto found = ends.findInBlock(text.substr(from));
         if (found != npos) return from + found;
     }
     if (from == places) return npos;
     const auto lastBlock = places - kBlock; // partly read already
-    const auto found = ends.findInBlock(text.substr(lastBlock), key, from - lastBlock);
+    const auto found = ends.findInBlock(text.substr(lastBlock), from - lastBlock);
     return found == npos ? npos : lastBlock + found;
 }
 
 std::size_t findLastIgnoringCase(std::string_view text, std::string_view key, std::size_t before)
 {
-    const bool isTag = key.starts_with('<');
-    for (auto at = std::min(before, text.size()); at-- > 0;) {
-        if (isTag) at = text.rfind('<', at);
-        if (at == npos) break;
-        if (standsAt(text, at, key)) return at;
+    if (key.empty() || isLetter(key.front())) return findLastPlaceByPlace(text, key, before);
+    for (auto end = std::min(before, text.size()); end > 0;) {
+        const auto begin = end - std::min(end, kBlock);
+        auto marks = character_marks::in(text.substr(begin, end - begin), key.front());
+        for (; marks != 0; marks = std::bit_floor(marks) ^ marks) { // without its highest bit
+            const auto at = begin + static_cast<std::size_t>(std::bit_width(marks)) - 1;
+            if (standsAt(text, at, key)) return at;
+        }
+        end = begin;
     }
     return npos;
 }

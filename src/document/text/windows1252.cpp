@@ -3,6 +3,8 @@
 
 #include "document/text/windows1252.h"
 
+#include "document/text/byte_words.h"
+
 #include <algorithm>
 #include <array>
 #include <optional>
@@ -148,9 +150,20 @@ std::string textFromDeckBytes(std::string_view bytes)
 std::string lowerCase(std::string_view text)
 {
     std::string result(text);
-    for (char& character : result)
-        character = lowerCase(character);
+    lowerCaseInto(result.data(), result);
     return result;
+}
+
+void lowerCaseInto(char* target, std::string_view text)
+{
+    std::size_t i = 0;
+    for (; i + kWordLength <= text.size(); i += kWordLength) {
+        const auto word = wordFrom(text.data() + i);
+        if ((word & kHighBits) != 0) break;
+        storeWord(target + i, smallAscii(word));
+    }
+    for (; i < text.size(); ++i)
+        target[i] = lowerCase(text[i]);
 }
 
 bool equalIgnoringCase(std::string_view left, std::string_view right)

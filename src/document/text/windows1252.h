@@ -53,6 +53,8 @@ inline constexpr auto kLowerCase = [] {
     return windows1252::kLowerCase[static_cast<unsigned char>(character)];
 }
 [[nodiscard]] std::string lowerCase(std::string_view text);
+/// The same into memory that has room for all of `text`, which may be its own.
+void lowerCaseInto(char* target, std::string_view text);
 
 [[nodiscard]] bool equalIgnoringCase(std::string_view left, std::string_view right);
 
