@@ -6,18 +6,30 @@
 #include "document/card_splitter.h"
 
 #include "document/repair/do_block.h"
+#include "document/text/character_walk.h"
 #include "document/text/limits.h"
+#include "document/text/tag_keys.h"
+#include "document/text/windows1252.h"
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 
 namespace quillmere {
 namespace {
 
 constexpr std::string_view kCardEnd = "</card";
-constexpr std::array<std::string_view, 3> kMarks{"<card", kCardEnd, "<do"}; // as Mark tells them
+constexpr SearchKey kMarks[] = {"<card", kCardEnd, "<do"}; // as Mark tells them
 constexpr std::string_view kCorrectedHead
     = R"(<card id="Korrigiert" title="Nicht festgelegt" newcontext="true">)";
+
+/// By the first letter. Most tags are others.
+bool mayBeMark(const std::string& text, std::size_t at)
+{
+    const char behind = text[at + 1]; // a zero where the text ends
+    const char letter = lowerCase(behind == '/' ? text[at + 2] : behind);
+    return letter == 'c' || letter == 'd';
+}
 
 } // namespace
 
@@ -39,8 +51,8 @@ std::optional<CardSource> CardSplitter::next()
         const auto round = takeCard(card);
         trimRest();
         // A round that leaves the text as it was would be followed by the same one for ever.
-        hasMore_ = round != Round::HeadOpen && rest().size() != sizeAtStart
-            && next(Mark::Card) != npos;
+        hasMore_
+            = round != Round::HeadOpen && rest().size() != sizeAtStart && next(Mark::Card) != npos;
         if (round == Round::CardTaken) return card;
         if (round == Round::HeadOpen) return std::nullopt;
     }
@@ -148,14 +160,18 @@ void CardSplitter::passTo(std::size_t offset)
 
 void CardSplitter::findMarks(std::size_t begin, std::size_t end)
 {
+    static constexpr TagKeys<kMarkCount> kKeys(kMarks);
     passTo(end);
-    // A mark may begin ahead of `end` and reach beyond it.
-    const auto piece = std::string_view(text_).substr(begin, end + kCardEnd.size() - 1 - begin);
-    const auto found = findTags(piece, kMarks);
-    for (auto tag = found.rbegin(); tag != found.rend(); ++tag) {
-        if (begin + tag->offset < end)
-            places_[tag->key].push_back(static_cast<TagOffset>(begin + tag->offset));
+    std::array<std::ptrdiff_t, kMarkCount> known{};
+    std::ranges::transform(places_, known.begin(), [](const Places& p) { return std::ssize(p); });
+    CharacterWalk openings(std::string_view(text_).substr(0, end), '<');
+    for (auto at = openings.nextFrom(begin); at != npos; at = openings.next()) {
+        if (!mayBeMark(text_, at)) continue;
+        const auto mark = kKeys.find(tagCode(std::string_view(text_).substr(at)));
+        if (mark < kMarkCount) places_.at(mark).push_back(at);
     }
+    for (std::size_t mark = 0; mark < kMarkCount; ++mark)
+        std::reverse(places_.at(mark).begin() + known.at(mark), places_.at(mark).end());
 }
 
 } // namespace quillmere

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "document/text/tag_places.h"
 #include "document/text/text_search.h"
 
 #include <array>
@@ -9,6 +8,7 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace quillmere {
 
@@ -41,6 +41,7 @@ public:
 private:
     enum class Round { CardTaken, HeadOpen, Abandoned };
     enum class Mark : std::uint8_t { Card, CardEnd, Do };
+    static constexpr std::size_t kMarkCount = 3;
     Round takeCard(CardSource& card);
     [[nodiscard]] bool takeHead(std::string& head);
     [[nodiscard]] std::string takeDoBlock();
@@ -61,7 +62,8 @@ private:
     std::size_t end_ = 0;
     bool hasMore_ = true;
 
-    std::array<Places, 3> places_; // of each mark that is left, the next one last
+    using Places = std::vector<std::size_t>;
+    std::array<Places, kMarkCount> places_; // of each mark that is left, the next one last
     std::size_t endWithoutDo_ = npos; // ahead of this card end there is no do block to take
 };
 

@@ -55,7 +55,7 @@ void WorkNames::release(std::string_view name)
 WorkNames::Pattern& WorkNames::pattern(std::string_view prefix, std::string_view suffix)
 {
     const auto found = std::find_if(patterns_.begin(), patterns_.end(),
-        [&](const Pattern& known) { return known.prefix == prefix && known.suffix == suffix; });
+        [&](const Pattern& known) { return known.suffix == suffix && known.prefix == prefix; });
     if (found != patterns_.end()) return *found;
     return patterns_.emplace_back(Pattern{std::string(prefix), std::string(suffix)});
 }

@@ -94,9 +94,11 @@ void applyPasses(EditedText& text)
     CleanFaults faults = 0;
     auto knownAt = npos; // how many changes the text had then
     for (const auto& pass : kPasses) {
-        if (knownAt != text.changes()) faults = findCleanFaults(text.tags());
-        knownAt = text.changes();
-        if ((faults & pass.mends) == 0) continue;
+        if (pass.mends != kAny && knownAt != text.changes()) {
+            faults = findCleanFaults(text.tags());
+            knownAt = text.changes();
+        }
+        if (pass.mends != kAny && (faults & pass.mends) == 0) continue;
         pass.apply(text);
         requireAddressableLength(text.size());
     }

@@ -5,6 +5,7 @@
 #include "document/repair/paragraphs.h"
 
 #include "document/repair/crossing_formats.h"
+#include "document/text/character_walk.h"
 #include "document/text/limits.h"
 #include "document/text/text_cutter.h"
 #include "document/text/text_edits.h"
@@ -93,17 +94,42 @@ void endLastParagraph(std::string& text)
         text.insert(card, "</p>");
 }
 
+bool isParagraphBegin(const std::string& text, std::size_t tag)
+{
+    const char behind = text[tag + 1]; // a zero where the text ends
+    return behind == 'p' || behind == 'P';
+}
+
+bool isParagraphEnd(const std::string& text, std::size_t tag)
+{
+    return text[tag + 1] == '/' && lowerCase(text[tag + 2]) == 'p';
+}
+
+/// Whether two paragraphs end without one that begins between them.
+bool hasDoubledEnds(const std::string& text)
+{
+    bool ended = false;
+    CharacterWalk tags(text, '<');
+    for (auto at = tags.next(); at != npos; at = tags.next()) {
+        if (isParagraphBegin(text, at)) ended = false;
+        if (!isParagraphEnd(text, at)) continue;
+        if (ended) return true;
+        ended = true;
+    }
+    return false;
+}
+
 /// Deletes the ends of paragraphs between which none begins, but for the first one.
 void dropDoubledEnds(std::string& text)
 {
+    if (!hasDoubledEnds(text)) return;
     TextCutter cutter(text);
     bool ended = false;
     auto resumeAt = npos;
     for (auto at = text.find('<'); at != npos; at = text.find('<', resumeAt)) {
         resumeAt = at + 1;
-        const char behind = text[resumeAt]; // a zero where the text ends
-        if (behind == 'p' || behind == 'P') ended = false;
-        if (behind != '/' || lowerCase(text[resumeAt + 1]) != 'p') continue;
+        if (isParagraphBegin(text, at)) ended = false;
+        if (!isParagraphEnd(text, at)) continue;
         if (ended) {
             const auto tagEnd = text.find('>', at);
             if (tagEnd == npos) return;

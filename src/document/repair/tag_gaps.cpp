@@ -1,6 +1,6 @@
-// Mostly the next tag is the one that is asked for. Where it is not, the tags of the pristine text are
-// linked by what their keys have in common, so that each is passed once; a key that is missed once
-// is missing for good, as the walk never goes back. Held by corrections_test.cpp.
+// Mostly the next tag is the one that is asked for. Where it is not, the tags of the pristine text
+// are linked by what their keys have in common, so that each is passed once; a key that is missed
+// once is missing for good, as the walk never goes back. Held by corrections_test.cpp.
 
 #include "document/repair/tag_gaps.h"
 

@@ -6,11 +6,14 @@
 #include "document/repair/wml_layout.h"
 
 #include "document/repair/tag_gaps.h"
+#include "document/text/byte_words.h"
 #include "document/text/character_walk.h"
 #include "document/text/limits.h"
 #include "document/text/text_search.h"
 
 #include <algorithm>
+#include <array>
+#include <cstdint>
 #include <optional>
 #include <utility>
 #include <vector>
@@ -25,6 +28,21 @@ constexpr std::string_view kLineBreak = "\r\n";
 constexpr std::string_view kKeptInLine[] = {"<br/", "<td", "</td", "<strong", "</strong", "<i>",
     "</i>", "<u>", "</u>", "<big", "</big", "<small", "</small"};
 
+/// The same keys, of eight characters at most, as numbers that a tag's begin is compared with.
+struct KeptTag {
+    std::uint64_t mask;
+    std::uint64_t word;
+    std::size_t length;
+};
+constexpr auto kKeptTags = [] {
+    std::array<KeptTag, std::size(kKeptInLine)> tags{};
+    std::ranges::transform(kKeptInLine, tags.begin(), [](std::string_view key) {
+        const auto unused = 8 * (kWordLength - key.size());
+        return KeptTag{~std::uint64_t{} >> unused, wordAt(key, 0), key.size()};
+    });
+    return tags;
+}();
+
 /// Whether any tag with this letter, be it behind a '/', may stay in its line.
 bool mayStayInLine(char letter)
 {
@@ -34,12 +52,12 @@ bool mayStayInLine(char letter)
 /// A key is not looked for where the text ends with it: "</i>" as the last tag gets a line.
 bool getsOwnLine(std::string_view text, std::size_t at)
 {
-    const std::string_view rest = text.substr(at);
-    if (rest.size() < 3 || !mayStayInLine(rest[rest[1] == '/' ? 2 : 1])) return true;
-    return std::none_of(
-        std::begin(kKeptInLine), std::end(kKeptInLine), [rest](std::string_view key) {
-            return rest[2] == key[2] && rest.size() > key.size() + 1 && rest.starts_with(key);
-        });
+    const auto left = text.size() - at;
+    if (left < 3 || !mayStayInLine(text[text[at + 1] == '/' ? at + 2 : at + 1])) return true;
+    const auto word = wordAt(text, at);
+    return std::ranges::none_of(kKeptTags, [left, word](const KeptTag& tag) {
+        return (word & tag.mask) == tag.word && left > tag.length + 1;
+    });
 }
 
 /// The indent that the tags ask for.

@@ -37,8 +37,8 @@ namespace character_marks {
     std::uint64_t marks = 0;
     for (std::size_t i = 0; i < sizeof(CharacterBlock); i += kLane) {
         const auto lane = _mm_loadu_si128(reinterpret_cast<const __m128i*>(block + i));
-        const auto bits = static_cast<std::uint32_t>(
-            _mm_movemask_epi8(_mm_cmpeq_epi8(lane, wantedInAll)));
+        const auto bits
+            = static_cast<std::uint32_t>(_mm_movemask_epi8(_mm_cmpeq_epi8(lane, wantedInAll)));
         marks |= static_cast<std::uint64_t>(bits) << i;
     }
     return marks;
