@@ -26,15 +26,17 @@ std::size_t TagStack::countCloser(std::size_t distance) const
     constexpr std::size_t kNearby = 4;
     if (distance == 0) return 0;
     auto count = std::min(lastCount_, size());
-    const auto nearby = std::min(count + kNearby, size());
-    if ((count > 0 && tags_[count - 1].distance >= distance)
-        || (nearby < size() && tags_[nearby].distance < distance)) {
+    const auto lowest = count - std::min(count, kNearby);
+    const auto highest = std::min(count + kNearby, size());
+    if ((lowest > 0 && tags_[lowest - 1].distance >= distance)
+        || (highest < size() && tags_[highest].distance < distance)) {
         const auto found = std::ranges::lower_bound(tags_, distance, {}, &Tag::distance);
         count = static_cast<std::size_t>(found - tags_.begin());
-    } else {
-        while (count < nearby && tags_[count].distance < distance)
-            ++count;
     }
+    while (count > 0 && tags_[count - 1].distance >= distance)
+        --count;
+    while (count < size() && tags_[count].distance < distance)
+        ++count;
     lastCount_ = count;
     return count;
 }
@@ -62,12 +64,11 @@ void TagIndex::read(std::string_view text)
 
 std::size_t TagIndex::find(TagPattern pattern, std::size_t begin, std::size_t end) const
 {
-    auto i = ahead_.countCloser(begin);
-    const auto iEnd = end < size_ ? ahead_.countCloser(end) : ahead_.size();
-    while (i < iEnd && !pattern.fits(ahead_[i].code))
-        ++i;
-    if (i < iEnd) return ahead_[i].distance;
-    if (iEnd < ahead_.size() || behind_.empty()) return std::string_view::npos;
+    for (auto i = ahead_.countCloser(begin); i < ahead_.size(); ++i) {
+        if (ahead_[i].distance >= end) return std::string_view::npos;
+        if (pattern.fits(ahead_[i].code)) return ahead_[i].distance;
+    }
+    if (behind_.empty()) return std::string_view::npos;
     for (auto left = behind_.countCloser(distanceFromEnd(begin) + 1); left-- > 0;) {
         const auto place = size_ - behind_[left].distance;
         if (place >= end) break;
