@@ -41,7 +41,7 @@ std::string table(const std::string& cell)
 std::string cells(std::size_t size)
 {
     constexpr std::size_t kTags = std::string_view("<td></td>").size();
-    const auto share = size / (kRows * kColumns);
+    const auto share = size / (std::size_t{kRows} * kColumns);
     return table(words(share > kTags ? share - kTags : 1));
 }
 

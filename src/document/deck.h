@@ -47,6 +47,18 @@ struct DeckRecord {
 /// The records of a deck: one for each area and a spare one at the end.
 using Deck = std::vector<DeckRecord>;
 
+/// A record for the area behind `preceding`, of the same deck.
+[[nodiscard]] inline DeckRecord areaBehind(const DeckRecord& preceding)
+{
+    DeckRecord area;
+    area.inUse = true;
+    area.deckFile = preceding.deckFile;
+    area.deckDir = preceding.deckDir;
+    area.wmlFile = preceding.wmlFile;
+    area.wmlDir = preceding.wmlDir;
+    return area;
+}
+
 /// Number of areas: all records but the spare one.
 [[nodiscard]] inline std::size_t areaCount(const Deck& deck)
 {

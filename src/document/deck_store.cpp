@@ -63,12 +63,7 @@ void startDeck(DocumentSession& session, const std::string& deckFile, const std:
 std::size_t appendArea(DocumentSession& session)
 {
     const auto index = areaCount(session.deck);
-    const auto& preceding = areaRecord(session, index - 1);
-    DeckRecord area;
-    area.deckFile = preceding.deckFile;
-    area.deckDir = preceding.deckDir;
-    area.wmlFile = preceding.wmlFile;
-    area.wmlDir = preceding.wmlDir;
+    auto area = areaBehind(areaRecord(session, index - 1));
     makeDesignFile(session, area, index);
     session.deck.back() = std::move(area);
     session.deck.emplace_back();

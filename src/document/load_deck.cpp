@@ -87,17 +87,13 @@ void startDeck(
     first.pristineDir = isKept ? old.front().pristineDir : files.directory();
 }
 
-void appendArea(DocumentSession& session)
+/// Makes the spare record an area with a new spare one behind it.
+void useSpareRecord(DocumentSession& session)
 {
-    session.deck.emplace_back(); // the new spare record
-    const auto& preceding = session.deck[session.deck.size() - 3];
-    auto& area = session.deck[session.deck.size() - 2];
-    area.inUse = true;
-    area.deckFile = preceding.deckFile;
-    area.deckDir = preceding.deckDir;
-    area.wmlFile = preceding.wmlFile;
-    area.wmlDir = preceding.wmlDir;
-    createAreaFiles(session.workFiles, area);
+    auto& deck = session.deck;
+    deck.back() = areaBehind(deck[deck.size() - 2]);
+    createAreaFiles(session.workFiles, deck.back());
+    deck.emplace_back();
 }
 
 std::string convertBody(std::string body, std::size_t areaIndex, DocumentSession& session)
@@ -161,7 +157,7 @@ void LoadDeck(DocumentSession& session, const DeckLocation& location, std::int16
     const auto frame = frameOf(session);
     loadCard(session, frame, cards);
     while (cards.hasMore()) {
-        appendArea(session);
+        useSpareRecord(session);
         loadCard(session, frame, cards);
     }
     replacement.commit();

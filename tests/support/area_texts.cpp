@@ -5,7 +5,9 @@
 #include "support/small_deck.h"
 #include "support/token_soup.h"
 
+#include <array>
 #include <filesystem>
+#include <string_view>
 
 namespace quillmere::test {
 namespace {
@@ -24,6 +26,23 @@ constexpr std::string_view kTokens[]
         "<!--/select-->", "<!--option value=\"1\"-->", "<input type=radio name=\"TempName1\">",
         "<!--/option-->", "<!-- so -->", "<center>", "<do type=\"prev\">", "</do>", "&auml;",
         "&#223", "&nbsp;", "&", "<", ">", " ", "  ", "\r\n", "Wort", "\xE4\xF6\xFC"};
+
+constexpr auto kSoupTags = std::to_array<std::string_view>({"<p>", "<p align=center>", "</p>",
+    "<table>", "<TABLE border=1>", "</table>", "<tr>", "</tr>", "<td>", "</td>", "<th>", "</TH>",
+    "<tbody>", "<b>", "</b>", "<i>", "</i>", "<big>", "</small>", "<a href=x>", "</a>",
+    "<img src=\"a\">", "</img>", "<input type=radio>", "<br/>", "</br>", "<center>", "</center>",
+    "<font size=\"2\">", "<!--select-->", "<!--/select-->", "<!--option a=\"b\"-->",
+    "<!--/option-->", "<!-- x > y -->", "<!--", "-->", "<", ">", "&", "&amp;", "&auml", "&#65",
+    "&#", "a", "b", " ", "  ", "\r\n", "\t", "<BODY>", "</BODY>", "<html>", "</html>",
+    "<!--card-->", "<!--/card-->", "<!--do-->", "<!--/do-->", "<!x>", "<td", "<a"});
+
+// Few, so that what they make often fits.
+constexpr auto kParts = std::to_array<std::string_view>({"<table><tr><td>", "</td></tr></table>",
+    "</td><td>", "</td></tr>", "<tr><td>", "</table>", "</td>", "<p>", "</p>", "<b>", "</b>", "<a>",
+    "</a>", "<!--x-->", "<!--/x-->", "a", " ", "\r\n", "<br/>", "<x>"});
+
+constexpr auto kBlanks = std::to_array<std::string_view>(
+    {" ", "\r\n", "<p>", "</p>", "<b>", "</a>", "<a>", "<!--x-->", "a", "<table><tr><td></table>"});
 
 void useDeck(const std::string& name, const std::string& text, const Use& use)
 {
@@ -49,14 +68,29 @@ void forEachAreaText(const Use& use)
     useFiles("/examples", ".wml",
         [&](const std::string& name, const std::string& text) { useDeck(name, text, use); });
     for (std::uint64_t seed = 1; seed <= kDecks; ++seed) {
-        bench::DeckOptions options;
         const bool isBroken = seed % 2 != 0;
-        options.brokenness = isBroken ? 0.3 : 0;
         useDeck((isBroken ? "broken deck " : "deck ") + std::to_string(seed),
-            bench::generateDeck(seed, options), use);
+            bench::generateDeck(seed, {.brokenness = isBroken ? 0.3 : 0}), use);
     }
     for (std::uint64_t seed = 1; seed <= kSoups; ++seed)
         use("tags " + std::to_string(seed), randomSoup(seed, kTokens, 10 + seed));
+}
+
+void forEachSoup(const UseText& use)
+{
+    forEachSequence(kBlanks, 4, use);
+    for (std::uint64_t seed = 0; seed < 3000; ++seed) {
+        use(randomSoup(seed, kSoupTags, 3 + seed % 40));
+        use(randomSoup(seed, kParts, 3 + seed % 25));
+        use("<table><tr><td>" + randomSoup(seed, kParts, 3 + seed % 25));
+    }
+}
+
+void forEachDeckText(double faults, const UseText& use)
+{
+    for (std::uint64_t seed = 0; seed < 30; ++seed)
+        useDeck("", bench::generateDeck(seed, {.targetBytes = 1200, .brokenness = faults}),
+            [&use](const std::string&, const std::string& text) { use(text); });
 }
 
 } // namespace quillmere::test

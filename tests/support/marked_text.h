@@ -8,6 +8,22 @@
 
 namespace quillmere::test {
 
+/// Takes the first of the marks out of a text and tells where it stood; npos for none.
+inline std::size_t takeMark(std::string& text, const char* marks)
+{
+    const auto offset = text.find_first_of(marks);
+    if (offset != std::string::npos) text.erase(offset, 1);
+    return offset;
+}
+
+/// Takes the caret '|' or the marks '[' and ']' out of a text.
+inline SourceRange takeMarks(std::string& text)
+{
+    const auto begin = takeMark(text, "[|");
+    const auto end = takeMark(text, "]");
+    return {begin, end == std::string::npos ? begin : end};
+}
+
 /// A page given as its text with the caret '|' or the selection '[' ... ']' in it.
 struct MarkedPage {
     SurfacePage page;
@@ -16,21 +32,19 @@ struct MarkedPage {
 
     explicit MarkedPage(std::string marked)
     {
-        const auto begin = take(marked, "[|");
-        const auto end = take(marked, "]");
+        const auto range = takeMarks(marked);
         page = readSurfacePage(std::move(marked));
-        from = placeAt(page, begin);
-        to = end == std::string::npos ? from : placeAt(page, end);
-    }
-
-private:
-    static std::size_t take(std::string& marked, const char* marks)
-    {
-        const auto offset = marked.find_first_of(marks);
-        if (offset != std::string::npos) marked.erase(offset, 1);
-        return offset;
+        from = placeAt(page, range.begin);
+        to = placeAt(page, range.end);
     }
 };
+
+/// A text with the marks '[' and ']' or the caret '|' put round what is marked.
+[[nodiscard]] inline std::string withMarks(std::string text, SourceRange marked, bool isCaret)
+{
+    if (isCaret) return text.insert(marked.begin, "|");
+    return text.insert(marked.end, "]").insert(marked.begin, "[");
+}
 
 /// The text after an edit, with '|' at its caret.
 [[nodiscard]] inline std::string editedWithCaret(const SurfacePage& page, const SurfaceEdit& edit)

@@ -1,6 +1,6 @@
 // What holds for every edit of every text: see faultOf.
 
-#include "support/design_samples.h"
+#include "support/area_texts.h"
 #include "support/edit_checks.h"
 
 #include <gtest/gtest.h>

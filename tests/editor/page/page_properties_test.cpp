@@ -1,7 +1,7 @@
 // What holds for every page, whatever its text.
 
 #include "editor/page/page_places.h"
-#include "support/design_samples.h"
+#include "support/area_texts.h"
 #include "support/small_random.h"
 #include "support/stopwatch.h"
 

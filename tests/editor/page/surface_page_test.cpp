@@ -28,7 +28,6 @@ TEST(SurfacePage, ShowsTextAndObjects)
 {
     expectPages({
         {"nothing", "", "-:"},
-        {"one character for each byte", "a\xE4\x80", "-:aä€"},
         {"references", "&auml;&euml&#228;&#xE4;&#XE4 &nbsp;&lt;p&gt;", "-:äëäää_\u00A0<p>"},
         {"text behind a reference without its semicolon", "&copy2&ampamp;&notin;", "-:©2&amp;¬in;"},
         {"numbers of Windows-1252", "&#128;&#150;", "-:€–"},
@@ -38,16 +37,13 @@ TEST(SurfacePage, ShowsTextAndObjects)
             "-:□□□□□□□"},
         {"a reference does not melt into the text around it", "&#32;&#10;", "-:  "},
         {"line breaks", "a<br>b<BR/>c<br clear=all>d", "-:a/b/c/d"},
-        {"a picture and its end", "<img src=\"a\"></img>x<IMG SRC=b>y", "-:@x@y"},
         {"an end that is not the picture's", "<img> </img>", "-:@_</img>"},
         {"radio buttons",
             "<input type=radio name=\"x\"><INPUT TYPE=\"Radio\"><input type='radio'/>", "-:OOO"},
-        {"other inputs", "<input><input type=text>", "-:<input><input type=text>"},
         {"tags that nobody knows", "<font size=2>a</font><center/>",
             "-:<font size=2>a</font><center/>"},
         {"an end that is a break", "a</br>b</BR >", "-:a/b/"},
         {"a tag ends at the first '>'", "<img alt=\"a>b\">", "-:@b\">"},
-        {"every '<' with a '>' behind it begins a tag", "1 < 2 > 1 <<b>x", "-:1_< 2 >_1_<<b>x"},
         {"a '<' without '>'", "a<b", "-:a<b"},
         {"comments", "a<!--x-->b<!-- <b>c</b> -->d<!---->e<!-->f", "-:abdef"},
         {"a comment without its end", "a<!--b>c<!--d", "-:ac<!--d"},
@@ -58,7 +54,6 @@ TEST(SurfacePage, CutsTextIntoBlocks)
 {
     expectPages({
         {"paragraphs", "<p>a</p><P ALIGN=center>b</P><p align=\"right\">c</p>", "P:a Pc:b Pr:c"},
-        {"missing ends", "<p align=\"center\">a<p>b", "Pc:a P:b"},
         {"text outside", "a<p>b</p>c", "-:a P:b -:c"},
         {"an end that has no start", "a</p>b<p>c</p></p>", "-:a</p>b P:c -:</p>"},
         {"empty paragraphs", "<p></p><p/><p>", "P: P: P:"},
@@ -75,12 +70,8 @@ TEST(SurfacePage, ShowsWhiteSpaceThatIsNotLayout)
         {"a tag parts two runs", "<p>a <b> b</b></p>", "P:a_|b|_b"},
         {"layout at the borders of a block", "<p>\r\n  a\r\n</p>\r\n<p>\n</p>", "P:a P:"},
         {"layout that a tag keeps from the border", "<p>a<b>\r\n</b></p>", "P:a|b|_"},
-        {"layout of tables",
-            "\r\n<table>\r\n<tr>\r\n<td>\r\na\r\n</td> <td> b </td>\r\n</tr>\r\n</table>\r\n",
-            "-: {(-:a)(-:_b_)} -:"},
         {"a blank that could have been typed between tables",
             "<table><tr><td>a</table> <table><tr><td>a</table>", "-: {(-:a)} -:_ {(-:a)} -:"},
-        {"paragraphs in cells", "<table><tr><td> <p>a</p> </td></tr></table>", "-: {(P:a)} -:"},
     });
 }
 
@@ -91,11 +82,9 @@ TEST(SurfacePage, TellsHowTextLooks)
             "-:|b|ab|i|cd|u|e|+1|f|-1|g"},
         {"sizes add up", "<big><big><big>a<small>b<small><small><small><small><small>c",
             "-:|+2|ab|-2|c"},
-        {"crossing", "<b>a<i>b</b>c</i>d", "-:|b|a|bi|b|i|c||d"},
         {"twice", "<b><b>a</b>b</b>c", "-:|b|ab||c"},
         {"a stray end", "<b>a</i>b</b></b>", "-:|b|a</i>b||</b>"},
         {"links", "<a href=x><b>a</b>b</a>c<A NAME=y>d", "-:|ba|a|a|b||c|a|d"},
-        {"a format never ended holds to the end", "<p><b>a<p>b", "P:|b|a P:|b|b"},
         {"formats end with their cell", "<table><tr><td><b>a</td><td>b</b></td></tr></table>c",
             "-: {(-:|b|a)(-:b</b>)} -:c"},
         {"formats round a table", "<i><table><tr><th>a</i></th><td>b</td></tr></table>c</i>d",
@@ -113,11 +102,8 @@ TEST(SurfacePage, ShowsTablesThatFit)
         {"neighbours",
             "<p>a</p><table>" + cell + "</table>\r\n<table border=0>" + cell + "</table>b",
             "P:a {(-:a)} -: {(-:a)} -:b"},
-        {"in a paragraph", "<p align=right><table border>" + cell + "</table>b</p>c",
-            "Pr: {#(-:a)} Pr:b -:c"},
         {"missing ends of cells and rows", "<table><tr><td>a<td>b<tr><td>c</table>",
             "-: {(-:a)(-:b);x2(-:c)} -:"},
-        {"a missing end", "<table>" + cell + "b", "-: {(-:a)} -:b"},
         {"missing ends one in the other", "<table><tr><td>a<table>" + cell + "b</td></tr>c",
             "-: {(-:a {(-:a)} -:b)} -:c"},
         {"no place would be behind the last cell", "<table><tr><td>a", "-:<table><tr><td>a"},
@@ -126,16 +112,12 @@ TEST(SurfacePage, ShowsTablesThatFit)
             "-: {(-:a)} -:"},
         {"no cells", "<table><tr></tr></table>", "-:<table><tr></tr></table>"},
         {"a cell outside of a row", "<table><td>a</td></table>", "-:<table><td>a</td></table>"},
-        {"text between cells", "<table><tr>x<td>a</td></tr></table>",
-            "-:<table><tr>x<td>a</td></tr></table>"},
         {"parts outside of a table", cell, "-:<tr><td>a</td></tr>"},
         {"a table in one that does not fit",
             "<table><tr>x<td><table>" + cell + "</table></td></tr></table>",
             "-:<table><tr>x<td> {(-:a)} -:</td></tr></table>"},
         {"one that does not fit in a table", "<table><tr><td><table>x</table></td></tr></table>",
             "-: {(-:<table>x</table>)} -:"},
-        {"comments between cells", "<table><!--x--><tr><!--y--><td>a</td></tr></table>",
-            "-: {(-:a)} -:"},
         {"nested and short",
             "<table><tr><td>a</td><td><table><tr><td>b<td>c<tr><td>d</table></td>"
             "</tr><tr><td>e</td></tr></table>",
@@ -172,11 +154,9 @@ TEST(SurfacePage, HidesTheFrame)
         {"without BODY", card + jump + " a", "-:_a"},
         {"HTML and HEAD alone", "<!DOCTYPE html><html><head><title>t</title></head>a</html>b",
             "-:a"},
-        {"without ends", "<body>a", "-:a"},
         {"an end marker at the end", card + "a<!--/card-->\r\n", "-:a"},
         {"what is no frame", "a<html>b<!DOCTYPE c>", "-:a<html>b<!DOCTYPE c>"},
         {"a do block without its end", "<!--do--><head>a", "-:<head>a"},
-        {"a body in a comment", "<!-- <body> -->a<body>b", "-:b"},
     });
 }
 

@@ -19,18 +19,11 @@ struct Row {
 TEST(TypeText, PutsTextInThePlaceOfTheMarked)
 {
     const Row rows[] = {
-        {"in a cell", "<table><tr><td>a|b</td></tr></table>", u"x",
-            "<table><tr><td>ax|b</td></tr></table>"},
-        {"in nothing", "|", u"x", "x|"},
         {"in an empty format", "<p><b>|</b></p>", u"x", "<p><b>x|</b></p>"},
-        {"behind a format", "<p><b>a|</b>c</p>", u"x", "<p><b>ax|</b>c</p>"},
         {"behind a link", "<p><a>a</a>|c</p>", u"x", "<p><a>a</a>x|c</p>"},
-        {"for letters", "<p>a[bc]d</p>", u"xyz", "<p>axyz|d</p>"},
         {"for all of a format", "<p>a<b><i>[b]</i></b></p>", u"x", "<p>a<b><i>x|</i></b></p>"},
         {"for all of a link", "<p>a<a>[b</a>]</p>", u"x", "<p>ax|</p>"},
-        {"for the start of a link", "<p>a<a>[b]c</a></p>", u"x", "<p>a<a>x|c</a></p>"},
         {"for a part with two formats", "<p><b>a[b</b><i>c</i>]</p>", u"x", "<p><b>ax|</b></p>"},
-        {"for a border", "<p>a[</p><p>]b</p>", u"x", "<p>ax|b</p>"},
         {"for a line that a table leaves", "[<table><tr><td>a</table><p>]b</p>", u"x",
             "<p>x|b</p>"},
         {"for cells", "<table><tr><td>a[b</td><td>c]</td></tr></table>", u"x",
@@ -38,7 +31,6 @@ TEST(TypeText, PutsTextInThePlaceOfTheMarked)
         {"for an option",
             "<!--select--><!--option-->[<input type=radio>]b<!--/option--><!--/select-->", u"x",
             "x|"},
-        {"for all", "[<p>a</p><p>b</p>]", u"x", "<p>x|</p>"},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
@@ -54,7 +46,6 @@ TEST(TypeText, PutsTextInThePlaceOfTheMarked)
 TEST(TypeText, WritesEachCharacterSoThatItIsSeen)
 {
     const Row rows[] = {
-        {"characters of markup", "<p>a|</p>", u"<b>&\"", "<p>a&lt;b&gt;&amp;\"|</p>"},
         {"Windows-1252", "<p>|</p>", u"\u00E4\u20AC", "<p>\xE4\x80|</p>"},
         {"other characters", "<p>|</p>", u"\u2212\U0001F600\xD800",
             "<p>&#8722;&#128512;&#65533;|</p>"},
@@ -63,19 +54,15 @@ TEST(TypeText, WritesEachCharacterSoThatItIsSeen)
         {"controls", "<p>|</p>", u"a\u0001\u007F\u0085\uFFFCb", "<p>ab|</p>"},
         {"blanks", "<p>a|b</p>", u"  \tc  ", "<p>a &nbsp; c &nbsp;|b</p>"},
         {"a blank at the start", "<p>|b</p>", u" ", "<p>&nbsp;|b</p>"},
-        {"a blank at the end", "<p>b|</p>", u" ", "<p>b |</p>"},
         {"a blank behind a line break", "<p>a<br/>|b</p>", u" ", "<p>a<br/>&nbsp;|b</p>"},
         {"a blank behind a typed line break", "<p>a|</p>", u"\n ", "<p>a<br/>&nbsp;|</p>"},
-        {"a blank behind a blank", "<p>a |b</p>", u" ", "<p>a &nbsp;|b</p>"},
         {"a blank ahead of a blank", "<p>a| b</p>", u" ", "<p>a&nbsp;| b</p>"},
         {"a blank ahead of a blank in a format", "<p>a|<b> b</b></p>", u" ",
             "<p>a&nbsp;|<b> b</b></p>"},
         {"a letter that makes a reference", "<p>&am|;</p>", u"p", "<p>&amp;amp|;</p>"},
         {"a digit that goes on with one", "<p>&#6|</p>", u"5", "<p>&#6;5|</p>"},
         {"a semicolon behind one without", "<p>&lt|</p>", u";", "<p>&lt;;|</p>"},
-        {"a letter behind an '&' that is none", "<p>A&T|</p>", u"x", "<p>A&Tx|</p>"},
         {"a line break behind a '<'", "a<b <c|", u"\n", "a&lt;b &lt;c<br/>|"},
-        {"a letter behind a '<'", "a<b|", u"c", "a<bc|"},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
@@ -94,7 +81,6 @@ TEST(PasteMarkup, PutsMarkupInAsItIs)
         std::string after;
     } rows[] = {
         {"a format", "<p>a[x]b</p>", "<b>c</b>", "<p>a<b>c|</b>b</p>"},
-        {"a link", "<p>a|b</p>", "<a>c</a>", "<p>a<a>c</a>|b</p>"},
         {"a table", "<p>a|b</p>", "<table><tr><td>c</td></tr></table>",
             "<p>a<table><tr><td>c</td></tr></table>|b</p>"},
         {"nothing to see", "<p>a|b</p>", "<!--go/-->", "<p>a|<!--go/-->b</p>"},
