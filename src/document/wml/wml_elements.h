@@ -1,0 +1,78 @@
+#pragma once
+
+#include <cstdint>
+#include <span>
+#include <string_view>
+
+// The elements of WML 1.1 (WAP-191 and its document type), with those that WML 1.2 and 1.3 added:
+// one table that tells their content, their attributes, and how the surface shows them.
+
+namespace quillmere {
+
+enum class WmlElement : std::uint8_t {
+    Other, ///< any that the table has not
+    Wml,
+    Head,
+    Access,
+    Meta,
+    Template,
+    Card,
+    OnEvent,
+    Timer,
+    Do,
+    Go,
+    Prev,
+    Refresh,
+    Noop,
+    SetVar,
+    PostField,
+    Paragraph,
+    Pre,
+    Table,
+    Row,
+    Cell,
+    Select,
+    OptionGroup,
+    Option,
+    Input,
+    FieldSet,
+    Link,
+    Anchor,
+    Image,
+    LineBreak,
+    Bold,
+    Strong,
+    Italic,
+    Emphasis,
+    Underline,
+    Big,
+    Small,
+};
+
+/// How an element travels in a design text.
+enum class SurfaceLook : std::uint8_t {
+    Tag, ///< as an HTML tag
+    Marker, ///< as a pair of comment markers around what is shown
+    Atom, ///< as one marker that holds the element whole
+    Aside, ///< not at all: it belongs to the deck and to no card
+};
+
+struct WmlElementRule {
+    WmlElement element = WmlElement::Other;
+    std::string_view name;
+    SurfaceLook look = SurfaceLook::Marker;
+    bool isEmpty = false; ///< has no content at all
+    bool isFormat = false; ///< may be closed and opened anew where it overlaps
+    bool holdsText = false;
+    std::uint64_t children = 0; ///< one bit for each WmlElement that may stand in it
+    std::span<const std::string_view> attributes;
+};
+
+/// The element of a name, whose case does not matter; Other for one that there is not.
+[[nodiscard]] WmlElement wmlElement(std::string_view name);
+/// The rule of an element; that of Other allows everything.
+[[nodiscard]] const WmlElementRule& ruleOf(WmlElement element);
+/// Whether the document type allows `child` directly in `parent`. Other may stand anywhere.
+[[nodiscard]] bool mayContain(WmlElement parent, WmlElement child);
+
+} // namespace quillmere
