@@ -10,6 +10,7 @@
 #include "editor/window/element_forms.h"
 #include "forms/frm_about_quillmere.h"
 #include "forms/frm_assistent.h"
+#include "forms/help_window.h"
 #include "forms/overlay.h"
 #include "forms/screen_twips.h"
 #include "forms/text.h"
@@ -28,6 +29,7 @@
 #include <QScreen>
 #include <QTimer>
 
+#include <array>
 #include <cmath>
 
 namespace quillmere {
@@ -213,9 +215,19 @@ void Program::registerForms()
         window_.registerForm(
             name, [this](const FormCall&) { Form(session_, &window_).showModally(); });
     };
+    window_.registerForm("Help", [this](const FormCall& call) { showHelp(call.page); });
     registerForm("frmAboutQuillmere", std::in_place_type<frmAboutQuillmere>);
     registerForm("frmAskProjektDir", std::in_place_type<frmAskProjektDir>);
     registerForm("frmOpenFromProjektDir", std::in_place_type<frmOpenFromProjektDir>);
+}
+
+/// Beside the dialog that keeps all other windows off, where there is one.
+void Program::showHelp(const QString& page)
+{
+    auto* dialog = QApplication::activeModalWidget();
+    if (HelpWindow::open(session_, page, dialog != nullptr ? dialog : &window_)) return;
+    const auto file = shownPath(settings_.ReadSetting("HelpFile"));
+    messages_.show(word::kNoHelp, std::array{coreText(file)}, MessageIcon::None);
 }
 
 // Behind the step that stored, since a message lets other events in.

@@ -67,6 +67,7 @@ private:
     void registerForms();
     void noteDeck(bool isChanged);
     void tellTrouble();
+    void showHelp(const QString& page);
 
     StartOptions options_;
     bool hasBegun_ = false; // firstActivation() ran

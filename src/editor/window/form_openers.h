@@ -2,6 +2,8 @@
 
 #include "editor/page/hit_test.h"
 
+#include <QString>
+
 #include <functional>
 #include <map>
 #include <string>
@@ -12,6 +14,7 @@ namespace quillmere {
 struct FormCall {
     bool NewElement = true; ///< false: the element at `hit` is changed
     Hit hit{}; ///< of the hit test that the tool made, if it made one
+    QString page{}; ///< of the help: the name of the window that it was wanted in
 };
 
 /// Loads a form, shows it modally and does what it was answered.

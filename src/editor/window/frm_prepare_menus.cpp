@@ -182,8 +182,11 @@ void frmPrepare::mnuMoreAboutQuillmere() // NOLINT(readability-make-member-funct
 
 void frmPrepare::ShowHelp()
 {
-    if (hasForm("Help")) return openForm("Help", {});
-    tellMissing(QStringLiteral("Hilfe"));
+    const auto* dialog = QApplication::activeModalWidget();
+    const QWidget* here = mScriptView ? static_cast<QWidget*>(txtScript) : this;
+    FormCall call;
+    call.page = (dialog != nullptr ? dialog : here)->objectName();
+    openForm("Help", call);
 }
 
 /// The decks that were open last stand below the ways to a new one.
