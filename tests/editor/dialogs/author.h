@@ -68,8 +68,8 @@ struct Author : ElementDesk {
     }
     /// Entries of a tool's menu, or of the surface's at the caret, from the outermost to the one
     /// that opens a form.
-    void menuOfTool(const char* name, const std::vector<QString>& entries,
-        std::function<void(QWidget&)> form)
+    void menuOfTool(
+        const char* name, const std::vector<QString>& entries, std::function<void(QWidget&)> form)
     {
         clickOn(control<QWidget>((std::string("lblButton") + name).c_str()));
         chooseFromMenu(entries, std::move(form));
