@@ -100,12 +100,12 @@ void DesignSurface::LoadURL(const std::string& path)
 
 void DesignSurface::NewDocument()
 {
+    shownPath_.clear();
     setDocumentHTML(std::string(kEmptyArea));
 }
 
 void DesignSurface::setDocumentHTML(std::string text)
 {
-    shownPath_.clear();
     showAnew(std::move(text), 0);
 }
 

@@ -56,6 +56,7 @@ public:
     void LoadURL(const std::string& path);
     void NewDocument();
     [[nodiscard]] const std::string& DocumentHTML() const { return page_.text; }
+    /// Another state of what is shown.
     void setDocumentHTML(std::string text);
     [[nodiscard]] bool Busy() const override { return busy_; }
     void yieldToEvents() override;
@@ -199,6 +200,7 @@ private:
     void tellOf(void (DesignSurface::*mouseEvent)(const Element&), const Element& source);
     void pressAt(QMouseEvent& event);
     void startDragging();
+    void endWordAtObjects(int position);
     void moveSelectionTo(PagePlace target);
     bool showToolTip(const QHelpEvent& event);
     void updatePointer(QPoint point);
@@ -213,7 +215,7 @@ private:
     std::optional<Element> event_; // while a mouse event is handled
     std::optional<Element> pressed_; // under the mouse at its last press, in textAtPress_
     std::string textAtPress_;
-    std::string shownPath_; // of the last LoadURL(), while what it loaded is shown
+    std::string shownPath_; // of the last LoadURL(); "" behind NewDocument()
     std::optional<QPoint> mayDragFrom_; // a press on what is selected, until the mouse moves on
     std::size_t caretBlock_ = 0;
     bool busy_ = false;

@@ -125,11 +125,30 @@ void DesignSurface::mouseReleaseEvent(QMouseEvent* event)
 void DesignSurface::mouseDoubleClickEvent(QMouseEvent* event)
 {
     const auto source = elementAt(event->pos());
-    if (const auto control = controlAt(event->pos()))
+    if (const auto control = controlAt(event->pos())) {
         selectControl(*control);
-    else
+    } else {
+        const int position = cursorForPosition(event->pos()).position();
         QTextEdit::mouseDoubleClickEvent(event);
+        endWordAtObjects(position);
+    }
     tellOf(&DesignSurface::ondblclick, source);
+}
+
+/// Of the word that is marked only what lies between objects stays. The base class takes them for
+/// letters: of two options "o eins o zwei" it marks both.
+void DesignSurface::endWordAtObjects(int position)
+{
+    auto cursor = textCursor();
+    const auto word = cursor.selectedText();
+    const auto begin = cursor.selectionStart();
+    const auto at = position - begin;
+    const auto ahead = at > 0 ? word.lastIndexOf(QChar::ObjectReplacementCharacter, at - 1) : -1;
+    const auto behind = word.indexOf(QChar::ObjectReplacementCharacter, at);
+    const auto end = behind < 0 ? word.size() : behind;
+    cursor.setPosition(begin + static_cast<int>(ahead) + 1);
+    cursor.setPosition(begin + static_cast<int>(end), QTextCursor::KeepAnchor);
+    setTextCursor(cursor);
 }
 
 // The menu of the base class changes text past the page.

@@ -171,6 +171,14 @@ TEST(SurfaceMouse, DoubleClickSelectsAWordAndFindsTheLinkRoundIt)
     EXPECT_EQ(surface.selectedText(), "Ziel");
     EXPECT_TRUE(hit.Inside);
     EXPECT_EQ(hit.position, static_cast<int>(std::string_view(kArea).find("<a ")) + 1);
+
+    Moused list("<!--select--><!--option--><input type=radio name=\"TempName1\">eins<!--/option-->"
+                "<!--option--><input type=radio name=\"TempName2\">zwei<!--/option-->"
+                "<!--option--><input type=radio name=\"TempName3\">drei<!--/option-->");
+    for (const char* option : {"eins", "zwei", "drei"}) {
+        list.mouse(QEvent::MouseButtonDblClick, list.pointOf(option));
+        EXPECT_EQ(list.selectedText(), option); // the radio buttons are no letters of the word
+    }
 }
 
 TEST(SurfaceMouse, AsksForTheMenuWithTheEventAndKeepsTheSelection)

@@ -43,8 +43,8 @@ const Rule kRules[] = {
         "xml:lang=\"de\" onenterforward=\"#b\" onenterbackward=\"#b\" ontimer=\"#b\"><onevent "
         "type=\"onenterforward\"><go href=\"#b\"/></onevent><timer name=\"t\" value=\"50\"/>"
         "<do type=\"accept\"><go href=\"#b\"/></do><p>a</p><do type=\"x\"><noop/></do></card>",
-        {"<card>text</card>", "<card><b>a</b></card>", "<card><p/><timer value=\"1\"/></card>",
-            "<card><timer/></card>",
+        {"<card>text</card>", paragraph("a<br> </br>"), "<card><b>a</b></card>",
+            "<card><p/><timer value=\"1\"/></card>", "<card><timer/></card>",
             "<card><timer value=\"1\"/><onevent type=\"a\"><noop/>"
             "</onevent></card>",
             "<card newcontext=\"yes\"/>", "<card name=\"a\"/>",
@@ -107,6 +107,7 @@ const Rule kRules[] = {
         {paragraph("<img src=\"a.wbmp\"/>"), paragraph("<img alt=\"a\"/>"),
             paragraph("<img src=\"a\" alt=\"a\" align=\"left\"/>"),
             paragraph("<img src=\"a\" alt=\"a\" height=\"10px\"/>"),
+            paragraph("<img src=\"a\" alt=\"a\">\n</img>"),
             "<card><img src=\"a\" alt=\"a\"/></card>"}},
     {"a link holds text, breaks and pictures",
         paragraph("<a href=\"#a\" title=\"t\">a<br/><img src=\"a\" alt=\"\"/></a>"

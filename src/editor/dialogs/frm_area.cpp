@@ -229,6 +229,7 @@ void frmArea::btnDelete_Click()
     if (!confirms(word::kDeleteArea)) return;
     auto& document = session().document;
     const bool isLast = areaCount(document.deck) < 2;
+    const auto id = GetCardAttributes(document, area()).id;
     RemoveArea(document, area(), isLast);
     const int last = static_cast<int>(areaCount(document.deck)) - 1;
     document.currentArea = std::clamp(document.currentArea, 0, std::max(last, 0));
@@ -236,6 +237,25 @@ void frmArea::btnDelete_Click()
     session().window->RefreshSurface();
     if (session().afterStore) session().afterStore(!isLast);
     accept();
+    tellWhatLeadsTo(id);
+}
+
+/// Names the areas from which something leads to an area that is gone.
+void frmArea::tellWhatLeadsTo(const std::string& id)
+{
+    auto& document = session().document;
+    QStringList areas;
+    for (std::size_t i = 0; i < areaCount(document.deck); ++i)
+        if (!id.empty() && !hasId(areaCount(document.deck), id)
+            && leadsTo(ReadDesignText(document, i), id))
+            areas.append(
+                formText(text_variant::kAreaText, "Bereich") + ' ' + QString::number(i + 1));
+    if (areas.isEmpty()) return;
+    session().messages.showText(
+        QStringLiteral("Der Bereich „%1“ ist gelöscht. Links, Optionen oder Sprünge in diesen "
+                       "Bereichen führen noch zu ihm: %2.")
+            .arg(shownText(id), areas.join(", ")),
+        MessageIcon::Warning);
 }
 
 } // namespace quillmere

@@ -15,6 +15,7 @@ namespace quillmere {
 /// - With a new id, all that leads to the area within the deck leads there still.
 /// - The jump is one by its caption: without one the do block goes, and an address without a
 ///   caption is asked for it. A jump that was not changed is not written.
+/// - Which areas still lead to one that was deleted is told.
 /// - A new area is linked to by the area ahead of it, as AddArea does it.
 class frmArea : public ElementForm {
     Q_OBJECT
@@ -38,6 +39,7 @@ private:
     void keepState();
     void btnNew_Click();
     void btnDelete_Click();
+    void tellWhatLeadsTo(const std::string& id);
 
     QGroupBox* const objFrmCurArea = named<QGroupBox>("objFrmCurArea", this);
     QLabel* const lblId = named<QLabel>("lblId", this);

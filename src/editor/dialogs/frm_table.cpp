@@ -56,9 +56,7 @@ void frmTable::layOut()
     int row = 2;
     for (auto [label, field, scroll] : {std::tuple{lblRows, txtRows, objScrollRows},
              std::tuple{lblColumns, txtColumns, objScrollColumns}}) {
-        scroll->setOrientation(Qt::Vertical);
         scroll->setFixedHeight(field->sizeHint().height());
-        scroll->setFocusPolicy(Qt::NoFocus);
         grid->addWidget(label, row, 0);
         grid->addWidget(field, row, 1);
         grid->addWidget(scroll, row++, 2);

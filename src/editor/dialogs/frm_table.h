@@ -2,6 +2,7 @@
 
 #include "editor/dialogs/element_form.h"
 #include "editor/dialogs/number_field.h"
+#include "editor/dialogs/step_bar.h"
 #include "editor/elements/table_edit.h"
 
 #include <QComboBox>
@@ -9,7 +10,6 @@
 #include <QGroupBox>
 #include <QLabel>
 #include <QLineEdit>
-#include <QScrollBar>
 
 namespace quillmere {
 
@@ -39,10 +39,10 @@ private:
     QComboBox* const cboAlign = named<QComboBox>("cboAlign", this);
     QLabel* const lblRows = named<QLabel>("lblRows", this);
     QLineEdit* const txtRows = named<QLineEdit>("txtRows", this);
-    QScrollBar* const objScrollRows = named<QScrollBar>("objScrollRows", this);
+    StepBar* const objScrollRows = named<StepBar>("objScrollRows", this);
     QLabel* const lblColumns = named<QLabel>("lblColumns", this);
     QLineEdit* const txtColumns = named<QLineEdit>("txtColumns", this);
-    QScrollBar* const objScrollColumns = named<QScrollBar>("objScrollColumns", this);
+    StepBar* const objScrollColumns = named<StepBar>("objScrollColumns", this);
     QPushButton* const btnNew = named<QPushButton>("btnNew", this);
     QPushButton* const btnDelete = named<QPushButton>("btnDelete", this);
     NumberField* const rows_

@@ -9,8 +9,6 @@
 #include <QFocusEvent>
 #include <QKeyEvent>
 #include <QSignalBlocker>
-#include <QStyle>
-#include <QStyleFactory>
 #include <QTimer>
 
 #include <algorithm>
@@ -25,14 +23,9 @@ NumberField::NumberField(
     , field_(field)
     , scroll_(scroll)
 {
-    if (scroll_ != nullptr) {
-        // The program's own scroll bars have no arrows, which are all that is used of these.
-        auto* const withArrows = QStyleFactory::create("Fusion");
-        withArrows->setParent(scroll_);
-        scroll_->setStyle(withArrows);
+    if (scroll_ != nullptr)
         connect(scroll_, &QScrollBar::valueChanged, this,
             [this](int value) { field_->setText(QString::number(-value)); });
-    }
     setLimits(limits);
     field_->installEventFilter(this);
     connect(field_, &QLineEdit::textChanged, this, [this] { filter(); });

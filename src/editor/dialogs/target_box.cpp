@@ -9,10 +9,36 @@
 #include "forms/text.h"
 #include "forms/trap.h"
 
+#include <QAbstractItemView>
 #include <QDir>
 #include <QGridLayout>
+#include <QHBoxLayout>
+#include <QStyledItemDelegate>
+
+#include <algorithm>
 
 namespace quillmere {
+
+namespace {
+
+constexpr int kTitleRole = Qt::UserRole + 1;
+constexpr int kListMarginPx = 16;
+constexpr int kWidestListPx = 480;
+
+/// Shows the title of each area behind its number while the list is open.
+class AreaDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+
+protected:
+    void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
+    {
+        QStyledItemDelegate::initStyleOption(option, index);
+        option->text += "   " + index.data(kTitleRole).toString();
+    }
+};
+
+} // namespace
 
 TargetBox::TargetBox(Session& session, QWidget* parent)
     : QGroupBox(QStringLiteral("Link anlegen"), parent)
@@ -35,16 +61,25 @@ void TargetBox::layOut()
 {
     auto* grid = new QGridLayout(this);
     grid->addWidget(optShowAreaOrder[0], 0, 0, 1, 3, Qt::AlignLeft);
-    grid->addWidget(cboLink, 1, 1, 1, 2);
+    auto* area = new QHBoxLayout;
+    area->addWidget(cboLink);
+    area->addWidget(title_, 1);
+    grid->addLayout(area, 1, 1, 1, 2);
     grid->addWidget(optShowAreaOrder[1], 2, 0, 1, 3, Qt::AlignLeft);
     grid->addWidget(txtUrlJump, 3, 1);
     grid->addWidget(btnSearchUrl, 3, 2);
     grid->setColumnMinimumWidth(0, fontMetrics().averageCharWidth() * 3);
     grid->setColumnStretch(1, 1);
+    title_->setTextFormat(Qt::PlainText);
+    title_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred); // a long one is cut
+    cboLink->setItemDelegate(new AreaDelegate(cboLink));
+    setTabOrder(optShowAreaOrder[0], cboLink);
+    setTabOrder(cboLink, optShowAreaOrder[1]);
 }
 
 void TargetBox::wire()
 {
+    connect(cboLink, &QComboBox::currentIndexChanged, this, &TargetBox::showTitle);
     connect(
         cboLink, &QComboBox::activated, this, [this] { optShowAreaOrder[0]->setChecked(true); });
     connect(txtUrlJump, &QLineEdit::textEdited, this,
@@ -56,13 +91,25 @@ void TargetBox::wire()
 void TargetBox::fillAreas(const QString& areaText)
 {
     cboLink->clear();
+    const auto metrics = cboLink->fontMetrics();
+    int widest = 0;
     for (std::size_t i = 0; i < areaCount(session_.document.deck); ++i) {
         const auto card = GetCardAttributes(session_.document, i);
         cboLink->addItem(
             areaText + ' ' + QString::number(i + 1), QByteArray::fromStdString(card.id));
-        cboLink->setItemData(static_cast<int>(i),
-            QString::fromStdU16String(typedFrom(card.id + ": " + card.title)), Qt::ToolTipRole);
+        const auto title = QString::fromStdU16String(typedFrom(card.title));
+        cboLink->setItemData(static_cast<int>(i), title, kTitleRole);
+        widest = std::max(widest,
+            metrics.horizontalAdvance(cboLink->itemText(static_cast<int>(i)) + "   " + title));
     }
+    cboLink->view()->setMinimumWidth(std::min(widest + 2 * kListMarginPx, kWidestListPx));
+    showTitle();
+}
+
+void TargetBox::showTitle()
+{
+    title_->setText(cboLink->currentData(kTitleRole).toString());
+    title_->setToolTip(title_->text());
 }
 
 void TargetBox::setDefaults()

@@ -5,6 +5,7 @@
 
 #include <QComboBox>
 #include <QGroupBox>
+#include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
@@ -23,7 +24,7 @@ class TargetBox : public QGroupBox {
 public:
     TargetBox(Session& session, QWidget* parent);
 
-    /// The list of areas, each by `areaText` and its number; its id and title are its tool tip.
+    /// The list of areas, each by `areaText` and its number. Its title stands beside it.
     void fillAreas(const QString& areaText);
     /// No address, and the area that is probably wanted: the next one from the first area, else the
     /// first one.
@@ -40,6 +41,7 @@ public:
 private:
     void layOut();
     void wire();
+    void showTitle();
     void btnSearchUrl_Click();
     [[nodiscard]] std::string completed(const QString& typed);
 
@@ -48,6 +50,7 @@ private:
         named<QRadioButton>("optShowAreaOrder", this),
         named<QRadioButton>("optShowAreaOrder", this)};
     QComboBox* const cboLink = named<QComboBox>("cboLink", this);
+    QLabel* const title_ = new QLabel(this); ///< of the chosen area
     QLineEdit* const txtUrlJump = named<QLineEdit>("txtUrlJump", this);
     QPushButton* const btnSearchUrl = named<QPushButton>("btnSearchUrl", this);
 };

@@ -15,6 +15,11 @@ namespace {
 
 constexpr std::string_view kGermanLetters = "\xE4\xF6\xFC\xDF"; // ä ö ü ß
 
+std::string targetValue(std::string_view id)
+{
+    return std::string("=\"#").append(id).append("\"");
+}
+
 bool fitsCardId(char character)
 {
     const char lower = lowerCase(character);
@@ -34,8 +39,8 @@ std::string withoutDoBlock(std::string_view text)
 std::string withTargetsRenamed(
     std::string_view text, std::string_view oldId, std::string_view newId)
 {
-    const auto old = "=\"#" + std::string(oldId) + "\"";
-    const auto now = "=\"#" + std::string(newId) + "\"";
+    const auto old = targetValue(oldId);
+    const auto now = targetValue(newId);
     Rewriter result(text);
     for (auto at = text.find(old); at != npos; at = text.find(old, at + old.size())) {
         result.drop(at, at + old.size());
@@ -44,6 +49,11 @@ std::string withTargetsRenamed(
     auto renamed = result.take();
     requireAddressable(renamed);
     return renamed;
+}
+
+bool leadsTo(std::string_view text, std::string_view id)
+{
+    return text.find(targetValue(id)) != npos;
 }
 
 CardIdFault cardIdFault(std::string_view id)

@@ -14,6 +14,10 @@ namespace quillmere {
 [[nodiscard]] std::string withTargetsRenamed(
     std::string_view text, std::string_view oldId, std::string_view newId);
 
+/// Whether anything in the text leads to the card `id`: a value in double quotes that is "#" and
+/// it.
+[[nodiscard]] bool leadsTo(std::string_view text, std::string_view id);
+
 /// What keeps a text from being a card's id, which other cards lead to by "#" and this id.
 enum class CardIdFault { None, Empty, BadCharacter };
 

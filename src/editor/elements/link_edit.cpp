@@ -34,14 +34,27 @@ std::optional<LinkParts> linkFrom(std::string_view text, std::size_t from)
     return LinkParts{*start, std::max(end->begin, start->end), end->end};
 }
 
+/// The nearest item that is no blank, from a place towards the block's begin or its end; nullptr
+/// where there is none.
+const PageItem* firmItem(const SurfacePage& page, PagePlace place, bool ahead)
+{
+    const auto next = [&] { return ahead ? itemAhead(page, place) : itemBehind(page, place); };
+    const auto* item = next();
+    while (item != nullptr && item->kind == ItemKind::Blank) {
+        place.offset = ahead ? place.offset - 1 : place.offset + 1;
+        item = next();
+    }
+    return item;
+}
+
 /// Whether the caret at `offset` has its line for itself, with nothing that ends the line.
 bool isAloneOnLine(std::string_view text, std::size_t offset)
 {
     const auto page = readSurfacePage(std::string(text));
     const auto place = placeAt(page, offset);
-    const auto* const ahead = itemAhead(page, place);
+    const auto* const ahead = firmItem(page, place, true);
     const bool beginsLine = ahead == nullptr || ahead->kind == ItemKind::LineBreak;
-    return beginsLine && itemBehind(page, place) == nullptr;
+    return beginsLine && firmItem(page, place, false) == nullptr;
 }
 
 ElementEdit putIn(std::string_view text, SourceRange piece, const std::string& link)

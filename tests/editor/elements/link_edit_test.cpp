@@ -23,6 +23,7 @@ TEST(SetLink, EndsTheLineOnlyWhereItIsAlone)
     const std::vector<Case> cases{
         {"<p>|</p>", "<p><a href=\"#n\">n</a> <br/> |</p>"},
         {"<p>a<br/>|</p>", "<p>a<br/><a href=\"#n\">n</a> <br/> |</p>"},
+        {"<p>a<br/> |</p>", "<p>a<br/> <a href=\"#n\">n</a> <br/> |</p>"}, // behind another one
         {"<p>|<br/>b</p>", "<p><a href=\"#n\">n</a> |<br/>b</p>"},
         {"<p>a|</p>", "<p>a<a href=\"#n\">n</a> |</p>"},
         {"<p>|b</p>", "<p><a href=\"#n\">n</a> |b</p>"},
