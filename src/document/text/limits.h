@@ -10,16 +10,20 @@ namespace quillmere {
 /// Positions in document text are 16 bits signed.
 inline constexpr std::size_t kMaxTextLength = 32767;
 
-/// Throws Overflow where a text of `length` characters is longer than positions can tell.
-inline void requireAddressableLength(std::size_t length)
+/// The longest deck where nothing is lost: 1 MB.
+inline constexpr std::size_t kMaxStandardTextLength = 1024 * std::size_t{1024};
+
+/// Throws Overflow where a text of `length` characters is longer than positions can tell, or than
+/// another limit.
+inline void requireAddressableLength(std::size_t length, std::size_t limit = kMaxTextLength)
 {
-    if (length > kMaxTextLength) throw Overflow();
+    if (length > limit) throw Overflow();
 }
 
 /// The same for a text.
-inline void requireAddressable(std::string_view text)
+inline void requireAddressable(std::string_view text, std::size_t limit = kMaxTextLength)
 {
-    requireAddressableLength(text.size());
+    requireAddressableLength(text.size(), limit);
 }
 
 } // namespace quillmere

@@ -72,7 +72,14 @@ struct WmlElementRule {
 [[nodiscard]] WmlElement wmlElement(std::string_view name);
 /// The rule of an element; that of Other allows everything.
 [[nodiscard]] const WmlElementRule& ruleOf(WmlElement element);
+/// The rules of all elements in the order of WmlElement, Other first.
+[[nodiscard]] std::span<const WmlElementRule> wmlElementRules();
 /// Whether the document type allows `child` directly in `parent`. Other may stand anywhere.
 [[nodiscard]] bool mayContain(WmlElement parent, WmlElement child);
+/// An attribute of an element as its table spells it, whatever the case of `name`; "" for one that
+/// it has not.
+[[nodiscard]] std::string_view knownAttribute(WmlElement element, std::string_view name);
+/// Whether an attribute says "true" or "false".
+[[nodiscard]] bool isFlagAttribute(std::string_view name);
 
 } // namespace quillmere

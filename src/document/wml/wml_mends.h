@@ -2,6 +2,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -29,7 +30,7 @@ enum class MendRule : std::uint8_t {
     BadCharacter, ///< a control character, or bytes that the encoding has not
     BadComment, ///< with two dashes in it, or without its end
     BadDeclaration, ///< of the document type or of XML
-    DoubledId,
+    DoubledId, ///< the second one gets a number
     WrongCase, ///< of an element or attribute that WML has
 };
 
@@ -40,7 +41,16 @@ struct WmlMend {
     std::string after; ///< what is written in its place; "" where it goes
 };
 
-/// The rule in German, as one short sentence ("Ein Ende ohne Anfang wurde weggelassen").
+struct MendText {
+    std::string_view name; ///< for programs: "stray-end"
+    std::string_view german; ///< one short sentence, UTF-8
+};
+
+/// The rule in German (UTF-8), as one short sentence ("Ein Ende ohne Anfang wurde weggelassen").
 [[nodiscard]] std::string_view germanText(MendRule rule);
+/// The rule's name for programs ("stray-end").
+[[nodiscard]] std::string_view nameOf(MendRule rule);
+/// All rules in their order.
+[[nodiscard]] std::span<const MendText> mendTexts();
 
 } // namespace quillmere

@@ -3,6 +3,7 @@
 #include "document/wml/wml_elements.h"
 
 #include <cstdint>
+#include <limits>
 #include <optional>
 #include <string_view>
 #include <vector>
@@ -11,6 +12,8 @@
 // one behind the other, are the text.
 
 namespace quillmere {
+
+inline constexpr std::uint32_t kNotMended = std::numeric_limits<std::uint32_t>::max();
 
 struct WmlToken {
     enum class Kind : std::uint8_t {
@@ -26,8 +29,12 @@ struct WmlToken {
     };
     Kind kind = Kind::Word;
     WmlElement element = WmlElement::Other; ///< of tags
-    bool isFaulty = false; ///< not well-formed in itself: `mendedToken` tells what it should be
-    bool isNew = false; ///< not of the file: laid out in the deck's manner where it begins a block
+    bool isFaulty : 1 = false; ///< not well-formed in itself
+    bool needsLook : 1 = false; ///< the deck tells whether it is right: a reference, upper case
+    bool hasId : 1 = false; ///< a tag with the attribute `id`
+    bool isNew : 1
+        = false; ///< not of the file: laid out in the deck's manner where it begins a block
+    std::uint32_t mended = kNotMended; ///< in a tree: the text of WmlTree::texts to write instead
     std::string_view source; ///< as written; from '<' to behind '>' for tags
     std::string_view name; ///< of tags and instructions, as written
 };

@@ -6,6 +6,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <deque>
 #include <limits>
 #include <string>
 #include <string_view>
@@ -23,7 +24,7 @@ struct WmlNode {
     enum class Kind : std::uint8_t { Element, Text, Other }; ///< Text: a word or a space
     Kind kind = Kind::Element;
     WmlElement element = WmlElement::Other;
-    std::uint32_t start = kNoToken; ///< its tag, or itself; none: mended in, written anew
+    std::uint32_t start = kNoToken; ///< its tag, or itself; none: the document
     std::uint32_t end = kNoToken; ///< its end tag; none: an empty tag, or mended in
     std::uint32_t parent = kNoNode;
     std::uint32_t firstChild = kNoNode;
@@ -31,9 +32,18 @@ struct WmlNode {
 };
 
 struct WmlTree {
-    std::vector<WmlToken> tokens;
+    std::vector<WmlToken> tokens; ///< as they came, behind them those of elements mended in
     std::vector<WmlNode> nodes; ///< parents ahead of their children; 0 is the document itself
     std::vector<WmlMend> mends; ///< in the order of the text
+    std::deque<std::string> texts; ///< of mended tokens; they stay where they are
+
+    /// What is written for a token. The text of a token that goes is empty. Valid as long as the
+    /// tree and the deck's text.
+    [[nodiscard]] std::string_view textOf(std::uint32_t token) const
+    {
+        const WmlToken& wanted = tokens[token];
+        return wanted.mended == kNotMended ? wanted.source : std::string_view(texts[wanted.mended]);
+    }
 };
 
 /// Makes the tree of a deck's tokens. No word is lost, whatever the tokens are. `deck` tells what

@@ -1,0 +1,25 @@
+// Held by tests/document/wml/repaired_file_test.cpp.
+
+#include "document/wml/repaired_file.h"
+
+#include "document/text/limits.h"
+#include "document/wml/wml_tree.h"
+
+#include <utility>
+
+namespace quillmere {
+
+RepairedFile repairFile(std::string bytes)
+{
+    if (bytes.size() > kMaxStandardTextLength) throw Overflow();
+    const DeckBytes deck(std::move(bytes));
+    WmlTree tree = buildWmlTree(readWmlTokens(deck.text()), deck);
+    if (tree.mends.empty()) return {deck.file(), {}};
+    for (WmlMend& mend : tree.mends) {
+        mend.before = deck.decoded(mend.before);
+        mend.after = deck.decoded(mend.after);
+    }
+    return {deck.fileOf(writeWml(tree, deck)), std::move(tree.mends)};
+}
+
+} // namespace quillmere
