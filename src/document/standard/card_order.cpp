@@ -97,7 +97,9 @@ std::vector<std::uint32_t> orderedPieces(
     std::vector<std::uint32_t> result(pieces.size());
     std::iota(result.begin(), result.end(), 0U);
     auto items = itemsOf(pieces, places);
-    if (isInOrder(items)) return result;
+    auto old = items;
+    std::erase_if(old, [](const Item& item) { return item.isNew; });
+    if (isInOrder(items) || !isInOrder(old)) return result;
     order(items);
     auto next = result.begin() + 1;
     for (const auto& item : items)
