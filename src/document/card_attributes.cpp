@@ -3,6 +3,7 @@
 
 #include "document/card_attributes.h"
 
+#include "document/deck_store.h"
 #include "document/design_text.h"
 #include "document/text/text_search.h"
 #include "document/text/windows1252.h"
@@ -80,18 +81,33 @@ std::string attribute(std::string_view key, std::string_view value)
     return std::string(" ").append(key).append("\"").append(value).append("\"");
 }
 
-bool bearsName(std::string_view text, std::string_view name)
+/// Single quotes are those of actions that stand whole in a marker, as the deck has them.
+bool bearsName(std::string_view text, std::string_view name, bool hasSingleQuotes)
 {
-    const auto key = std::string("name=\"").append(lowerCase(name)).append("\"");
-    return findIgnoringCase(text, key) != npos;
+    const auto isThere = [&](char quote) {
+        auto key = std::string("name=").append(1, quote).append(lowerCase(name)).append(1, quote);
+        return findIgnoringCase(text, key) != npos;
+    };
+    return isThere('"') || (hasSingleQuotes && isThere('\''));
 }
 
-std::string unusedJumpName(std::string_view text, std::string_view wanted)
+std::string unusedJumpName(std::string_view text, std::string_view wanted, bool hasSingleQuotes)
 {
     std::string name(wanted.empty() ? kDefaultName : wanted);
-    for (int i = 0; bearsName(text, name); ++i)
+    for (int i = 0; bearsName(text, name, hasSingleQuotes); ++i)
         name = std::string(kDefaultName) + std::to_string(i);
     return name;
+}
+
+/// The first do marker of type accept; npos for none. In a deck without loss other actions stand
+/// whole within one marker each, "<!--#do &lt;do type="accept"&gt;...-->".
+std::size_t acceptDoIn(std::string_view text, const DocumentSession& session)
+{
+    auto at = findIgnoringCase(text, kAcceptDo);
+    if (!losesNothing(session)) return at;
+    while (at != npos && text.substr(0, at).ends_with("&lt;"))
+        at = findIgnoringCase(text, kAcceptDo, at + 1);
+    return at;
 }
 
 /// Sets an attribute of the accept do at `at`; a missing one is put in behind the type.
@@ -156,7 +172,7 @@ void SetCardAttributes(
 Jump GetJump(DocumentSession& session, std::size_t areaIndex)
 {
     const auto text = ReadDesignText(session, areaIndex);
-    const auto at = findIgnoringCase(text, kAcceptDo);
+    const auto at = acceptDoIn(text, session);
     if (at == npos) return {};
     const auto valueOrEmpty = [&](std::string_view key) {
         const auto value = valueInDo(text, at, key);
@@ -168,8 +184,9 @@ Jump GetJump(DocumentSession& session, std::size_t areaIndex)
 void SetJump(DocumentSession& session, std::size_t areaIndex, const Jump& jump)
 {
     auto text = ReadDesignText(session, areaIndex);
-    const Jump named{unusedJumpName(text, jump.name), jump.label, jump.target};
-    const auto at = findIgnoringCase(text, kAcceptDo);
+    const Jump named{
+        unusedJumpName(text, jump.name, losesNothing(session)), jump.label, jump.target};
+    const auto at = acceptDoIn(text, session);
     if (at != npos)
         changeJump(text, at, named);
     else
@@ -179,7 +196,7 @@ void SetJump(DocumentSession& session, std::size_t areaIndex, const Jump& jump)
 
 bool JumpNameInUse(DocumentSession& session, std::size_t areaIndex, std::string_view name)
 {
-    return bearsName(ReadDesignText(session, areaIndex), name);
+    return bearsName(ReadDesignText(session, areaIndex), name, losesNothing(session));
 }
 
 } // namespace quillmere

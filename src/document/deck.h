@@ -3,10 +3,21 @@
 #include "document/image_index.h"
 
 #include <cstdint>
+#include <memory>
 #include <string>
 #include <vector>
 
 namespace quillmere {
+
+class StandardDeck;
+struct OpenedCard;
+
+/// The card that an area was opened from, in a deck that is opened without loss.
+struct CardOrigin {
+    std::shared_ptr<const StandardDeck> deck; ///< null: the deck goes by the conversions
+    std::shared_ptr<const OpenedCard> card; ///< null: a new area
+    std::uint32_t index = 0; ///< of the card in its deck
+};
 
 /// A picture of an area and its display copy.
 struct ImageEntry {
@@ -41,6 +52,7 @@ struct DeckRecord {
     std::int16_t surfaceKind = 0; ///< 0 or 1: which device table sets the page of the areas
     std::vector<std::string> history = std::vector<std::string>(1); ///< at most 16, newest last; a
                                                                     ///< new area has one, empty
+    CardOrigin origin; ///< in all records of a deck the same deck
     ImageIndex imageIndex; ///< finds the entries of `images`
 };
 
@@ -56,6 +68,7 @@ using Deck = std::vector<DeckRecord>;
     area.deckDir = preceding.deckDir;
     area.wmlFile = preceding.wmlFile;
     area.wmlDir = preceding.wmlDir;
+    area.origin.deck = preceding.origin.deck;
     return area;
 }
 

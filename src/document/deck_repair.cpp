@@ -1,8 +1,9 @@
-// The text stands as the pristine copy and as the generated deck, so that no deck file is needed.
+// Where nothing is lost a repair is the mending of the file. Else the text stands as the pristine copy and as the generated deck, so that no deck file is needed.
 
 #include "document/deck_repair.h"
 
 #include "document/deck_store.h"
+#include "document/wml/repaired_file.h"
 
 namespace quillmere {
 
@@ -20,6 +21,7 @@ std::string putIntoWorkFile(WorkFiles& files, const std::string& text)
 std::string repairedDeck(
     DocumentSession& session, const std::string& text, const std::string& deckDir)
 {
+    if (session.output.losesNothing()) return repairFile(text).bytes;
     const std::string directory = session.workFiles.directory();
     Deck opened(2);
     opened.front().pristineFile = putIntoWorkFile(session.workFiles, text);

@@ -13,9 +13,12 @@
 #include "document/repair/paragraphs.h"
 #include "document/repair/radio_buttons.h"
 #include "document/repair/wml_layout.h"
+#include "document/standard/standard_deck.h"
+#include "document/standard_pictures.h"
 #include "document/text/limits.h"
 
 #include <algorithm>
+#include <memory>
 #include <utility>
 
 namespace quillmere {
@@ -55,6 +58,7 @@ void startDeck(DocumentSession& session, const std::string& deckFile, const std:
     area.deckDir = NormalisePath(deckDir);
     area.wmlFile = session.workFiles.unusedName(kWorkFilePrefix, kWmlFileSuffix);
     area.wmlDir = session.workFiles.directory();
+    if (session.output.losesNothing()) area.origin.deck = std::make_shared<const StandardDeck>();
     makeDesignFile(session, area, 0);
     replacement.commit();
 }
@@ -82,17 +86,37 @@ std::string joinAreaLines(std::string_view file, bool isFirstArea)
     return joined;
 }
 
+/// The text of an area as it is written, which no surface is asked for.
+std::string areaText(const DocumentSession& session, std::size_t areaIndex)
+{
+    const auto& area = session.deck[areaIndex];
+    return joinAreaLines(session.workFiles.read(area.designDir + area.designFile), areaIndex == 0);
+}
+
 std::string areaAsWml(DocumentSession& session, std::size_t areaIndex, DisplayCopyIndex& pictures)
 {
-    const auto& area = areaRecord(session, areaIndex);
-    auto text
-        = joinAreaLines(session.workFiles.read(area.designDir + area.designFile), areaIndex == 0);
+    auto text = areaText(session, areaIndex);
     requireAddressable(text);
     DeleteAllTemporaeryRadioButtons(text);
     CleanDesignHtml(text, session.output);
     DesignToWml(text, session, pictures);
     RepairParagraphs(text);
     return text;
+}
+
+/// The deck as its file will be.
+std::string standardFile(const DocumentSession& session)
+{
+    std::vector<std::string> texts;
+    std::vector<AreaText> areas;
+    for (std::size_t i = 0; i < areaCount(session.deck); ++i)
+        texts.push_back(areaText(session, i));
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        const auto& origin = session.deck[i].origin;
+        areas.push_back({origin.card.get(), origin.card ? origin.index : kNoCard, texts[i]});
+    }
+    DisplayCopyIndex pictures(session.deck);
+    return session.deck.front().origin.deck->written(areas, pictureNames(pictures, session.deck));
 }
 
 /// Gives the deck the line layout of the deck as opened.
@@ -116,9 +140,22 @@ void AddArea(
         {{}, session.words.GetWord(word::kJumpLabel), std::string("#").append(newAreaId(index))});
 }
 
+bool losesNothing(const DocumentSession& session)
+{
+    return !session.deck.empty() && session.deck.front().origin.deck != nullptr;
+}
+
+const std::vector<WmlMend>& standardMends(const DocumentSession& session)
+{
+    static const std::vector<WmlMend> kNone;
+    return losesNothing(session) ? session.deck.front().origin.deck->mends() : kNone;
+}
+
 void WriteDeck(DocumentSession& session)
 {
     const auto& first = areaRecord(session, 0);
+    if (losesNothing(session))
+        return session.workFiles.write(first.wmlDir + first.wmlFile, standardFile(session));
     DisplayCopyIndex pictures(session.deck);
     std::string wml(kDeckHead);
     for (std::size_t i = 0; i < areaCount(session.deck); ++i)

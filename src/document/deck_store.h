@@ -2,11 +2,13 @@
 
 #include "document/design_page.h"
 #include "document/session.h"
+#include "document/wml/wml_mends.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <string>
 #include <string_view>
+#include <vector>
 
 // The deck's areas and their work files: new areas, loading, writing.
 
@@ -34,6 +36,13 @@ void AddArea(DocumentSession& session, bool isFirst, const std::string& deckFile
 /// Throws FileFailure, and RuntimeFailure for a deck that is too long or cannot be converted; the
 /// session's deck is then as it was.
 void LoadDeck(DocumentSession& session, const DeckLocation& location, std::int16_t surfaceKind = 0);
+
+/// Whether the open deck goes without loss, which is decided when it is opened or begun.
+[[nodiscard]] bool losesNothing(const DocumentSession& session);
+
+/// What was mended in the open deck if it goes without loss. Its file is as it was, and stays so
+/// until a save writes the deck mended, which only that of a changed deck does.
+[[nodiscard]] const std::vector<WmlMend>& standardMends(const DocumentSession& session);
 
 /// Generates the deck out of its areas and writes it to the WML work file of record 0.
 /// Throws like LoadDeck, and InvalidArgument where no deck is open; the file is then as it was.

@@ -14,6 +14,13 @@ DeckRecord& areaRecord(DocumentSession& session, std::size_t areaIndex)
     return session.deck[areaIndex];
 }
 
+std::size_t maxDesignLength(const DocumentSession& session)
+{
+    constexpr std::size_t kTimesAsLong = 8; // "<" in an atom is "&lt;", a picture's name a path
+    const bool isStandard = !session.deck.empty() && session.deck.front().origin.deck != nullptr;
+    return isStandard ? kTimesAsLong * kMaxStandardTextLength : kMaxTextLength;
+}
+
 void waitForSurface(DocumentSession& session)
 {
     if (session.surface == nullptr) return;
@@ -35,7 +42,7 @@ std::string ReadDesignText(DocumentSession& session, std::size_t areaIndex)
 void WriteDesignText(DocumentSession& session, std::size_t areaIndex, std::string_view text)
 {
     waitForSurface(session);
-    requireAddressable(text);
+    requireAddressable(text, maxDesignLength(session));
     const auto& area = areaRecord(session, areaIndex);
     session.workFiles.write(area.designDir + area.designFile, std::string(text));
 }

@@ -9,10 +9,13 @@
 #include "document/platform/files.h"
 #include "document/repair/format_nesting.h"
 #include "document/repair/radio_buttons.h"
+#include "document/standard/standard_deck.h"
+#include "document/standard_pictures.h"
 #include "document/text/limits.h"
 #include "document/text/windows1252.h"
 #include "document/wml_to_design.h"
 
+#include <memory>
 #include <utility>
 
 namespace quillmere {
@@ -21,26 +24,34 @@ namespace {
 // Line ends and characters of several bytes make a file longer than its deck, but not without
 // end: a device such as /dev/zero is given up here.
 constexpr std::size_t kMaxDeckBytes = 32 * (kMaxTextLength + 1);
+constexpr std::size_t kMaxStandardBytes = 4 * (kMaxStandardTextLength + 1);
 
 constexpr std::string_view kLineEnd = "\r\n";
 
+/// Windows-1252 text; where nothing is lost the bytes of the files.
 struct DeckTexts {
     std::string wml; ///< what is converted
     std::string opened; ///< the deck as opened, for the pristine copy
 };
 
+std::string readDeckFile(const DocumentSession& session, const std::string& path)
+{
+    if (session.output.losesNothing()) return readFile(path, kMaxStandardBytes);
+    return textFromDeckBytes(readFile(path, kMaxDeckBytes));
+}
+
 // A deck that was never saved has no file yet: what is read is then the deck as opened.
 DeckTexts readTexts(const DocumentSession& session, const DeckLocation& location, bool needsOpened)
 {
     const auto deckPath = location.deckDir + location.deckFile;
-    const auto readDeckFile = [&] { return textFromDeckBytes(readFile(deckPath, kMaxDeckBytes)); };
     DeckTexts texts;
     if (location.workFile.empty()) {
-        texts.opened = readDeckFile();
+        texts.opened = readDeckFile(session, deckPath);
         texts.wml = texts.opened;
     } else {
         texts.wml = session.workFiles.read(location.workDir + location.workFile);
-        if (needsOpened) texts.opened = fileExists(deckPath) ? readDeckFile() : texts.wml;
+        if (needsOpened)
+            texts.opened = fileExists(deckPath) ? readDeckFile(session, deckPath) : texts.wml;
     }
     return texts;
 }
@@ -120,17 +131,23 @@ Frame frameOf(DocumentSession& session)
 }
 
 /// The design work file of a card: marker, do block, and the body in one line within the frame.
-std::string designFileOf(
+std::string designFileOf(std::string_view marker, std::string_view doBlock, const Frame& frame,
+    std::string_view body)
+{
+    std::string file;
+    file.reserve(marker.size() + doBlock.size() + frame.head.size() + body.size()
+        + frame.tail.size() + 3 * kLineEnd.size());
+    file.append(marker).append(kLineEnd).append(doBlock).append(kLineEnd);
+    return file.append(frame.head).append(body).append(kLineEnd).append(frame.tail);
+}
+
+std::string convertedCard(
     CardSource card, const Frame& frame, std::size_t areaIndex, DocumentSession& session)
 {
     WmlToDesign(card.head, areaIndex, session);
     WmlToDesign(card.doBlock, areaIndex, session);
     const auto body = convertBody(std::move(card.body), areaIndex, session);
-    std::string file;
-    file.reserve(card.head.size() + card.doBlock.size() + frame.head.size() + body.size()
-        + frame.tail.size() + 3 * kLineEnd.size());
-    file.append(card.head).append(kLineEnd).append(card.doBlock).append(kLineEnd);
-    return file.append(frame.head).append(body).append(kLineEnd).append(frame.tail);
+    return designFileOf(card.head, card.doBlock, frame, body);
 }
 
 /// Takes the next card into the last area. A card tag that is cut off leaves the file empty.
@@ -139,9 +156,44 @@ void loadCard(DocumentSession& session, const Frame& frame, CardSplitter& cards)
     const auto index = areaCount(session.deck) - 1;
     auto card = cards.next();
     if (!card) return;
-    auto file = designFileOf(std::move(*card), frame, index, session);
+    auto file = convertedCard(std::move(*card), frame, index, session);
     const auto& area = session.deck[index];
     session.workFiles.write(area.designDir + area.designFile, std::move(file));
+}
+
+void loadCards(DocumentSession& session, const Frame& frame, CardSplitter& cards)
+{
+    loadCard(session, frame, cards);
+    while (cards.hasMore()) {
+        useSpareRecord(session);
+        loadCard(session, frame, cards);
+    }
+}
+
+/// Takes a card of a deck without loss into the last area. The actions stand in its content.
+void openCard(DocumentSession& session, const Frame& frame, std::uint32_t card)
+{
+    const auto index = areaCount(session.deck) - 1;
+    auto& origin = session.deck[index].origin;
+    const auto opened = origin.deck->open(card, picturesOf(session, index));
+    std::string body = opened.text.substr(opened.contentBegin);
+    InsertTemporaeryRadioButtons(body, maxDesignLength(session));
+    const auto marker = std::string_view(opened.text).substr(0, opened.contentBegin);
+    const auto& area = session.deck[index];
+    session.workFiles.write(
+        area.designDir + area.designFile, designFileOf(marker, {}, frame, body));
+    origin.index = card;
+    origin.card = std::make_shared<const OpenedCard>(opened);
+}
+
+void openCards(DocumentSession& session, const Frame& frame,
+    const std::shared_ptr<const StandardDeck>& deck)
+{
+    session.deck.front().origin.deck = deck;
+    for (std::uint32_t card = 0; card < deck->cardCount(); ++card) {
+        if (card > 0) useSpareRecord(session);
+        openCard(session, frame, card);
+    }
 }
 
 } // namespace
@@ -149,17 +201,19 @@ void loadCard(DocumentSession& session, const Frame& frame, CardSplitter& cards)
 void LoadDeck(DocumentSession& session, const DeckLocation& location, std::int16_t surfaceKind)
 {
     auto texts = readTexts(session, location, !hasPristine(session, session.deck));
-    CardSplitter cards(joinLines(texts.wml));
+    const auto standard = session.output.losesNothing()
+        ? std::make_shared<const StandardDeck>(texts.wml)
+        : nullptr;
+    CardSplitter cards(joinLines(standard ? std::string_view{} : texts.wml));
     DeckReplacement replacement(session);
     if (!location.workFile.empty()) replacement.keep(location.workDir + location.workFile);
     startDeck(session, replacement.old(), location, std::move(texts));
     session.deck.front().surfaceKind = surfaceKind;
     const auto frame = frameOf(session);
-    loadCard(session, frame, cards);
-    while (cards.hasMore()) {
-        useSpareRecord(session);
-        loadCard(session, frame, cards);
-    }
+    if (standard)
+        openCards(session, frame, standard);
+    else
+        loadCards(session, frame, cards);
     replacement.commit();
 }
 

@@ -109,9 +109,9 @@ std::string withoutInputs(std::string text)
 
 } // namespace
 
-void InsertTemporaeryRadioButtons(std::string& text)
+void InsertTemporaeryRadioButtons(std::string& text, std::size_t limit)
 {
-    requireAddressable(text);
+    requireAddressable(text, limit);
     const std::string_view source = text;
     auto option = findMarker(source, kOption, 0);
     if (option == npos) return;
@@ -130,7 +130,7 @@ void InsertTemporaeryRadioButtons(std::string& text)
         option = findMarker(source, kOption, closed);
     }
     result.append(source, copied);
-    requireAddressable(result);
+    requireAddressable(result, limit);
     text = std::move(result);
 }
 

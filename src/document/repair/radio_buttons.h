@@ -1,5 +1,8 @@
 #pragma once
 
+#include "document/text/limits.h"
+
+#include <cstddef>
 #include <string>
 
 // The radio buttons that stand ahead of the entries of selection lists while an area is edited.
@@ -9,8 +12,8 @@ namespace quillmere {
 
 /// Puts a radio button behind each option marker, in place, numbered through the whole text:
 /// `<input type=radio name="TempName1">`, with an `onclick` that tells the option's target.
-/// Throws Overflow.
-void InsertTemporaeryRadioButtons(std::string& text);
+/// Throws Overflow beyond `limit`.
+void InsertTemporaeryRadioButtons(std::string& text, std::size_t limit = kMaxTextLength);
 
 /// Takes the radio buttons out of all options that have an end, in place.
 void DeleteAllTemporaeryRadioButtons(std::string& text);

@@ -1,5 +1,9 @@
 #pragma once
 
+#include "document/text/limits.h"
+
+#include <cstddef>
+
 namespace quillmere {
 
 /// What the setting `StandardOutput` decides: whether pictures and decks are written as this
@@ -22,6 +26,14 @@ public:
     [[nodiscard]] bool keepsAlternativeTextCase() const { return standard_; }
     /// A table without a title is written as a WML table and not as the surface left it.
     [[nodiscard]] bool writesUntitledTables() const { return standard_; }
+    /// Decks are opened and saved without loss (`src/document/standard`) and not by the conversions
+    /// of this program.
+    [[nodiscard]] bool losesNothing() const { return standard_; }
+    /// The longest deck, and the longest text of an area that an edit may make.
+    [[nodiscard]] std::size_t maxTextLength() const
+    {
+        return standard_ ? kMaxStandardTextLength : kMaxTextLength;
+    }
 
 private:
     bool standard_;

@@ -1,0 +1,209 @@
+// The pieces of the card as it is are written one after the other. Held by card_changes_test.cpp.
+
+#include "document/standard/card_changes.h"
+
+#include "document/standard/card_pieces.h"
+#include "document/standard/piece_alignment.h"
+#include "document/standard/shown_text.h"
+#include "document/standard/tag_changes.h"
+#include "document/text/windows1252.h"
+
+#include <algorithm>
+#include <set>
+#include <string>
+#include <unordered_map>
+
+namespace quillmere {
+
+namespace {
+
+using Kind = DesignPiece::Kind;
+
+class CardWriter {
+public:
+    CardWriter(const DeckOfCards& deck, const CardPieces& card, TokenWriter& result)
+        : deck_(deck)
+        , card_(card)
+        , result_(result)
+    {
+    }
+    void write();
+
+private:
+    void writeKept(std::size_t now);
+    void writeChanged(std::size_t now);
+    void writeNew(std::size_t now);
+    void writeBlanks(std::size_t now);
+    void writeNewTag(const DesignPiece& piece);
+    [[nodiscard]] bool isEmptyElement(std::size_t then) const;
+    [[nodiscard]] bool endFollows(std::size_t now, std::size_t then) const;
+    [[nodiscard]] bool startIsAhead(std::size_t now, std::size_t then) const;
+    [[nodiscard]] bool isDropped(std::size_t now) const;
+    [[nodiscard]] bool standsAlone(const DesignPiece& piece) const;
+    [[nodiscard]] std::string sourceOf(const PieceTokens& tokens) const;
+    [[nodiscard]] std::string sourceOfSame(const DesignPiece& piece);
+
+    const DeckOfCards& deck_;
+    const CardPieces& card_;
+    TokenWriter& result_;
+    std::set<std::string> startNames_; ///< of elements that WML has not
+    std::set<std::string> endNames_;
+    std::unordered_map<std::uint64_t, std::uint32_t> sources_; ///< pieces of `then` by their keys
+};
+
+void CardWriter::write()
+{
+    for (const auto& piece : card_.now) {
+        if (piece.element != WmlElement::Other) continue;
+        if (piece.kind == Kind::Start) startNames_.insert(lowerCase(piece.name));
+        if (piece.kind == Kind::End) endNames_.insert(lowerCase(piece.name));
+    }
+    for (std::size_t i = 0; i < card_.now.size(); ++i) {
+        if (card_.places[i] != kNoPiece)
+            writeKept(i);
+        else if (card_.changedFrom[i] != kNoPiece)
+            writeChanged(i);
+        else if (!isDropped(i))
+            writeNew(i);
+    }
+}
+
+/// Whether the piece is the start of an element that was written as <p/>; its end follows it.
+bool CardWriter::isEmptyElement(std::size_t then) const
+{
+    const auto& tokens = card_.tokens[then];
+    return card_.then[then].kind == Kind::Start && tokens.main < tokens.behindMain
+        && deck_.tokens.tokens[tokens.main].kind == WmlToken::Kind::EmptyTag;
+}
+
+bool CardWriter::endFollows(std::size_t now, std::size_t then) const
+{
+    return now + 1 < card_.now.size() && card_.places[now + 1] == then + 1;
+}
+
+bool CardWriter::startIsAhead(std::size_t now, std::size_t then) const
+{
+    if (now == 0 || then == 0 || !isEmptyElement(then - 1)) return false;
+    return card_.places[now - 1] == then - 1 || card_.changedFrom[now - 1] == then - 1;
+}
+
+void CardWriter::writeKept(std::size_t now)
+{
+    const std::size_t then = card_.places[now];
+    const auto& tokens = card_.tokens[then];
+    const bool isEndOfEmpty = card_.then[then].kind == Kind::End && tokens.main == tokens.behindMain;
+    if (isEmptyElement(then) && !endFollows(now, then)) {
+        result_.copy(tokens.first, tokens.main);
+        result_.put(openedTag(deck_.tokens.tokens[tokens.main].source));
+        result_.copy(tokens.behindMain, tokens.behind);
+    } else if (isEndOfEmpty && !startIsAhead(now, then)) {
+        result_.put("</" + std::string(card_.then[then].name) + ">");
+        result_.copy(tokens.behindMain, tokens.behind);
+    } else {
+        result_.copy(tokens.first, tokens.behind);
+    }
+}
+
+/// A tag with other attributes, or an atom with another source.
+void CardWriter::writeChanged(std::size_t now)
+{
+    const std::size_t then = card_.changedFrom[now];
+    const auto& tokens = card_.tokens[then];
+    const auto& piece = card_.now[now];
+    result_.copy(tokens.first, tokens.main);
+    if (piece.kind == Kind::Atom) {
+        result_.put(deck_.bytes.encoded(quillmere::sourceOf(piece)));
+    } else {
+        const auto& tag = deck_.tokens.tokens[tokens.main];
+        auto source = changedTag(tag.source, piece.element,
+            deckAttributes(card_.then[then], deck_.roads), deckAttributes(piece, deck_.roads),
+            deck_.bytes, deck_.manner);
+        const bool isOpened = isEmptyElement(then) && !endFollows(now, then);
+        result_.put(isOpened ? openedTag(source) : std::move(source));
+        result_.copy(tokens.main + 1, tokens.behindMain);
+    }
+    result_.copy(tokens.behindMain, tokens.behind);
+}
+
+/// What the surface or a dialog puts in for its own sake: comments, and a break behind a list.
+bool CardWriter::isDropped(std::size_t now) const
+{
+    const auto& piece = card_.now[now];
+    const bool isBreak = piece.kind == Kind::Single && piece.element == WmlElement::LineBreak;
+    const auto& ahead = card_.now[now == 0 ? 0 : now - 1];
+    if (isBreak && ahead.kind == Kind::End && ahead.element == WmlElement::Select)
+        return card_.places[now - 1] == kNoPiece;
+    return piece.element == WmlElement::Other && standsAlone(piece);
+}
+
+/// Whether a marker of an element that WML has not lacks its other half.
+bool CardWriter::standsAlone(const DesignPiece& piece) const
+{
+    if (piece.kind == Kind::Start) return !endNames_.contains(lowerCase(piece.name));
+    return piece.kind == Kind::End ? !startNames_.contains(lowerCase(piece.name))
+                                   : piece.kind == Kind::Single;
+}
+
+/// How the file writes a piece that means the same, for one that was moved or copied; "" for none.
+std::string CardWriter::sourceOfSame(const DesignPiece& piece)
+{
+    if (sources_.empty())
+        for (std::uint32_t i = 0; i < card_.then.size(); ++i)
+            sources_.emplace(card_.then[i].key, i);
+    const auto found = sources_.find(piece.key);
+    if (found == sources_.end() || isEmptyElement(found->second)) return {};
+    return sourceOf(card_.tokens[found->second]);
+}
+
+std::string CardWriter::sourceOf(const PieceTokens& tokens) const
+{
+    std::string source;
+    for (auto i = tokens.main; i < tokens.behindMain; ++i)
+        source += deck_.tokens.tokens[i].source;
+    return source;
+}
+
+/// As many blanks, line ends and tabs as the surface has blanks.
+void CardWriter::writeBlanks(std::size_t now)
+{
+    std::string blanks;
+    const auto known = card_.blanksFrom.find(static_cast<std::uint32_t>(now));
+    if (known != card_.blanksFrom.end())
+        for (const auto then : known->second)
+            blanks += sourceOf(card_.tokens[then]);
+    blanks.resize(card_.now[now].text.size(), ' ');
+    result_.addNew(blanks);
+}
+
+void CardWriter::writeNew(std::size_t now)
+{
+    const auto& piece = card_.now[now];
+    if (piece.kind == Kind::Space) return writeBlanks(now);
+    if (const auto same = sourceOfSame(piece); !same.empty()) return result_.addNew(same);
+    if (piece.kind == Kind::Atom) return result_.addNew(deck_.bytes.encoded(quillmere::sourceOf(piece)));
+    if (piece.kind != Kind::Word) return writeNewTag(piece);
+    const auto text = writtenText(shownText(piece.text), deck_.manner.knowsHardBlank);
+    result_.addNew(deck_.bytes.encoded(text));
+}
+
+void CardWriter::writeNewTag(const DesignPiece& piece)
+{
+    const auto known = ruleOf(piece.element).name;
+    const std::string name(piece.element == WmlElement::Other ? piece.name : known);
+    if (piece.kind == Kind::End) return result_.addNew("</" + name + ">");
+    const auto attributes = deckAttributes(piece, deck_.roads);
+    result_.addNew(newTag(name, piece.element, attributes, piece.kind == Kind::Single, deck_.bytes,
+        deck_.manner));
+}
+
+} // namespace
+
+bool writeCard(
+    const DeckOfCards& deck, const OpenedCard* opened, std::string_view design, TokenWriter& result)
+{
+    const auto card = compareCard(opened, design);
+    CardWriter(deck, card, result).write();
+    return opened == nullptr || !isUnchanged(card);
+}
+
+} // namespace quillmere

@@ -1,0 +1,33 @@
+#pragma once
+
+#include <cstdint>
+#include <limits>
+#include <span>
+#include <vector>
+
+namespace quillmere {
+
+inline constexpr std::uint32_t kNoPiece = std::numeric_limits<std::uint32_t>::max();
+
+/// What stayed of a sequence: for each of the `now` the index of the same one in `then`, rising, or
+/// kNoPiece for a new one. As much stays as can where the two differ in at most some hundreds of
+/// places; else what is there once on both sides holds its place and the rest is aligned between.
+[[nodiscard]] std::vector<std::uint32_t> alignPieces(
+    std::span<const std::uint64_t> then, std::span<const std::uint64_t> now);
+
+enum class PieceTurn : std::uint8_t { None, Opens, Closes };
+
+/// Of "<p>a</p><p>b</p>" out of "<p>b</p>" the new part may be "a</p><p>" as well as "<p>a</p>".
+/// Moves such runs of new pieces to where they are whole elements. `places` is as alignPieces gives
+/// it, `keys` and `turns` are of the same sequence.
+void settleRuns(std::span<const std::uint64_t> keys, std::span<const PieceTurn> turns,
+    std::vector<std::uint32_t>& places);
+
+/// The same alignment seen from the other sequence, which has `count` pieces.
+[[nodiscard]] std::vector<std::uint32_t> inverted(
+    std::span<const std::uint32_t> places, std::size_t count);
+
+/// The longest rising part of a sequence, by indices; kNoPiece is passed over.
+[[nodiscard]] std::vector<std::uint32_t> risingPart(std::span<const std::uint32_t> numbers);
+
+} // namespace quillmere

@@ -1,0 +1,119 @@
+// Held by card_changes_test.cpp.
+
+#include "document/standard/tag_changes.h"
+
+#include "document/standard/shown_text.h"
+#include "document/text/windows1252.h"
+
+#include <algorithm>
+#include <set>
+
+namespace quillmere {
+
+namespace {
+
+using Attributes = std::span<const DeckAttribute>;
+
+const DeckAttribute* find(Attributes attributes, std::string_view name)
+{
+    const auto found = std::ranges::find(attributes, name, &DeckAttribute::name);
+    return found == attributes.end() ? nullptr : &*found;
+}
+
+bool isWritten(WmlElement element, const DeckAttribute& attribute)
+{
+    const bool isCardWord = element == WmlElement::Card
+        && (attribute.name == "id" || attribute.name == "title");
+    return !isForSurfaceOnly(element, attribute) && !(isCardWord && attribute.value.empty());
+}
+
+std::string_view withoutSpaceBehind(std::string_view text)
+{
+    while (!text.empty() && isSpaceByte(text.back()))
+        text.remove_suffix(1);
+    return text;
+}
+
+class TagWriter {
+public:
+    TagWriter(const DeckBytes& deck, const DeckManner& manner)
+        : deck_(deck)
+        , manner_(manner)
+    {
+    }
+    void appendAttribute(const DeckAttribute& attribute, char quote = '\0')
+    {
+        if (quote == '\0') quote = manner_.quote;
+        const auto value = writtenValue(attribute.value, quote, manner_.knowsHardBlank);
+        result_.append(attribute.name).append("=").append(1, quote);
+        result_.append(deck_.encoded(value)).append(1, quote);
+    }
+    void append(std::string_view text) { result_ += text; }
+    std::string take() { return std::move(result_); }
+
+private:
+    const DeckBytes& deck_;
+    const DeckManner& manner_;
+    std::string result_;
+};
+
+} // namespace
+
+std::string changedTag(std::string_view source, WmlElement element, Attributes then, Attributes now,
+    const DeckBytes& deck, const DeckManner& manner)
+{
+    TagWriter result(deck, manner);
+    std::set<std::string> written;
+    const auto* copied = source.data();
+    for (const auto& attribute : attributesOf(source)) {
+        const auto name = deck.decoded(attribute.name);
+        written.insert(name);
+        const auto* const wanted = find(now, name);
+        const auto* const shown = find(then, name);
+        const auto* const end = attribute.source.data() + attribute.source.size();
+        const std::string_view ahead(copied, attribute.source.data());
+        if (wanted == nullptr) {
+            result.append(withoutSpaceBehind(ahead));
+        } else {
+            result.append(ahead);
+            if (shown != nullptr && *wanted == *shown)
+                result.append(attribute.source);
+            else
+                result.appendAttribute(*wanted, attribute.quote);
+        }
+        copied = end;
+    }
+    for (const auto& attribute : now) {
+        const auto* const shown = find(then, attribute.name);
+        const bool isSame = shown != nullptr && *shown == attribute;
+        if (isSame || written.contains(attribute.name) || !isWritten(element, attribute)) continue;
+        result.append(" ");
+        result.appendAttribute(attribute);
+    }
+    result.append(std::string_view(copied, source.data() + source.size()));
+    return result.take();
+}
+
+std::string newTag(std::string_view name, WmlElement element, Attributes attributes,
+    bool isEmptyTag, const DeckBytes& deck, const DeckManner& manner)
+{
+    TagWriter result(deck, manner);
+    result.append("<");
+    result.append(name);
+    for (const auto& attribute : attributes) {
+        if (!isWritten(element, attribute)) continue;
+        result.append(" ");
+        result.appendAttribute(attribute);
+    }
+    if (isEmptyTag) result.append(manner.hasBlankAheadOfSlash ? " /" : "/");
+    result.append(">");
+    return result.take();
+}
+
+std::string openedTag(std::string_view emptyTag)
+{
+    emptyTag.remove_suffix(std::string_view("/>").size());
+    return std::string(withoutSpaceBehind(emptyTag)) + ">";
+}
+
+} // namespace quillmere
