@@ -183,7 +183,7 @@ bool DesignSurface::comesFromHere(const QDropEvent& event) const
 
 bool DesignSurface::CheckElementMovedIntoTable()
 {
-    if (!pressed_ || !movedIntoTable(textAtPress_, page_.text, *pressed_)) return false;
+    if (!pressed_ || !movedIntoTable(textAtPress_, page_.text, *pressed_, page_.rules.maxTextLength())) return false;
     goBackTo(textAtPress_);
     pressed_.reset();
     emit elementMovedIntoTable();

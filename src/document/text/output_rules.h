@@ -1,5 +1,9 @@
 #pragma once
 
+#include "document/text/limits.h"
+
+#include <cstddef>
+
 namespace quillmere {
 
 /// What the setting `StandardOutput` decides: whether pictures and decks are written as this
@@ -22,6 +26,15 @@ public:
     [[nodiscard]] bool keepsAlternativeTextCase() const { return standard_; }
     /// A table without a title is written as a WML table and not as the surface left it.
     [[nodiscard]] bool writesUntitledTables() const { return standard_; }
+    /// Decks go to the surface and back with all that is in them: what HTML cannot show travels as
+    /// markers that hold it whole.
+    [[nodiscard]] bool losesNothing() const { return standard_; }
+    /// How many characters a text of a deck or an area may have.
+    [[nodiscard]] std::size_t maxTextLength() const
+    {
+        return standard_ ? kMaxLosslessTextLength : kMaxTextLength;
+    }
+    friend bool operator==(const OutputRules&, const OutputRules&) = default;
 
 private:
     bool standard_;

@@ -115,7 +115,7 @@ SurfaceEdit EditDraft::finish() const
         for (const auto& part : parts_)
             addGuard(changes, page_, part.run, guard);
         SurfaceEdit edit{std::move(changes).take()};
-        const auto after = readSurfacePage(spliced(page_.text, edit.splices));
+        const auto after = readSurfacePage(spliced(page_.text, edit.splices), page_.rules);
         edit.caret = offsetAt(after, caretOn(after));
         if (isAsWanted(after)) return edit;
         if (!unguarded) unguarded = std::move(edit);

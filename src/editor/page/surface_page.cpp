@@ -163,10 +163,11 @@ bool PageReader::isPictureEnd(std::size_t index, std::size_t offset) const
 
 } // namespace
 
-SurfacePage readSurfacePage(std::string text)
+SurfacePage readSurfacePage(std::string text, const OutputRules& rules)
 {
     SurfacePage page;
     page.text = std::move(text);
+    page.rules = rules;
     auto tags = tagsOf(page.text);
     page.items.reserve(mostItems(page.text, tags));
     page.content = contentOf(page.text, tags);

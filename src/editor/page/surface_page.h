@@ -1,5 +1,7 @@
 #pragma once
 
+#include "document/text/output_rules.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -127,6 +129,7 @@ struct PagePlace {
 /// A design text and what is shown of it.
 struct SurfacePage {
     std::string text;
+    OutputRules rules; ///< those that it was read by
     SourceRange content; ///< what lies between the frame: card marker, do block, HTML, HEAD, BODY
     std::vector<PageItem> items; ///< in the order of the text; those of a block stand together
     std::vector<TextStyle> styles;
@@ -145,7 +148,8 @@ struct SurfacePage {
 /// of the file: white space with a line end in it, directly at the start or end of a block. All
 /// other white space of a block is seen. So no character that is typed makes other items come or
 /// go.
-[[nodiscard]] SurfacePage readSurfacePage(std::string text);
+[[nodiscard]] SurfacePage readSurfacePage(
+    std::string text, const OutputRules& rules = OutputRules());
 
 /// The value of an attribute of a start tag, quoted by " or ' or not at all, entities as written;
 /// "" where the tag has no such attribute. `name` is lower case; case in the tag does not matter.
