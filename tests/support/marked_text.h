@@ -14,11 +14,11 @@ struct MarkedPage {
     PagePlace from;
     PagePlace to; ///< the caret: the same as `from`
 
-    explicit MarkedPage(std::string marked)
+    explicit MarkedPage(std::string marked, const OutputRules& rules = OutputRules())
     {
         const auto begin = take(marked, "[|");
         const auto end = take(marked, "]");
-        page = readSurfacePage(std::move(marked));
+        page = readSurfacePage(std::move(marked), rules);
         from = placeAt(page, begin);
         to = end == std::string::npos ? from : placeAt(page, end);
     }
@@ -35,7 +35,7 @@ private:
 /// The text after an edit, with '|' at its caret.
 [[nodiscard]] inline std::string editedWithCaret(const SurfacePage& page, const SurfaceEdit& edit)
 {
-    return edited(page.text, edit).insert(edit.caret, "|");
+    return edited(page.text, edit, page.rules).insert(edit.caret, "|");
 }
 
 } // namespace quillmere::test

@@ -46,15 +46,15 @@ std::size_t offsetAtStart(const SurfacePage& page, const PageBlock& block)
     return item;
 }
 
-/// The place behind the link that ends between `begin` and `end` and stood open at `begin`; `begin`
-/// where none does.
-std::size_t behindLinkEnd(std::string_view text, std::size_t begin, std::size_t end)
+/// The place behind the link or anchor that ends between `begin` and `end` and stood open at
+/// `begin`; `begin` where none does.
+std::size_t behindLinkEnd(std::string_view text, TagName link, std::size_t begin, std::size_t end)
 {
     std::size_t offset = begin;
     std::size_t open = 0; // links that begin here
     MarkupScanner tags(text.substr(0, end), begin);
     while (const auto tag = tags.next()) {
-        if (tag->name != TagName::Link) continue;
+        if (tag->name != link) continue;
         if (!tag->isEnd)
             ++open;
         else if (open > 0)
@@ -68,10 +68,13 @@ std::size_t behindLinkEnd(std::string_view text, std::size_t begin, std::size_t 
 std::size_t offsetBehind(const SurfacePage& page, const PageBlock& block, std::size_t item)
 {
     const auto& ahead = page.items[item];
-    if (page.styles[ahead.style].link == kNone) return ahead.source.end;
+    const auto link = page.styles[ahead.style].link;
+    if (link == kNone) return ahead.source.end;
+    const bool isAnchor = page.elements[link].kind == PageElement::Kind::Marker;
     const bool isLast = item + 1 == block.endItem;
     const auto limit = isLast ? block.content.end : page.items[item + 1].source.begin;
-    return behindLinkEnd(page.text, ahead.source.end, limit);
+    return behindLinkEnd(
+        page.text, isAnchor ? TagName::Anchor : TagName::Link, ahead.source.end, limit);
 }
 
 /// How many of the numbers from 0 up to but not `count` the test holds for; it fails for all behind
