@@ -34,7 +34,8 @@ std::size_t offsetBehind(const SurfaceEdit& edit, std::size_t offset)
 void DesignSurface::apply(const SurfaceEdit& edit, SurfaceUndo::Kind kind)
 {
     if (edit.splices.empty()) return;
-    auto text = edited(page_.text, edit, page_.rules); // refuses what is too long; all is as it was then
+    auto text
+        = edited(page_.text, edit, page_.rules); // refuses what is too long; all is as it was then
     undo_.add(page_.text, edit, caretOffset(), kind);
     showText(std::move(text), edit.caret);
     ensureCursorVisible();

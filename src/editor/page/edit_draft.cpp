@@ -55,14 +55,6 @@ std::size_t tablesRound(const SurfacePage& page, std::size_t block)
     return tables;
 }
 
-PagePlace placeBehindItem(const SurfacePage& page, std::size_t item)
-{
-    const auto block = std::ranges::find_if(
-        page.blocks, [item](const PageBlock& candidate) { return item < candidate.endItem; });
-    const auto index = static_cast<std::size_t>(block - page.blocks.begin());
-    return {index, item + 1 - block->firstItem};
-}
-
 /// The caret is not left in a cell of a table that was pasted as a whole.
 PagePlace outOfTables(const SurfacePage& page, PagePlace place, std::size_t tablesRoundCaret)
 {
@@ -225,7 +217,8 @@ PagePlace EditDraft::caretOn(const SurfacePage& after) const
     const auto count = itemsPutIn(after);
     const bool isWithBlock = shown_ && !page_.blocks[run.from.block].isAside;
     if (!isWithBlock && count > 0 && firstPutIn() + count <= after.items.size()) {
-        const auto last = placeBehindItem(after, firstPutIn() + count - 1);
+        auto last = placeOfItem(after, firstPutIn() + count - 1);
+        ++last.offset;
         return outOfTables(after, last, tablesRound(page_, run.from.block));
     }
     const auto outside

@@ -37,15 +37,6 @@ SourceRange contentOfBlocks(const SurfacePage& page, const CoveredRun& run)
     return {page.blocks[run.from.block].content.begin, page.blocks[run.to.block].content.end};
 }
 
-/// The index of the item that a tag is; kNone where it is none.
-std::size_t itemOf(const SurfacePage& page, SourceRange tag)
-{
-    const auto found = std::ranges::lower_bound(
-        page.items, tag.begin, {}, [](const PageItem& item) { return item.source.begin; });
-    const bool isShown = found != page.items.end() && found->source == tag;
-    return isShown ? static_cast<std::size_t>(found - page.items.begin()) : kNone;
-}
-
 bool holds(const CoveredRun& run, std::size_t item)
 {
     return item != kNone && item >= run.firstItem && item < run.endItem;
@@ -183,11 +174,6 @@ SourceRange offsetsOf(const SurfacePage& page, const CoveredRun& run)
     between.begin = std::min(between.begin, page.items[run.firstItem].source.begin);
     between.end = std::max(between.end, page.items[run.endItem - 1].source.end);
     return between;
-}
-
-bool isItem(const SurfacePage& page, SourceRange source)
-{
-    return itemOf(page, source) != kNone;
 }
 
 bool holdsMarkerOf(const SurfacePage& page, const CoveredRun& run, const PageElement& element)

@@ -28,9 +28,6 @@ struct ItemSpan {
 /// The offsets of a run's places in the text.
 [[nodiscard]] SourceRange offsetsOf(const SurfacePage& page, const CoveredRun& run);
 
-/// Whether a tag, marker or comment is an item of the page.
-[[nodiscard]] bool isItem(const SurfacePage& page, SourceRange source);
-
 /// Whether the run has the item of an element's start or end marker in it.
 [[nodiscard]] bool holdsMarkerOf(
     const SurfacePage& page, const CoveredRun& run, const PageElement& element);

@@ -5,6 +5,7 @@
 #include "editor/page/going_tags.h"
 #include "editor/page/markup_tags.h"
 #include "editor/page/page_edits.h"
+#include "editor/page/page_places.h"
 
 #include <algorithm>
 #include <string>
@@ -139,7 +140,7 @@ private:
     {
         const bool isSingle = tag.name == TagName::Comment || tag.name == TagName::Atom;
         const auto holds = [&](SourceRange marker) { return lies(tag.source, marker); };
-        return isSingle && !isItem(page_, tag.source) && std::ranges::none_of(cut_, holds);
+        return isSingle && itemOf(page_, tag.source) == kNone && std::ranges::none_of(cut_, holds);
     }
 
     void copyComments()

@@ -139,6 +139,21 @@ const PageItem* itemAhead(const SurfacePage& page, PagePlace place)
     return itemBehind(page, {place.block, place.offset - 1});
 }
 
+std::size_t itemOf(const SurfacePage& page, SourceRange source)
+{
+    const auto found = std::ranges::lower_bound(
+        page.items, source.begin, {}, [](const PageItem& item) { return item.source.begin; });
+    const bool isOne = found != page.items.end() && found->source == source;
+    return isOne ? static_cast<std::size_t>(found - page.items.begin()) : kNone;
+}
+
+PagePlace placeOfItem(const SurfacePage& page, std::size_t item)
+{
+    const auto block = countWhile(
+        page.blocks.size(), [&](std::size_t index) { return page.blocks[index].endItem <= item; });
+    return {block, item - page.blocks[block].firstItem};
+}
+
 std::size_t innermostElement(const SurfacePage& page, std::size_t offset, PageElement::Kind kind)
 {
     const auto behind = std::ranges::partition_point(

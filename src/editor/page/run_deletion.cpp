@@ -148,7 +148,7 @@ private:
     {
         MarkupScanner tags(std::string_view(page_.text).substr(0, between_.end), between_.begin);
         while (const auto tag = tags.next())
-            if (isComment(tag->name) && !isItem(page_, tag->source)
+            if (isComment(tag->name) && itemOf(page_, tag->source) == kNone
                 && !belongsToElement(tag->source) && !goesWithItsNeighbours(tag->source))
                 staying_.push_back(tag->source);
     }
