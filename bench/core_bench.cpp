@@ -52,7 +52,8 @@ void withoutSession(std::vector<Operation>& rows)
     add("WrapInParagraph", Stage::Design, [](auto& text) { WrapInParagraph(text, "<a", "</a"); });
     add("SplitAtParagraphs", Stage::Design,
         [](auto& text) { SplitAtParagraphs(text, "<b>", "</b>"); });
-    add("InsertTemporaeryRadioButtons", Stage::Design, InsertTemporaeryRadioButtons);
+    add("InsertTemporaeryRadioButtons", Stage::Design,
+        [](auto& text) { InsertTemporaeryRadioButtons(text); });
     add("DeleteAllTemporaeryRadioButtons", Stage::Design, DeleteAllTemporaeryRadioButtons);
     add("RepairParagraphs", Stage::Converted,
         [](auto& text) { RepairParagraphs(text.insert(0, "<card>").append("</card>")); });

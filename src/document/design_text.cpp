@@ -18,7 +18,7 @@ std::size_t maxDesignLength(const DocumentSession& session)
 {
     constexpr std::size_t kTimesAsLong = 8; // "<" in an atom is "&lt;", a picture's name a path
     const bool isStandard = !session.deck.empty() && session.deck.front().origin.deck != nullptr;
-    return isStandard ? kTimesAsLong * kMaxStandardTextLength : kMaxTextLength;
+    return isStandard ? kTimesAsLong * kMaxLosslessTextLength : kMaxTextLength;
 }
 
 void waitForSurface(DocumentSession& session)

@@ -24,7 +24,7 @@ namespace {
 // Line ends and characters of several bytes make a file longer than its deck, but not without
 // end: a device such as /dev/zero is given up here.
 constexpr std::size_t kMaxDeckBytes = 32 * (kMaxTextLength + 1);
-constexpr std::size_t kMaxStandardBytes = 4 * (kMaxStandardTextLength + 1);
+constexpr std::size_t kMaxStandardBytes = 4 * (kMaxLosslessTextLength + 1);
 
 constexpr std::string_view kLineEnd = "\r\n";
 

@@ -55,6 +55,8 @@ public:
     /// is shown, the caret stays at what it stands at. Nothing can be undone then.
     void LoadURL(const std::string& path);
     void NewDocument();
+    /// How design texts are read that are shown from now on, and how long they may become.
+    void setRules(const OutputRules& rules) { rules_ = rules; }
     [[nodiscard]] const std::string& DocumentHTML() const { return page_.text; }
     /// Another state of what is shown.
     void setDocumentHTML(std::string text);
@@ -209,6 +211,7 @@ private:
     PictureCache pictures_{&files_};
     InlineObjects objects_{pictures_};
     SurfaceStyle style_;
+    OutputRules rules_; // of the next text; those of the shown one are the page's
     SurfacePage page_;
     SurfaceUndo undo_;
     std::optional<Control> control_;

@@ -4,6 +4,7 @@
 
 #include "editor/inline_objects.h"
 
+#include "editor/marker_objects.h"
 #include "editor/page_formats.h"
 #include "editor/picture_tag.h"
 
@@ -24,9 +25,6 @@ constexpr double kRadioPx = 20;
 constexpr double kRadioGapPx = 4; // ahead of the option's text
 constexpr double kRadioRingPx = 14;
 constexpr double kBetweenOptionsPx = 20; // options stand in one line, as their text does
-constexpr double kChipPaddingPx = 9;
-constexpr double kChipGapPx = 3;
-constexpr qsizetype kMaxChipName = 24;
 constexpr double kMissingPaddingPx = 6;
 constexpr double kMissingMaxTextPx = 220;
 
@@ -40,39 +38,30 @@ QFont smallFont(const SurfaceStyle& style, int percent)
     return pageFont(style, std::max(9, style.fontSizePx * percent / 100));
 }
 
-QFont chipFont(const SurfaceStyle& style)
+// Not by a cursor: those lay out the document, which asks for the sizes of objects.
+bool isMarker(const QTextBlock& block, int position)
 {
-    auto font = smallFont(style, 80);
-    font.setWeight(QFont::Medium);
-    return font;
+    for (auto piece = block.begin(); !piece.atEnd(); ++piece)
+        if (piece.fragment().contains(position))
+            return piece.fragment().charFormat().objectType() == kMarkerObject;
+    return false;
 }
 
-QSizeF chipSize(const SurfaceStyle& style, const QByteArray& tag)
-{
-    const QFontMetricsF metrics(chipFont(style));
-    return {metrics.horizontalAdvance(chipName(tag)) + 2 * (kChipPaddingPx + kChipGapPx),
-        metrics.height() + 4};
-}
-
-void drawChip(
-    QPainter& painter, const QRectF& place, const SurfaceStyle& style, const QByteArray& tag)
-{
-    const auto body = place.adjusted(kChipGapPx, 0, -kChipGapPx, 0);
-    painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(Qt::NoPen);
-    painter.setBrush(chipColour(style));
-    painter.drawRoundedRect(body, 6, 6);
-    painter.setPen(style.ink);
-    painter.setFont(chipFont(style));
-    painter.drawText(body, Qt::AlignCenter, chipName(tag));
-}
-
-/// Whether the object at this position begins its paragraph or a line after a break.
+/// Whether the object at this position begins its paragraph or a line after a break or heading.
 bool beginsLine(QTextDocument* document, int position)
 {
     const auto block = document->findBlock(position);
-    return position == block.position()
-        || document->characterAt(position - 1) == QChar(QChar::LineSeparator);
+    if (position == block.position()) return true;
+    const auto ahead = document->characterAt(position - 1);
+    if (ahead == QChar::ObjectReplacementCharacter) return isMarker(block, position - 1);
+    return ahead == QChar(QChar::LineSeparator);
+}
+
+/// The width of the lines of the page; nullopt in a table.
+std::optional<double> lineWidth(const QTextDocument& document, const QTextFormat& format)
+{
+    if (format.boolProperty(kInTableProperty)) return std::nullopt;
+    return document.textWidth() - 2 * document.documentMargin();
 }
 
 QSizeF radioSize(QTextDocument* document, int position)
@@ -185,7 +174,7 @@ InlineObjects::InlineObjects(PictureCache& pictures, QObject* parent)
 
 void InlineObjects::attachTo(QTextDocument& document)
 {
-    for (const int type : {kPictureObject, kRadioObject, kChipObject})
+    for (const int type : {kPictureObject, kRadioObject, kChipObject, kMarkerObject})
         document.documentLayout()->registerHandler(type, this);
 }
 
@@ -194,7 +183,8 @@ QSizeF InlineObjects::intrinsicSize(
 {
     const auto source = objectSource(format);
     if (format.objectType() == kRadioObject) return radioSize(document, position);
-    if (format.objectType() == kChipObject) return chipSize(style_, source);
+    if (format.objectType() != kPictureObject)
+        return markerSize(viewOf(source), style_, lineWidth(*document, format));
     const auto tag = readPictureTag(viewOf(source));
     const auto image = pictures_.find(tag.path);
     const auto size = image.isNull() ? missingSize(style_, tag) : wantedSize(tag, image.size());
@@ -202,14 +192,14 @@ QSizeF InlineObjects::intrinsicSize(
 }
 
 void InlineObjects::drawObject(
-    QPainter* painter, const QRectF& place, QTextDocument*, int, const QTextFormat& format)
+    QPainter* painter, const QRectF& place, QTextDocument* document, int, const QTextFormat& format)
 {
     painter->save();
     const auto source = objectSource(format);
     if (format.objectType() == kRadioObject) {
         drawRadio(*painter, place, style_);
-    } else if (format.objectType() == kChipObject) {
-        drawChip(*painter, place, style_, source);
+    } else if (format.objectType() != kPictureObject) {
+        drawMarker(*painter, place, viewOf(source), style_, lineWidth(*document, format));
     } else {
         const auto tag = readPictureTag(viewOf(source));
         const auto image = pictures_.find(tag.path);
@@ -221,18 +211,6 @@ void InlineObjects::drawObject(
             drawPicture(*painter, inner, image);
     }
     painter->restore();
-}
-
-QString chipName(QByteArrayView tag)
-{
-    auto name = QString::fromLatin1(tag);
-    if (name.startsWith(u'<')) name.remove(0, 1);
-    const auto end = std::find_if(
-        name.cbegin(), name.cend(), [](QChar c) { return c.isSpace() || c == u'>'; });
-    if (end != name.cbegin()) name.truncate(end - name.cbegin());
-    name = name.simplified();
-    if (name.size() > kMaxChipName) name = name.left(kMaxChipName - 1) + u'\u2026';
-    return name;
 }
 
 } // namespace quillmere

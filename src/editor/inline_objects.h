@@ -9,8 +9,9 @@
 
 namespace quillmere {
 
-/// Draws the objects of a page into its text: pictures, the radio buttons of options, and chips for
-/// markup that cannot be shown. Sizes are in pixels of the page, whatever the screen's resolution.
+/// Draws the objects of a page into its text: pictures, the radio buttons of options, chips for
+/// markup that cannot be shown, and the ends of groups. Sizes are in pixels of the page, whatever
+/// the screen's resolution.
 class InlineObjects : public QObject, public QTextObjectInterface {
     Q_OBJECT
     Q_INTERFACES(QTextObjectInterface)
@@ -30,8 +31,5 @@ private:
     PictureCache& pictures_;
     SurfaceStyle style_;
 };
-
-/// The name of a chip's tag, shortened: "timer" for <timer value="10">, "/p" for </p>.
-[[nodiscard]] QString chipName(QByteArrayView tag);
 
 } // namespace quillmere

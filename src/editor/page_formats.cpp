@@ -2,6 +2,10 @@
 
 #include "editor/page_formats.h"
 
+#include "editor/page/page_places.h"
+
+#include <QFontDatabase>
+
 #include <algorithm>
 #include <array>
 #include <string>
@@ -27,12 +31,14 @@ int sizePx(const TextStyle& style, const SurfaceStyle& look)
 int objectTypeOf(ItemKind kind)
 {
     if (kind == ItemKind::Picture) return kPictureObject;
-    return kind == ItemKind::Radio ? kRadioObject : kChipObject;
+    if (kind == ItemKind::Radio) return kRadioObject;
+    return kind == ItemKind::Chip ? kChipObject : kMarkerObject;
 }
 
-bool isObject(ItemKind kind)
+bool isInTable(const SurfacePage& page, const PageItem& item)
 {
-    return kind == ItemKind::Picture || kind == ItemKind::Radio || kind == ItemKind::Chip;
+    const auto index = static_cast<std::size_t>(&item - page.items.data());
+    return page.blocks[placeOfItem(page, index).block].cell != kNone;
 }
 
 // "top" lies on the line as "bottom" does: a text layout hangs nothing from a line's upper
@@ -64,6 +70,8 @@ QTextCharFormat textFormat(const TextStyle& style, const SurfaceStyle& look)
 {
     QTextCharFormat format;
     if (style.sizeStep != 0) format.setProperty(QTextFormat::FontPixelSize, sizePx(style, look));
+    if (style.fixedPitch)
+        format.setFontFamilies({QFontDatabase::systemFont(QFontDatabase::FixedFont).family()});
     if (style.bold) format.setFontWeight(QFont::Bold);
     if (style.italic) format.setFontItalic(true);
     if (style.underlined || style.link != kNone) format.setFontUnderline(true);
@@ -86,6 +94,7 @@ QTextCharFormat itemFormat(const SurfacePage& page, const PageItem& item, const 
     format.setObjectType(objectTypeOf(item.kind));
     format.setProperty(
         kSourceProperty, QByteArray(source.data(), static_cast<qsizetype>(source.size())));
+    if (item.kind == ItemKind::Marker) format.setProperty(kInTableProperty, isInTable(page, item));
     if (item.kind == ItemKind::Picture)
         setPictureAlignment(format, source);
     else
@@ -118,7 +127,7 @@ QTextBlockFormat blockFormat(const PageBlock& block, const SurfaceStyle& look)
     format.setLineHeight(
         isInTable ? kCellLineDistancePx : kLineDistancePx, QTextBlockFormat::LineDistanceHeight);
     const bool isParagraph = block.paragraph != kNone && !isInTable;
-    if (isParagraph) format.setBottomMargin(look.fontSizePx / 2.0);
+    if (isParagraph || block.isAside) format.setBottomMargin(look.fontSizePx / 2.0);
     return format;
 }
 

@@ -20,10 +20,14 @@ enum PageObject : int {
     kPictureObject = QTextFormat::UserObject + 1,
     kRadioObject,
     kChipObject,
+    kMarkerObject,
 };
 
 /// The source of an object, as objectSource() gives it.
 inline constexpr int kSourceProperty = QTextFormat::UserProperty + 1;
+
+/// Whether a marker stands in a table.
+inline constexpr int kInTableProperty = kSourceProperty + 1;
 
 /// Of text in a document whose own font and ink are those of the page.
 [[nodiscard]] QTextCharFormat textFormat(const TextStyle& style, const SurfaceStyle& look);

@@ -3,7 +3,6 @@
 
 #include "editor/surface_clipboard.h"
 
-#include "document/text/limits.h"
 #include "document/text/tag_scanner.h"
 #include "document/text/windows1252.h"
 
@@ -146,16 +145,16 @@ bool holdsContent(const QMimeData& clip)
     return clip.hasFormat(QLatin1StringView(kDesignMimeType)) || clip.hasHtml() || clip.hasText();
 }
 
-ClipContent contentOf(const QMimeData& clip)
+ClipContent contentOf(const QMimeData& clip, const OutputRules& rules)
 {
     if (auto markup = designBytes(clip); !markup.empty()) return markup;
     if (const auto html = clip.html(); !html.isEmpty() && html.size() <= kMaxHtml) {
         auto markup = designMarkupOf(html);
-        requireAddressable(markup);
+        requireAddressable(markup, rules.maxTextLength());
         if (!markup.empty()) return markup;
     }
     auto text = clip.text();
-    requireAddressableLength(static_cast<std::size_t>(text.size()));
+    requireAddressableLength(static_cast<std::size_t>(text.size()), rules.maxTextLength());
     if (text.isEmpty()) return {};
     return text;
 }

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "document/text/output_rules.h"
+
 #include <QMimeData>
 #include <QString>
 
@@ -27,7 +29,8 @@ using ClipContent = std::variant<std::monostate, std::string, QString>;
 /// The content of a clip: design markup as it is; HTML from elsewhere in the formats that an area
 /// has, all else of it as its text; plain text with its line ends. Nothing where there is none of
 /// them. Throws Overflow for a text that no area could take.
-[[nodiscard]] ClipContent contentOf(const QMimeData& clip);
+[[nodiscard]] ClipContent contentOf(
+    const QMimeData& clip, const OutputRules& rules = OutputRules());
 
 /// HTML from elsewhere as markup of an area: b, i, u, big, small, a, and a break for each block.
 [[nodiscard]] std::string designMarkupOf(const QString& html);

@@ -34,7 +34,8 @@ std::size_t offsetBehind(const SurfaceEdit& edit, std::size_t offset)
 void DesignSurface::apply(const SurfaceEdit& edit, SurfaceUndo::Kind kind)
 {
     if (edit.splices.empty()) return;
-    auto text = edited(page_.text, edit); // refuses what is too long; all is as it was then
+    auto text
+        = edited(page_.text, edit, page_.rules); // refuses what is too long; all is as it was then
     undo_.add(page_.text, edit, caretOffset(), kind);
     showText(std::move(text), edit.caret);
     ensureCursorVisible();
@@ -139,11 +140,11 @@ void DesignSurface::moveSelectionTo(PagePlace target)
     if (range.empty() || (range.from <= target && target <= range.to)) return;
     const auto out = deletion();
     const auto markup = selectedMarkup();
-    const auto textBetween = edited(page_.text, out);
-    const auto pageBetween = readSurfacePage(textBetween);
+    const auto textBetween = edited(page_.text, out, page_.rules);
+    const auto pageBetween = readSurfacePage(textBetween, page_.rules);
     const auto place = placeAt(pageBetween, offsetBehind(out, offsetAt(page_, target)));
     const auto in = pasteMarkup(pageBetween, place, place, markup);
-    auto text = edited(textBetween, in);
+    auto text = edited(textBetween, in, page_.rules);
     undo_.add(page_.text, out, caretOffset(), SurfaceUndo::Kind::Other);
     undo_.add(textBetween, in, out.caret, SurfaceUndo::Kind::SameStep);
     showText(std::move(text), in.caret);
@@ -169,7 +170,7 @@ void DesignSurface::paste()
 
 void DesignSurface::insertClip(const QMimeData& clip)
 {
-    const auto content = contentOf(clip);
+    const auto content = contentOf(clip, page_.rules);
     if (const auto* markup = std::get_if<std::string>(&content)) pasteHTML(*markup);
     if (const auto* text = std::get_if<QString>(&content)) type(*text, SurfaceUndo::Kind::Other);
 }

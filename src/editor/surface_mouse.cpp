@@ -4,7 +4,7 @@
 
 #include "editor/design_surface.h"
 
-#include "document/text/windows1252.h"
+#include "editor/marker_texts.h"
 #include "editor/page/page_places.h"
 #include "editor/page_formats.h"
 #include "editor/page_geometry.h"
@@ -31,10 +31,7 @@ std::optional<DesignSurface::Control> DesignSurface::controlAt(QPoint viewportPo
 {
     const auto point = documentPoint(viewportPoint);
     if (const auto place = itemAt(*document(), page_, point)) {
-        const auto kind = itemBehind(page_, *place)->kind;
-        const bool isObject
-            = kind == ItemKind::Picture || kind == ItemKind::Radio || kind == ItemKind::Chip;
-        if (isObject) return Control{*place, kNone};
+        if (isObject(itemBehind(page_, *place)->kind)) return Control{*place, kNone};
     }
     const auto table = tableBorderAt(*document(), page_, point);
     return table == kNone ? std::nullopt : std::optional(Control{{}, table});
@@ -48,7 +45,8 @@ DesignSurface::Element DesignSurface::elementAt(QPoint viewportPoint) const
     const auto place = item.value_or(placeAtPosition(cursorForPosition(viewportPoint).position()));
     if (item) {
         const auto link = page_.styles[itemBehind(page_, *item)->style].link;
-        if (link != kNone) return elementOf("a", page_.elements[link].start);
+        const bool isLink = link != kNone && page_.elements[link].kind == PageElement::Kind::Link;
+        if (isLink) return elementOf("a", page_.elements[link].start);
     }
     const auto offset = offsetAt(page_, place);
     const auto cell = innermostElement(page_, offset, PageElement::Kind::Cell);
@@ -202,7 +200,9 @@ bool DesignSurface::comesFromHere(const QDropEvent& event) const
 
 bool DesignSurface::CheckElementMovedIntoTable()
 {
-    if (!pressed_ || !movedIntoTable(textAtPress_, page_.text, *pressed_)) return false;
+    if (!pressed_
+        || !movedIntoTable(textAtPress_, page_.text, *pressed_, page_.rules.maxTextLength()))
+        return false;
     goBackTo(textAtPress_);
     pressed_.reset();
     emit elementMovedIntoTable();
@@ -225,12 +225,11 @@ bool DesignSurface::showToolTip(const QHelpEvent& event)
 {
     const auto place = itemAt(*document(), page_, documentPoint(event.pos()));
     const auto* item = place ? itemBehind(page_, *place) : nullptr;
-    if (item == nullptr || item->kind != ItemKind::Chip) {
+    if (item == nullptr || (item->kind != ItemKind::Chip && item->kind != ItemKind::Marker))
         QToolTip::hideText();
-    } else {
-        const auto text = QString::fromStdString(toUtf8(item->source.in(page_.text)));
-        QToolTip::showText(event.globalPos(), "<p>" + text.toHtmlEscaped() + "</p>", viewport());
-    }
+    else
+        QToolTip::showText(
+            event.globalPos(), markerToolTip(item->source.in(page_.text)), viewport());
     return true;
 }
 

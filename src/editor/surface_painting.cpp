@@ -3,6 +3,7 @@
 
 #include "editor/design_surface.h"
 
+#include "editor/marker_objects.h"
 #include "editor/page_geometry.h"
 #include "editor/table_lines.h"
 
@@ -30,6 +31,8 @@ void DesignSurface::paintEvent(QPaintEvent* event)
     QPainter painter(viewport());
     painter.translate(-scrolled);
     drawTableLines(painter, *document(), page_, style_, QRectF(event->rect()).translated(scrolled));
+    drawFieldGroups(
+        painter, *document(), page_, style_, QRectF(event->rect()).translated(scrolled));
     if (!control_) return;
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(style_.link, kFrameWidthPx));

@@ -160,6 +160,7 @@ SurfaceSelection DesignSurface::selection() const
     }
     told.event = event_;
     told.marked = joined(sourceOf(range));
+    told.limit = page_.rules.maxTextLength();
     return told;
 }
 

@@ -2,6 +2,8 @@
 
 #include "editor/surface_undo.h"
 
+#include "editor/page/splice_list.h"
+
 #include <utility>
 
 namespace quillmere {
@@ -34,7 +36,7 @@ SurfaceUndo::State SurfaceUndo::make(const Step& step, State state, Step& opposi
 {
     for (auto edit = step.rbegin(); edit != step.rend(); ++edit) {
         opposite.push_back(reverse(state.text, *edit, state.caret));
-        state.text = edited(state.text, *edit);
+        state.text = spliced(state.text, edit->splices); // as it was, however long
         state.caret = edit->caret;
     }
     return state;

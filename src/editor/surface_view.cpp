@@ -24,7 +24,7 @@ constexpr double kPageMarginPx = 20;
 
 void DesignSurface::showText(std::string text, std::size_t caret)
 {
-    auto wanted = readSurfacePage(std::move(text));
+    auto wanted = readSurfacePage(std::move(text), page_.rules);
     const auto change = differenceOf(page_, wanted);
     page_ = std::move(wanted);
     event_.reset(); // its element may be gone
@@ -45,7 +45,7 @@ void DesignSurface::showAnew(std::string text, std::size_t caret)
     undo_.clear();
     pressed_.reset();
     event_.reset();
-    page_ = readSurfacePage(std::move(text));
+    page_ = readSurfacePage(std::move(text), rules_);
     rebuild();
     setCaret(placeAt(page_, caret));
     if (caretPlace() == firstPlace(page_)) verticalScrollBar()->setValue(0);

@@ -24,6 +24,8 @@ struct Shot {
     const char* area;
     Done done;
     const char* text; ///< what the caret stands behind, or what is marked
+    bool losesNothing = false; ///< by which rules it is read
+    bool isPaper = false; ///< black on white
 };
 
 constexpr Shot kShots[] = {
@@ -37,9 +39,19 @@ constexpr Shot kShots[] = {
     {"auswahl", "auswahl.htm", Done::CaretBehind, "Tisch bestellen"},
     {"aelter", "aelter.htm", Done::CaretBehind, "Schnitzel"},
     {"lang", "lang.htm", Done::Mark, "kauft Brot dazu"},
+    {"formular", "formular.htm", Done::CaretBehind, "Ort: ", true},
+    {"formular-papier", "formular.htm", Done::Mark, "Torte bestellen", true, true},
 };
 
 constexpr int kScreens[] = {96, 120, 192}; // dpi
+
+SurfaceStyle paper()
+{
+    SurfaceStyle style;
+    style.ink = {0x1A, 0x1F, 0x16};
+    style.ground = {0xFB, 0xFD, 0xF4};
+    return style;
+}
 
 void click(DesignSurface& surface, QPointF documentPoint)
 {
@@ -103,7 +115,9 @@ void writeShots(const QString& samples, const QString& directory)
     DiskWorkFiles files;
     for (const auto& shot : kShots) {
         DesignSurface surface(files);
-        surface.resize(480, 420);
+        surface.resize(480, shot.losesNothing ? 560 : 420);
+        surface.setRules(OutputRules(shot.losesNothing));
+        if (shot.isPaper) surface.setLook(paper());
         surface.show();
         surface.activateWindow();
         surface.setFocus();

@@ -92,18 +92,5 @@ TEST(InlineObjects, ShowAFrameForWhatIsNoPicture)
     EXPECT_EQ(shown.size("<img src=\"none.bmp\" width=\"50\" height=\"9\">"), QSizeF(50, 9));
 }
 
-TEST(InlineObjects, NameChipsByTheirTag)
-{
-    struct Row {
-        const char* tag;
-        const char* name;
-    };
-    const Row rows[]
-        = {{"<timer value=\"10\">", "timer"}, {"</p>", "/p"}, {"<>", ">"}, {"< b & c >", "b & c >"},
-            {"<aaaaaaaaaaaaaaaaaaaaaaaaaaaaaa>", "aaaaaaaaaaaaaaaaaaaaaaa\u2026"}};
-    for (const auto& row : rows)
-        EXPECT_EQ(chipName(row.tag), QString::fromUtf8(row.name)) << row.tag;
-}
-
 } // namespace
 } // namespace quillmere

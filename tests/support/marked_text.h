@@ -30,10 +30,10 @@ struct MarkedPage {
     PagePlace from;
     PagePlace to; ///< the caret: the same as `from`
 
-    explicit MarkedPage(std::string marked)
+    explicit MarkedPage(std::string marked, const OutputRules& rules = OutputRules())
     {
         const auto range = takeMarks(marked);
-        page = readSurfacePage(std::move(marked));
+        page = readSurfacePage(std::move(marked), rules);
         from = placeAt(page, range.begin);
         to = placeAt(page, range.end);
     }
@@ -49,7 +49,7 @@ struct MarkedPage {
 /// The text after an edit, with '|' at its caret.
 [[nodiscard]] inline std::string editedWithCaret(const SurfacePage& page, const SurfaceEdit& edit)
 {
-    return edited(page.text, edit).insert(edit.caret, "|");
+    return edited(page.text, edit, page.rules).insert(edit.caret, "|");
 }
 
 } // namespace quillmere::test

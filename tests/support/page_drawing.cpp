@@ -26,6 +26,7 @@ std::string look(const TextStyle& style)
     if (style.bold) drawn += 'b';
     if (style.italic) drawn += 'i';
     if (style.underlined) drawn += 'u';
+    if (style.fixedPitch) drawn += 'f';
     if (style.sizeStep > 0) drawn += '+';
     if (style.sizeStep != 0) drawn += std::to_string(style.sizeStep);
     if (style.link != kNone) drawn += 'a';
@@ -64,6 +65,7 @@ std::string Drawing::item(const PageItem& item)
     case ItemKind::Radio:
         return "O";
     case ItemKind::Chip:
+    case ItemKind::Marker:
         return std::string(item.source.in(page_.text));
     }
     return "?";
@@ -72,7 +74,7 @@ std::string Drawing::item(const PageItem& item)
 void Drawing::drawBlock(const PageBlock& block)
 {
     constexpr std::array kAlignments{"", "c", "r"};
-    out_ << (block.paragraph == kNone ? "-" : "P")
+    out_ << (block.isAside ? "A" : block.paragraph == kNone ? "-" : "P")
          << kAlignments.at(static_cast<std::size_t>(block.alignment)) << ':';
     TextStyle style;
     for (std::size_t i = block.firstItem; i < block.endItem; ++i) {

@@ -159,7 +159,7 @@ StandardDeck::StandardDeck()
 StandardDeck::StandardDeck(std::string file)
     : bytes_(std::move(file))
 {
-    requireAddressable(bytes_.text(), kMaxStandardTextLength);
+    requireAddressable(bytes_.text(), kMaxLosslessTextLength);
     mend();
     if (cards_.empty()) addMissingCard();
 }
@@ -213,7 +213,7 @@ std::string StandardDeck::written(std::span<const AreaText> areas, const Picture
     auto tree = buildWmlTree(std::move(tokens), bytes_);
     layOutNewElements(tree, count, cards_.empty());
     const auto text = writeWml(tree, bytes_);
-    requireAddressable(text, kMaxStandardTextLength);
+    requireAddressable(text, kMaxLosslessTextLength);
     return bytes_.fileOf(text);
 }
 

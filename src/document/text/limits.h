@@ -9,9 +9,8 @@ namespace quillmere {
 
 /// Positions in document text are 16 bits signed.
 inline constexpr std::size_t kMaxTextLength = 32767;
-
-/// The longest deck where nothing is lost: 1 MB.
-inline constexpr std::size_t kMaxStandardTextLength = 1024 * std::size_t{1024};
+/// How long a text may be where nothing is lost: see OutputRules::maxTextLength().
+inline constexpr std::size_t kMaxLosslessTextLength = 1048576;
 
 /// Throws Overflow where a text of `length` characters is longer than positions can tell, or than
 /// another limit.

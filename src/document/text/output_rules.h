@@ -26,14 +26,15 @@ public:
     [[nodiscard]] bool keepsAlternativeTextCase() const { return standard_; }
     /// A table without a title is written as a WML table and not as the surface left it.
     [[nodiscard]] bool writesUntitledTables() const { return standard_; }
-    /// Decks are opened and saved without loss (`src/document/standard`) and not by the conversions
-    /// of this program.
+    /// Decks go to the surface and back with all that is in them: what HTML cannot show travels as
+    /// markers that hold it whole.
     [[nodiscard]] bool losesNothing() const { return standard_; }
-    /// The longest deck, and the longest text of an area that an edit may make.
+    /// How many characters a text of a deck or an area may have.
     [[nodiscard]] std::size_t maxTextLength() const
     {
-        return standard_ ? kMaxStandardTextLength : kMaxTextLength;
+        return standard_ ? kMaxLosslessTextLength : kMaxTextLength;
     }
+    friend bool operator==(const OutputRules&, const OutputRules&) = default;
 
 private:
     bool standard_;

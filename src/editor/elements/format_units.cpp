@@ -25,14 +25,15 @@ bool isBorder(std::string_view text, SourceRange gap)
     MarkupScanner tags(text.substr(0, gap.end), gap.begin);
     while (const auto tag = tags.next()) {
         const bool isPlain = isFormat(tag->name) && tag->name != TagName::Link;
-        if (!isPlain && tag->name != TagName::Comment) return true;
+        const bool isSingle = tag->name == TagName::Comment || tag->name == TagName::Atom;
+        if (!isPlain && !isSingle) return true;
     }
     return false;
 }
 
 bool isObjectWithoutFormat(ItemKind kind)
 {
-    return kind == ItemKind::Radio || kind == ItemKind::Chip;
+    return isObject(kind) && kind != ItemKind::Picture;
 }
 
 class UnitReader {

@@ -47,7 +47,7 @@ void BlockFlow::beginBlock(std::size_t offset)
     Context& context = contexts_.back();
     context.begin = offset;
     context.firstItem = page_.items.size();
-    context.hasContent = false;
+    context.hasContent = context.hasText = false;
     context.mayOpenFormats = true;
     context.style = formats_.style();
 }
@@ -76,6 +76,8 @@ void BlockFlow::pushBlock(std::size_t offset)
     block.paragraph = context.paragraph;
     block.cell = context.cell;
     block.style = context.style;
+    block.isAside = context.hasContent && !context.hasText && context.paragraph == kNone
+        && context.cell == kNone;
     page_.blocks.push_back(block);
 }
 
@@ -107,6 +109,12 @@ void BlockFlow::openParagraph(SourceRange startTag)
     beginBlock(startTag.end);
 }
 
+std::optional<SourceRange> BlockFlow::paragraph() const
+{
+    const auto open = contexts_.back().paragraph;
+    return open == kNone ? std::nullopt : std::optional(page_.elements[open].start);
+}
+
 bool BlockFlow::closeParagraph(SourceRange endTag)
 {
     if (contexts_.back().paragraph == kNone) return false;
@@ -136,10 +144,22 @@ void BlockFlow::addText(SourceRange range)
     if (range.begin == context.begin) range = withoutLayoutAhead(page_.text, range);
     const bool hasContent = appendText(page_, range, formats_.style());
     context.hasContent |= hasContent;
+    context.hasText |= hasContent;
     if (!range.empty()) context.mayOpenFormats = false;
 }
 
 void BlockFlow::addObject(ItemKind kind, SourceRange source)
+{
+    addItem(kind, source);
+    contexts_.back().hasText = true;
+}
+
+void BlockFlow::addAtom(SourceRange source)
+{
+    addItem(ItemKind::Chip, source);
+}
+
+void BlockFlow::addItem(ItemKind kind, SourceRange source)
 {
     const auto shown = kind == ItemKind::LineBreak ? kLineBreakShown : kObjectShown;
     page_.items.push_back({source, shown, kind, formats_.style()});

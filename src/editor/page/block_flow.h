@@ -3,6 +3,7 @@
 #include "editor/page/open_formats.h"
 
 #include <cstddef>
+#include <optional>
 #include <vector>
 
 namespace quillmere {
@@ -19,8 +20,10 @@ public:
     /// The content begins, or a cell; its index in the page, kNone for the content.
     void enter(std::size_t cell, std::size_t offset);
     void leave(std::size_t offset);
-    /// A <p>, which ends the paragraph before it.
+    /// A <p>, or a pre marker, which ends the paragraph before it.
     void openParagraph(SourceRange startTag);
+    /// The start tag of the paragraph that is open in this cell; nullopt for none.
+    [[nodiscard]] std::optional<SourceRange> paragraph() const;
     /// False where no paragraph is open in this cell.
     [[nodiscard]] bool closeParagraph(SourceRange endTag);
     /// A table begins at `offset`; returns the index of the block ahead of it.
@@ -30,6 +33,8 @@ public:
     /// Takes the text of a range as items.
     void addText(SourceRange range);
     void addObject(ItemKind kind, SourceRange source);
+    /// The same for an atom, which makes no place for text.
+    void addAtom(SourceRange source);
     /// A format was opened: what is typed into a block that begins with it has it.
     void formatOpened();
     /// A tag without item stands here that typed text has to stay ahead of.
@@ -46,6 +51,7 @@ private:
         std::size_t begin = 0; // of the block, and of its items
         std::size_t firstItem = 0;
         bool hasContent = false; // more than white space
+        bool hasText = false; // more than white space and atoms
         bool mayOpenFormats = true; // nothing but format tags stood in the block so far
         std::uint16_t style = 0;
     };
@@ -54,6 +60,7 @@ private:
     void pushBlock(std::size_t offset);
     void dropLayoutAtEnd(std::size_t offset);
     void endParagraph(SourceRange endTag);
+    void addItem(ItemKind kind, SourceRange source);
 
     SurfacePage& page_;
     OpenFormats& formats_;

@@ -8,10 +8,13 @@ namespace quillmere {
 
 namespace {
 
-/// Whether a block and the one behind it are neighbours in one cell, with no table between them.
+/// Whether a block and the one behind it can become one.
 bool areNeighbours(const SurfacePage& page, std::size_t block)
 {
-    return block + 1 < page.blocks.size() && page.blocks[block].cell == page.blocks[block + 1].cell;
+    if (block + 1 >= page.blocks.size()) return false;
+    const auto& ahead = page.blocks[block];
+    const auto& behind = page.blocks[block + 1];
+    return ahead.cell == behind.cell && ahead.isAside == behind.isAside;
 }
 
 SurfaceEdit deleteBorder(const SurfacePage& page, std::size_t blockAhead)

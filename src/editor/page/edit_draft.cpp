@@ -10,6 +10,8 @@
 #include "editor/page/typed_text.h"
 
 #include <algorithm>
+#include <iterator>
+#include <span>
 #include <utility>
 
 namespace quillmere {
@@ -53,14 +55,6 @@ std::size_t tablesRound(const SurfacePage& page, std::size_t block)
     return tables;
 }
 
-PagePlace placeBehindItem(const SurfacePage& page, std::size_t item)
-{
-    const auto block = std::ranges::find_if(
-        page.blocks, [item](const PageBlock& candidate) { return item < candidate.endItem; });
-    const auto index = static_cast<std::size_t>(block - page.blocks.begin());
-    return {index, item + 1 - block->firstItem};
-}
-
 /// The caret is not left in a cell of a table that was pasted as a whole.
 PagePlace outOfTables(const SurfacePage& page, PagePlace place, std::size_t tablesRoundCaret)
 {
@@ -69,6 +63,15 @@ PagePlace outOfTables(const SurfacePage& page, PagePlace place, std::size_t tabl
         place = {page.tables[table].blockBehind, 0};
     }
     return place;
+}
+
+/// What can stand on its own outside of paragraphs.
+bool needsNoParagraph(std::string_view markup, const OutputRules& rules)
+{
+    const auto shown = readSurfacePage(std::string(markup), rules);
+    return std::ranges::all_of(shown.blocks, [](const PageBlock& block) {
+        return block.isAside || block.paragraph != kNone || itemCount(block) == 0;
+    });
 }
 
 } // namespace
@@ -80,7 +83,24 @@ EditDraft::EditDraft(const SurfacePage& page, PagePlace from, PagePlace to, Firs
         const auto formatsOfRun = parts_.empty() ? formats : FirstFormats::Go;
         parts_.push_back(deletionOf(page, run, formatsOfRun));
         changes_.append(parts_.back().splices);
+        std::ranges::copy(parts_.back().itemsOutside, std::back_inserter(itemsOutside_));
     }
+    std::erase_if(itemsOutside_, [this](auto i) { return i >= firstItem() && i < endItem(); });
+    putAt_ = firstItem();
+}
+
+/// Whether what is put in would stand where no text may.
+bool EditDraft::standsAside() const
+{
+    const auto& run = parts_.front().run;
+    return page_.blocks[run.from.block].isAside && page_.blocks[run.to.block].isAside;
+}
+
+void EditDraft::putAsParagraph(const std::string& markup)
+{
+    const auto& block = page_.blocks[parts_.front().run.to.block];
+    changes_.insert(block.content.end, "<p>" + markup + "</p>");
+    if (parts_.size() == 1) putAt_ = block.endItem;
 }
 
 void EditDraft::putText(std::u16string_view typed)
@@ -89,21 +109,27 @@ void EditDraft::putText(std::u16string_view typed)
     const auto* ahead = itemAhead(page_, part.run.from);
     const auto* behind = itemBehind(page_, part.run.to);
     const std::string_view text = page_.text;
-    const bool lineBegins = ahead == nullptr || ahead->kind == ItemKind::LineBreak;
+    const bool lineBegins = ahead == nullptr || ahead->kind == ItemKind::LineBreak || standsAside();
     TypedBorders borders;
     borders.blankHidesAhead = lineBegins || ahead->kind == ItemKind::Blank
         || endsWhite(text.substr(0, part.between.begin));
     borders.blankBehind = (behind != nullptr && behind->kind == ItemKind::Blank)
         || beginsWhite(text.substr(part.between.end));
     auto put = typedText(typed, borders);
-    changes_.insert(part.typeAt, std::move(put.markup));
     shown_ = std::move(put.shown);
+    if (standsAside() && !put.markup.empty())
+        putAsParagraph(put.markup);
+    else
+        changes_.insert(part.typeAt, std::move(put.markup));
 }
 
 void EditDraft::putMarkup(std::string_view markup)
 {
-    changes_.insert(parts_.front().pasteAt, std::string(markup));
     shown_.reset();
+    if (standsAside() && !needsNoParagraph(markup, page_.rules))
+        putAsParagraph(std::string(markup));
+    else
+        changes_.insert(parts_.front().pasteAt, std::string(markup));
 }
 
 SurfaceEdit EditDraft::finish() const
@@ -115,7 +141,7 @@ SurfaceEdit EditDraft::finish() const
         for (const auto& part : parts_)
             addGuard(changes, page_, part.run, guard);
         SurfaceEdit edit{std::move(changes).take()};
-        const auto after = readSurfacePage(spliced(page_.text, edit.splices));
+        const auto after = readSurfacePage(spliced(page_.text, edit.splices), page_.rules);
         edit.caret = offsetAt(after, caretOn(after));
         if (isAsWanted(after)) return edit;
         if (!unguarded) unguarded = std::move(edit);
@@ -123,38 +149,82 @@ SurfaceEdit EditDraft::finish() const
     return *unguarded; // it changes how a broken text is read, or markup was put in that does
 }
 
+/// In pieces, in their order; something may be put in between two of them, and nothing else.
+std::vector<ItemSpan> EditDraft::stayingItems() const
+{
+    std::vector<ItemSpan> gone{{firstItem(), endItem()}};
+    if (putAt_ != firstItem()) gone.push_back({putAt_, putAt_});
+    for (const auto item : itemsOutside_)
+        gone.push_back({item, item + 1});
+    std::ranges::sort(gone, {}, &ItemSpan::first);
+    std::vector<ItemSpan> staying;
+    std::size_t begin = 0;
+    for (const auto span : gone) {
+        staying.push_back({begin, span.first});
+        begin = span.end;
+    }
+    staying.push_back({begin, page_.items.size()});
+    return staying;
+}
+
+std::size_t EditDraft::stayingCount() const
+{
+    return page_.items.size() - (endItem() - firstItem()) - itemsOutside_.size();
+}
+
+/// How many items outside of the places go that stand ahead of an item.
+std::size_t EditDraft::outsideAhead(std::size_t item) const
+{
+    return static_cast<std::size_t>(
+        std::ranges::count_if(itemsOutside_, [item](auto each) { return each < item; }));
+}
+
+/// The index of the first item that was put in, on the page behind the edit.
+std::size_t EditDraft::firstPutIn() const
+{
+    const auto gone = putAt_ > firstItem() ? endItem() - firstItem() : 0;
+    return putAt_ - gone - outsideAhead(putAt_);
+}
+
 /// What stays is as it was, and what was put in stands between.
 bool EditDraft::isAsWanted(const SurfacePage& after) const
 {
-    const auto stayingBehind = page_.items.size() - endItem();
-    if (after.items.size() < firstItem() + stayingBehind) return false;
-    const auto putIn = after.items.size() - firstItem() - stayingBehind;
-    if (shown_ && shown_->size() != putIn) return false;
-    const auto index = [](std::size_t number) { return static_cast<std::ptrdiff_t>(number); };
-    const auto first = after.items.begin() + index(firstItem());
-    const auto behind = first + index(putIn);
-    return std::equal(after.items.begin(), first, page_.items.begin(), looksLike)
-        && (!shown_ || std::equal(first, behind, shown_->begin(), shows))
-        && std::equal(behind, after.items.end(), page_.items.begin() + index(endItem()), looksLike);
+    if (after.items.size() < stayingCount()) return false;
+    const auto putIn = after.items.size() - stayingCount();
+    const std::span items(after.items);
+    if (shown_ && !std::ranges::equal(items.subspan(firstPutIn(), putIn), *shown_, shows))
+        return false;
+    std::size_t at = 0;
+    for (const auto span : stayingItems()) {
+        if (span.first >= putAt_ && at == firstPutIn()) at += putIn;
+        const auto count = span.end - span.first;
+        const auto before = std::span(page_.items).subspan(span.first, count);
+        if (!std::ranges::equal(items.subspan(at, count), before, looksLike)) return false;
+        at += count;
+    }
+    return true;
 }
 
 std::size_t EditDraft::itemsPutIn(const SurfacePage& after) const
 {
     if (shown_) return shown_->size();
-    const auto staying = page_.items.size() - (endItem() - firstItem());
-    return after.items.size() > staying ? after.items.size() - staying : 0;
+    return after.items.size() > stayingCount() ? after.items.size() - stayingCount() : 0;
 }
 
 PagePlace EditDraft::caretOn(const SurfacePage& after) const
 {
-    const PagePlace from = parts_.front().run.from;
+    const auto& run = parts_.front().run;
     const auto count = itemsPutIn(after);
-    if (!shown_ && count > 0) {
-        const auto last = placeBehindItem(after, firstItem() + count - 1);
-        return outOfTables(after, last, tablesRound(page_, from.block));
+    const bool isWithBlock = shown_ && !page_.blocks[run.from.block].isAside;
+    if (!isWithBlock && count > 0 && firstPutIn() + count <= after.items.size()) {
+        auto last = placeOfItem(after, firstPutIn() + count - 1);
+        ++last.offset;
+        return outOfTables(after, last, tablesRound(page_, run.from.block));
     }
-    const auto place = placeOnPage(after, {from.block, from.offset + count});
-    const bool blockIsLeft = after.blocks[place.block].cell == page_.blocks[from.block].cell;
+    const auto outside
+        = outsideAhead(run.firstItem) - outsideAhead(page_.blocks[run.from.block].firstItem);
+    const auto place = placeOnPage(after, {run.from.block, run.from.offset - outside + count});
+    const bool blockIsLeft = after.blocks[place.block].cell == page_.blocks[run.from.block].cell;
     if (blockIsLeft || place.block == 0) return place;
     return placeOnPage(after, {place.block - 1, kNone});
 }

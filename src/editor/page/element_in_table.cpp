@@ -77,17 +77,17 @@ int countTablesAroundTables(std::string_view text)
 
 } // namespace
 
-bool IsInsideTable(std::string_view text, int position)
+bool IsInsideTable(std::string_view text, int position, std::size_t limit)
 {
-    requireAddressable(text);
+    requireAddressable(text, limit);
     return position >= 1 && TableTest(text).holds(static_cast<std::size_t>(position) - 1);
 }
 
 bool movedIntoTable(std::string_view textAtPress, std::string_view textNow,
-    const SurfaceSelection::Element& element)
+    const SurfaceSelection::Element& element, std::size_t limit)
 {
-    requireAddressable(textAtPress);
-    requireAddressable(textNow);
+    requireAddressable(textAtPress, limit);
+    requireAddressable(textNow, limit);
     if (element.tag == "table")
         return countTablesAroundTables(textNow) > countTablesAroundTables(textAtPress);
     const bool isPicture = element.tag == "img";

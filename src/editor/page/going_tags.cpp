@@ -1,6 +1,7 @@
 // An element goes when both its tags lie between the places, or when it shows something and all of
 // that goes. What shows nothing goes with the element that it lies in, and a list with its last
-// option. Held by delete_edits_test.cpp.
+// option. One end of a group that is shown takes the other one with it. Held by
+// delete_edits_test.cpp.
 
 #include "editor/page/going_tags.h"
 
@@ -36,6 +37,11 @@ SourceRange contentOfBlocks(const SurfacePage& page, const CoveredRun& run)
     return {page.blocks[run.from.block].content.begin, page.blocks[run.to.block].content.end};
 }
 
+bool holds(const CoveredRun& run, std::size_t item)
+{
+    return item != kNone && item >= run.firstItem && item < run.endItem;
+}
+
 class GoingElements {
 public:
     GoingElements(const SurfacePage& page, const CoveredRun& run)
@@ -56,7 +62,7 @@ public:
             if (paragraph != kNone) going_[paragraph] = false;
         }
         for (std::size_t i = 0; i < going_.size(); ++i)
-            if (page_.elements[i].kind == Kind::Select && losesItsOptions(i)) going_[i] = true;
+            if (holdsOptions(page_.elements[i]) && losesItsOptions(i)) going_[i] = true;
         takeEmptyOnesWithin();
         return std::move(going_);
     }
@@ -72,10 +78,17 @@ private:
     [[nodiscard]] bool goesEmpty(const PageElement& element) const
     {
         if (isFrame(element.kind)) return false;
+        if (holdsMarkerOf(page_, run_, element)) return true;
         const auto items = itemsOf(page_, element);
         if (items.empty() || !items.within(run_)) return false;
         if (element.kind == Kind::Option) return true;
         return lies(element.start, blocks_) && (element.end.empty() || lies(element.end, blocks_));
+    }
+
+    [[nodiscard]] bool holdsOptions(const PageElement& element) const
+    {
+        if (element.kind == Kind::Select) return true;
+        return element.kind == Kind::Marker && itemOf(page_, element.start) != kNone;
     }
 
     [[nodiscard]] bool losesItsOptions(std::size_t list) const
@@ -103,7 +116,8 @@ private:
                 = isMarker(element.kind) ? markersGoTo : std::max(formatsGoTo, markersGoTo);
             if (element.end.end <= goesTo && itemsOf(page_, element).empty()) going_[i] = true;
             auto& furthest = isMarker(element.kind) ? markersGoTo : formatsGoTo;
-            if (going_[i]) furthest = std::max(furthest, element.end.end);
+            if (going_[i] && !losesItsMarker(page_, run_, element))
+                furthest = std::max(furthest, element.end.end);
         }
     }
 
@@ -160,6 +174,32 @@ SourceRange offsetsOf(const SurfacePage& page, const CoveredRun& run)
     between.begin = std::min(between.begin, page.items[run.firstItem].source.begin);
     between.end = std::max(between.end, page.items[run.endItem - 1].source.end);
     return between;
+}
+
+bool holdsMarkerOf(const SurfacePage& page, const CoveredRun& run, const PageElement& element)
+{
+    if (!page.rules.losesNothing() || element.kind != Kind::Marker) return false;
+    return holds(run, itemOf(page, element.start)) || holds(run, itemOf(page, element.end));
+}
+
+bool losesItsMarker(const SurfacePage& page, const CoveredRun& run, const PageElement& element)
+{
+    return holdsMarkerOf(page, run, element) && !itemsOf(page, element).within(run);
+}
+
+std::vector<std::size_t> goingItemsOutside(
+    const SurfacePage& page, const CoveredRun& run, const std::vector<bool>& going)
+{
+    std::vector<std::size_t> items;
+    if (!page.rules.losesNothing()) return items;
+    for (std::size_t i = 0; i < going.size(); ++i) {
+        const auto& element = page.elements[i];
+        if (!going[i] || element.kind != Kind::Marker) continue;
+        for (const auto item : {itemOf(page, element.start), itemOf(page, element.end)})
+            if (item != kNone && !holds(run, item)) items.push_back(item);
+    }
+    std::ranges::sort(items);
+    return items;
 }
 
 std::vector<bool> goingElements(const SurfacePage& page, const CoveredRun& run)

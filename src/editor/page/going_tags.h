@@ -28,6 +28,18 @@ struct ItemSpan {
 /// The offsets of a run's places in the text.
 [[nodiscard]] SourceRange offsetsOf(const SurfacePage& page, const CoveredRun& run);
 
+/// Whether the run has the item of an element's start or end marker in it.
+[[nodiscard]] bool holdsMarkerOf(
+    const SurfacePage& page, const CoveredRun& run, const PageElement& element);
+/// Whether that is so and the run has not all that stands between them: the element goes and its
+/// content stays.
+[[nodiscard]] bool losesItsMarker(
+    const SurfacePage& page, const CoveredRun& run, const PageElement& element);
+
+/// The items of markers that go and lie outside of the run.
+[[nodiscard]] std::vector<std::size_t> goingItemsOutside(
+    const SurfacePage& page, const CoveredRun& run, const std::vector<bool>& going);
+
 /// Whether the tags of each element go when a run is deleted: no half of a pair is lost, since both
 /// have one answer. The paragraphs of the run's first and last block stay.
 [[nodiscard]] std::vector<bool> goingElements(const SurfacePage& page, const CoveredRun& run);

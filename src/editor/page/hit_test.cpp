@@ -48,7 +48,7 @@ void HitTester::lookAt(std::string_view text, const SurfaceSelection& selection)
 Hit HitTester::HitTest(std::string_view startTag, std::string_view endTag, std::string_view text,
     const SurfaceSelection& selection, bool refresh)
 {
-    requireAddressable(text);
+    requireAddressable(text, selection.limit);
     if (refresh) lookAt(text, selection);
     if (findIgnoringCase(startTag, "img") != npos) return {gMarkStart_, isImage_};
     if (!found_) return {gMarkStart_, false};

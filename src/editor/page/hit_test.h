@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document/text/limits.h"
 #include "editor/page/surface_page.h"
 
 #include <optional>
@@ -7,9 +8,9 @@
 #include <string_view>
 
 // Finding the marked element in the text of an area's design work file, as ReadDesignText gives it.
-// Positions here are told as the file's users do: 1-based, 16 bits; 0 is ahead of the text. What
-// goes in "behind" position n has n characters ahead of it. All functions throw Overflow for a text
-// that positions cannot address.
+// Positions here are told as the file's users do: 1-based; 0 is ahead of the text. What goes in
+// "behind" position n has n characters ahead of it. All functions throw Overflow for a text of more
+// characters than OutputRules::maxTextLength(), which is given as `limit`.
 
 namespace quillmere {
 
@@ -29,6 +30,7 @@ struct SurfaceSelection {
     std::optional<Element> event; ///< the element under the mouse while an event is handled
     std::optional<Element> control; ///< the selected picture, radio button or table
     SourceRange marked; ///< of text: what is marked; empty at the caret
+    std::size_t limit = kMaxTextLength; ///< of the texts that the surface shows
 };
 
 /// What is marked in the text. Text is told exactly: a fragment goes in ahead of it behind position
@@ -78,16 +80,18 @@ private:
 /// the card's marker and inside no tag, comment, entity, link, picture, table, option, list or do
 /// block. A stray '>' counts as the end of a tag: no position from the tag ahead of it on, or from
 /// the text's begin, up to it. A position at or behind the text's end stays.
-[[nodiscard]] int ValidInsertPosition(int position, std::string_view text);
+[[nodiscard]] int ValidInsertPosition(
+    int position, std::string_view text, std::size_t limit = kMaxTextLength);
 
 /// True where `position` (1 or more) lies inside a table: where a table's end follows it ahead of
 /// any table's begin. The caller shows the message.
-[[nodiscard]] bool IsInsideTable(std::string_view text, int position);
+[[nodiscard]] bool IsInsideTable(
+    std::string_view text, int position, std::size_t limit = kMaxTextLength);
 
 /// The decision of CheckElementMovedIntoTable: whether more elements like the one that the mouse
 /// pressed on lie in tables now than did at the press. `element` has its source in `textAtPress`.
 /// Pictures are alike by their source, radio buttons by their onclick, tables all.
 [[nodiscard]] bool movedIntoTable(std::string_view textAtPress, std::string_view textNow,
-    const SurfaceSelection::Element& element);
+    const SurfaceSelection::Element& element, std::size_t limit = kMaxTextLength);
 
 } // namespace quillmere

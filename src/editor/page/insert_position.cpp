@@ -105,9 +105,9 @@ std::size_t behindCardMarker(std::string_view text)
 
 } // namespace
 
-int ValidInsertPosition(int position, std::string_view text)
+int ValidInsertPosition(int position, std::string_view text, std::size_t limit)
 {
-    requireAddressable(text);
+    requireAddressable(text, limit);
     if (position >= static_cast<int>(text.size())) return position;
     auto offset = std::max({static_cast<std::size_t>(std::max(position, 0)), behindCardMarker(text),
         behindStrayEnds(text, 0)});

@@ -76,7 +76,7 @@ std::optional<MarkedRange> rangeOfText(std::string_view text, const SourceRange&
 
 std::optional<MarkedRange> FindMarkedRange(std::string_view text, const SurfaceSelection& selection)
 {
-    requireAddressable(text);
+    requireAddressable(text, selection.limit);
     const bool isObject
         = selection.objectSelected || selection.type == SurfaceSelection::Type::Control;
     if (const auto* const kind = kindOf(selection.event); kind && kind->isObject == isObject)

@@ -57,6 +57,7 @@ void pairMarkers(std::string_view text, std::vector<MarkupTag>& tags)
             starts.push_back(index);
         else if (!starts.empty()) {
             tags[starts.back()].partner = index;
+            tags[index].partner = starts.back();
             starts.pop_back();
         }
     }

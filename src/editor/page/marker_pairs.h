@@ -7,7 +7,7 @@
 
 namespace quillmere {
 
-/// Sets the partner of each start marker that has an end: an end marker ends the last start marker
+/// Makes partners of the markers that belong together: an end marker ends the last start marker
 /// of its name that has no end yet, whatever else stands between them. Case does not matter.
 void pairMarkers(std::string_view text, std::vector<MarkupTag>& tags);
 

@@ -5,6 +5,7 @@
 #include "editor/page/going_tags.h"
 #include "editor/page/markup_tags.h"
 #include "editor/page/page_edits.h"
+#include "editor/page/page_places.h"
 
 #include <algorithm>
 #include <string>
@@ -44,7 +45,7 @@ public:
         copyElements();
         copyComments();
         for (std::size_t i = run_.firstItem; i < run_.endItem; ++i)
-            add(page_.items[i].source);
+            if (page_.items[i].kind != ItemKind::Marker) add(page_.items[i].source);
         std::ranges::stable_sort(pieces_, {}, &Piece::offset);
         std::string markup = std::move(ahead_);
         for (const auto& piece : pieces_)
@@ -79,10 +80,21 @@ private:
             if (element.kind == Kind::Table && isWhole && element.whole().end > table.end)
                 table = element.whole();
             const bool isOfTable = isWhole && lies(element.whole(), table);
-            if (!isOfTable && !isCopied(element, isWhole)) continue;
+            if (!isOfTable && !isCopied(element, isWhole)) {
+                noteCut(element);
+                continue;
+            }
             copyStart(element);
             copyEnd(element);
         }
+    }
+
+    /// A marker that is not copied; what stands in it and shows nothing means nothing without it.
+    void noteCut(const PageElement& element)
+    {
+        const bool isNoted = page_.rules.losesNothing() && element.kind == Kind::Marker
+            && element.start.begin >= page_.content.begin;
+        if (isNoted) cut_.push_back(element.whole());
     }
 
     [[nodiscard]] bool isCopied(const PageElement& element, bool isWhole) const
@@ -93,6 +105,7 @@ private:
         if (isFormatOrLink(element.kind)) return !isEmpty;
         if (element.kind == Kind::Select) return holdsCopiedOption(element);
         if (element.kind != Kind::Option && element.kind != Kind::Marker) return false;
+        if (holdsMarkerOf(page_, run_, element)) return true; // it is completed
         return isWhole || (!items.empty() && items.within(run_));
     }
 
@@ -123,11 +136,18 @@ private:
             behind_.push_back(endTagFor(element.start.in(page_.text)));
     }
 
+    [[nodiscard]] bool isCopied(const MarkupTag& tag) const
+    {
+        const bool isSingle = tag.name == TagName::Comment || tag.name == TagName::Atom;
+        const auto holds = [&](SourceRange marker) { return lies(tag.source, marker); };
+        return isSingle && itemOf(page_, tag.source) == kNone && std::ranges::none_of(cut_, holds);
+    }
+
     void copyComments()
     {
         MarkupScanner tags(std::string_view(page_.text).substr(0, between_.end), between_.begin);
         while (const auto tag = tags.next())
-            if (tag->name == TagName::Comment) add(tag->source);
+            if (isCopied(*tag)) add(tag->source);
     }
 
     const SurfacePage& page_;
@@ -136,6 +156,7 @@ private:
     std::string ahead_;
     std::vector<std::string> behind_; // the innermost last
     std::vector<Piece> pieces_;
+    std::vector<SourceRange> cut_; // markers that are not copied
 };
 
 std::size_t cellOf(const SurfacePage& page, const CoveredRun& run)

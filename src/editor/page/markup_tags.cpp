@@ -74,6 +74,10 @@ constexpr auto kMarkers = sorted(std::to_array<NameRow>({
     {packed("do"), TagName::Do},
     {packed("select"), TagName::Select},
     {packed("option"), TagName::Option},
+    {packed("anchor"), TagName::Anchor},
+    {packed("optgroup"), TagName::OptionGroup},
+    {packed("fieldset"), TagName::FieldSet},
+    {packed("pre"), TagName::Preformatted},
 }));
 
 TagName nameIn(std::span<const NameRow> rows, std::string_view name, TagName otherwise)
@@ -93,8 +97,15 @@ bool isLetter(char character)
     return lowered(character) >= 'a' && lowered(character) <= 'z';
 }
 
+bool isAtom(std::string_view comment)
+{
+    const auto name = comment.substr(kCommentStart.size());
+    return name.front() == '#' && isLetter(name[1]); // "-->" stands behind them
+}
+
 MarkupTag comment(SourceRange source, std::string_view written)
 {
+    if (isAtom(written)) return {source, TagName::Atom};
     MarkupTag tag{source, TagName::Comment};
     const auto name = markerName(written);
     if (name.empty() || written.ends_with("/-->")) return tag;

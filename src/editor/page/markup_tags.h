@@ -34,10 +34,15 @@ enum class TagName : std::uint8_t {
     Small,
     Link,
     Comment, ///< one that is no marker, or a marker without content such as <!--go href="#a"/-->
+    Atom, ///< <!--#NAME SOURCE-->, which holds an element whole
     Card,
     Do,
     Select,
     Option,
+    Anchor,
+    OptionGroup,
+    FieldSet,
+    Preformatted,
     OtherMarker,
 };
 
@@ -66,7 +71,7 @@ struct MarkupTag {
     SourceRange source;
     TagName name = TagName::Other;
     bool isEnd = false;
-    std::uint32_t partner = kNoTag; ///< of a start marker: the index of the marker that ends it
+    std::uint32_t partner = kNoTag; ///< of a marker: the index of its end, or of its start
     std::uint32_t table = kNoTag; ///< of a part of a table that fits: the index of its outline
 };
 

@@ -13,17 +13,12 @@ namespace {
 constexpr auto kNoStyle = std::numeric_limits<std::uint16_t>::max();
 constexpr int kMaxSizeStep = 2;
 
-constexpr std::size_t slotOf(TagName name)
-{
-    return static_cast<std::size_t>(name) - kFirstFormat;
-}
-
 std::size_t lookNumber(const TextStyle& style)
 {
     const int sizeNumber = style.sizeStep + kMaxSizeStep;
     const auto size = static_cast<std::size_t>(sizeNumber);
-    return size * 8 + (style.bold ? 4U : 0U) + (style.italic ? 2U : 0U)
-        + (style.underlined ? 1U : 0U);
+    return size * 16 + (style.fixedPitch ? 8U : 0U) + (style.bold ? 4U : 0U)
+        + (style.italic ? 2U : 0U) + (style.underlined ? 1U : 0U);
 }
 
 } // namespace
@@ -40,6 +35,15 @@ void OpenFormats::open(TagName name, std::size_t element)
 {
     open_[slotOf(name)].push_back(element);
     styleIsKnown_ = false;
+}
+
+void OpenFormats::closeMarker(TagName name, SourceRange startMarker)
+{
+    auto& stack = open_[slotOf(name)];
+    const bool isOpen = stack.size() > scopes_.back().base[slotOf(name)]
+        && page_.elements[stack.back()].start == startMarker;
+    if (isOpen) stack.pop_back();
+    if (isOpen) styleIsKnown_ = false;
 }
 
 bool OpenFormats::close(TagName name, SourceRange endTag)
@@ -64,10 +68,10 @@ void OpenFormats::enterCell(bool isHeading)
 void OpenFormats::leaveCell(std::size_t offset)
 {
     const Scope& scope = scopes_.back();
-    for (std::size_t slot = 0; slot < kFormatCount; ++slot) {
+    for (std::size_t slot = 0; slot < kStackCount; ++slot) {
         auto& stack = open_[slot];
         for (; stack.size() > scope.base[slot]; stack.pop_back())
-            page_.elements[stack.back()].end = {offset, offset};
+            if (slot < kFormatCount) page_.elements[stack.back()].end = {offset, offset};
     }
     headings_ -= scope.isHeading ? 1 : 0;
     scopes_.pop_back();
@@ -90,6 +94,8 @@ TextStyle OpenFormats::look() const
     style.underlined = isOpen(TagName::Underline);
     style.sizeStep
         = static_cast<std::int8_t>(std::clamp<std::ptrdiff_t>(steps, -kMaxSizeStep, kMaxSizeStep));
+    style.fixedPitch = isOpen(TagName::Preformatted);
+    if (isOpen(TagName::Anchor)) style.link = stackOf(TagName::Anchor).back();
     if (isOpen(TagName::Link)) style.link = stackOf(TagName::Link).back();
     return style;
 }

@@ -64,7 +64,7 @@ private:
     [[nodiscard]] bool sameBlock(const PageBlock& a, const PageBlock& b) const
     {
         const bool areEmpty = itemCount(a) == 0 && itemCount(b) == 0;
-        return a.alignment == b.alignment && a.cell == b.cell
+        return a.alignment == b.alignment && a.cell == b.cell && a.isAside == b.isAside
             && (a.paragraph == kNone) == (b.paragraph == kNone)
             && (!areEmpty || sameStyle(a.style, b.style));
     }
@@ -85,9 +85,7 @@ private:
         const auto& a = shown_.items[old];
         const auto& b = wanted_.items[anew];
         if (a.kind != b.kind || a.shown != b.shown || !sameStyle(a.style, b.style)) return false;
-        const bool hasLooksOfItsTag
-            = a.kind == ItemKind::Picture || a.kind == ItemKind::Radio || a.kind == ItemKind::Chip;
-        return !hasLooksOfItsTag || a.source.in(shown_.text) == b.source.in(wanted_.text);
+        return !isObject(a.kind) || a.source.in(shown_.text) == b.source.in(wanted_.text);
     }
 
     [[nodiscard]] bool sameStyle(std::size_t old, std::size_t anew) const

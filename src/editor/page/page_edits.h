@@ -24,8 +24,9 @@ struct SurfaceEdit {
     std::size_t caret = 0; ///< offset in the text after the edit
 };
 
-/// The text after the edit. Throws Overflow beyond 32767 characters.
-[[nodiscard]] std::string edited(std::string_view text, const SurfaceEdit& edit);
+/// The text after the edit. Throws Overflow where it is longer than the rules allow.
+[[nodiscard]] std::string edited(
+    std::string_view text, const SurfaceEdit& edit, const OutputRules& rules = OutputRules());
 
 /// The edit that takes `edit` back, for the text as it was ahead of it. The caret is that of
 /// before.

@@ -46,15 +46,15 @@ std::size_t offsetAtStart(const SurfacePage& page, const PageBlock& block)
     return item;
 }
 
-/// The place behind the link that ends between `begin` and `end` and stood open at `begin`; `begin`
-/// where none does.
-std::size_t behindLinkEnd(std::string_view text, std::size_t begin, std::size_t end)
+/// The place behind the link or anchor that ends between `begin` and `end` and stood open at
+/// `begin`; `begin` where none does.
+std::size_t behindLinkEnd(std::string_view text, TagName link, std::size_t begin, std::size_t end)
 {
     std::size_t offset = begin;
     std::size_t open = 0; // links that begin here
     MarkupScanner tags(text.substr(0, end), begin);
     while (const auto tag = tags.next()) {
-        if (tag->name != TagName::Link) continue;
+        if (tag->name != link) continue;
         if (!tag->isEnd)
             ++open;
         else if (open > 0)
@@ -68,10 +68,13 @@ std::size_t behindLinkEnd(std::string_view text, std::size_t begin, std::size_t 
 std::size_t offsetBehind(const SurfacePage& page, const PageBlock& block, std::size_t item)
 {
     const auto& ahead = page.items[item];
-    if (page.styles[ahead.style].link == kNone) return ahead.source.end;
+    const auto link = page.styles[ahead.style].link;
+    if (link == kNone) return ahead.source.end;
+    const bool isAnchor = page.elements[link].kind == PageElement::Kind::Marker;
     const bool isLast = item + 1 == block.endItem;
     const auto limit = isLast ? block.content.end : page.items[item + 1].source.begin;
-    return behindLinkEnd(page.text, ahead.source.end, limit);
+    return behindLinkEnd(
+        page.text, isAnchor ? TagName::Anchor : TagName::Link, ahead.source.end, limit);
 }
 
 /// How many of the numbers from 0 up to but not `count` the test holds for; it fails for all behind
@@ -134,6 +137,21 @@ const PageItem* itemAhead(const SurfacePage& page, PagePlace place)
 {
     if (place.offset == 0) return nullptr;
     return itemBehind(page, {place.block, place.offset - 1});
+}
+
+std::size_t itemOf(const SurfacePage& page, SourceRange source)
+{
+    const auto found = std::ranges::lower_bound(
+        page.items, source.begin, {}, [](const PageItem& item) { return item.source.begin; });
+    const bool isOne = found != page.items.end() && found->source == source;
+    return isOne ? static_cast<std::size_t>(found - page.items.begin()) : kNone;
+}
+
+PagePlace placeOfItem(const SurfacePage& page, std::size_t item)
+{
+    const auto block = countWhile(
+        page.blocks.size(), [&](std::size_t index) { return page.blocks[index].endItem <= item; });
+    return {block, item - page.blocks[block].firstItem};
 }
 
 std::size_t innermostElement(const SurfacePage& page, std::size_t offset, PageElement::Kind kind)

@@ -30,6 +30,11 @@ namespace quillmere {
 [[nodiscard]] const PageItem* itemBehind(const SurfacePage& page, PagePlace place);
 [[nodiscard]] const PageItem* itemAhead(const SurfacePage& page, PagePlace place);
 
+/// The index of the item that a tag or marker is; kNone where it is none.
+[[nodiscard]] std::size_t itemOf(const SurfacePage& page, SourceRange source);
+/// The place ahead of an item.
+[[nodiscard]] PagePlace placeOfItem(const SurfacePage& page, std::size_t item);
+
 /// The innermost element of a kind whose content holds the offset; kNone for none.
 [[nodiscard]] std::size_t innermostElement(
     const SurfacePage& page, std::size_t offset, PageElement::Kind kind);

@@ -51,7 +51,6 @@ std::size_t placeInList(std::string_view design, std::size_t place)
 
 ElementPaste insertedAt(std::string_view design, std::size_t offset, std::string_view element)
 {
-    requireAddressableLength(design.size() + element.size());
     ElementPaste paste;
     paste.design.append(design.substr(0, offset)).append(element).append(design.substr(offset));
     paste.end = offset + element.size();
@@ -61,11 +60,21 @@ ElementPaste insertedAt(std::string_view design, std::size_t offset, std::string
 ElementPaste insertedAtValidPosition(
     std::string_view design, std::size_t place, std::string_view element)
 {
-    const auto valid = ValidInsertPosition(static_cast<int>(place), design);
+    const auto valid = ValidInsertPosition(static_cast<int>(place), design, design.size());
     auto paste = insertedAt(
         design, std::min(static_cast<std::size_t>(std::max(valid, 0)), design.size()), element);
     paste.tableTestAt = std::max(static_cast<int>(place), 1);
     return paste;
+}
+
+ElementPaste pasted(
+    std::string_view design, std::size_t place, std::string_view clip, ElementKind kind)
+{
+    if (kind != ElementKind::Option) return insertedAtValidPosition(design, place, clip);
+    const auto inList = placeInList(design, place);
+    if (inList != npos) return insertedAt(design, inList, clip);
+    const auto list = std::string("<!--select-->").append(clip).append("<!--/select--><br/>");
+    return insertedAtValidPosition(design, place, list);
 }
 
 } // namespace
@@ -99,16 +108,12 @@ std::string pictureSource(std::string_view clip)
     return std::string(clip.substr(open + 1, close - open - 1));
 }
 
-ElementPaste pasteElement(
-    std::string_view design, int position, std::string_view clip, ElementKind kind)
+ElementPaste pasteElement(std::string_view design, int position, std::string_view clip,
+    ElementKind kind, std::size_t limit)
 {
-    requireAddressable(design);
-    const auto place = placeOf(design, position);
-    if (kind != ElementKind::Option) return insertedAtValidPosition(design, place, clip);
-    const auto inList = placeInList(design, place);
-    if (inList != npos) return insertedAt(design, inList, clip);
-    const auto list = std::string("<!--select-->").append(clip).append("<!--/select--><br/>");
-    return insertedAtValidPosition(design, place, list);
+    auto paste = pasted(design, placeOf(design, position), clip, kind);
+    requireAddressable(paste.design, limit);
+    return paste;
 }
 
 } // namespace quillmere

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "document/text/limits.h"
+
 #include <cstddef>
 #include <optional>
 #include <string>
@@ -53,8 +55,8 @@ struct ElementPaste {
 /// it, where nothing is broken. A position outside of the text means the place behind the card's
 /// marker. An option goes into the list of the area: ahead of all others, behind the option at the
 /// position, or at the list's end, wherever that position lies; without a list it gets one.
-/// Throws Overflow for a result that is too long.
-[[nodiscard]] ElementPaste pasteElement(
-    std::string_view design, int position, std::string_view clip, ElementKind kind);
+/// Throws Overflow for a result of more than `limit` characters.
+[[nodiscard]] ElementPaste pasteElement(std::string_view design, int position,
+    std::string_view clip, ElementKind kind, std::size_t limit = kMaxTextLength);
 
 } // namespace quillmere

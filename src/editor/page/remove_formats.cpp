@@ -134,11 +134,11 @@ SurfaceEdit removeFormats(const SurfacePage& page, PagePlace from, PagePlace to)
     if (first >= end) return {{}, offsetAt(page, caret)};
     SpliceList changes = FormatRemoval(page, first, end).take();
     SurfaceEdit edit{SpliceList(changes).take()};
-    auto after = readSurfacePage(spliced(page.text, edit.splices));
+    auto after = readSurfacePage(spliced(page.text, edit.splices), page.rules);
     if (!std::ranges::equal(page.items, after.items, areAlike)) {
         guardBorders(changes, page, first, end);
         edit.splices = std::move(changes).take();
-        after = readSurfacePage(spliced(page.text, edit.splices));
+        after = readSurfacePage(spliced(page.text, edit.splices), page.rules);
     }
     edit.caret = offsetAt(after, placeOnPage(after, caret));
     return edit;

@@ -44,7 +44,8 @@ public:
 
     RunDeletion take()
     {
-        RunDeletion result{{}, run_, between_, between_.begin, firstPlaceOfText()};
+        RunDeletion result{{}, run_, goingItemsOutside(page_, run_, going_), between_,
+            between_.begin, firstPlaceOfText()};
         if (joinsParagraphs()) result.pasteAt = result.typeAt = between_.end;
         takeTags();
         takeBetween();
@@ -73,14 +74,16 @@ private:
         return hasItem ? page_.items[run_.firstItem].source.begin : between_.begin;
     }
 
-    /// Makes one paragraph of the first and the last block's. True where it is the last one's,
-    /// since there is nothing left of a first block without paragraph.
+    /// Makes one paragraph of the first and the last block's, unless one of them is no place for
+    /// text. True where text goes into the last one: where it is the paragraph of both, since there
+    /// is nothing left of a first block without paragraph, or where the first is no place for text.
     bool joinsParagraphs()
     {
         const auto first = firstBlock().paragraph;
         const auto last = lastBlock().paragraph;
         if (run_.from.block == run_.to.block || first == last) return false;
         if (first == kNone && run_.from.offset == 0) return true;
+        if (firstBlock().isAside || lastBlock().isAside) return firstBlock().isAside;
         if (first != kNone) fates_[first].end = true;
         if (last != kNone)
             openLastParagraph(last, first != kNone);
@@ -145,8 +148,8 @@ private:
     {
         MarkupScanner tags(std::string_view(page_.text).substr(0, between_.end), between_.begin);
         while (const auto tag = tags.next())
-            if (isComment(tag->name) && !belongsToElement(tag->source)
-                && !goesWithItsNeighbours(tag->source))
+            if (isComment(tag->name) && itemOf(page_, tag->source) == kNone
+                && !belongsToElement(tag->source) && !goesWithItsNeighbours(tag->source))
                 staying_.push_back(tag->source);
     }
 
@@ -162,7 +165,7 @@ private:
         for (std::size_t i = 0; i < going_.size(); ++i) {
             const auto& element = page_.elements[i];
             if (going_[i] && element.kind != Kind::Format && element.kind != Kind::Link
-                && lies(comment, element.whole()))
+                && lies(comment, element.whole()) && !losesItsMarker(page_, run_, element))
                 return true;
         }
         const auto behind = std::ranges::lower_bound(
@@ -190,7 +193,7 @@ RunDeletion deletionOf(const SurfacePage& page, const CoveredRun& run, FirstForm
 {
     if (run.from != run.to) return Deletion(page, run, formats).take();
     const auto place = offsetAt(page, run.from);
-    return {{}, run, {place, place}, place, place};
+    return {{}, run, {}, {place, place}, place, place};
 }
 
 } // namespace quillmere

@@ -4,6 +4,7 @@
 #include "editor/page/splice_list.h"
 
 #include <cstddef>
+#include <vector>
 
 namespace quillmere {
 
@@ -13,6 +14,7 @@ enum class FirstFormats { Go, Stay };
 struct RunDeletion {
     SpliceList splices;
     CoveredRun run; ///< with the options that go with their radio buttons
+    std::vector<std::size_t> itemsOutside; ///< that go as well: other ends of markers
     SourceRange between; ///< what it takes from the text, but for tags that stay
     std::size_t pasteAt = 0; ///< where markup goes in instead
     std::size_t typeAt = 0; ///< where text goes in that takes the place of the run's first item

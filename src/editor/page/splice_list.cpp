@@ -55,10 +55,10 @@ std::string spliced(std::string_view text, const std::vector<Splice>& splices)
     return result.take();
 }
 
-std::string edited(std::string_view text, const SurfaceEdit& edit)
+std::string edited(std::string_view text, const SurfaceEdit& edit, const OutputRules& rules)
 {
     std::string result = spliced(text, edit.splices);
-    requireAddressable(result);
+    requireAddressable(result, rules.maxTextLength());
     return result;
 }
 

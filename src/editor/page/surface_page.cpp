@@ -5,6 +5,7 @@
 
 #include "document/text/windows1252.h"
 #include "editor/page/attribute_values.h"
+#include "editor/page/marker_flow.h"
 #include "editor/page/marker_pairs.h"
 #include "editor/page/page_frame.h"
 #include "editor/page/table_flow.h"
@@ -43,6 +44,7 @@ public:
         , formats_(page)
         , blocks_(page, formats_)
         , tables_(page, outlines_, formats_, blocks_)
+        , markers_(page, tags, formats_, blocks_)
     {
     }
     void read();
@@ -50,7 +52,6 @@ public:
 private:
     void readTag(std::size_t index);
     void readText(std::size_t end);
-    void readComment(const MarkupTag& tag);
     void readFormat(const MarkupTag& tag);
     void readParagraph(const MarkupTag& tag);
     void readObject(std::size_t index);
@@ -63,6 +64,7 @@ private:
     OpenFormats formats_;
     BlockFlow blocks_;
     TableFlow tables_;
+    MarkerFlow markers_;
     std::size_t read_ = 0; // all ahead of it stands on the page
 };
 
@@ -71,7 +73,7 @@ void PageReader::read()
     read_ = page_.content.begin;
     std::size_t index = 0;
     for (; index < tags_.size() && tags_[index].source.end <= read_; ++index)
-        if (isComment(tags_[index].name)) readComment(tags_[index]);
+        if (isComment(tags_[index].name)) markers_.note(index);
     blocks_.enter(kNone, read_);
     for (; index < tags_.size() && tags_[index].source.begin < page_.content.end; ++index) {
         if (tags_[index].source.begin < read_) continue; // it belongs to the item before it
@@ -83,7 +85,7 @@ void PageReader::read()
     blocks_.leave(page_.content.end);
     formats_.leaveCell(page_.content.end);
     for (; index < tags_.size(); ++index)
-        if (isComment(tags_[index].name)) readComment(tags_[index]);
+        if (isComment(tags_[index].name)) markers_.note(index);
 }
 
 void PageReader::readText(std::size_t end)
@@ -95,25 +97,14 @@ void PageReader::readTag(std::size_t index)
 {
     const MarkupTag& tag = tags_[index];
     if (tag.table != kNoTag) return tables_.read(tag, index);
-    if (isComment(tag.name)) {
-        readComment(tag);
-        blocks_.tagPassed();
-    } else if (isFormat(tag.name))
+    if (isComment(tag.name))
+        tables_.isBetweenCells() ? markers_.note(index) : markers_.show(index);
+    else if (isFormat(tag.name))
         readFormat(tag);
     else if (tag.name == TagName::Paragraph)
         readParagraph(tag);
     else
         readObject(index);
-}
-
-void PageReader::readComment(const MarkupTag& tag)
-{
-    if (tag.partner == kNoTag) return;
-    using Kind = PageElement::Kind;
-    const auto kind = tag.name == TagName::Select ? Kind::Select
-        : tag.name == TagName::Option             ? Kind::Option
-                                                  : Kind::Marker;
-    page_.elements.push_back({kind, tag.source, tags_[tag.partner].source});
 }
 
 void PageReader::readFormat(const MarkupTag& tag)
@@ -163,10 +154,11 @@ bool PageReader::isPictureEnd(std::size_t index, std::size_t offset) const
 
 } // namespace
 
-SurfacePage readSurfacePage(std::string text)
+SurfacePage readSurfacePage(std::string text, const OutputRules& rules)
 {
     SurfacePage page;
     page.text = std::move(text);
+    page.rules = rules;
     auto tags = tagsOf(page.text);
     page.items.reserve(mostItems(page.text, tags));
     page.content = contentOf(page.text, tags);

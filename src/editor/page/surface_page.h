@@ -1,5 +1,7 @@
 #pragma once
 
+#include "document/text/output_rules.h"
+
 #include <cstddef>
 #include <cstdint>
 #include <string>
@@ -34,13 +36,20 @@ enum class ItemKind : std::uint8_t {
     LineBreak, ///< <br>, and </br>, which each new table has behind it
     Picture, ///< <img>, with the </img> behind it
     Radio, ///< <input type=radio>
-    Chip, ///< a tag that the surface cannot show, or that does not fit where it stands
+    Chip, ///< a tag that the surface cannot show, or that does not fit where it stands; or an atom
+    Marker, ///< the start of a group of options, the start or the end of a group of fields
 };
+
+/// One that is drawn as a whole, in a way that its source tells.
+[[nodiscard]] constexpr bool isObject(ItemKind kind)
+{
+    return kind >= ItemKind::Picture;
+}
 
 /// One place of the page that the caret can stand ahead of or behind: a character or an object.
 struct PageItem {
     SourceRange source;
-    char16_t shown = 0; ///< U+2028 for a line break, U+FFFC for Picture, Radio and Chip
+    char16_t shown = 0; ///< U+2028 for a line break, U+FFFC for an object
     ItemKind kind = ItemKind::Character;
     std::uint16_t style = 0; ///< index in SurfacePage::styles
 };
@@ -51,7 +60,8 @@ struct TextStyle {
     bool italic = false; ///< i, em
     bool underlined = false; ///< u
     std::int8_t sizeStep = 0; ///< one up for each big, one down for each small, from -2 to 2
-    std::size_t link = kNone; ///< index of the <a> in SurfacePage::elements
+    bool fixedPitch = false; ///< a pre marker
+    std::size_t link = kNone; ///< index of the <a>, or the anchor marker, in SurfacePage::elements
     friend bool operator==(const TextStyle&, const TextStyle&) = default;
 };
 
@@ -65,10 +75,11 @@ struct PageBlock {
     std::size_t endItem = 0;
     SourceRange content; ///< from behind its start tag to ahead of its end tag, tables not included
     Alignment alignment = Alignment::Left;
-    std::size_t paragraph
-        = kNone; ///< index of the <p> in `elements`; a table splits a <p> into blocks
+    /// Index of the <p>, or the pre marker, in `elements`; a table splits a <p> into blocks.
+    std::size_t paragraph = kNone;
     std::size_t cell = kNone; ///< index in `cells`; kNone: outside of tables
     std::uint16_t style = 0; ///< of text that is typed into the block while it is empty
+    bool isAside = false; ///< holds atoms only, outside of paragraphs and tables: no place for text
 };
 
 /// A cell of a table: <td> or <th>. It has at least one block.
@@ -99,7 +110,7 @@ struct PageTable {
 /// place on the page unless they are a table, a picture or a chip.
 struct PageElement {
     enum class Kind : std::uint8_t {
-        Paragraph,
+        Paragraph, ///< p, or a pre marker that is a block of its own
         Format,
         Link,
         Table,
@@ -127,6 +138,7 @@ struct PagePlace {
 /// A design text and what is shown of it.
 struct SurfacePage {
     std::string text;
+    OutputRules rules; ///< those that it was read by
     SourceRange content; ///< what lies between the frame: card marker, do block, HTML, HEAD, BODY
     std::vector<PageItem> items; ///< in the order of the text; those of a block stand together
     std::vector<TextStyle> styles;
@@ -141,11 +153,16 @@ struct SurfacePage {
 /// of elements that fit take no place among the items. A tag that is not known or that fits nowhere
 /// (a stray end, a <td> outside of a table) is a Chip; a '<' without '>' and a '&' that begins no
 /// entity are characters.
+/// Where the rules lose nothing, atoms are Chips as well (but for those between the cells of a
+/// table and in a do block, which show nothing), the text of an anchor looks like a link, pre makes
+/// a block, and groups of options and fields begin with an item of their own. Else all of these are
+/// comments.
 /// White space between blocks and between the parts of a table shows nothing, nor does the layout
 /// of the file: white space with a line end in it, directly at the start or end of a block. All
 /// other white space of a block is seen. So no character that is typed makes other items come or
 /// go.
-[[nodiscard]] SurfacePage readSurfacePage(std::string text);
+[[nodiscard]] SurfacePage readSurfacePage(
+    std::string text, const OutputRules& rules = OutputRules());
 
 /// The value of an attribute of a start tag, quoted by " or ' or not at all, entities as written;
 /// "" where the tag has no such attribute. `name` is lower case; case in the tag does not matter.

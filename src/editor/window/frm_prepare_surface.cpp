@@ -191,8 +191,9 @@ void frmPrepare::insertAsElement(ElementKind kind, const std::string& clip, cons
 {
     const auto area = static_cast<std::size_t>(CurArea());
     const auto text = ReadDesignText(session_.document, area);
-    const auto paste = pasteElement(text, hit.position, clip, kind);
-    if (paste.tableTestAt > 0 && IsInsideTable(text, paste.tableTestAt)) ShowMsg(4);
+    const auto limit = session_.document.output.maxTextLength();
+    const auto paste = pasteElement(text, hit.position, clip, kind, limit);
+    if (paste.tableTestAt > 0 && IsInsideTable(text, paste.tableTestAt, limit)) ShowMsg(4);
     keepUndoState();
     WriteDesignText(session_.document, area, paste.design);
     setDocChanged(true);

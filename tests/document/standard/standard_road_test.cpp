@@ -287,12 +287,12 @@ TEST(StandardRoad, HoldsDecksOfOneMegabyte)
             text += "Wort ";
         return text.append(size - text.size() - tail.size(), 'x') + tail;
     };
-    OpenDeck deck(ofSize(kMaxStandardTextLength - 1));
+    OpenDeck deck(ofSize(kMaxLosslessTextLength - 1));
     deck.replace(0, "Wort", "Worte");
-    EXPECT_EQ(deck.written().size(), kMaxStandardTextLength);
+    EXPECT_EQ(deck.written().size(), kMaxLosslessTextLength);
     deck.replace(0, "Worte", "Worten");
     EXPECT_THROW(WriteDeck(deck.session), Overflow);
-    EXPECT_THROW(OpenDeck(ofSize(kMaxStandardTextLength + 1)), Overflow);
+    EXPECT_THROW(OpenDeck(ofSize(kMaxLosslessTextLength + 1)), Overflow);
 }
 
 } // namespace

@@ -1,0 +1,20 @@
+#pragma once
+
+#include <string>
+#include <string_view>
+
+namespace quillmere {
+
+/// What an atom <!--#NAME SOURCE--> holds.
+struct Atom {
+    std::string_view name; ///< of the element; or "comment", "cdata", "pi"
+    std::string source; ///< as it stands in the deck
+    /// The part of it that attributes are looked for in: its first tag.
+    [[nodiscard]] std::string_view startTag() const;
+};
+
+/// Reads an atom; name and source are empty for any other text. `atom` must outlive the name. Not
+/// more than the first 4000 characters of the source are told.
+[[nodiscard]] Atom readAtom(std::string_view atom);
+
+} // namespace quillmere
