@@ -45,7 +45,10 @@ DeckTexts readTexts(const DocumentSession& session, const DeckLocation& location
 {
     const auto deckPath = location.deckDir + location.deckFile;
     DeckTexts texts;
-    if (location.workFile.empty()) {
+    if (session.output.losesNothing() && !location.workFile.empty()) {
+        texts.wml = session.workFiles.read(location.workDir + location.workFile);
+        texts.opened = texts.wml; // areas are compared with what they were opened from
+    } else if (location.workFile.empty()) {
         texts.opened = readDeckFile(session, deckPath);
         texts.wml = texts.opened;
     } else {
@@ -92,7 +95,7 @@ void startDeck(
     const bool isGiven = !location.workFile.empty();
     first.wmlFile = isGiven ? location.workFile : writeWorkCopy(files, std::move(texts.wml));
     first.wmlDir = isGiven ? location.workDir : files.directory();
-    const bool isKept = hasPristine(session, old);
+    const bool isKept = !session.output.losesNothing() && hasPristine(session, old);
     first.pristineFile
         = isKept ? old.front().pristineFile : writeWorkCopy(files, std::move(texts.opened));
     first.pristineDir = isKept ? old.front().pristineDir : files.directory();
@@ -182,7 +185,7 @@ void openCard(DocumentSession& session, const Frame& frame, std::uint32_t card)
     auto& origin = session.deck[index].origin;
     const auto opened = origin.deck->open(card, picturesOf(session, index));
     std::string body = opened.text.substr(opened.contentBegin);
-    InsertTemporaeryRadioButtons(body, maxDesignLength(session));
+    insertRadioButtons(body, maxDesignLength(session));
     const auto marker = std::string_view(opened.text).substr(0, opened.contentBegin);
     const auto& area = session.deck[index];
     session.workFiles.write(
