@@ -130,7 +130,8 @@ private:
         bool inSubset = false;
         for (auto at = in_.at; at < in_.text.size(); ++at) {
             const char character = in_.text[at];
-            if (character == '"' || character == '\'') at = in_.text.find(character, at + 1);
+            const bool isQuote = character == '"' || character == '\'';
+            if (isQuote && inSubset) at = in_.text.find(character, at + 1); // '>' may stand in it
             if (at == kNowhere) return kNowhere;
             if (character == '[' || character == ']') inSubset = character == '[';
             if (character == '>' && !inSubset) return at;

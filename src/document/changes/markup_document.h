@@ -31,7 +31,7 @@ enum class MarkupFault {
     BadDeclaration, ///< of the XML version
     BadDoctype,
     BadCharacter, ///< a control character
-    CharacterBeyondEncoding, ///< 8-bit text where none is declared
+    CharacterBeyondEncoding, ///< 8-bit text where none is declared, and no UTF-8 either
     BadReference,
     UnknownEntity,
     SectionEndInText,

@@ -3,7 +3,6 @@
 #include "document/changes/markup_cursor.h"
 
 #include <cstddef>
-#include <optional>
 #include <string_view>
 #include <vector>
 
@@ -22,12 +21,10 @@ private:
     std::string_view takeValue(const MarkupAttribute& attribute);
     std::string_view takeBare(const MarkupAttribute& attribute);
     std::string_view takeQuoted(char quote, const MarkupAttribute& attribute);
-    bool hasLater(char quote, std::size_t offset);
+    [[nodiscard]] std::size_t quoteInTag(char quote, std::size_t from) const;
     void checkAttributes(const MarkupToken& token);
 
     MarkupCursor& in_;
-    std::optional<std::size_t> lastDouble_; // last quote of the text, once it was looked for
-    std::optional<std::size_t> lastSingle_;
     std::vector<std::string_view> names_;
 };
 

@@ -192,12 +192,12 @@ bool declaresSingleBytes(const MarkupDocument& document)
 std::optional<MarkupFaultAt> characterFault(std::string_view text, const MarkupDocument& document)
 {
     if (isPlainText(text)) return std::nullopt;
-    const bool singleBytes = declaresSingleBytes(document);
+    const bool isReadable = declaresSingleBytes(document) || validUtf8(text) == text;
     for (std::size_t at = 0; at < text.size(); ++at) {
         const auto code = static_cast<unsigned char>(text[at]);
         if (code < 0x20 && !isMarkupSpace(text[at]))
             return MarkupFaultAt{MarkupFault::BadCharacter, at, {}};
-        if (code >= 0x80 && !singleBytes)
+        if (code >= 0x80 && !isReadable)
             return MarkupFaultAt{MarkupFault::CharacterBeyondEncoding, at, {}};
     }
     return std::nullopt;

@@ -43,7 +43,7 @@ public:
         for (std::uint32_t i = 0; i < tree_.tokens.size(); ++i) {
             WmlToken& token = tree_.tokens[i];
             follow(token);
-            if (isXmlDeclaration(token) || isDoctype(token)) continue;
+            if (isXmlDeclaration(token) || isDoctype(token) || token.mended != kNotMended) continue;
             if (auto mended = mender.mend(token)) take(i, std::move(*mended));
             if (token.kind == Kind::Declaration) token.kind = Kind::Comment;
         }

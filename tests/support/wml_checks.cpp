@@ -1,0 +1,80 @@
+#include "support/wml_checks.h"
+
+#include "document/changes/character_references.h"
+#include "document/changes/deck_changes.h"
+#include "document/changes/deck_changes_report.h"
+#include "document/changes/markup_document.h"
+#include "document/text/text_search.h"
+#include "document/wml/deck_bytes.h"
+#include "document/wml/repaired_file.h"
+
+namespace quillmere::test {
+
+namespace {
+
+/// What a reader sees of a deck, without white space and control characters.
+std::string lettersOf(std::string_view deck)
+{
+    std::string letters;
+    for (const auto& token : readMarkup(deck).tokens) {
+        const bool isText = token.kind == MarkupToken::Kind::Text;
+        if (!isText && token.kind != MarkupToken::Kind::Section) continue;
+        std::string text(token.content);
+        std::erase(text, kKeptReference); // there it is just a control character
+        for (const char letter : isText ? decodeReferences(text) : text) {
+            if (letter == kKeptReference) letters += '&';
+            if (static_cast<unsigned char>(letter) > ' ') letters += letter;
+        }
+    }
+    return letters;
+}
+
+/// The end of `letters` from the first one on that `all` has not in the same order.
+std::string lostOf(const std::string& letters, const std::string& all)
+{
+    std::size_t at = 0;
+    for (const char letter : all)
+        if (at < letters.size() && letters[at] == letter) ++at;
+    return letters.substr(at);
+}
+
+/// "" for a well-formed deck. Which letters beyond ASCII a name may have the judge does not know.
+std::string faultOf(std::string deck)
+{
+    const auto fault = deckFault(deck);
+    if (!fault || fault->fault == MarkupFault::CharacterBeyondEncoding)
+        return fault ? describeFault(*fault) : "";
+    for (char& byte : deck)
+        if (static_cast<unsigned char>(byte) >= 0x80) byte = 'x';
+    return deckFault(deck) ? describeFault(*fault) : "";
+}
+
+/// Whether both readers see the same prolog: of declarations in it the judge knows little.
+bool isPlainlyRead(std::string_view text)
+{
+    const auto declaration = text.find("<!");
+    const auto root = text.find("<wml");
+    const auto prolog = text.substr(0, root);
+    return (declaration == npos || declaration < root) && prolog.find('[') == npos;
+}
+
+} // namespace
+
+std::string brokenPromise(const std::string& bytes)
+{
+    const DeckBytes deck(bytes);
+    if (deck.file() != bytes) return "read and written without a mend it is another file";
+    const auto repaired = repairFile(bytes);
+    const DeckBytes mended(repaired.bytes);
+    if (repaired.mends.empty() && repaired.bytes != bytes) return "another file without mends";
+    if (const auto fault = faultOf(std::string(mended.text())); !fault.empty()) return fault;
+    if (isPlainlyRead(deck.text())) {
+        const auto lost = lostOf(lettersOf(deck.text()), lettersOf(mended.text()));
+        if (!lost.empty()) return "lost: " + lost;
+    }
+    const auto again = repairFile(repaired.bytes);
+    if (again.bytes != repaired.bytes) return "a second repair makes of it:\n" + again.bytes;
+    return again.mends.empty() ? "" : "mends are told where nothing is mended";
+}
+
+} // namespace quillmere::test
