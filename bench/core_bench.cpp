@@ -175,8 +175,8 @@ struct DeckOperation {
 
 constexpr DeckOperation kDeckOperations[]
     = {{"LoadDeck", measureLoad}, {"WriteDeck", measureWrite}, {"DeckChanges", measureChanges}};
-constexpr DeckOperation kStandardOperations[] = {
-    {"StandardLoadDeck", measureStandardLoad}, {"StandardWriteDeck", measureStandardWrite}};
+constexpr DeckOperation kStandardOperations[]
+    = {{"StandardLoadDeck", measureStandardLoad}, {"StandardWriteDeck", measureStandardWrite}};
 
 std::string benchmarkName(const char* operation, const Shape& shape, std::size_t size)
 {

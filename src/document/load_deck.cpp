@@ -139,8 +139,8 @@ Frame frameOf(DocumentSession& session)
 }
 
 /// The design work file of a card: marker, do block, and the body in one line within the frame.
-std::string designFileOf(std::string_view marker, std::string_view doBlock, const Frame& frame,
-    std::string_view body)
+std::string designFileOf(
+    std::string_view marker, std::string_view doBlock, const Frame& frame, std::string_view body)
 {
     std::string file;
     file.reserve(marker.size() + doBlock.size() + frame.head.size() + body.size()
@@ -194,8 +194,8 @@ void openCard(DocumentSession& session, const Frame& frame, std::uint32_t card)
     origin.card = std::make_shared<const OpenedCard>(opened);
 }
 
-void openCards(DocumentSession& session, const Frame& frame,
-    const std::shared_ptr<const StandardDeck>& deck)
+void openCards(
+    DocumentSession& session, const Frame& frame, const std::shared_ptr<const StandardDeck>& deck)
 {
     session.deck.front().origin.deck = deck;
     for (std::uint32_t card = 0; card < deck->cardCount(); ++card) {
@@ -209,9 +209,8 @@ void openCards(DocumentSession& session, const Frame& frame,
 void LoadDeck(DocumentSession& session, const DeckLocation& location, std::int16_t surfaceKind)
 {
     auto texts = readTexts(session, location, !hasPristine(session, session.deck));
-    const auto standard = session.output.losesNothing()
-        ? std::make_shared<const StandardDeck>(texts.wml)
-        : nullptr;
+    const auto standard
+        = session.output.losesNothing() ? std::make_shared<const StandardDeck>(texts.wml) : nullptr;
     CardSplitter cards(joinLines(standard ? std::string_view{} : texts.wml));
     DeckReplacement replacement(session);
     if (!location.workFile.empty()) replacement.keep(location.workDir + location.workFile);

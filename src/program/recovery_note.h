@@ -1,9 +1,9 @@
 #pragma once
 
 #include "document/deck.h"
-#include "document/standard_recovery.h"
 #include "document/platform/deck_file_watch.h"
 #include "document/platform/work_files.h"
+#include "document/standard_recovery.h"
 
 #include <cstdint>
 #include <optional>
