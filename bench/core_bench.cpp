@@ -6,6 +6,7 @@
 #include "cli/core_session.h"
 #include "document/changes/deck_changes.h"
 #include "document/deck_store.h"
+#include "document/design_text.h"
 #include "document/design_to_wml.h"
 #include "document/format_around_select.h"
 #include "document/repair/clean_design_html.h"
@@ -21,12 +22,14 @@
 #include <benchmark/benchmark.h>
 
 #include <functional>
+#include <span>
 
 namespace quillmere::bench {
 
 namespace {
 
 constexpr std::size_t kSizes[] = {2000, 4000, 8000, 16000, 30000};
+constexpr std::size_t kStandardSizes[] = {30000, 125000, 250000, 500000, 1000000};
 
 using Step = std::function<void(std::string&, DocumentSession&)>;
 
@@ -143,6 +146,27 @@ void measureChanges(benchmark::State& state, const std::string& deck)
     measure(state, deck.size(), [&] { benchmark::DoNotOptimize(DeckChanges(deck, written)); });
 }
 
+void measureStandardLoad(benchmark::State& state, const std::string& deck)
+{
+    measure(state, deck.size(), [&] {
+        cli::CoreSession core(true);
+        load(core, deck);
+    });
+}
+
+/// Writes with a word more in the first area and one less in the last one.
+void measureStandardWrite(benchmark::State& state, const std::string& deck)
+{
+    cli::CoreSession core(true);
+    load(core, deck);
+    auto first = ReadDesignText(core.session, 0);
+    WriteDesignText(core.session, 0, first.insert(first.rfind("</BODY>"), "<p>Neu</p>"));
+    const auto area = areaCount(core.session.deck) - 1;
+    auto last = ReadDesignText(core.session, area);
+    WriteDesignText(core.session, area, last.erase(last.rfind(' '), 1));
+    measure(state, deck.size(), [&] { WriteDeck(core.session); });
+}
+
 using DeckMeasure = void (*)(benchmark::State&, const std::string&);
 
 struct DeckOperation {
@@ -152,11 +176,22 @@ struct DeckOperation {
 
 constexpr DeckOperation kDeckOperations[]
     = {{"LoadDeck", measureLoad}, {"WriteDeck", measureWrite}, {"DeckChanges", measureChanges}};
+constexpr DeckOperation kStandardOperations[]
+    = {{"StandardLoadDeck", measureStandardLoad}, {"StandardWriteDeck", measureStandardWrite}};
 
 std::string benchmarkName(const char* operation, const Shape& shape, std::size_t size)
 {
     std::string name = operation;
     return name.append("/").append(shape.name).append("/").append(std::to_string(size));
+}
+
+void registerDecks(std::span<const DeckOperation> operations, const Shape& shape, std::size_t size)
+{
+    for (const auto& operation : operations) {
+        benchmark::RegisterBenchmark(benchmarkName(operation.name, shape, size).c_str(),
+            [&operation, &shape, size](
+                benchmark::State& state) { operation.measure(state, deckOf(shape, size)); });
+    }
 }
 
 void registerAll(const Shape& shape, std::size_t size)
@@ -168,11 +203,7 @@ void registerAll(const Shape& shape, std::size_t size)
                 measureText(state, operation, inputOf(shape, operation.stage, size));
             });
     }
-    for (const auto& operation : kDeckOperations) {
-        benchmark::RegisterBenchmark(benchmarkName(operation.name, shape, size).c_str(),
-            [&operation, &shape, size](
-                benchmark::State& state) { operation.measure(state, deckOf(shape, size)); });
-    }
+    registerDecks(kDeckOperations, shape, size);
 }
 
 } // namespace
@@ -184,6 +215,8 @@ int main(int argc, char** argv)
     for (const auto& shape : quillmere::bench::shapes()) {
         for (const auto size : quillmere::bench::kSizes)
             quillmere::bench::registerAll(shape, size);
+        for (const auto size : quillmere::bench::kStandardSizes)
+            quillmere::bench::registerDecks(quillmere::bench::kStandardOperations, shape, size);
     }
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;

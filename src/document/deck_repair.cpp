@@ -1,4 +1,5 @@
-// Where nothing is lost a repair is the mending of the file. Else the text stands as the pristine copy and as the generated deck, so that no deck file is needed.
+// Where nothing is lost a repair is the mending of the file. Else the text stands as the pristine
+// copy and as the generated deck, so that no deck file is needed.
 
 #include "document/deck_repair.h"
 

@@ -45,7 +45,10 @@ DeckTexts readTexts(const DocumentSession& session, const DeckLocation& location
 {
     const auto deckPath = location.deckDir + location.deckFile;
     DeckTexts texts;
-    if (location.workFile.empty()) {
+    if (session.output.losesNothing() && !location.workFile.empty()) {
+        texts.wml = session.workFiles.read(location.workDir + location.workFile);
+        texts.opened = texts.wml; // areas are compared with what they were opened from
+    } else if (location.workFile.empty()) {
         texts.opened = readDeckFile(session, deckPath);
         texts.wml = texts.opened;
     } else {
@@ -92,7 +95,7 @@ void startDeck(
     const bool isGiven = !location.workFile.empty();
     first.wmlFile = isGiven ? location.workFile : writeWorkCopy(files, std::move(texts.wml));
     first.wmlDir = isGiven ? location.workDir : files.directory();
-    const bool isKept = hasPristine(session, old);
+    const bool isKept = !session.output.losesNothing() && hasPristine(session, old);
     first.pristineFile
         = isKept ? old.front().pristineFile : writeWorkCopy(files, std::move(texts.opened));
     first.pristineDir = isKept ? old.front().pristineDir : files.directory();
@@ -131,8 +134,8 @@ Frame frameOf(DocumentSession& session)
 }
 
 /// The design work file of a card: marker, do block, and the body in one line within the frame.
-std::string designFileOf(std::string_view marker, std::string_view doBlock, const Frame& frame,
-    std::string_view body)
+std::string designFileOf(
+    std::string_view marker, std::string_view doBlock, const Frame& frame, std::string_view body)
 {
     std::string file;
     file.reserve(marker.size() + doBlock.size() + frame.head.size() + body.size()
@@ -177,7 +180,7 @@ void openCard(DocumentSession& session, const Frame& frame, std::uint32_t card)
     auto& origin = session.deck[index].origin;
     const auto opened = origin.deck->open(card, picturesOf(session, index));
     std::string body = opened.text.substr(opened.contentBegin);
-    InsertTemporaeryRadioButtons(body, maxDesignLength(session));
+    insertRadioButtons(body, maxDesignLength(session));
     const auto marker = std::string_view(opened.text).substr(0, opened.contentBegin);
     const auto& area = session.deck[index];
     session.workFiles.write(
@@ -186,8 +189,8 @@ void openCard(DocumentSession& session, const Frame& frame, std::uint32_t card)
     origin.card = std::make_shared<const OpenedCard>(opened);
 }
 
-void openCards(DocumentSession& session, const Frame& frame,
-    const std::shared_ptr<const StandardDeck>& deck)
+void openCards(
+    DocumentSession& session, const Frame& frame, const std::shared_ptr<const StandardDeck>& deck)
 {
     session.deck.front().origin.deck = deck;
     for (std::uint32_t card = 0; card < deck->cardCount(); ++card) {
@@ -201,9 +204,8 @@ void openCards(DocumentSession& session, const Frame& frame,
 void LoadDeck(DocumentSession& session, const DeckLocation& location, std::int16_t surfaceKind)
 {
     auto texts = readTexts(session, location, !hasPristine(session, session.deck));
-    const auto standard = session.output.losesNothing()
-        ? std::make_shared<const StandardDeck>(texts.wml)
-        : nullptr;
+    const auto standard
+        = session.output.losesNothing() ? std::make_shared<const StandardDeck>(texts.wml) : nullptr;
     CardSplitter cards(joinLines(standard ? std::string_view{} : texts.wml));
     DeckReplacement replacement(session);
     if (!location.workFile.empty()) replacement.keep(location.workDir + location.workFile);

@@ -21,8 +21,7 @@ void takeLayout(ImageEntry& entry, const DeckPicture& picture)
     entry.hasLayout = picture.heightPx || picture.widthPx;
 }
 
-std::string showPicture(
-    DocumentSession& session, std::size_t areaIndex, const DeckPicture& picture)
+std::string showPicture(DocumentSession& session, std::size_t areaIndex, const DeckPicture& picture)
 {
     auto& area = session.deck[areaIndex];
     const auto path = area.deckDir + std::string(trimBlanks(picture.source));
@@ -38,9 +37,8 @@ std::string showPicture(
 
 PictureRoads picturesOf(DocumentSession& session, std::size_t areaIndex)
 {
-    return {[&session, areaIndex](const DeckPicture& picture) {
-                return showPicture(session, areaIndex, picture);
-            },
+    return {[&session, areaIndex](
+                const DeckPicture& picture) { return showPicture(session, areaIndex, picture); },
         nullptr};
 }
 

@@ -107,6 +107,16 @@ Deck deckOf(const RecoveryNote& note)
     return deck;
 }
 
+void tieToCards(DocumentSession& session, const RecoveryNote& note)
+{
+    std::vector<std::uint32_t> cards;
+    for (const auto& area : note.areas)
+        cards.push_back(area.card);
+    std::optional<std::string> opened;
+    if (!note.opened.name.empty()) opened = readFile(note.opened.path(), kMaxNoteBytes);
+    reopenCards(session, opened, cards);
+}
+
 std::string wmlOfAreas(
     const DocumentSession& like, const RecoveryNote& note, std::vector<std::string> texts)
 {
@@ -116,6 +126,7 @@ std::string wmlOfAreas(
     for (std::size_t i = 0; i < texts.size(); ++i)
         files.write(note.areas[i].design.path(), std::move(texts[i]));
     session.deck = deckOf(note);
+    if (note.losesNothing) tieToCards(session, note);
     WriteDeck(session);
     return files.read(session.deck.front().wmlFile);
 }

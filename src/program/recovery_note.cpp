@@ -156,11 +156,16 @@ void readLine(LineReader line, RecoveryNote& note)
     if (line.kind() == "deck") line.read(note.deck);
     if (line.kind() == "wml") line.read(note.wml);
     if (line.kind() == "source") line.read(note.source);
+    if (line.kind() == "opened") {
+        line.read(note.losesNothing);
+        line.read(note.opened);
+    }
     if (line.kind() == "seen") note.seen = readSeen(line);
     if (line.kind() == "area") {
         auto& area = note.areas.emplace_back();
         line.read(area.design);
         line.read(area.content);
+        line.read(area.card);
     }
     if (line.kind() == "image" && !note.areas.empty())
         note.areas.back().images.push_back(readImage(line));
@@ -168,7 +173,7 @@ void readLine(LineReader line, RecoveryNote& note)
 
 NotedArea areaOf(const DeckRecord& record, const WorkFiles& files, bool isChanged)
 {
-    NotedArea area{{record.designDir, record.designFile}, 0, {}};
+    NotedArea area{{record.designDir, record.designFile}, 0, cardOf(record), {}};
     if (!isChanged) area.content = contentHash(files.read(area.design.path()));
     // The last entry is a spare one.
     if (!record.images.empty()) area.images.assign(record.images.begin(), record.images.end() - 1);
@@ -185,6 +190,8 @@ RecoveryNote noteOf(const Deck& deck, const WorkFiles& files, bool isChanged)
     const auto& first = deck.front();
     note.deck = {first.deckDir, first.deckFile};
     note.wml = {first.wmlDir, first.wmlFile};
+    note.losesNothing = first.origin.deck != nullptr;
+    if (note.losesNothing) note.opened = {first.pristineDir, first.pristineFile};
     for (const auto& record : std::span(deck).first(areaCount(deck)))
         note.areas.push_back(areaOf(record, files, isChanged));
     return note;
@@ -199,9 +206,10 @@ std::string textOfNote(const RecoveryNote& note)
     LineWriter(text, "deck").add(note.deck).end();
     LineWriter(text, "wml").add(note.wml).end();
     LineWriter(text, "source").add(note.source).end();
+    LineWriter(text, "opened").add(note.losesNothing ? 1 : 0).add(note.opened).end();
     if (note.seen) writeSeen(text, *note.seen);
     for (const auto& area : note.areas) {
-        LineWriter(text, "area").add(area.design).add(area.content).end();
+        LineWriter(text, "area").add(area.design).add(area.content).add(area.card).end();
         for (const auto& image : area.images)
             writeImage(text, image);
     }

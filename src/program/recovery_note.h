@@ -3,6 +3,7 @@
 #include "document/deck.h"
 #include "document/platform/deck_file_watch.h"
 #include "document/platform/work_files.h"
+#include "document/standard_recovery.h"
 
 #include <cstdint>
 #include <optional>
@@ -28,6 +29,7 @@ struct NotedArea {
     NotedFile design;
     /// contentHash() of the file; 0 in a note of a changed deck, where nobody asks for it.
     std::uint64_t content = 0;
+    std::uint32_t card = kNoCard; ///< that it was opened from, in a deck without loss
     std::vector<ImageEntry> images;
 };
 
@@ -36,6 +38,8 @@ struct RecoveryNote {
     NotedFile wml; ///< the deck as generated last
     std::int64_t time = 0; ///< seconds since 1970
     bool isChanged = false; ///< the deck differs from its file
+    bool losesNothing = false; ///< the areas are those of a deck without loss
+    NotedFile opened; ///< such a deck as it was opened; no name: one that was begun anew
     std::optional<SeenDeckFile> seen; ///< the person's file as the run read or wrote it
     NotedFile source; ///< the text of the source view, where that is not in the areas yet
     std::vector<NotedArea> areas; ///< in their order

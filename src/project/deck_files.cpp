@@ -12,6 +12,7 @@
 #include "document/platform/word_ids.h"
 #include "document/text/failure.h"
 #include "document/text/windows1252.h"
+#include "document/wml/deck_bytes.h"
 #include "forms/text.h"
 #include "project/deck_dialogs.h"
 #include "project/deck_names.h"
@@ -86,11 +87,13 @@ void requireOrdinaryFile(const std::string& path)
           "geändert.");
 }
 
-// A picture or a program, or text in 16 bits a character.
+// A picture or a program, or, but where nothing is lost, text in 16 bits a character.
 void requireText(const DocumentSession& session, const std::string& path)
 {
     const auto& first = session.deck.front();
-    const auto text = session.workFiles.read(first.pristineDir + first.pristineFile);
+    const auto bytes = session.workFiles.read(first.pristineDir + first.pristineFile);
+    const std::string text(
+        losesNothing(session) ? DeckBytes(bytes).text() : std::string_view(bytes));
     if (text.find('\0') == std::string::npos) return;
     throw FileFailure("Die Datei " + quoted(path)
         + " kann nicht geöffnet werden: sie enthält keinen WML-Text, den Quillmere lesen kann. Es "
@@ -105,11 +108,12 @@ RuntimeFailure named(const RuntimeFailure& failure, const std::string& path)
     return RuntimeFailure{text};
 }
 
-RuntimeFailure tooLong(const std::string& path)
+RuntimeFailure tooLong(const DocumentSession& session, const std::string& path)
 {
     const auto text = "Das Dokument in der Datei " + quoted(path)
-        + " ist zu lang (Überlauf): ein Dokument kann höchstens 32767 Zeichen haben. Es wurde "
-          "nichts geändert.";
+        + " ist zu lang (Überlauf): ein Dokument kann höchstens "
+        + std::to_string(session.output.maxTextLength())
+        + " Zeichen haben. Es wurde nichts geändert.";
     return RuntimeFailure{text};
 }
 
@@ -122,7 +126,7 @@ void load(Session& session, const DeckPlace& place)
         // The old deck is out of sight, so that its pristine copy is not taken over.
         LoadDeck(session.document, {place.name, place.directory, {}, {}}, kind);
     } catch (const Overflow&) {
-        throw tooLong(place.path());
+        throw tooLong(session.document, place.path());
     } catch (const RuntimeFailure& failure) {
         throw named(failure, place.path());
     }

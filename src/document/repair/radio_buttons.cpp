@@ -109,7 +109,12 @@ std::string withoutInputs(std::string text)
 
 } // namespace
 
-void InsertTemporaeryRadioButtons(std::string& text, std::size_t limit)
+void InsertTemporaeryRadioButtons(std::string& text)
+{
+    insertRadioButtons(text, kMaxTextLength);
+}
+
+void insertRadioButtons(std::string& text, std::size_t limit)
 {
     requireAddressable(text, limit);
     const std::string_view source = text;

@@ -1,7 +1,5 @@
 #pragma once
 
-#include "document/text/limits.h"
-
 #include <cstddef>
 #include <string>
 
@@ -12,8 +10,10 @@ namespace quillmere {
 
 /// Puts a radio button behind each option marker, in place, numbered through the whole text:
 /// `<input type=radio name="TempName1">`, with an `onclick` that tells the option's target.
-/// Throws Overflow beyond `limit`.
-void InsertTemporaeryRadioButtons(std::string& text, std::size_t limit = kMaxTextLength);
+/// Throws Overflow.
+void InsertTemporaeryRadioButtons(std::string& text);
+/// The same with another limit of the text's length.
+void insertRadioButtons(std::string& text, std::size_t limit);
 
 /// Takes the radio buttons out of all options that have an end, in place.
 void DeleteAllTemporaeryRadioButtons(std::string& text);

@@ -91,7 +91,8 @@ void CardWriter::writeKept(std::size_t now)
 {
     const std::size_t then = card_.places[now];
     const auto& tokens = card_.tokens[then];
-    const bool isEndOfEmpty = card_.then[then].kind == Kind::End && tokens.main == tokens.behindMain;
+    const bool isEndOfEmpty
+        = card_.then[then].kind == Kind::End && tokens.main == tokens.behindMain;
     if (isEmptyElement(then) && !endFollows(now, then)) {
         result_.copy(tokens.first, tokens.main);
         result_.put(openedTag(deck_.tokens.tokens[tokens.main].source));
@@ -115,9 +116,9 @@ void CardWriter::writeChanged(std::size_t now)
         result_.put(deck_.bytes.encoded(quillmere::sourceOf(piece)));
     } else {
         const auto& tag = deck_.tokens.tokens[tokens.main];
-        auto source = changedTag(tag.source, piece.element,
-            deckAttributes(card_.then[then], deck_.roads), deckAttributes(piece, deck_.roads),
-            deck_.bytes, deck_.manner);
+        auto source
+            = changedTag(tag.source, piece.element, deckAttributes(card_.then[then], deck_.roads),
+                deckAttributes(piece, deck_.roads), deck_.bytes, deck_.manner);
         const bool isOpened = isEmptyElement(then) && !endFollows(now, then);
         result_.put(isOpened ? openedTag(source) : std::move(source));
         result_.copy(tokens.main + 1, tokens.behindMain);
@@ -180,7 +181,8 @@ void CardWriter::writeNew(std::size_t now)
     const auto& piece = card_.now[now];
     if (piece.kind == Kind::Space) return writeBlanks(now);
     if (const auto same = sourceOfSame(piece); !same.empty()) return result_.addNew(same);
-    if (piece.kind == Kind::Atom) return result_.addNew(deck_.bytes.encoded(quillmere::sourceOf(piece)));
+    if (piece.kind == Kind::Atom)
+        return result_.addNew(deck_.bytes.encoded(quillmere::sourceOf(piece)));
     if (piece.kind != Kind::Word) return writeNewTag(piece);
     const auto text = writtenText(shownText(piece.text), deck_.manner.knowsHardBlank);
     result_.addNew(deck_.bytes.encoded(text));
@@ -192,8 +194,8 @@ void CardWriter::writeNewTag(const DesignPiece& piece)
     const std::string name(piece.element == WmlElement::Other ? piece.name : known);
     if (piece.kind == Kind::End) return result_.addNew("</" + name + ">");
     const auto attributes = deckAttributes(piece, deck_.roads);
-    result_.addNew(newTag(name, piece.element, attributes, piece.kind == Kind::Single, deck_.bytes,
-        deck_.manner));
+    result_.addNew(newTag(
+        name, piece.element, attributes, piece.kind == Kind::Single, deck_.bytes, deck_.manner));
 }
 
 } // namespace

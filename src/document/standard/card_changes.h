@@ -23,7 +23,7 @@ struct DeckOfCards {
 /// `opened` is null for a new area. What was not touched is written with the tokens that it had;
 /// changed tags keep what was not changed in them; the rest is new. Ends may be missing and
 /// elements misplaced: the tokens are to be read as any deck is.
-bool writeCard(
-    const DeckOfCards& deck, const OpenedCard* opened, std::string_view design, TokenWriter& result);
+bool writeCard(const DeckOfCards& deck, const OpenedCard* opened, std::string_view design,
+    TokenWriter& result);
 
 } // namespace quillmere

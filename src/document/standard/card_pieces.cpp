@@ -55,9 +55,9 @@ void readThen(CardPieces& card, const OpenedCard& opened)
     const auto* const end = made + opened.pieces.size() - 1; // the card's end
     for (std::size_t i = 0; i < card.then.size(); ++i) {
         const bool isLast = i + 1 == card.then.size();
-        const auto limit = isLast ? opened.text.size()
-                                  : static_cast<std::size_t>(
-                                      card.then[i + 1].text.data() - opened.text.data());
+        const auto limit = isLast
+            ? opened.text.size()
+            : static_cast<std::size_t>(card.then[i + 1].text.data() - opened.text.data());
         const auto before = i == 0 ? 0 : card.tokens[i - 1].behind;
         card.tokens[i] = {before, before, before, before}; // for one that nothing was made from
         for (bool isFirst = true; made < end && made->begin < limit; ++made, isFirst = false) {
@@ -203,8 +203,7 @@ CardPieces compareCard(const OpenedCard* opened, std::string_view design)
 
 bool isUnchanged(const CardPieces& pieces)
 {
-    return std::ranges::equal(
-        pieces.then, pieces.now, {}, &DesignPiece::text, &DesignPiece::text)
+    return std::ranges::equal(pieces.then, pieces.now, {}, &DesignPiece::text, &DesignPiece::text)
         || std::ranges::equal(pieces.then, pieces.now, {}, &DesignPiece::key, &DesignPiece::key);
 }
 

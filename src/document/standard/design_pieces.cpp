@@ -46,7 +46,8 @@ std::uint64_t keyOf(const DesignPiece& piece)
 {
     if (piece.kind == Kind::Word || piece.kind == Kind::Space || piece.kind == Kind::Atom)
         return contentHash(piece.text);
-    std::uint64_t key = contentHash(lowerCase(piece.name)) * (static_cast<unsigned>(piece.kind) + 3);
+    std::uint64_t key
+        = contentHash(lowerCase(piece.name)) * (static_cast<unsigned>(piece.kind) + 3);
     if (piece.kind == Kind::End) return key;
     if (piece.text.find('=') == npos) return key;
     for (const auto& attribute : attributesOf(piece)) // in any order
@@ -190,8 +191,8 @@ void Reader::readElement(std::string_view written)
     const auto name = written.substr(isEnd ? 2 : 1);
     const auto word = name.substr(0, name.find_first_of(" \t\r\n/>"));
     const auto& rule = ruleOf(wmlElement(word));
-    const bool isButton = rule.element == WmlElement::Input
-        && findIgnoringCase(written, kRadioButton) != npos;
+    const bool isButton
+        = rule.element == WmlElement::Input && findIgnoringCase(written, kRadioButton) != npos;
     if (isButton || (isEnd && rule.isEmpty)) {
         position_ += written.size();
     } else if (rule.element == WmlElement::Image) {

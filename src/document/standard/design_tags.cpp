@@ -37,8 +37,7 @@ constexpr std::string_view kStyle = "style";
 
 std::size_t rankOf(WmlElement element, std::string_view name)
 {
-    const auto* const row
-        = std::ranges::find(kFirstAttributes, element, &FirstAttributes::element);
+    const auto* const row = std::ranges::find(kFirstAttributes, element, &FirstAttributes::element);
     if (row == kFirstAttributes.end()) return 0;
     return static_cast<std::size_t>(std::ranges::find(row->names, name) - row->names.begin());
 }
@@ -54,17 +53,21 @@ Attributes shownAttributes(const WmlToken& tag, const DeckBytes& deck)
 {
     Attributes attributes;
     for (const auto& attribute : attributesOf(tag.source))
-        attributes.push_back({deck.decoded(attribute.name), shownValue(deck.decoded(attribute.value))});
-    std::ranges::stable_sort(attributes, {}, [&](const DeckAttribute& attribute) {
-        return rankOf(tag.element, attribute.name);
-    });
+        attributes.push_back(
+            {deck.decoded(attribute.name), shownValue(deck.decoded(attribute.value))});
+    std::ranges::stable_sort(attributes, {},
+        [&](const DeckAttribute& attribute) { return rankOf(tag.element, attribute.name); });
     return attributes;
 }
 
 void appendAttributes(std::string& result, const Attributes& attributes)
 {
     for (const auto& attribute : attributes)
-        result.append(" ").append(attribute.name).append("=\"").append(attribute.value).append("\"");
+        result.append(" ")
+            .append(attribute.name)
+            .append("=\"")
+            .append(attribute.value)
+            .append("\"");
 }
 
 std::optional<std::int32_t> pixels(std::string_view value)

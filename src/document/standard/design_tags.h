@@ -36,8 +36,7 @@ enum class DesignForm : std::uint8_t { Tag, SingleTag, Marker, SingleMarker };
 
 /// A start or empty tag of the deck in a form: all its attributes in double quotes, those that
 /// dialogs look for first; a card has an id, be it "", and a table a border.
-[[nodiscard]] std::string designTag(
-    const WmlToken& tag, DesignForm form, const DeckBytes& deck);
+[[nodiscard]] std::string designTag(const WmlToken& tag, DesignForm form, const DeckBytes& deck);
 
 /// A picture with its display copy in place of its name and its size as a style. One that has no
 /// display copy is a tag as any other.

@@ -75,7 +75,7 @@ std::string_view NewLayout::lineOf(std::uint32_t node) const
     const auto text = tree_.textOf(tree_.nodes[node].start);
     const bool isSpace = text.find_first_not_of(" \t\r\n") == std::string_view::npos;
     return isSpace && text.find_first_of("\r\n") != std::string_view::npos ? text
-                                                                          : std::string_view{};
+                                                                           : std::string_view{};
 }
 
 /// The first white space in the element that stands ahead of a child of the file.

@@ -130,8 +130,7 @@ void CardOpener::openTag(std::uint32_t index)
         const auto last = deck_.partners[index];
         const auto& end = token(last);
         const auto* const from = opened.source.data();
-        const auto length
-            = static_cast<std::size_t>(end.source.data() + end.source.size() - from);
+        const auto length = static_cast<std::size_t>(end.source.data() + end.source.size() - from);
         const auto name = bytes_.decoded(opened.name);
         return addWhole(index, designAtom(name, {from, length}, bytes_));
     }

@@ -89,9 +89,8 @@ int Alignment::slide(const Part& part, int x, int y) const
 int furthest(const std::vector<int>& before, int steps, int k)
 {
     if (steps == 0) return 0;
-    const auto at = [&](int diagonal) {
-        return before[static_cast<std::size_t>(diagonal + steps - 1)];
-    };
+    const auto at
+        = [&](int diagonal) { return before[static_cast<std::size_t>(diagonal + steps - 1)]; };
     if (k == -steps) return at(k + 1);
     if (k == steps) return at(k - 1) + 1;
     return std::max(at(k + 1), at(k - 1) + 1);
@@ -134,9 +133,8 @@ void Alignment::walkBack(const Part& part, const std::vector<std::vector<int>>& 
             keep(part.thenBegin + static_cast<std::size_t>(--x),
                 part.nowBegin + static_cast<std::size_t>(--y));
         if (steps == 0) return;
-        const auto at = [&](int diagonal) {
-            return before[static_cast<std::size_t>(diagonal + steps - 1)];
-        };
+        const auto at
+            = [&](int diagonal) { return before[static_cast<std::size_t>(diagonal + steps - 1)]; };
         const bool isDown = k == -steps || (k != steps && at(k + 1) >= at(k - 1) + 1);
         isDown ? --y : --x;
     }

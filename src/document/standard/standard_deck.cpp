@@ -1,5 +1,5 @@
-// A broken deck is mended before it is taken apart, so that all that follows knows well-formed decks
-// only. Held by standard_deck_test.cpp.
+// A broken deck is mended before it is taken apart, so that all that follows knows well-formed
+// decks only. Held by standard_deck_test.cpp.
 
 #include "document/standard/standard_deck.h"
 
@@ -19,13 +19,13 @@ namespace {
 
 using Kind = WmlToken::Kind;
 
-constexpr std::string_view kNewDeck
-    = "<?xml version=\"1.0\"?>\r\n"
-      "<!DOCTYPE wml PUBLIC \"-//WAPFORUM//DTD WML 1.1//EN\""
-      " \"http://www.wapforum.org/DTD/wml_1.1.xml\">\r\n"
-      "<wml>\r\n"
-      "</wml>\r\n";
-constexpr std::string_view kEmptyCard = "<card id=\"Bereich1\" title=\"Nicht festgelegt\"><p></p></card>";
+constexpr std::string_view kNewDeck = "<?xml version=\"1.0\"?>\r\n"
+                                      "<!DOCTYPE wml PUBLIC \"-//WAPFORUM//DTD WML 1.1//EN\""
+                                      " \"http://www.wapforum.org/DTD/wml_1.1.xml\">\r\n"
+                                      "<wml>\r\n"
+                                      "</wml>\r\n";
+constexpr std::string_view kEmptyCard
+    = "<card id=\"Bereich1\" title=\"Nicht festgelegt\"><p></p></card>";
 
 /// The cards of a deck, but for those within others.
 std::vector<std::uint32_t> cardsIn(const DeckTokens& deck)
@@ -195,7 +195,8 @@ void StandardDeck::addMissingCard()
     }
     mended_ = std::move(text);
     readText(mended_);
-    if (cards_.empty()) readText(mended_ = std::string(kNewDeck).insert(kNewDeck.find("</"), kEmptyCard));
+    if (cards_.empty())
+        readText(mended_ = std::string(kNewDeck).insert(kNewDeck.find("</"), kEmptyCard));
 }
 
 OpenedCard StandardDeck::open(std::size_t card, const PictureRoads& roads) const

@@ -22,8 +22,8 @@ const DeckAttribute* find(Attributes attributes, std::string_view name)
 
 bool isWritten(WmlElement element, const DeckAttribute& attribute)
 {
-    const bool isCardWord = element == WmlElement::Card
-        && (attribute.name == "id" || attribute.name == "title");
+    const bool isCardWord
+        = element == WmlElement::Card && (attribute.name == "id" || attribute.name == "title");
     return !isForSurfaceOnly(element, attribute) && !(isCardWord && attribute.value.empty());
 }
 

@@ -5,6 +5,7 @@
 
 #include "document/deck_store.h"
 #include "document/platform/word_ids.h"
+#include "document/standard/deck_source.h"
 #include "document/text/text_lines.h"
 #include "forms/text.h"
 
@@ -110,7 +111,7 @@ void frmPrepare::showSource()
     const auto file = session_.document.workFiles.read(first.wmlDir + first.wmlFile);
     objBrowserCard->hide();
     mScriptChangedBefore = mScriptChanged;
-    txtScript->setWml(withCrLf(file));
+    txtScript->setWml(withCrLf(losesNothing(session_.document) ? shownSource(file) : file));
     const auto text = txtScript->source();
     if (mScriptUndo.front().isEmpty()) mScriptUndo.front() = text;
     if (mScriptInitial.isEmpty()) mScriptInitial = text;
@@ -207,7 +208,10 @@ void frmPrepare::takeSource()
     const auto first = document.deck.front();
     const KeptFile wml(document.workFiles, first.wmlDir + first.wmlFile);
     const KeptFile pristine(document.workFiles, first.pristineDir + first.pristineFile);
-    const auto text = txtScript->wml() + "\r\n";
+    const bool keepsFile = losesNothing(document) && document.output.losesNothing();
+    const auto text = keepsFile
+        ? editedSource(document.workFiles.read(first.wmlDir + first.wmlFile), txtScript->wml())
+        : txtScript->wml() + "\r\n";
     try {
         document.workFiles.write(first.wmlDir + first.wmlFile, text);
         document.workFiles.write(first.pristineDir + first.pristineFile, text);

@@ -68,9 +68,11 @@ TEST(ReadDesignPieces, TakesWhatIsOfTheDeckAndLeavesWhatIsOfTheSurface)
     EXPECT_EQ(listed("<!--#timer &lt;timer value=\"1\"/&gt;--><!--go href=\"#a\"/-->"
                      "<!-- x --><!--/card--><!--card id=\"b\"-->"
                      "</table><!--Test--> <!--Test2--></br>"),
-        "@<!--#timer &lt;timer value=\"1\"/&gt;-->\n.<!--go href=\"#a\"/-->\n<<!--card id=\"b\"-->\n"
+        "@<!--#timer &lt;timer value=\"1\"/&gt;-->\n.<!--go href=\"#a\"/-->\n<<!--card "
+        "id=\"b\"-->\n"
         "></table>\n");
-    EXPECT_EQ(listed("a<b 1<2 x < y <font><i"), "wa\nw<b\n_ \nw1<2\n_ \nwx\n_ \nw<\n_ \nwy\n_ \nw<i\n");
+    EXPECT_EQ(
+        listed("a<b 1<2 x < y <font><i"), "wa\nw<b\n_ \nw1<2\n_ \nwx\n_ \nw<\n_ \nwy\n_ \nw<i\n");
 }
 
 TEST(ReadDesignPieces, GivesTheSameKeyToWhatMeansTheSame)

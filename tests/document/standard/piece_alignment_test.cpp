@@ -57,7 +57,8 @@ TEST(AlignPieces, KeepsAsMuchAsCanBe)
         const auto kinds = 1 + random.below(6);
         const auto then = randomKeys(random, random.below(24), kinds);
         auto now = random.chance(0.5) ? randomKeys(random, random.below(24), kinds) : then;
-        if (!now.empty()) now.erase(now.begin() + static_cast<std::ptrdiff_t>(random.below(now.size())));
+        if (!now.empty())
+            now.erase(now.begin() + static_cast<std::ptrdiff_t>(random.below(now.size())));
         const auto places = alignPieces(then, now);
         ASSERT_EQ(kept(then, now, places), longestCommonPart(then, now)) << seed;
         EXPECT_EQ(inverted(inverted(places, then.size()), now.size()), places);

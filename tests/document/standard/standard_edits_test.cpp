@@ -48,12 +48,18 @@ public:
         if (pieces_.size() < 2) return std::nullopt;
         at_ = 1 + random_.below(pieces_.size() - 1);
         switch (random_.below(6)) {
-        case 0: return insertWord();
-        case 1: return removeWord();
-        case 2: return insertParagraph();
-        case 3: return removeElement();
-        case 4: return changeAttribute();
-        default: return replaceWord();
+        case 0:
+            return insertWord();
+        case 1:
+            return removeWord();
+        case 2:
+            return insertParagraph();
+        case 3:
+            return removeElement();
+        case 4:
+            return changeAttribute();
+        default:
+            return replaceWord();
         }
     }
     [[nodiscard]] std::string edited(const Edit& edit) const
@@ -86,8 +92,8 @@ private:
     std::optional<Edit> replaceWord()
     {
         if (!isWord()) return std::nullopt;
-        return Edit{"replace a word", beginOf(at_), endOf(at_), "anders",
-            8 * pieces_[at_].text.size(), 6};
+        return Edit{
+            "replace a word", beginOf(at_), endOf(at_), "anders", 8 * pieces_[at_].text.size(), 6};
     }
     std::optional<Edit> insertParagraph()
     {
@@ -158,7 +164,8 @@ Difference differenceOf(const std::string& before, const std::string& after)
 std::string inAscii(std::string text)
 {
     if (text.starts_with("\xEF\xBB\xBF")) text.erase(0, 3);
-    std::ranges::replace_if(text, [](char c) { return static_cast<unsigned char>(c) > 126; }, 'x');
+    std::ranges::replace_if(
+        text, [](char c) { return static_cast<unsigned char>(c) > 126; }, 'x');
     return text;
 }
 
@@ -188,7 +195,8 @@ void expectEditStaysInPlace(const std::string& file, std::uint64_t seed, bool ch
     const auto difference = differenceOf(sound, written);
     EXPECT_LE(difference.removed.size(), edit->mostRemoved) << difference.removed;
     EXPECT_LE(difference.inserted.size(), edit->mostInserted)
-        << difference.removed << "|" << difference.inserted << "|\n" << sound;
+        << difference.removed << "|" << difference.inserted << "|\n"
+        << sound;
     EXPECT_TRUE(repairFile(written).mends.empty());
     EXPECT_FALSE(deckFault(inAscii(written))) << written;
     test::SmallDeck again(0, true);

@@ -51,7 +51,8 @@ TEST(StandardRoad, ShowsEachElementAsHtmlOrAsAMarker)
         {"<p mode='nowrap' align=\"left\">\n  Ein <em>Wort</em>&#228;\n  x<br/>\n y</p>",
             "<p mode=\"nowrap\" align=\"left\">Ein <em>Wort</em>\xE4   x<br/>y</p>"},
         {"<do name=\"n\" label=\"L\" type=\"accept\">\n<go href=\"#b\"/>\n</do><p/>",
-            "<!--do type=\"accept\" label=\"L\" name=\"n\"--><!--go href=\"#b\"/--><!--/do--><p></p>"},
+            "<!--do type=\"accept\" label=\"L\" name=\"n\"--><!--go "
+            "href=\"#b\"/--><!--/do--><p></p>"},
         {"<do type=\"prev\"><prev/></do><p>a</p>",
             "<!--#do &lt;do type=\"prev\"&gt;&lt;prev/&gt;&lt;/do&gt;--><p>a</p>"},
         {"<timer value=\"9\"/><p><anchor>a<go method=\"post\" href=\"?a=1&amp;b\">"
@@ -60,10 +61,12 @@ TEST(StandardRoad, ShowsEachElementAsHtmlOrAsAMarker)
             "<!--go href=\"?a=1&amp;b\" method=\"post\"-->"
             "<!--#postfield &lt;postfield name=\"x\" value=\"$(x)\"/&gt;--><!--/go-->"
             "<!--/anchor--></p>"},
-        {"<p>\n<select name=\"s\">\n<optgroup title=\"g\"><option value=\"1\">A</option>\n</optgroup>"
+        {"<p>\n<select name=\"s\">\n<optgroup title=\"g\"><option "
+         "value=\"1\">A</option>\n</optgroup>"
          "\n</select>\n</p>",
             "<p><!--select name=\"s\"--><!--optgroup title=\"g\"--><!--option value=\"1\"-->"
-            "<input type=radio name=\"TempName1\">A<!--/option--><!--/optgroup--><!--/select--></p>"},
+            "<input type=radio "
+            "name=\"TempName1\">A<!--/option--><!--/optgroup--><!--/select--></p>"},
         {"<p><table columns=\"1\"><tr><td id=\"x\">1</td></tr></table><input name=\"i\"/></p>",
             "<p><table columns=\"1\" border=\"1\"><tr><td id=\"x\">1</td></tr></table>"
             "<!--#input &lt;input name=\"i\"/&gt;--></p>"},
@@ -105,8 +108,10 @@ const EditRow kEdits[] = {
         "<p  align='right'\n mode='wrap'>a</p>"},
     {"an attribute goes", "<p  align='left'\n mode='wrap'>a</p>", " align=\"left\"", "",
         "<p\n mode='wrap'>a</p>"},
-    {"a new attribute has the deck's quotes", "<p mode='wrap'><table columns='1'><tr><td/></tr>"
-     "</table></p>", "<table", "<table title=\"it's &quot;T&quot;\"",
+    {"a new attribute has the deck's quotes",
+        "<p mode='wrap'><table columns='1'><tr><td/></tr>"
+        "</table></p>",
+        "<table", "<table title=\"it's &quot;T&quot;\"",
         "<p mode='wrap'><table columns='1' title='it&apos;s &quot;T&quot;'><tr><td/></tr>"
         "</table></p>"},
     {"upper-case tags of other surfaces", "<p align='left'>a <b>x</b></p>",
@@ -127,14 +132,14 @@ const EditRow kEdits[] = {
         "<!--select--><!--option onpick=\"#b\"--><input type=radio name=\"TempName1\">A"
         "<!--/option--><!--/select--><br/>b",
         "<p><select><option onpick=\"#b\">A</option></select>b</p>"},
-    {"an atom moves", "<p><input  name='a'/>x</p>",
-        "<!--#input &lt;input  name='a'/&gt;-->x", "x<!--#input &lt;input  name='a'/&gt;-->",
-        "<p>x<input  name='a'/></p>"},
+    {"an atom moves", "<p><input  name='a'/>x</p>", "<!--#input &lt;input  name='a'/&gt;-->x",
+        "x<!--#input &lt;input  name='a'/&gt;-->", "<p>x<input  name='a'/></p>"},
     {"an atom changes", "<p>a<!-- b -->c</p>", " b ", " d ", "<p>a<!-- d -->c</p>"},
     {"foreign tags and comments", "<p>a</p>", "a",
         "<font color=\"red\">a<!-- x --><!--neu--></font><div>b</div>", "<p>ab</p>"},
-    {"a go that gets the target", "<do type=\"accept\" label=\"x\"><go method='get' href='#a' /></do>",
-        "#a", "#b", "<do type=\"accept\" label=\"x\"><go method='get' href='#b' /></do>"},
+    {"a go that gets the target",
+        "<do type=\"accept\" label=\"x\"><go method='get' href='#a' /></do>", "#a", "#b",
+        "<do type=\"accept\" label=\"x\"><go method='get' href='#b' /></do>"},
 };
 
 const EditRow kNewParts[] = {
@@ -148,23 +153,27 @@ const EditRow kNewParts[] = {
         "\n  <p>a</p>\n  <p>neu <b>fett</b></p>\n"},
     {"a paragraph cut in two", "\n  <p>a b</p>\n", "a b", "a</p><p>b",
         "\n  <p>a</p>\n  <p>b</p>\n"},
-    {"an end that was deleted", "<p>a <b>b</b> c</p><p>d</p>", "</b>", "", "<p>a <b>b c</b></p><p>d</p>"},
+    {"an end that was deleted", "<p>a <b>b</b> c</p><p>d</p>", "</b>", "",
+        "<p>a <b>b c</b></p><p>d</p>"},
     {"a paragraph's end that was deleted", "\n  <p>a</p>\n  <p>b</p>\n", "</p>", "",
         "\n  <p>a</p>\n  <p>b</p>\n"},
     {"overlapping formats", "<p>a b c</p>", "a b c", "<b>a <i>b</b> c</i>",
         "<p><b>a <i>b</i></b> <i>c</i></p>"},
-    {"a jump ahead of events", "\n <onevent type=\"ontimer\"><go href=\"#b\"/></onevent>\n "
-     "<timer value=\"1\"/>\n <p>a</p>\n", "<!--#onevent",
+    {"a jump ahead of events",
+        "\n <onevent type=\"ontimer\"><go href=\"#b\"/></onevent>\n "
+        "<timer value=\"1\"/>\n <p>a</p>\n",
+        "<!--#onevent",
         "<!--do type=\"accept\" label=\"L\" name=\"N\"--><!--go href=\"#c\"/--><!--/do-->"
         "<!--#onevent",
         "\n <onevent type=\"ontimer\"><go href=\"#b\"/></onevent>\n <timer value=\"1\"/>\n "
         "<do type=\"accept\" label=\"L\" name=\"N\"><go href=\"#c\"/></do>\n <p>a</p>\n"},
-    {"an event behind text", "<p>a</p>", "</p>",
-        "</p><!--#timer &lt;timer value=\"1\"/&gt;-->", "<timer value=\"1\"/><p>a</p>"},
+    {"an event behind text", "<p>a</p>", "</p>", "</p><!--#timer &lt;timer value=\"1\"/&gt;-->",
+        "<timer value=\"1\"/><p>a</p>"},
     {"a table outside of paragraphs", "<p>a</p>", "</p>",
         "</p><table columns=\"1\" border=\"1\"><tr><td>b</td></tr></table>",
         "<p>a</p><p><table columns=\"1\"><tr><td>b</td></tr></table></p>"},
-    {"a doubled id", "<p id=\"x\">a</p>", "</p>", "</p><p id=\"x\">b</p>", "<p id=\"x\">a</p><p id=\"x2\">b</p>"},
+    {"a doubled id", "<p id=\"x\">a</p>", "</p>", "</p><p id=\"x\">b</p>",
+        "<p id=\"x\">a</p><p id=\"x2\">b</p>"},
     {"bare signs", "<p>a</p>", "a", "R&D <3 a>b", "<p>R&amp;D &lt;3 a&gt;b</p>"},
 };
 

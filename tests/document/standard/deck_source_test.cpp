@@ -1,0 +1,38 @@
+#include "document/standard/deck_source.h"
+
+#include <gtest/gtest.h>
+
+namespace quillmere {
+namespace {
+
+TEST(EditedSource, KeepsTheBytesOfLinesThatAreAsTheyWere)
+{
+    struct Row {
+        std::string file, before, after, wanted;
+    };
+    const Row rows[] = {
+        {"<wml>\r\n <p>\xC3\xA4\xE2\x86\x92</p>\n</wml>", "", "", ""},
+        {"<wml>\n <p>\xC3\xA4\xE2\x86\x92</p>\n a\r\n</wml>\n", " a", " \xE4",
+            "<wml>\n <p>\xC3\xA4\xE2\x86\x92</p>\n \xC3\xA4\n</wml>\n"},
+        {"a\nb\nc", "b\r\n", "", "a\nc"},
+        {"a\rb", "b", "b\r\nneu", "a\rb\rneu"},
+        {"", "", "neu\nzwei", "neu\r\nzwei"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.file);
+        auto shown = shownSource(row.file);
+        std::string lines; // as a text field has them
+        for (std::size_t at = 0; at < shown.size(); ++at) {
+            const bool isPair = shown.compare(at, 2, "\r\n") == 0;
+            const bool isEnd = shown[at] == '\r' || shown[at] == '\n';
+            isEnd ? lines.append("\r\n") : lines.append(1, shown[at]);
+            at += isPair ? 1 : 0;
+        }
+        EXPECT_EQ(editedSource(row.file, lines), row.file);
+        lines.replace(lines.find(row.before), row.before.size(), row.after);
+        EXPECT_EQ(editedSource(row.file, lines), row.wanted.empty() ? row.file : row.wanted);
+    }
+}
+
+} // namespace
+} // namespace quillmere
