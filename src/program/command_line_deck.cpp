@@ -21,7 +21,9 @@ std::optional<SplitPathResult> deckOfCommandLine(std::string_view commandLine)
 {
     std::string path(trimBlanks(commandLine));
     std::erase(path, '"');
-    auto deck = SplitPath(path);
+    // Not SplitPath(), which would cut a name with a backslash.
+    const auto nameAt = path.rfind(separator(kNativePathStyle)) + 1; // one behind not found is 0
+    SplitPathResult deck{path.substr(0, nameAt), path.substr(nameAt)};
     const bool isDeck = !deck.directory.empty() && deck.name.size() > kTooShort
         && lowerCase(deck.name).ends_with(kDeckEnd);
     return isDeck ? std::optional(std::move(deck)) : std::nullopt;

@@ -7,6 +7,9 @@
 
 namespace quillmere {
 
+/// Round each entry of a list of files.
+inline constexpr int kEntrySpacingPx = 2;
+
 /// The buttons at the foot of a form: some at the left, and those that close it at the right. None
 /// becomes the default button by having the focus; the form names its own.
 [[nodiscard]] inline QHBoxLayout* buttonRow(

@@ -4,6 +4,7 @@
 
 #include "document/last_path.h"
 #include "document/platform/word_ids.h"
+#include "forms/list_icons.h"
 #include "forms/text.h"
 #include "project/deck_dialogs.h"
 #include "project/deck_files.h"
@@ -92,6 +93,8 @@ void frmDeckOpen::layOut()
     places->addWidget(objFileList, 1, 1);
     places->setColumnStretch(1, 1);
     objFileList->setMinimumSize(260, 200);
+    for (auto* list : {objDirectory, objFileList})
+        list->setSpacing(kEntrySpacingPx);
     auto* rows = new QVBoxLayout(this);
     rows->addWidget(tabPages);
     rows->addLayout(places, 1);
@@ -174,12 +177,13 @@ void frmDeckOpen::goTo(const std::string& directory)
     showDrive();
     lblDirectory->setText(shownPath(directory));
     objDirectory->clear();
-    if (above(directory) != directory) objDirectory->addItem(shownText(kUp));
+    const auto folder = folderIcon(*objDirectory), deck = deckIcon(*objFileList);
+    if (above(directory) != directory) new QListWidgetItem(folder, shownText(kUp), objDirectory);
     for (const auto& name : session().files.directoriesIn(directory))
-        objDirectory->addItem(shownPath(name));
+        new QListWidgetItem(folder, shownPath(name), objDirectory);
     objFileList->clear();
     for (const auto& name : deckFilesIn(directory))
-        objFileList->addItem(shownPath(name));
+        new QListWidgetItem(deck, shownPath(name), objFileList);
     objFileList->setCurrentItem(nullptr);
 }
 

@@ -4,6 +4,7 @@
 
 #include "document/platform/word_ids.h"
 #include "document/text/text_search.h"
+#include "forms/list_icons.h"
 #include "forms/text.h"
 #include "project/deck_files.h"
 #include "project/deck_names.h"
@@ -37,6 +38,7 @@ void frmOpenFromProjektDir::layOut()
     lblPath->setTextInteractionFlags(Qt::TextSelectableByMouse);
     lblPath->setWordWrap(true);
     lstFiles->setMinimumSize(360, 220);
+    lstFiles->setSpacing(kEntrySpacingPx);
     lstFiles->setAccessibleName(QStringLiteral("Dokumente im Projektverzeichnis"));
     auto* rows = new QVBoxLayout(this);
     rows->addWidget(lblPath);
@@ -55,7 +57,8 @@ void frmOpenFromProjektDir::fill()
     lblPath->setText(shownPath(deck.deckDir));
     for (const auto& name : deckFilesIn(deck.deckDir)) {
         const auto file = shownPath(name);
-        auto* item = new QListWidgetItem(file.left(file.lastIndexOf(u'.')), lstFiles);
+        auto* item
+            = new QListWidgetItem(deckIcon(*lstFiles), file.left(file.lastIndexOf(u'.')), lstFiles);
         item->setData(Qt::UserRole, file);
         if (name != deck.deckFile) continue;
         auto bold = item->font();

@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <chrono>
+#include <filesystem>
 #include <thread>
 
 namespace quillmere {
@@ -178,6 +179,24 @@ TEST_F(WholeProgram, SaysThatADeckOfTheCommandLineIsTooLongAndGoesOn)
     press("Escape");
     EXPECT_EQ(desktop.waitForEnd(program), 0);
     EXPECT_EQ(saved(), text);
+}
+
+TEST_F(WholeProgram, SavesWithoutADirectoryOfWorkFiles)
+{
+    const auto program = open();
+    (void)mainWindow();
+    std::filesystem::remove_all(desktop.folder.path() + "tmp");
+    type();
+    desktop.waitUntil(
+        "message over the window", [&] { return desktop.windows("^MORVANE Quillmere$") == 1; });
+    rest();
+    press("Return");
+    (void)mainWindow();
+    press("ctrl+s");
+    desktop.waitUntil("saved deck", [this] { return saved() != kDeck; });
+    EXPECT_EQ(saved(), changed());
+    press("Escape"); // nothing is told a second time
+    EXPECT_EQ(desktop.waitForEnd(program), 0);
 }
 
 TEST_F(WholeProgram, OffersWhatAKilledProgramHadNotSaved)

@@ -27,7 +27,8 @@ TEST(CommandLine, IsOnePathToADeckOrNone)
         {"seite.wml", ""},
         {"/a/seite.wml /b/seite.wml", "/a/seite.wml /b/|seite.wml"},
         {"/a/seite.wml -x", ""},
-        {"C:\\wap\\seite.wml", "C:\\wap\\|seite.wml"},
+        {"C:\\wap\\seite.wml", ""}, // a name without a directory
+        {"/a/b\\seite.wml", "/a/|b\\seite.wml"},
         {"", ""},
         {"\"\"", ""},
     };

@@ -48,6 +48,7 @@ void setWindow(SkinRecord& record, const SkinTokens& tokens)
         pictureFile(windowPictureName(tokens)), ItemLook::kControlPoints});
     itemOf(record, SkinPart::Source)
         = skinItem({kDisplay, tokens.display, tokens.displayInk, "", ItemLook::kControlPoints});
+    itemOf(record, SkinPart::Source).FontName.set("monospace"); // whichever the system has
     itemOf(record, SkinPart::AreaCaption)
         = skinItem({kAreaCaption, tokens.well, tokens.ink, "", ItemLook::kTitlePoints});
 }

@@ -70,6 +70,7 @@ void writeAll(const QString& icons, const QString& data)
     writeEditorSkins(places);
     writeTelephones(places);
     writeSplash(places);
+    writeChoicePictures(places);
     writeProgramIcon(places, data + "/");
     linkOtherLanguage(data + "/Skins", data + "/Skins.en/");
 }

@@ -62,7 +62,31 @@ void drawSplash(QPainter& painter, const BuilderPlaces& places)
     fillRounded(painter, QRectF(204, 210, 72, 4), 2, colour(kTokens.display));
 }
 
+/// The choices of the assistant: tiles in the colour of the program's mark.
+struct ChoicePicture {
+    const char* name;
+    std::string_view icon;
+};
+constexpr ChoicePicture kChoicePictures[] = {
+    {"choice-new", "file-plus-corner"},
+    {"choice-open", "folder-open"},
+    {"choice-templates", "layout-panel-top"},
+};
+constexpr QRectF kChoiceTile{0, 0, 48, 48};
+constexpr QRectF kChoiceIcon{11, 11, 26, 26};
+constexpr double kChoiceCorner = 9;
+
 } // namespace
+
+void writeChoicePictures(const BuilderPlaces& places)
+{
+    for (const auto& choice : kChoicePictures)
+        writePicture(places, QLatin1String(choice.name), kChoiceTile.size().toSize(),
+            [&](QPainter& painter) {
+                fillRounded(painter, kChoiceTile, kChoiceCorner, colour(kTokens.accent));
+                drawIcon(painter, places, choice.icon, kChoiceIcon, colour(kTokens.onAccent));
+            });
+}
 
 void writeSplash(const BuilderPlaces& places)
 {

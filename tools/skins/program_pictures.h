@@ -8,6 +8,9 @@ namespace quillmere {
 /// green.
 void writeSplash(const BuilderPlaces& places);
 
+/// The pictures of the assistant's choices, alike in all skins. Throws FileFailure.
+void writeChoicePictures(const BuilderPlaces& places);
+
 /// The program's icon: "Logo.ico" with all sizes in it and, for the desktops that take them, one
 /// PNG file a size, in `directory` (with its separator).
 void writeProgramIcon(const BuilderPlaces& places, const QString& directory);

@@ -6,7 +6,6 @@
 #include "editor/window/frm_prepare.h"
 
 #include "document/deck_replacement.h"
-#include "document/platform/files.h"
 #include "document/platform/word_ids.h"
 #include "editor/window/deck_costs_form.h"
 #include "editor/window/source_search_bar.h"
@@ -232,7 +231,7 @@ void frmPrepare::Form_Unload()
 {
     for (auto* form : otherForms(*this))
         form->close();
-    if (mCloseNow) return;
+    if (mCloseNow) return ClearWindowOutline(*this, outline_);
     idle_.stop();
     if (deckIsOpen()) AskAndSaveTmpWmlDocToWmlDoc(true);
     DeckReplacement emptied(session_.document);
@@ -241,7 +240,9 @@ void frmPrepare::Form_Unload()
     dropStoredSource();
     yieldOften();
     const auto& last = session_.lastImage;
-    if (!last.displayFile.empty()) removeFile(last.displayDir + last.displayFile);
+    if (!last.displayFile.empty())
+        session_.document.workFiles.remove(last.displayDir + last.displayFile);
+    ClearWindowOutline(*this, outline_);
     yieldOften();
 }
 

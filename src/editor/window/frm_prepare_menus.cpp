@@ -4,11 +4,11 @@
 #include "editor/window/frm_prepare.h"
 #include "editor/window/frm_prepare_commands.h"
 
-#include "document/platform/paths.h"
 #include "document/platform/word_ids.h"
 #include "forms/text.h"
 #include "project/deck_dialogs.h"
 #include "project/deck_files.h"
+#include "project/deck_names.h"
 #include "project/recent_decks.h"
 
 #include <QApplication>
@@ -214,7 +214,7 @@ void frmPrepare::showRecentDecks()
 void frmPrepare::openRecent(const std::string& path)
 {
     store();
-    const auto place = SplitPath(path);
+    const auto place = deckPlace(shownPath(path));
     OpenDocument(session_, place.name, place.directory);
 }
 
