@@ -7,7 +7,8 @@
 namespace quillmere::test {
 
 /// A page as a line of text. A block is "P:" of a paragraph, with "c" or "r" ahead of the colon
-/// where it stands in the middle or on the right, "-:" of none or "A:" where it holds atoms only, and then its items: characters,
+/// where it stands in the middle or on the right, "-:" of none or "A:" where it holds atoms only,
+/// and then its items: characters,
 /// '_' for a blank, '/' for a line break, '@' for a picture, 'O' for a radio button, a chip or
 /// marker as its tag. "|bif+2a|" tells how the items behind it look: bold, italic, underlined, of
 /// fixed pitch, size, link. A table

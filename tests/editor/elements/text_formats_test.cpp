@@ -23,7 +23,6 @@ const TextFormats kPlain{false, false, false, LetterSize::Normal};
 
 TEST(FormatText, PutsTagsRoundWhatIsMarked)
 {
-    const TextFormats all{true, true, true, LetterSize::Big};
     struct Case {
         std::string name;
         std::string before;

@@ -162,7 +162,7 @@ TEST(Costs, AreToldOnceForADeckAndTheSwitchIsOffered)
     desk.caretBehind("Caf");
     desk.type("x");
     desk.choose("mnuSave");
-    EXPECT_NE(desk.saved().find("Cafx&#233;"), std::string::npos) << desk.saved();
+    EXPECT_NE(desk.saved().find("Cafx\xC3\xA9"), std::string::npos) << desk.saved(); // as opened
 }
 
 TEST(Costs, OfALargeDeckAreKnownInABlink)
