@@ -36,7 +36,7 @@ std::string WorkNames::first(std::string_view prefix, std::string_view suffix,
     auto& searched = pattern(prefix, suffix);
     for (; searched.lowest <= kMaxNumber; ++searched.lowest) {
         std::array<char, 8> digits{};
-        const auto* const end = std::to_chars(digits.begin(), digits.end(), searched.lowest).ptr;
+        auto* const end = std::to_chars(digits.begin(), digits.end(), searched.lowest).ptr;
         std::string name(prefix);
         name.append(digits.begin(), end).append(suffix);
         if (canBeHad(name)) return name;
