@@ -2,6 +2,7 @@
 
 #include "forms/system_file_dialogs.h"
 
+#include "forms/list_icons.h"
 #include "forms/session.h"
 #include "forms/text.h"
 
@@ -20,7 +21,7 @@ struct Caption {
 constexpr Caption kCaptions[] = {
     {"lblLookIn", "Suchen in:"},
     {"lblFileName", "Datei&name:"},
-    {"lblFileType", "Datei&typ:"},
+    {"lblFileType", "Dateityp:"},
     {"btnOpen", "\u00d6&ffnen"},
     {"btnSave", "&Speichern"},
     {"btnChoose", "&Ausw\u00e4hlen"},
@@ -34,8 +35,9 @@ QString designText(std::string_view name)
     return {};
 }
 
-std::optional<QString> chosen(QFileDialog& dialog)
+std::optional<QString> chosen(QFileDialog& dialog, FileIcons& icons)
 {
+    dressFileDialog(dialog, icons);
     if (dialog.exec() != QDialog::Accepted) return std::nullopt;
     const auto files = dialog.selectedFiles();
     return files.isEmpty() ? std::nullopt : std::optional(files.front());
@@ -77,29 +79,32 @@ void SystemFileDialogs::prepare(
 
 std::optional<QString> SystemFileDialogs::openFile(const FileQuestion& question)
 {
+    FileIcons icons;
     QFileDialog dialog;
     dialog.setFileMode(QFileDialog::ExistingFile);
     prepare(dialog, question, "btnOpen");
-    return chosen(dialog);
+    return chosen(dialog, icons);
 }
 
 std::optional<QString> SystemFileDialogs::saveFile(const FileQuestion& question)
 {
+    FileIcons icons;
     QFileDialog dialog;
     dialog.setAcceptMode(QFileDialog::AcceptSave);
     dialog.setFileMode(QFileDialog::AnyFile);
     dialog.setOption(QFileDialog::DontConfirmOverwrite); // the callers ask with a text of their own
     prepare(dialog, question, "btnSave");
-    return chosen(dialog);
+    return chosen(dialog, icons);
 }
 
 std::optional<QString> SystemFileDialogs::chooseFolder(const FileQuestion& question)
 {
+    FileIcons icons;
     QFileDialog dialog;
     dialog.setFileMode(QFileDialog::Directory);
     dialog.setOption(QFileDialog::ShowDirsOnly);
     prepare(dialog, question, "btnChoose");
-    return chosen(dialog);
+    return chosen(dialog, icons);
 }
 
 } // namespace quillmere

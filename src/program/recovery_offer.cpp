@@ -34,9 +34,9 @@ void open(Session& session, const CrashedRun& run)
 {
     const auto source = sourceOf(run);
     openCrashedRun(session.document, run);
-    rememberFile(session, run);
     session.window->SetScriptUndoFlagsBack();
     session.window->RefreshSurface();
+    rememberFile(session, run); // the window took the file as it is now
     session.window->setDocChanged(true);
     writeRecoveryNote(session.document, {true, session.deckFile.seen()});
     if (source) session.window->resumeSource(*source);

@@ -177,7 +177,8 @@ void frmDeckOpen::goTo(const std::string& directory)
     showDrive();
     lblDirectory->setText(shownPath(directory));
     objDirectory->clear();
-    const auto folder = folderIcon(*objDirectory), deck = deckIcon(*objFileList);
+    const auto folder = listIcon(ListIcon::Folder, *this),
+               deck = listIcon(ListIcon::Document, *this);
     if (above(directory) != directory) new QListWidgetItem(folder, shownText(kUp), objDirectory);
     for (const auto& name : session().files.directoriesIn(directory))
         new QListWidgetItem(folder, shownPath(name), objDirectory);

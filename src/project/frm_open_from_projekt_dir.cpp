@@ -57,8 +57,8 @@ void frmOpenFromProjektDir::fill()
     lblPath->setText(shownPath(deck.deckDir));
     for (const auto& name : deckFilesIn(deck.deckDir)) {
         const auto file = shownPath(name);
-        auto* item
-            = new QListWidgetItem(deckIcon(*lstFiles), file.left(file.lastIndexOf(u'.')), lstFiles);
+        auto* item = new QListWidgetItem(
+            listIcon(ListIcon::Document, *lstFiles), file.left(file.lastIndexOf(u'.')), lstFiles);
         item->setData(Qt::UserRole, file);
         if (name != deck.deckFile) continue;
         auto bold = item->font();

@@ -207,6 +207,7 @@ TEST_F(WholeProgram, OffersWhatAKilledProgramHadNotSaved)
     std::this_thread::sleep_for(std::chrono::milliseconds(1500)); // until it was stored by itself
     desktop.kill(program);
     EXPECT_EQ(saved(), kDeck);
+    (void)desktop.folder.put("meine decks/index.wml", "<wml>fremd</wml>");
 
     const auto next = desktop.start({QUILLMERE});
     desktop.waitUntil(
@@ -215,8 +216,13 @@ TEST_F(WholeProgram, OffersWhatAKilledProgramHadNotSaved)
     press("Return");
     (void)mainWindow();
     press("ctrl+s");
-    desktop.waitUntil("saved deck", [this] { return saved() != kDeck; });
-    EXPECT_EQ(saved(), changed());
+    desktop.waitUntil(
+        "question of the other text", [&] { return desktop.windows("^MORVANE Quillmere$") == 1; });
+    rest();
+    EXPECT_EQ(saved(), "<wml>fremd</wml>");
+    press("Return");
+    desktop.waitUntil("saved deck", [this] { return saved() == changed(); });
+    (void)mainWindow();
     press("Escape");
     EXPECT_EQ(desktop.waitForEnd(next), 0);
 }

@@ -18,10 +18,16 @@ class ToldWindow final : public DeckWindow {
 public:
     bool isChanged = false;
     int refreshes = 0;
+    Session* session = nullptr;
     std::string source;
 
     void SetFocusToBrowser() override { }
-    void RefreshSurface() override { ++refreshes; }
+    void RefreshSurface() override
+    {
+        ++refreshes;
+        const auto& first = session->document.deck.front();
+        session->deckFile.remember(first.deckDir + first.deckFile);
+    }
     void SavePreparedDokumentAndShowArea(bool) override { }
     void AskAndSaveTmpWmlDocToWmlDoc(bool) override { }
     void SetScriptUndoFlagsBack() override { }
@@ -37,7 +43,11 @@ struct Offers : testing::Test {
     ToldWindow window;
     ScratchFolder runs;
 
-    Offers() { program.session.window = &window; }
+    Offers()
+    {
+        program.session.window = &window;
+        window.session = &program.session;
+    }
 
     /// What a run left that had one area of this text in a deck, and maybe a source.
     void crash(
