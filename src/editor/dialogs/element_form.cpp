@@ -72,6 +72,21 @@ void ElementForm::apply(const ElementEdit& edit)
     apply(edit.text, {caret, caret});
 }
 
+void ElementForm::applyToFound(const ElementEdit& edit, bool isThere)
+{
+    if (isThere) return apply(edit);
+    session().messages.showText(
+        "Das Element steht nicht mehr oder nicht vollständig im Text dieses Bereichs. Er ist "
+        "unverändert.",
+        MessageIcon::Warning);
+    reject();
+}
+
+void ElementForm::applyDeletion(const ElementEdit& edit)
+{
+    applyToFound(edit, edit.text != designText());
+}
+
 void ElementForm::apply(const std::string& text, SourceRange marked)
 {
     write(text);

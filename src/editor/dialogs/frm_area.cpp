@@ -131,6 +131,8 @@ bool frmArea::hasGoodId() const
             : fault == CardIdFault::BadCharacter
             ? "Dieser Name ist nicht möglich. Erlaubt sind Buchstaben, Ziffern, „-“, „_“ und „.“, "
               "aber keine Leerzeichen."
+            : fault == CardIdFault::BadBegin
+            ? "Dieser Name ist nicht möglich. Er muss mit einem Buchstaben oder „_“ beginnen."
             : "Diesen Namen hat schon ein anderer Bereich. Bitte wählen Sie einen anderen.",
         *txtId);
     return false;
@@ -170,12 +172,19 @@ void frmArea::setIdAndTitle()
 
 void frmArea::renameTargets(const std::string& oldId, const std::string& newId)
 {
-    auto& document = session().document;
+    const auto texts = designTexts();
+    for (std::size_t i = 0; i < texts.size(); ++i) {
+        const auto renamed = withTargetsRenamed(texts[i], oldId, newId);
+        if (renamed != texts[i]) WriteDesignText(session().document, i, renamed);
+    }
+}
+
+std::vector<std::string> frmArea::designTexts() const
+{
     std::vector<std::string> texts;
-    for (std::size_t i = 0; i < areaCount(document.deck); ++i)
-        texts.push_back(withTargetsRenamed(ReadDesignText(document, i), oldId, newId));
-    for (std::size_t i = 0; i < texts.size(); ++i)
-        if (texts[i] != ReadDesignText(document, i)) WriteDesignText(document, i, texts[i]);
+    for (std::size_t i = 0; i < areaCount(session().document.deck); ++i)
+        texts.push_back(ReadDesignText(session().document, i));
+    return texts;
 }
 
 void frmArea::setJump(const Jump& wanted)
@@ -214,14 +223,36 @@ void frmArea::btnNew_Click()
     if (!wanted.label.empty() && wanted.target.empty())
         return complain(
             "Bitte geben Sie eine URL ein oder wählen Sie einen Bereich.", objFrmLink->address());
-    const auto oldId
-        = NewElement ? std::string() : GetCardAttributes(session().document, area()).id;
+    const auto before = designTexts();
+    const int shownArea = session().document.currentArea;
+    try {
+        write(wanted);
+    } catch (...) {
+        putBack(before, shownArea);
+        throw;
+    }
+    keepState();
+}
+
+void frmArea::write(Jump wanted)
+{
+    auto& document = session().document;
+    const auto oldId = NewElement ? std::string() : GetCardAttributes(document, area()).id;
     if (NewElement) addArea();
     setIdAndTitle();
-    const auto newId = GetCardAttributes(session().document, area()).id;
-    if (wanted.target == "#" + oldId) wanted.target = "#" + newId;
+    if (wanted.target == "#" + oldId) wanted.target = "#" + GetCardAttributes(document, area()).id;
     setJump(wanted);
-    keepState();
+}
+
+/// The areas with the texts that they had.
+void frmArea::putBack(const std::vector<std::string>& texts, int shownArea)
+{
+    auto& document = session().document;
+    document.currentArea = shownArea;
+    while (areaCount(document.deck) > texts.size())
+        RemoveArea(document, areaCount(document.deck) - 1, false);
+    for (std::size_t i = 0; i < texts.size(); ++i)
+        if (ReadDesignText(document, i) != texts[i]) WriteDesignText(document, i, texts[i]);
 }
 
 void frmArea::btnDelete_Click()

@@ -275,25 +275,32 @@ void frmImage::SetImage(const std::string& path)
         wanted.height = std::to_string(*height);
         wanted.width = std::to_string(*width);
     }
+    auto& record = session().document.deck.at(area());
+    const auto images = record.images;
+    try {
+        write(path, wanted);
+    } catch (...) {
+        record.images = images; // the text is as it was, and so is the list
+        record.imageIndex = {};
+        throw;
+    }
+}
+
+void frmImage::write(const std::string& path, ImageSettings wanted)
+{
     auto& entry = AddImageToList(path, wanted.caption);
     wanted.source = entry.displayDir + entry.displayFile;
-    const auto edit = NewElement ? quillmere::SetImage(designText(), mImagePos, wanted)
-                                 : ReplaceImage(designText(), mImagePos, wanted);
-    auto changed = entry;
-    changed.alignment = wanted.align;
-    changed.hasLayout = wanted.hasLayout;
-    changed.heightPx = wanted.hasLayout ? std::stoi(wanted.height) : entry.pictureHeightPx;
-    changed.widthPx = wanted.hasLayout ? std::stoi(wanted.width) : entry.pictureWidthPx;
-    std::swap(entry, changed);
+    const auto text = designText();
+    const auto edit = NewElement ? quillmere::SetImage(text, mImagePos, wanted)
+                                 : ReplaceImage(text, mImagePos, wanted);
+    entry.alignment = wanted.align;
+    entry.hasLayout = wanted.hasLayout;
+    entry.heightPx = wanted.hasLayout ? std::stoi(wanted.height) : entry.pictureHeightPx;
+    entry.widthPx = wanted.hasLayout ? std::stoi(wanted.width) : entry.pictureWidthPx;
     auto& record = session().document.deck.at(area());
     record.imageCursor = static_cast<std::int16_t>(&entry - record.images.data());
     session().lastImage = entry;
-    try {
-        apply(edit);
-    } catch (...) {
-        entry = changed; // the text is as it was, and so is the list
-        throw;
-    }
+    applyToFound(edit, NewElement || GetImage(text, mImagePos).has_value());
 }
 
 void frmImage::btnNew_Click()
@@ -312,7 +319,7 @@ void frmImage::btnNew_Click()
 
 void frmImage::btnDelete_Click()
 {
-    if (confirms(word::kDeleteImage)) apply(DeleteImage(designText(), mImagePos));
+    if (confirms(word::kDeleteImage)) applyDeletion(DeleteImage(designText(), mImagePos));
 }
 
 void InsertImageFile(Session& session, DesignSurface& surface, const std::string& path,

@@ -46,6 +46,7 @@ private:
     [[nodiscard]] ImageEntry* entryShownAs(const std::string& displayPath) const;
     ImageEntry& AddImageToList(const std::string& path, const std::string& caption);
     void SetImage(const std::string& path);
+    void write(const std::string& path, ImageSettings wanted);
 
     QGroupBox* const objFrame = named<QGroupBox>("objFrame", this);
     QLabel* const lblImage = named<QLabel>("lblImage", this);

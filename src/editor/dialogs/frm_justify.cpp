@@ -74,8 +74,8 @@ SourceRange frmJustify::marked() const
 void frmJustify::SetInitializations()
 {
     loadTexts();
-    const auto range = FindMarkedRange(designText(), surface().selection());
-    const bool isNoted = range && range->IsImage && isYes(session().settings, "ShowImageMessage");
+    const bool isNoted
+        = holdsPicture(designText(), marked()) && isYes(session().settings, "ShowImageMessage");
     if (isNoted) static_cast<void>(session().messages.showNote(Note::ImageLayout));
     const auto alignment = alignmentOf(designText(), marked());
     auto* shown = optSchrift.at(static_cast<std::size_t>(alignment));

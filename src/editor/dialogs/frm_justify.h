@@ -17,8 +17,8 @@ class frmJustify : public ElementForm {
 public:
     frmJustify(Session& session, DesignSurface& surface, QWidget* parent = nullptr);
 
-    /// Shows the alignment of what is marked. With a picture marked the note on these is shown
-    /// first, unless it was silenced.
+    /// Shows the alignment of what is marked. With a picture in the marked lines the note on
+    /// these is shown first, unless it was silenced.
     void SetInitializations();
 
 private:

@@ -52,7 +52,9 @@ void frmLinks::btnNew_Click()
         return complain(
             "Bitte geben Sie eine URL ein oder wählen Sie einen Bereich.", objFrmLink->address());
     const auto text = designText();
-    if (!NewElement) return apply(ReplaceLink(text, mLinkPos, wanted));
+    if (!NewElement)
+        return applyToFound(
+            ReplaceLink(text, mLinkPos, wanted), GetLink(text, mLinkPos).has_value());
     if (markedText().empty()) return apply(SetLink(text, mLinkPos, wanted));
     linkMarkedText(wanted);
 }
@@ -80,7 +82,7 @@ void frmLinks::linkMarkedText(const LinkSettings& wanted)
                         "anderen Link enthält. Das Dokument ist unverändert.",
             *txtCaption);
     markWithoutBlanks();
-    surface().pasteHTML(linkMarkup(wanted));
+    surface().pasteHTML(linkInPlace(designText(), markedText(), wanted));
     const auto caret = surface().caretOffset();
     SaveSurface(session().document, area());
     apply(surface().DocumentHTML(), {caret, caret});
@@ -88,7 +90,7 @@ void frmLinks::linkMarkedText(const LinkSettings& wanted)
 
 void frmLinks::btnDelete_Click()
 {
-    if (confirms(word::kDeleteLink)) apply(DeleteLink(designText(), mLinkPos));
+    if (confirms(word::kDeleteLink)) applyDeletion(DeleteLink(designText(), mLinkPos));
 }
 
 } // namespace quillmere

@@ -32,13 +32,13 @@ void frmOption::btnNew_Click()
     const OptionSettings wanted{
         captionMarkup(txtCaption->text().toStdU16String()), objFrmLink->target()};
     const auto text = designText();
-    apply(NewElement ? SetOption(text, mOptionPos, mOptionFound, wanted)
-                     : ReplaceOption(text, mOptionPos, wanted));
+    if (NewElement) return apply(SetOption(text, mOptionPos, mOptionFound, wanted));
+    applyToFound(ReplaceOption(text, mOptionPos, wanted), GetOption(text, mOptionPos).has_value());
 }
 
 void frmOption::btnDelete_Click()
 {
-    if (confirms(word::kDeleteOption)) apply(DeleteOption(designText(), mOptionPos, false));
+    if (confirms(word::kDeleteOption)) applyDeletion(DeleteOption(designText(), mOptionPos, false));
 }
 
 } // namespace quillmere

@@ -125,14 +125,16 @@ void frmTable::btnNew_Click()
     const auto wanted = settings();
     if (!wanted) return;
     const auto text = designText();
-    if (!NewElement) return apply(SetTable(text, mTablePos, *wanted));
+    if (!NewElement)
+        return applyToFound(
+            SetTable(text, mTablePos, *wanted), GetTable(text, mTablePos).has_value());
     apply(InsertTable(text, mTablePos, *wanted));
     surface().moveCursor(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
 }
 
 void frmTable::btnDelete_Click()
 {
-    if (confirms(word::kDeleteTable)) apply(DeleteTable(designText(), mTablePos));
+    if (confirms(word::kDeleteTable)) applyDeletion(DeleteTable(designText(), mTablePos));
 }
 
 } // namespace quillmere

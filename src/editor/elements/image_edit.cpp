@@ -47,13 +47,13 @@ std::string sourceOf(std::string_view tag)
     return source;
 }
 
-std::string imageMarkup(const ImageSettings& image)
+std::string imageMarkup(const ImageSettings& image, std::string_view otherAttributes = {})
 {
     auto markup = "<img src=\"" + image.source + "\" alt=\"" + image.caption + "\"";
     if (image.hasLayout)
         markup += " align=\"" + image.align + "\" style=\"height: " + image.height
             + "px; width: " + image.width + "px\"";
-    return markup + ">";
+    return markup.append(otherAttributes) + ">";
 }
 
 /// The tag with an end tag that follows it at once.
@@ -128,7 +128,9 @@ ElementEdit ReplaceImage(std::string_view text, int position, const ImageSetting
 {
     const auto old = wholeImage(text, position);
     if (!old) return unchanged(text, position);
-    const auto markup = imageMarkup(wanted);
+    const auto tag = findTagFrom(text, kImage, old->begin)->in(text);
+    const auto markup = imageMarkup(
+        wanted, otherAttributes(tag, {"src", "alt", "align", "style", "height", "width"}));
     return {withPiece(text, *old, markup), static_cast<int>(old->begin + markup.size())};
 }
 

@@ -37,7 +37,8 @@ struct ImageSettings {
 [[nodiscard]] ElementEdit SetImage(
     std::string_view text, int position, const ImageSettings& wanted);
 
-/// Makes the first picture at or behind the position what is wanted; without one the text stays.
+/// Makes the first picture at or behind the position what is wanted; its other
+/// attributes stay. Without a picture the text stays as it is.
 [[nodiscard]] ElementEdit ReplaceImage(
     std::string_view text, int position, const ImageSettings& wanted);
 

@@ -13,11 +13,28 @@ namespace quillmere {
 
 namespace {
 
+constexpr std::string_view kNoBegin = "0123456789-.";
 constexpr std::string_view kGermanLetters = "\xE4\xF6\xFC\xDF"; // ä ö ü ß
 
 std::string targetValue(std::string_view id)
 {
     return std::string("=\"#").append(id).append("\"");
+}
+
+/// As the temporary radio button of an option has it.
+std::string buttonTarget(std::string_view id)
+{
+    return std::string("navigate('#").append(id).append("')");
+}
+
+std::string replaced(std::string_view text, std::string_view old, std::string_view now)
+{
+    Rewriter result(text);
+    for (auto at = text.find(old); at != npos; at = text.find(old, at + old.size())) {
+        result.drop(at, at + old.size());
+        result.append(now);
+    }
+    return result.take();
 }
 
 bool fitsCardId(char character)
@@ -31,7 +48,8 @@ bool fitsCardId(char character)
 
 std::string withoutDoBlock(std::string_view text)
 {
-    const auto begin = findIgnoringCase(text, "<!--do");
+    const auto jump = findIgnoringCase(text, "<!--do type=\"accept\"");
+    const auto begin = jump != npos ? jump : findIgnoringCase(text, "<!--do");
     const auto end = begin == npos ? std::nullopt : findTagFrom(text, "<!--/do", begin);
     return end ? withPiece(text, {begin, end->end}, {}) : std::string(text);
 }
@@ -39,14 +57,8 @@ std::string withoutDoBlock(std::string_view text)
 std::string withTargetsRenamed(
     std::string_view text, std::string_view oldId, std::string_view newId)
 {
-    const auto old = targetValue(oldId);
-    const auto now = targetValue(newId);
-    Rewriter result(text);
-    for (auto at = text.find(old); at != npos; at = text.find(old, at + old.size())) {
-        result.drop(at, at + old.size());
-        result.append(now);
-    }
-    auto renamed = result.take();
+    auto renamed = replaced(text, targetValue(oldId), targetValue(newId));
+    renamed = replaced(renamed, buttonTarget(oldId), buttonTarget(newId));
     requireAddressable(renamed);
     return renamed;
 }
@@ -59,6 +71,7 @@ bool leadsTo(std::string_view text, std::string_view id)
 CardIdFault cardIdFault(std::string_view id)
 {
     if (id.empty()) return CardIdFault::Empty;
+    if (kNoBegin.find(id.front()) != npos) return CardIdFault::BadBegin;
     return std::ranges::all_of(id, fitsCardId) ? CardIdFault::None : CardIdFault::BadCharacter;
 }
 

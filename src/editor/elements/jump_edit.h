@@ -5,12 +5,13 @@
 
 namespace quillmere {
 
-/// The design text without its first do block, from "<!--do" through the '>' of the next
-/// "<!--/do", in any case. Without such a block, or without its end, it stays as it is.
+/// The design text without the do block of its jump, or else without its first do block: from
+/// "<!--do" through the '>' of the next "<!--/do", in any case. Without such a block, or without
+/// its end, it stays as it is.
 [[nodiscard]] std::string withoutDoBlock(std::string_view text);
 
 /// The text with all that leads to the card `oldId` leading to `newId`: attribute values in double
-/// quotes that are "#" and the id.
+/// quotes that are "#" and the id, and the addresses of temporary radio buttons.
 [[nodiscard]] std::string withTargetsRenamed(
     std::string_view text, std::string_view oldId, std::string_view newId);
 
@@ -19,9 +20,10 @@ namespace quillmere {
 [[nodiscard]] bool leadsTo(std::string_view text, std::string_view id);
 
 /// What keeps a text from being a card's id, which other cards lead to by "#" and this id.
-enum class CardIdFault { None, Empty, BadCharacter };
+enum class CardIdFault { None, Empty, BadCharacter, BadBegin };
 
-/// An id is made of letters (ä, ö, ü and ß as well), digits, "_", "-" and ".". What else an id may
+/// An id is made of letters (ä, ö, ü and ß as well), digits, "_", "-" and ".", and begins
+/// with a letter or "_", for it is a name in XML. What else an id may
 /// hold in WML would be changed by saving, or ends an attribute.
 [[nodiscard]] CardIdFault cardIdFault(std::string_view id);
 

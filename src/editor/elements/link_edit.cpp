@@ -3,6 +3,8 @@
 #include "editor/elements/link_edit.h"
 
 #include "document/text/text_search.h"
+#include "editor/elements/format_tags.h"
+#include "editor/elements/typed_values.h"
 #include "editor/page/attribute_values.h"
 #include "editor/page/hit_test.h"
 #include "editor/page/markup_tags.h"
@@ -10,6 +12,7 @@
 
 #include <algorithm>
 #include <span>
+#include <vector>
 
 namespace quillmere {
 
@@ -57,6 +60,16 @@ bool isAloneOnLine(std::string_view text, std::size_t offset)
     return beginsLine && firmItem(page, place, false) == nullptr;
 }
 
+bool isMarked(const PageItem& item, SourceRange marked)
+{
+    return item.source.begin < marked.end && item.source.end > marked.begin;
+}
+
+std::string startTag(const LinkSettings& link, std::string_view otherAttributes = {})
+{
+    return std::string("<a href=\"").append(link.target).append("\"").append(otherAttributes) + ">";
+}
+
 ElementEdit putIn(std::string_view text, SourceRange piece, const std::string& link)
 {
     return {withPiece(text, piece, link), static_cast<int>(piece.begin + link.size())};
@@ -66,23 +79,41 @@ ElementEdit putIn(std::string_view text, SourceRange piece, const std::string& l
 
 std::string linkMarkup(const LinkSettings& link)
 {
-    return "<a href=\"" + link.target + "\">" + link.caption + "</a>";
+    return startTag(link) + link.caption + "</a>";
+}
+
+std::string linkInPlace(std::string_view text, SourceRange marked, const LinkSettings& link)
+{
+    const auto page = readSurfacePage(std::string(text));
+    const auto isWithin = [](const PageItem& item, SourceRange range) {
+        return item.source.begin >= range.begin && item.source.end <= range.end;
+    };
+    std::vector<std::size_t> whole;
+    for (std::size_t i = 0; i < page.elements.size(); ++i) {
+        const auto& element = page.elements[i];
+        const auto holdsTheMarked = [&](const PageItem& item) {
+            return isWithin(item, element.whole()) == isMarked(item, marked);
+        };
+        if (element.kind == PageElement::Kind::Format
+            && std::ranges::all_of(page.items, holdsTheMarked))
+            whole.push_back(i);
+    }
+    const auto border = formatBorder(page, whole);
+    return border.starts + linkMarkup(link) + border.ends;
 }
 
 bool canBecomeLink(std::string_view text, SourceRange marked)
 {
     const auto page = readSurfacePage(std::string(text));
-    const auto isMarked = [marked](const PageItem& item) {
-        return item.source.begin < marked.end && item.source.end > marked.begin;
-    };
+    const auto isInMarked = [marked](const PageItem& item) { return isMarked(item, marked); };
     std::size_t blocks = 0;
     for (const auto& block : page.blocks) {
         const auto items = std::span(page.items).subspan(block.firstItem, itemCount(block));
-        if (std::ranges::any_of(items, isMarked)) ++blocks;
+        if (std::ranges::any_of(items, isInMarked)) ++blocks;
     }
     return blocks == 1 && std::ranges::all_of(page.items, [&](const PageItem& item) {
         const bool isText = item.kind == ItemKind::Character || item.kind == ItemKind::Blank;
-        return !isMarked(item) || (isText && page.styles[item.style].link == kNone);
+        return !isInMarked(item) || (isText && page.styles[item.style].link == kNone);
     });
 }
 
@@ -108,7 +139,11 @@ ElementEdit ReplaceLink(std::string_view text, int position, const LinkSettings&
 {
     const auto old = linkFrom(text, searchOffset(position));
     if (!old) return unchanged(text, position);
-    return putIn(text, {old->startTag.begin, old->end}, linkMarkup(wanted));
+    const auto inner = SourceRange{old->startTag.end, old->captionEnd}.in(text);
+    const bool isKept = typedFrom(textOutsideTags(inner)) == typedFrom(wanted.caption);
+    const auto tag = startTag(wanted, otherAttributes(old->startTag.in(text), {"href"}));
+    return putIn(text, {old->startTag.begin, old->end},
+        tag + (isKept ? std::string(inner) : wanted.caption) + "</a>");
 }
 
 ElementEdit DeleteLink(std::string_view text, int position)

@@ -21,6 +21,12 @@ struct LinkSettings {
 /// stands behind a new one: so "Wort." keeps its point.
 [[nodiscard]] std::string linkMarkup(const LinkSettings& link);
 
+/// The link that takes the place of marked text, with the formats round it that all of that text
+/// has and nothing else, which the text would take with it: of "<b>Wort</b>" comes
+/// "<b><a href="TARGET">Wort</a></b>".
+[[nodiscard]] std::string linkInPlace(
+    std::string_view text, SourceRange marked, const LinkSettings& link);
+
 /// Whether what is marked can become a link: text of one paragraph, without line breaks, pictures,
 /// options and other links, whose look would be lost.
 [[nodiscard]] bool canBecomeLink(std::string_view text, SourceRange marked);
@@ -32,7 +38,8 @@ struct LinkSettings {
 [[nodiscard]] ElementEdit SetLink(std::string_view text, int position, const LinkSettings& wanted);
 
 /// Makes the first link at or behind the position what is wanted, in its place and with nothing put
-/// in behind it. Other attributes and tags within it go. Without a link the text stays as it is.
+/// in behind it. Its other attributes stay, and so do tags in it where the caption is the same to a
+/// reader. Without a link the text stays as it is.
 [[nodiscard]] ElementEdit ReplaceLink(
     std::string_view text, int position, const LinkSettings& wanted);
 

@@ -8,6 +8,7 @@
 #include "document/text/limits.h"
 #include "document/text/text_search.h"
 #include "editor/elements/format_tags.h"
+#include "editor/elements/typed_values.h"
 #include "editor/page/attribute_values.h"
 #include "editor/page/hit_test.h"
 
@@ -44,6 +45,19 @@ std::optional<OptionParts> optionFrom(std::string_view text, std::size_t from)
 std::string optionMarkup(const OptionSettings& option)
 {
     return "<!--option onpick=\"" + option.target + "\"-->" + option.caption + "<!--/option-->";
+}
+
+/// The same for an option that was there: what the settings do not tell stays.
+std::string optionMarkup(
+    std::string_view text, const OptionParts& old, const OptionSettings& option)
+{
+    const auto marker = old.marker.in(text);
+    const auto inner = old.caption.in(text);
+    const bool hasTarget = !option.target.empty() || findAttribute(marker, "onpick");
+    const bool isKept = typedFrom(textOutsideTags(inner)) == typedFrom(option.caption);
+    return "<!--option" + (hasTarget ? " onpick=\"" + option.target + "\"" : "")
+        + otherAttributes(marker, {"onpick"}) + "-->"
+        + (isKept ? std::string(inner) : option.caption) + "<!--/option-->";
 }
 
 int countOptions(std::string_view text, std::size_t from, std::size_t end)
@@ -149,8 +163,8 @@ ElementEdit ReplaceOption(std::string_view text, int position, const OptionSetti
     const auto option = optionFrom(text, searchOffset(position));
     if (!option) return unchanged(text, position);
     const int number = countOptions(text, 0, option->marker.begin);
-    auto changed
-        = renumbered(withPiece(text, {option->marker.begin, option->end}, optionMarkup(wanted)));
+    auto changed = renumbered(
+        withPiece(text, {option->marker.begin, option->end}, optionMarkup(text, *option, wanted)));
     const auto now = optionOfNumber(changed, number);
     return {std::move(changed), static_cast<int>(now ? now->caption.end : option->marker.begin)};
 }

@@ -30,7 +30,8 @@ struct OptionSettings {
 
 /// Makes the first option at or behind the position what is wanted: as DeleteOption with `Replace`
 /// and SetOption at the same place would, but that the <br/> behind a list of one option is not
-/// doubled. Other attributes of the option go. The caret stands behind its caption. Without an
+/// doubled. Other attributes of the option stay, and so do tags in it where the caption is the same
+/// to a reader. The caret stands behind its caption. Without an
 /// option the text stays as it is.
 [[nodiscard]] ElementEdit ReplaceOption(
     std::string_view text, int position, const OptionSettings& wanted);

@@ -217,6 +217,19 @@ Alignment alignmentOf(std::string_view text, SourceRange marked)
     return first < end ? lines[first].alignment : Alignment::Left;
 }
 
+bool holdsPicture(std::string_view text, SourceRange marked)
+{
+    const auto page = readSurfacePage(std::string(text));
+    const auto lines = pageLines(page);
+    const auto [first, end] = markedLines(lines, marked);
+    if (first >= end) return false;
+    const SourceRange range{lines[first].source.begin, lines[end - 1].source.end};
+    return std::ranges::any_of(page.items, [range](const PageItem& item) {
+        return item.kind == ItemKind::Picture && item.source.begin >= range.begin
+            && item.source.end <= range.end;
+    });
+}
+
 AlignedText alignLines(std::string_view text, SourceRange marked, Alignment alignment)
 {
     requireAddressable(text);

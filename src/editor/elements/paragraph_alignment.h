@@ -16,6 +16,9 @@ namespace quillmere {
 /// The alignment of the paragraph in which what is marked begins; Left outside of paragraphs.
 [[nodiscard]] Alignment alignmentOf(std::string_view text, SourceRange marked);
 
+/// Whether a picture stands in the lines that are marked, or in the line of the caret.
+[[nodiscard]] bool holdsPicture(std::string_view text, SourceRange marked);
+
 struct AlignedText {
     std::string text;
     SourceRange marked; ///< what was marked, in it

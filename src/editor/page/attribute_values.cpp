@@ -25,12 +25,15 @@ public:
         if (rest_.empty()) return false;
         name = take([](char c) { return !isWhite(c) && c != '='; });
         value = {};
+        valueEnd_ = name.end();
         skipWhite();
         if (rest_.starts_with('=')) readValue();
+        source = std::string_view(name.begin(), valueEnd_);
         return true;
     }
     std::string_view name;
     std::string_view value;
+    std::string_view source; ///< the name, with the value and its quotes
 
 private:
     template <typename Fits> std::string_view take(Fits fits)
@@ -51,8 +54,10 @@ private:
         value = isQuoted ? take([quote](char c) { return c != quote; })
                          : take([](char c) { return !isWhite(c); });
         if (isQuoted && !rest_.empty()) rest_.remove_prefix(1);
+        valueEnd_ = rest_.begin();
     }
     std::string_view rest_;
+    std::string_view::const_iterator valueEnd_ = nullptr;
 };
 
 } // namespace
@@ -63,6 +68,21 @@ std::optional<std::string_view> findAttribute(std::string_view tag, std::string_
     while (attributes.next())
         if (equalIgnoringCase(attributes.name, name)) return attributes.value;
     return std::nullopt;
+}
+
+std::string otherAttributes(std::string_view tag, std::initializer_list<std::string_view> names)
+{
+    constexpr std::string_view kMarkerEnd = "-->";
+    if (tag.starts_with("<!--") && tag.ends_with(kMarkerEnd)) tag.remove_suffix(kMarkerEnd.size());
+    std::string others;
+    AttributeWalk attributes(tag);
+    while (attributes.next()) {
+        const auto isNamed
+            = [&](std::string_view name) { return equalIgnoringCase(attributes.name, name); };
+        if (attributes.name != "/" && std::ranges::none_of(names, isNamed))
+            others.append(" ").append(attributes.source);
+    }
+    return others;
 }
 
 } // namespace quillmere

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <initializer_list>
 #include <optional>
+#include <string>
 #include <string_view>
 
 namespace quillmere {
@@ -10,5 +12,10 @@ namespace quillmere {
 /// counts. `name` is lower case; case in the tag does not matter.
 [[nodiscard]] std::optional<std::string_view> findAttribute(
     std::string_view tag, std::string_view name);
+
+/// The attributes of a start tag or marker but for those of these names (lower case), as written,
+/// each with a blank ahead of it.
+[[nodiscard]] std::string otherAttributes(
+    std::string_view tag, std::initializer_list<std::string_view> names);
 
 } // namespace quillmere

@@ -13,7 +13,12 @@ namespace quillmere::test {
 
 /// The main window with the dialogs of elements, which its tools open.
 struct ElementDesk : WindowDesk {
-    ElementDesk() { registerElementForms(window, session); }
+    explicit ElementDesk(const std::string& skins = "Skins")
+        : WindowDesk(skins)
+    {
+        registerElementForms(window, session);
+        settings.WriteSetting("ShowOptionMessage", "No");
+    }
 
     /// The content of an area, between its head and its tail.
     [[nodiscard]] std::string content(int area = 0)
@@ -36,11 +41,14 @@ struct ElementDesk : WindowDesk {
         surface().moveCursor(QTextCursor::Start);
         ASSERT_TRUE(surface().find(QString::fromUtf8(text)));
     }
-    /// Chooses an entry of a menu and uses the form that comes up.
-    void use(const char* entry, std::function<void(QWidget&)> form)
+    /// Chooses a tool or an entry of a menu and uses the form that comes up.
+    void use(const std::string& entry, std::function<void(QWidget&)> form)
     {
         withNextModal(std::move(form));
-        choose(entry);
+        if (entry.starts_with("lbl"))
+            click(entry.c_str());
+        else
+            choose(entry.c_str());
         window.activateWindow();
         surface().setFocus();
         QApplication::processEvents();

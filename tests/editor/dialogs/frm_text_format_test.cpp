@@ -3,6 +3,9 @@
 #include <QCheckBox>
 #include <QRadioButton>
 
+#include <algorithm>
+#include <set>
+
 namespace quillmere::test {
 namespace {
 
@@ -78,49 +81,100 @@ TEST(FrmJustify, AlignsTheLineOfTheCaret)
         << desk.contentWithCaret();
     justify(1, 0);
     EXPECT_EQ(desk.content(), before);
+    EXPECT_TRUE(desk.messages.taken().empty());
+    desk.window.setDocChanged(false);
+    desk.openCards({"eins<img src=\"x.wbmp\" alt=\"x\"/><br/>zwei"});
+    desk.caretBehind("ein");
+    desk.messages.answers = {true};
+    justify(0, 1); // a picture stands in the line
+    EXPECT_EQ(desk.messages.taken(), std::vector<std::string>{"note 4"});
 }
 
-TEST(ElementForms, HaveNamesKeysAndHelp)
+/// The letters that Alt and a key reach in a form; each must be there once.
+void expectOwnLetters(QWidget& form)
 {
-    ElementDesk desk;
-    int helpWanted = 0;
+    std::set<QString> letters;
+    const auto take = [&letters](const QString& text) {
+        const auto keys = QKeySequence::mnemonic(text).toString();
+        EXPECT_TRUE(keys.isEmpty() || letters.insert(keys).second) << text.toStdString();
+    };
+    for (const auto* button : form.findChildren<QAbstractButton*>())
+        if (button->isVisible()) take(button->text());
+    for (const auto* label : form.findChildren<QLabel*>())
+        if (label->isVisible() && label->buddy() != nullptr) take(label->text());
+}
+
+/// The tabulator reaches each field and goes down the form, to OK at the end of the fields.
+void expectTabOrder(QWidget& form)
+{
+    std::vector<QWidget*> reached;
+    for (auto* focus = form.focusWidget(); std::ranges::find(reached, focus) == reached.end();
+         focus = form.focusWidget()) {
+        reached.push_back(focus);
+        QTest::keyClick(focus, Qt::Key_Tab);
+    }
+    for (auto* field : form.findChildren<QLineEdit*>())
+        EXPECT_TRUE(!field->isVisible() || !field->isEnabled()
+            || std::ranges::find(reached, field) != reached.end())
+            << field->objectName().toStdString();
+    const auto top = [&form](const QWidget* control) {
+        return control->mapTo(&form, QPoint(0, control->height() / 2)).y();
+    };
+    for (std::size_t i = 1; i < reached.size(); ++i) {
+        const bool isBackAtTop = qobject_cast<QPushButton*>(reached[i - 1]) != nullptr
+            && qobject_cast<QPushButton*>(reached[i]) == nullptr;
+        const auto left
+            = [&form](const QWidget* control) { return control->mapTo(&form, QPoint()).x(); };
+        EXPECT_TRUE(isBackAtTop || top(reached[i - 1]) <= top(reached[i])
+            || left(reached[i - 1]) < left(reached[i]))
+            << reached[i]->objectName().toStdString();
+    }
+}
+
+void expectGoodForms(const std::string& skins)
+{
+    ElementDesk desk(skins);
+    int helpWanted = 0, forms = 0;
     desk.window.registerForm("Help", [&helpWanted](const FormCall&) { ++helpWanted; });
-    desk.openCards({"eins zwei"});
-    desk.mark("zwei");
+    desk.openCards({"eins <a href=\"#a\">zwei</a><select><option onpick=\"#a\">drei</option>"
+                    "</select>"
+                    "<table title=\"t\" columns=\"1\"><tr><td>vier</td></tr></table>"});
     const auto before = desk.content();
-    int forms = 0;
-    for (const char* entry :
-        {"mnuContext1InsertTable", "mnuContext1InsertOption", "mnuContext1InsertHyperlink",
-            "mnuContext1AreaInsert", "mnuContext1AreaParameters", "mnuContext1FormatText"}) {
-        SCOPED_TRACE(entry);
-        desk.use(entry, [&](QWidget& form) {
+    const struct {
+        const char* entry;
+        const char* place;
+    } rows[] = {{"mnuContext1InsertTable", "eins"}, {"mnuContext1InsertOption", "eins"},
+        {"mnuContext1InsertHyperlink", "eins"}, {"mnuInsertImage2", "eins"},
+        {"lblButtonJustify", "eins"}, {"mnuContext1FormatText", "eins"},
+        {"mnuContext1AreaInsert", "eins"}, {"mnuContext1AreaParameters", "eins"},
+        {"mnuContext2PrepareElement", "zwei"}, {"mnuContext2PrepareElement", "drei"},
+        {"mnuContext2PrepareElement", "vier"}};
+    const auto picture = desk.folder.put("b.wbmp", std::string("\0\0\x08\x01\xFF", 5));
+    for (const auto& row : rows) {
+        SCOPED_TRACE(std::string(row.entry) + " " + row.place);
+        desk.dialogs.paths = {QString::fromStdString(picture)};
+        desk.mark(row.place);
+        desk.use(row.entry, [&](QWidget& form) {
             ++forms;
             EXPECT_FALSE(form.windowTitle().isEmpty());
-            std::set<QString> letters;
-            for (auto* button : form.findChildren<QAbstractButton*>()) {
-                if (!button->isVisible()) continue;
-                const auto keys = button->shortcut().toString();
-                if (!keys.isEmpty()) {
-                    EXPECT_TRUE(letters.insert(keys).second) << keys.toStdString();
-                }
-            }
-            // Each field is reached by the tabulator, and the way leads back.
-            auto* first = form.focusWidget();
-            ASSERT_NE(first, nullptr);
-            std::set<QWidget*> reached;
-            for (int i = 0; i < 40 && reached.insert(form.focusWidget()).second; ++i)
-                QTest::keyClick(form.focusWidget(), Qt::Key_Tab);
-            for (auto* field : form.findChildren<QLineEdit*>())
-                EXPECT_TRUE(!field->isVisible() || !field->isEnabled() || reached.contains(field))
-                    << field->objectName().toStdString();
+            expectOwnLetters(form);
+            expectTabOrder(form);
             QTest::keyClick(&form, Qt::Key_F1);
             click(form, "btnHelp");
             QTest::keyClick(&form, Qt::Key_Escape);
         });
     }
+    EXPECT_EQ(forms, 11);
     EXPECT_EQ(helpWanted, 2 * forms);
-    EXPECT_EQ(forms, 6);
     EXPECT_EQ(desk.content(), before);
+}
+
+TEST(ElementForms, HaveNamesKeysAndHelp)
+{
+    for (const char* skins : {"Skins", "Skins.en"}) {
+        SCOPED_TRACE(skins);
+        expectGoodForms(skins);
+    }
 }
 
 } // namespace

@@ -10,8 +10,11 @@
 namespace quillmere {
 namespace {
 
-TEST(WithoutDoBlock, TakesTheFirstWholeBlock)
+TEST(WithoutDoBlock, TakesTheJumpOrTheFirstWholeBlock)
 {
+    EXPECT_EQ(withoutDoBlock("<!--do type=\"prev\"--><!--prev/--><!--/do-->a"
+                             "<!--do type=\"accept\"--><!--go href=\"#\"/--><!--/do-->b"),
+        "<!--do type=\"prev\"--><!--prev/--><!--/do-->ab");
     EXPECT_EQ(withoutDoBlock(
                   "a<!--DO type=\"accept\"--><!--go href=\"#\"/--><!--/DO-->b<!--do--><!--/do-->"),
         "ab<!--do--><!--/do-->");
@@ -23,6 +26,11 @@ TEST(WithTargetsRenamed, ChangesWholeTargetsOnly)
     EXPECT_EQ(withTargetsRenamed(
                   "<a href=\"#a\">#a</a><a href=\"#ab\"><!--go href=\"#a\"/-->", "a", "neu"),
         "<a href=\"#neu\">#a</a><a href=\"#ab\"><!--go href=\"#neu\"/-->");
+    EXPECT_EQ(withTargetsRenamed("<!--option onpick=\"#a\"--><input type=radio name=\"TempName1\" "
+                                 "onclick=\"javascript:navigate('#a')\">",
+                  "a", "neu"),
+        "<!--option onpick=\"#neu\"--><input type=radio name=\"TempName1\" "
+        "onclick=\"javascript:navigate('#neu')\">");
 }
 
 TEST(CardIdFault, TellsWhatNoLinkCanLeadTo)
@@ -36,6 +44,8 @@ TEST(CardIdFault, TellsWhatNoLinkCanLeadTo)
         EXPECT_EQ(cardIdFault(id), CardIdFault::None) << id;
     for (const std::string id : {"a b", "a\"b", "a<b", "#a", "a&b", "\xE9t\xE9"})
         EXPECT_EQ(cardIdFault(id), CardIdFault::BadCharacter) << id;
+    for (const std::string id : {"1a", "-a", "."})
+        EXPECT_EQ(cardIdFault(id), CardIdFault::BadBegin) << id;
 }
 
 TEST(NumberRules, AreThoseOfTheFields)

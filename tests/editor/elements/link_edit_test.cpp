@@ -41,14 +41,20 @@ TEST(SetLink, EndsTheLineOnlyWhereItIsAlone)
 TEST(LinkEdits, KeepWhatStandsAround)
 {
     EXPECT_EQ(linkMarkup({"Wort", "w.wml"}), "<a href=\"w.wml\">Wort</a>");
+    const std::string bold = "<p>a <b>b <i>cd</i></b></p>";
+    EXPECT_EQ(linkInPlace(bold, {8, 20}, {"b cd", "#"}), "<b><a href=\"#\">b cd</a></b>");
+    EXPECT_EQ(linkInPlace(bold, {13, 15}, {"cd", "#"}), "<i><a href=\"#\">cd</a></i>");
+    EXPECT_EQ(linkInPlace(bold, {13, 14}, {"c", "#"}), "<a href=\"#\">c</a>");
     const std::string text = "<p>ab <i>c</i></p><p>d<br/>e<a href=\"#\">f</a></p>";
     EXPECT_TRUE(canBecomeLink(text, {3, 10}));
     EXPECT_FALSE(canBecomeLink(text, {3, 22})); // two paragraphs
     EXPECT_FALSE(canBecomeLink(text, {21, 28})); // a line break
     EXPECT_FALSE(canBecomeLink(text, {27, 41})); // a link
     const std::string old = "x<A HREF=#a title=t><b>y</b></A>z<a href=\"#\">2</a>";
-    EXPECT_EQ(
-        withCaret(ReplaceLink(old, 1, {"n", "#n"})), "x<a href=\"#n\">n</a>|z<a href=\"#\">2</a>");
+    EXPECT_EQ(withCaret(ReplaceLink(old, 1, {"n", "#n"})),
+        "x<a href=\"#n\" title=t>n</a>|z<a href=\"#\">2</a>");
+    EXPECT_EQ(ReplaceLink("<a href=\"#\"><b>y</b> &uuml;</a>", 1, {"y \xFC", "#n"}).text,
+        "<a href=\"#n\"><b>y</b> &uuml;</a>");
     EXPECT_EQ(withCaret(DeleteLink(old, 1)), "x|z<a href=\"#\">2</a>");
     EXPECT_EQ(withCaret(DeleteLink("x<a href=#a>y", 1)), "x|y");
     EXPECT_EQ(DeleteLink("x", 1).text, "x");
@@ -78,6 +84,10 @@ TEST(ImageEdits, WriteBothForms)
     EXPECT_EQ(withCaret(SetImage("<p>xy</p>", 4, image)), "<p>x" + full + "|y</p>");
     const std::string old = "x<IMG src=a.bmp></img>y";
     EXPECT_EQ(withCaret(ReplaceImage(old, 1, image)), "x" + full + "|y");
+    EXPECT_EQ(ReplaceImage("<img id=i src=a height=\"3\" localsrc=\"l\" />", 1,
+                  {"b", "c", false, "top", "", ""})
+                  .text,
+        "<img src=\"b\" alt=\"c\" id=i localsrc=\"l\">");
     EXPECT_EQ(withCaret(DeleteImage(old, 1)), "x|y");
     EXPECT_EQ(FindImage(old), 1);
     EXPECT_EQ(FindImage(old, 3), std::nullopt);

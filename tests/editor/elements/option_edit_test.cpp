@@ -2,6 +2,8 @@
 
 #include "document/repair/radio_buttons.h"
 
+#include "document/text/text_search.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
@@ -91,6 +93,12 @@ TEST(ReplaceOption, KeepsThePlaceAndTheBreak)
     EXPECT_EQ(ReplaceOption(two, positionOf(two, "a"), {"", ""}).text,
         listText(
             "<p>x<!--select--><!--option onpick=\"\"--><!--/option-->[b]<!--/select--><br/>y</p>"));
+    const std::string more
+        = "<!--select--><!--option value=\"v\"--><b>x</b><!--/option--><!--/select-->";
+    EXPECT_NE(ReplaceOption(more, 1, {"x", ""}).text.find("<!--option value=\"v\"-->"), npos);
+    const auto changed = ReplaceOption(more, 1, {"x", "#n"}).text;
+    EXPECT_NE(changed.find("<!--option onpick=\"#n\" value=\"v\"-->"), npos) << changed;
+    EXPECT_NE(changed.find("<b>x</b><!--/option-->"), npos) << changed;
 }
 
 TEST(DeleteOption, TakesTheListWithTheLastOption)
