@@ -4,6 +4,9 @@
 #   user time            at most 0.4 of tidy's, and less than xmllint's
 #   user + system time   at most 8 times that of a program that only reads and writes the bytes
 #   memory               at most 4 MB
+# and with --standard-output:
+#   user time            at most 0.6 of tidy's
+#   memory               at most 4 MB more than the deck
 # It fails where one is not kept. The decks are of 1 to 2 KB, with 8-bit text, a third of them broken;
 # tidy, which writes over its input, gets new copies in each round.
 # Needs tidy and xmllint (Debian: tidy, libxml2-utils). Environment: BIN (directory of the built
@@ -20,7 +23,7 @@ done
 work=$(mktemp -d)
 trap 'rm -rf "$work"' EXIT
 "$bin/make-decks" "$decks" "$work/decks" --seed 7 --min 1024 --max 2048 --broken 0.33
-mkdir "$work/copies" "$work/repaired" "$work/bytes"
+mkdir "$work/copies" "$work/repaired" "$work/mended" "$work/bytes"
 
 # run NAME COMMAND...: a line "NAME USER SYSTEM KIB", times in microseconds. What the programs say
 # and their status are left out: broken decks are meant to be complained of.
@@ -36,6 +39,7 @@ while [ "$round" -lt "$rounds" ]; do
     round=$((round + 1))
     cp "$work"/decks/*.wml "$work/copies"
     run quillmere "$bin/quillmere-cli" repair --out-dir "$work/repaired" "$work"/decks/*.wml
+    run standard "$bin/quillmere-cli" repair --standard-output --out-dir "$work/mended" "$work"/decks/*.wml
     run tidy tidy -xml -q -m -latin1 --force-output yes "$work"/copies/*.wml
     run xmllint xmllint --recover --nonet "$work"/decks/*.wml
     run copy "$bin/copy-bytes" "$work/bytes" "$work"/decks/*.wml
@@ -62,8 +66,8 @@ sort "$work/figures" | awk '
     { n = ++rows[$1]; for (f = 2; f <= 4; ++f) figure[$1, n, f] = $f; figure[$1, n, 5] = $2 + $3 }
     END {
         printf "%-12s %10s %10s %10s %10s\n", "", "user ms", "system ms", "both ms", "KiB"
-        split("quillmere tidy xmllint copy", names, " ")
-        for (i = 1; i <= 4; ++i) {
+        split("quillmere standard tidy xmllint copy", names, " ")
+        for (i = 1; i <= 5; ++i) {
             name = names[i]
             printf "%-12s %10.1f %10.1f %10.1f %10d\n", name, median(name, 2) / 1000, \
                 median(name, 3) / 1000, median(name, 5) / 1000, median(name, 4)
@@ -73,5 +77,7 @@ sort "$work/figures" | awk '
         target("user time against xmllint", median("quillmere", 2) / median("xmllint", 2), 1, "")
         target("user and system time against copying", median("quillmere", 5) / median("copy", 5), 8, "")
         target("memory", median("quillmere", 4) / 1024, 4, " MB")
+        target("standard: user time against tidy", median("standard", 2) / median("tidy", 2), 0.6, "")
+        target("standard: memory", median("standard", 4) / 1024, 4, " MB")
         exit missed > 0
     }'

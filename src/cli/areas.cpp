@@ -74,7 +74,7 @@ ExitStatus runAreas(const Arguments& arguments)
         const auto [directory, name] = SplitPath(path);
         CoreSession core(arguments.standardOutput);
         LoadDeck(core.session, {name, directory, {}, {}});
-        if (const auto doubt = doubtAbout(path, core.session)) complain(*doubt);
+        if (const auto doubt = doubtAbout(path, readDeckOf(core.session))) complain(*doubt);
         printRows(rowsOf(core.session), arguments.json);
         return ExitStatus::Done;
     });

@@ -9,6 +9,7 @@
 #include "cli/guarded.h"
 #include "cli/repair_plan.h"
 #include "cli/repair_report.h"
+#include "cli/standard_repair.h"
 #include "cli/terminal.h"
 #include "document/changes/deck_changes.h"
 #include "document/changes/deck_changes_report.h"
@@ -35,6 +36,7 @@ struct RepairedDeck {
     RepairPlan plan;
     std::vector<std::string> areaTexts; ///< for the work files of the plan
     std::optional<DeckChangesReport> changes; ///< where they are told
+    std::vector<PlacedMend> mends;
     std::optional<std::string> doubt; ///< whether it was a deck
     std::optional<DeckFault> fault; ///< of what is written
     std::optional<FileReplacement> file; ///< once it stands beside the old one
@@ -62,18 +64,17 @@ std::string repairInto(CoreSession& core, const std::string& path)
     return core.workFiles.read(first.wmlDir + first.wmlFile);
 }
 
-std::string repairedAgain(
-    const std::string& written, const std::string& path, const Arguments& arguments)
+std::string repairedAgain(const std::string& written, const std::string& path)
 {
-    CoreSession core(arguments.standardOutput);
+    CoreSession core(false);
     return repairedDeck(core.session, written, SplitPath(path).directory);
 }
 
 // No file is written over with what was made of something that is no deck.
 std::optional<std::string> checkIsDeck(
-    const Run& run, const std::string& input, const CoreSession& core)
+    const Run& run, const std::string& input, std::string_view text)
 {
-    auto doubt = doubtAbout(input, core.session);
+    auto doubt = doubtAbout(input, text);
     if (doubt && run.arguments.output != "-" && samePlace(run.planner.outputPath(input), input))
         throw FileFailure(*doubt + " Es wurde nichts geändert; umwandeln lässt sie sich mit -o.");
     return doubt;
@@ -89,24 +90,44 @@ std::vector<std::string> areaTextsOf(const CoreSession& core)
     return texts;
 }
 
+/// The road without loss, which needs no areas.
+void repairByMends(const Run& run, RepairedDeck& deck)
+{
+    auto repair = repairStandard(readFile(deck.input));
+    deck.doubt = checkIsDeck(run, deck.input, repair.read);
+    if (run.arguments.keepWork) {
+        CoreSession core(true);
+        const auto [directory, name] = SplitPath(deck.input);
+        LoadDeck(core.session, {name, directory, {}, {}});
+        deck.areaTexts = areaTextsOf(core);
+    }
+    deck.plan = run.planner.plan(deck.input, deck.areaTexts.size(), repair.written);
+    if (!run.arguments.json) deck.fault = repair.fault;
+    if (run.report.wanted()) deck.changes = changesOf(repair);
+    deck.written = std::move(repair.written);
+    deck.mends = std::move(repair.mends);
+}
+
 void repairOne(const Run& run, RepairedDeck& deck)
 {
     const Arguments& arguments = run.arguments;
-    CoreSession core(arguments.standardOutput);
+    if (arguments.standardOutput) return repairByMends(run, deck);
+    CoreSession core(false);
     deck.written = repairInto(core, deck.input);
-    deck.doubt = checkIsDeck(run, deck.input, core);
+    deck.doubt = checkIsDeck(run, deck.input, readDeckOf(core.session));
     deck.plan = run.planner.plan(deck.input, areaCount(core.session.deck), deck.written);
     if (!deck.plan.workFiles.empty()) deck.areaTexts = areaTextsOf(core);
     if (!arguments.json) deck.fault = deckFault(deck.written); // the document tells it
     if (!run.report.wanted()) return;
     deck.changes = DeckChanges(readDeckOf(core.session), deck.written);
-    deck.changes->stable = repairedAgain(deck.written, deck.input, arguments) == deck.written;
+    deck.changes->stable = repairedAgain(deck.written, deck.input) == deck.written;
 }
 
 /// Writes the deck beside the file that it will replace.
 void beginWriting(Run& run, RepairedDeck& deck)
 {
-    if (deck.changes) run.report.tell(deck.input, *deck.changes, deck.plan, deck.written);
+    if (deck.changes)
+        run.report.tell({deck.input, *deck.changes, deck.mends, deck.plan, deck.written});
     if (!run.arguments.dryRun) deck.file = carryOut(deck.plan, deck.areaTexts, deck.written);
 }
 

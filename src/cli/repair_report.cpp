@@ -33,6 +33,34 @@ std::string jsonPlan(const RepairPlan& plan, std::string_view written)
         + ", \"workFiles\": " + jsonTexts(plan.workFiles);
 }
 
+std::string jsonMends(const std::vector<PlacedMend>& mends)
+{
+    std::string json;
+    for (const auto& [mend, place] : mends) {
+        json += json.empty() ? "\n" : ",\n";
+        json += "  {\"rule\": " + jsonText(std::string(nameOf(mend.rule)))
+            + ", \"text\": " + jsonText(std::string(germanText(mend.rule))) + ", \"line\": "
+            + std::to_string(place.line) + ", \"column\": " + std::to_string(place.column)
+            + ", \"before\": " + jsonString(toUtf8(mend.before))
+            + ", \"after\": " + jsonString(toUtf8(mend.after)) + "}";
+    }
+    return ", \"mends\": [" + json + "]";
+}
+
+/// Each mend on a line: Berichtigt: Ein Wert bekam Anführungszeichen (Zeile 1, Spalte 2): a -> "a".
+std::string mendsText(const std::vector<PlacedMend>& mends)
+{
+    std::string text;
+    for (const auto& [mend, place] : mends) {
+        text.append("Berichtigt: ").append(germanText(mend.rule));
+        text += " (Zeile " + std::to_string(place.line) + ", Spalte " + std::to_string(place.column)
+            + ")";
+        if (!mend.before.empty()) text += ": " + inOneLine(toUtf8(mend.before));
+        text += " -> " + (mend.after.empty() ? "nichts" : inOneLine(toUtf8(mend.after))) + "\n";
+    }
+    return text;
+}
+
 std::string quoted(const std::string& path)
 {
     return "„" + inOneLine(path) + "“";
@@ -80,17 +108,17 @@ void RepairReport::begin() const
     if (arguments_.json) printBytes("[");
 }
 
-void RepairReport::tell(const std::string& input, const DeckChangesReport& report,
-    const RepairPlan& plan, std::string_view written)
+void RepairReport::tell(const ToldDeck& deck)
 {
     if (arguments_.json) {
-        std::string json = jsonReport(report, input);
+        std::string json = jsonReport(deck.changes, deck.input);
         json.pop_back(); // its "}" follows once it is known how the writing ended
-        printBytes((told_ == 0 ? "" : ",\n") + json + jsonPlan(plan, written));
+        if (arguments_.standardOutput) json += jsonMends(deck.mends);
+        printBytes((told_ == 0 ? "" : ",\n") + json + jsonPlan(deck.plan, deck.written));
         open_ = true;
     } else {
-        print((told_ == 0 ? "" : "\n") + textReport(report, inOneLine(input))
-            + (arguments_.dryRun ? planText(plan, written) : ""));
+        print((told_ == 0 ? "" : "\n") + textReport(deck.changes, inOneLine(deck.input))
+            + mendsText(deck.mends) + (arguments_.dryRun ? planText(deck.plan, deck.written) : ""));
     }
     ++told_;
     finishOutput();

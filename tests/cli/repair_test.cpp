@@ -9,6 +9,7 @@ namespace quillmere {
 namespace {
 
 namespace fs = std::filesystem;
+using namespace std::string_literals;
 using test::Call;
 using test::Cli;
 using test::kDeck;
@@ -33,6 +34,27 @@ TEST_F(Cli, RepairReportsWhatItChanges)
     EXPECT_TRUE(json.starts_with("[{\"deck\": ") && json.ends_with("}]\n")) << json;
     EXPECT_LT(json.find("\"stable\": true"), json.find("},\n{\"deck\": ")) << json;
     EXPECT_EQ(json.find("Gruesse"), json.npos);
+}
+
+TEST_F(Cli, RepairWithStandardOutputMendsAndTellsIt)
+{
+    folder.put("d.wml", "<wml><card id=a>\xFC<timer value='1'/></card></wml>");
+    const auto told = cli({"repair", "@d.wml", "--standard-output", "--report"}).output;
+    EXPECT_EQ(folder.get("d.wml"),
+        "<wml><card id=\"a\"><p>&#252;</p><timer value='1'/></card></wml>");
+    EXPECT_NE(told.find("Berichtigt: Ein Wert bekam Anführungszeichen (Zeile 1, Spalte 6): a -> "
+                        "\"a\"\n"),
+        told.npos)
+        << told;
+    const auto json = cli({"repair", "@d.wml", "--standard-output", "--dry-run", "--json"}).output;
+    EXPECT_NE(json.find(", \"mends\": [], "), json.npos) << json;
+    folder.put("u.wml", "\xFF\xFE<\0w\0m\0l\0>\0<\0c\0a\0r\0d\0/\0>\0<\0/\0w\0m\0l\0>\0"s);
+    const auto wide = folder.get("u.wml");
+    EXPECT_EQ(cli({"repair", "@u.wml", "--standard-output"}).status, 0);
+    EXPECT_EQ(folder.get("u.wml"), wide);
+    const auto big = "<wml><card><p>" + std::string(1U << 20U, 'x') + "</p></card></wml>";
+    folder.put("big.wml", big);
+    EXPECT_EQ(cli({"repair", "@big.wml", "--standard-output"}).status, 3);
 }
 
 TEST_F(Cli, RepairWritesWhereItIsTold)

@@ -188,7 +188,8 @@ std::string DeckBytes::decoded(std::string_view slice) const
     std::string utf8;
     for (std::size_t at = 0; at < slice.size();) {
         const auto character = characterAt(slice, at);
-        appendSpelled(utf8, character.point);
+        const bool isHalf = character.point >= 0xD800 && character.point <= 0xDFFF;
+        appendSpelled(utf8, isHalf ? U'?' : character.point);
         at += character.length;
     }
     return fromUtf8(utf8);

@@ -1,0 +1,65 @@
+#include "document/wml/deck_bytes.h"
+
+#include "support/small_random.h"
+
+#include <gtest/gtest.h>
+
+namespace quillmere {
+namespace {
+
+using namespace std::string_literals;
+
+TEST(DeckBytes, AnyFileComesBackAsItWas)
+{
+    for (std::uint64_t seed = 0; seed < 400; ++seed) {
+        const auto bytes = test::randomBytes(seed % 41, seed);
+        for (const auto& mark :
+            {""s, "\xFF\xFE"s, "\xFE\xFF"s, "\xEF\xBB\xBF"s, "<\0?\0"s, "\0<\0?"s})
+            ASSERT_EQ(DeckBytes(mark + bytes).file(), mark + bytes) << "seed " << seed;
+    }
+}
+
+/// A file, how it is read, and how "\xFC\x80" (ü and the euro) is written into it.
+struct EncodingRow {
+    std::string file;
+    DeckEncoding encoding;
+    std::string decoded;
+    std::string encoded;
+    bool isValid = true;
+};
+
+TEST(DeckBytes, ReadsAndWritesCharactersInTheEncodingOfTheFile)
+{
+    using enum DeckEncoding;
+    const auto declared = [](const std::string& name, const std::string& text) {
+        return "<?xml version=\"1.0\" encoding='" + name + "' ?>" + text;
+    };
+    const std::string utf8Both = "\xC3\xBC\xE2\x82\xAC";
+    const EncodingRow rows[] = {{"\xC3\xBC", Utf8, "\xFC", utf8Both},
+        {"\xE2\x88\x92\xFC", Utf8, "&#8722;\xFC", utf8Both, false},
+        {"abc", Utf8, "abc", "&#252;&#8364;"},
+        {declared("ISO-8859-1", "\xFC"), Windows1252, declared("ISO-8859-1", "\xFC"),
+            "\xFC&#8364;"},
+        {declared("windows-1252", "\x80\x81"), Windows1252, declared("windows-1252", "\x80\x81"),
+            "\xFC\x80", false},
+        {declared("iso-8859-15", "\xA4"), Named, declared("iso-8859-15", "\x80"), "\xFC\xA4"},
+        {declared("koi8-r", "\xF0"), Named, declared("koi8-r", "&#1055;"), "&#252;&#8364;"},
+        {declared("us-ascii", "\xFC"), Named, declared("us-ascii", "\xFC"), "&#252;&#8364;", false},
+        {declared("utf-16", "\xC3\xBC"), Utf8, declared("utf-16", "\xFC"), utf8Both},
+        {declared("klingon", "\xC3\xBC"), Utf8, declared("klingon", "\xFC"), utf8Both},
+        {"\xFF\xFE\xFC\0"s, Utf16LittleEndian, "\xFC", utf8Both},
+        {"\xFE\xFF\xD8\0"s, Utf16BigEndian, "?", utf8Both, false}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.decoded);
+        const DeckBytes deck(row.file);
+        EXPECT_EQ(deck.encoding(), row.encoding);
+        EXPECT_EQ(deck.decoded(deck.text()), row.decoded);
+        EXPECT_EQ(deck.encoded("\xFC\x80"), row.encoded);
+        EXPECT_EQ(deck.isValid(deck.text()), row.isValid);
+    }
+    EXPECT_TRUE(DeckBytes(declared("utf-16", "")).declaresWrongly());
+    EXPECT_FALSE(DeckBytes(declared("koi8-r", "")).declaresWrongly());
+}
+
+} // namespace
+} // namespace quillmere
