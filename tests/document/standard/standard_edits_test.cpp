@@ -1,7 +1,7 @@
 #include "document/changes/deck_changes.h"
 #include "document/design_text.h"
 #include "document/platform/files.h"
-#include "document/standard/design_pieces.h"
+#include "document/standard/opened_card.h"
 #include "document/wml/repaired_file.h"
 #include "generator/deck_generator.h"
 #include "generator/wml_generator.h"
@@ -185,6 +185,18 @@ std::string withoutChance(const std::string& design)
     return std::regex_replace(plain, std::regex(" *(<[^>]*>) *"), "$1");
 }
 
+/// Each piece of an opened text is read as one, and each token of the card belongs to one.
+void expectPiecesAsRead(const OpenedCard& card)
+{
+    const auto read = readDesignPieces(card.text);
+    ASSERT_EQ(read.size() + 1, card.pieces.size());
+    for (std::size_t i = 0; i < read.size(); ++i) {
+        const auto& opened = card.pieces[i];
+        EXPECT_EQ(read[i].text, card.text.substr(opened.begin, opened.end - opened.begin));
+        EXPECT_EQ(opened.tokens.behind, card.pieces[i + 1].tokens.first);
+    }
+}
+
 void expectEditStaysInPlace(const std::string& file, std::uint64_t seed, bool checksRules)
 {
     test::SmallRandom random(seed);
@@ -192,6 +204,7 @@ void expectEditStaysInPlace(const std::string& file, std::uint64_t seed, bool ch
     deck.load(file);
     ASSERT_EQ(deck.written(), file);
     const auto area = random.below(areaCount(deck.session.deck));
+    expectPiecesAsRead(*deck.session.deck[area].origin.card);
     Editor editor(ReadDesignText(deck.session, area), random);
     const auto edit = editor.next();
     if (!edit) return;
