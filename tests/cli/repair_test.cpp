@@ -40,8 +40,8 @@ TEST_F(Cli, RepairWithStandardOutputMendsAndTellsIt)
 {
     folder.put("d.wml", "<wml><card id=a>\xFC<timer value='1'/></card></wml>");
     const auto told = cli({"repair", "@d.wml", "--standard-output", "--report"}).output;
-    EXPECT_EQ(folder.get("d.wml"),
-        "<wml><card id=\"a\"><p>&#252;</p><timer value='1'/></card></wml>");
+    EXPECT_EQ(
+        folder.get("d.wml"), "<wml><card id=\"a\"><p>&#252;</p><timer value='1'/></card></wml>");
     EXPECT_NE(told.find("Berichtigt: Ein Wert bekam Anführungszeichen (Zeile 1, Spalte 6): a -> "
                         "\"a\"\n"),
         told.npos)
