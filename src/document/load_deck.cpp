@@ -178,15 +178,16 @@ void openCard(DocumentSession& session, const Frame& frame, std::uint32_t card)
 {
     const auto index = areaCount(session.deck) - 1;
     auto& origin = session.deck[index].origin;
-    const auto opened = origin.deck->open(card, picturesOf(session, index));
-    std::string body = opened.text.substr(opened.contentBegin);
+    const auto roads = picturesOf(session, index);
+    const auto opened = std::make_shared<const OpenedCard>(origin.deck->open(card, roads));
+    std::string body = opened->text.substr(opened->contentBegin);
     insertRadioButtons(body, maxDesignLength(session));
-    const auto marker = std::string_view(opened.text).substr(0, opened.contentBegin);
+    const auto marker = std::string_view(opened->text).substr(0, opened->contentBegin);
     const auto& area = session.deck[index];
     session.workFiles.write(
         area.designDir + area.designFile, designFileOf(marker, {}, frame, body));
     origin.index = card;
-    origin.card = std::make_shared<const OpenedCard>(opened);
+    origin.card = opened;
 }
 
 void openCards(

@@ -1,4 +1,4 @@
-// The pieces of the card as it is are written one after the other. Held by card_changes_test.cpp.
+// The pieces of the card as it is are written one after the other. Held by standard_road_test.cpp.
 
 #include "document/standard/card_changes.h"
 

@@ -1,8 +1,9 @@
-// Held by card_changes_test.cpp.
+// Held by standard_road_test.cpp.
 
 #include "document/standard/card_pieces.h"
 
 #include "document/standard/card_order.h"
+#include "document/standard/new_runs.h"
 #include "document/standard/piece_alignment.h"
 #include "document/text/content_hash.h"
 #include "document/text/windows1252.h"

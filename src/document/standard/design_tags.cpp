@@ -1,4 +1,4 @@
-// Held by opened_card_test.cpp and card_changes_test.cpp.
+// Held by standard_road_test.cpp.
 
 #include "document/standard/design_tags.h"
 

@@ -1,5 +1,5 @@
 // One walk over the tokens of the card, with the open elements in a stack. Held by
-// opened_card_test.cpp, which reads the text again and compares the pieces.
+// standard_edits_test.cpp, which reads the text again and compares the pieces.
 
 #include "document/standard/opened_card.h"
 

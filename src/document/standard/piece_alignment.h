@@ -15,14 +15,6 @@ inline constexpr std::uint32_t kNoPiece = std::numeric_limits<std::uint32_t>::ma
 [[nodiscard]] std::vector<std::uint32_t> alignPieces(
     std::span<const std::uint64_t> then, std::span<const std::uint64_t> now);
 
-enum class PieceTurn : std::uint8_t { None, Opens, Closes };
-
-/// Of "<p>a</p><p>b</p>" out of "<p>b</p>" the new part may be "a</p><p>" as well as "<p>a</p>".
-/// Moves such runs of new pieces to where they are whole elements. `places` is as alignPieces gives
-/// it, `keys` and `turns` are of the same sequence.
-void settleRuns(std::span<const std::uint64_t> keys, std::span<const PieceTurn> turns,
-    std::vector<std::uint32_t>& places);
-
 /// The same alignment seen from the other sequence, which has `count` pieces.
 [[nodiscard]] std::vector<std::uint32_t> inverted(
     std::span<const std::uint32_t> places, std::size_t count);

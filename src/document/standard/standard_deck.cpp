@@ -1,5 +1,5 @@
 // A broken deck is mended before it is taken apart, so that all that follows knows well-formed
-// decks only. Held by standard_deck_test.cpp.
+// decks only. Held by standard_road_test.cpp.
 
 #include "document/standard/standard_deck.h"
 

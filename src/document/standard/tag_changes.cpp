@@ -1,4 +1,4 @@
-// Held by card_changes_test.cpp.
+// Held by standard_road_test.cpp.
 
 #include "document/standard/tag_changes.h"
 
@@ -41,17 +41,32 @@ public:
         , manner_(manner)
     {
     }
-    void appendAttribute(const DeckAttribute& attribute, char quote = '\0')
+    void appendNew(const DeckAttribute& attribute)
     {
-        if (quote == '\0') quote = manner_.quote;
-        const auto value = writtenValue(attribute.value, quote, manner_.knowsHardBlank);
-        result_.append(attribute.name).append("=").append(1, quote);
-        result_.append(deck_.encoded(value)).append(1, quote);
+        result_.append(" ").append(attribute.name).append("=").append(1, manner_.quote);
+        appendValue(attribute, manner_.quote);
+        result_.append(1, manner_.quote);
+    }
+    /// All but the value as it is written.
+    void appendChanged(const WmlAttribute& written, const DeckAttribute& now)
+    {
+        if (written.quote == '\0') return appendNew(now);
+        const auto* const end = written.source.data() + written.source.size();
+        const auto* const valueEnd = written.value.data() + written.value.size();
+        result_.append(written.source.data(), written.value.data());
+        appendValue(now, written.quote);
+        result_.append(valueEnd, end);
     }
     void append(std::string_view text) { result_ += text; }
     std::string take() { return std::move(result_); }
 
 private:
+    void appendValue(const DeckAttribute& attribute, char quote)
+    {
+        const auto value = writtenValue(attribute.value, quote, manner_.knowsHardBlank);
+        result_ += deck_.encoded(value);
+    }
+
     const DeckBytes& deck_;
     const DeckManner& manner_;
     std::string result_;
@@ -79,7 +94,7 @@ std::string changedTag(std::string_view source, WmlElement element, Attributes t
             if (shown != nullptr && *wanted == *shown)
                 result.append(attribute.source);
             else
-                result.appendAttribute(*wanted, attribute.quote);
+                result.appendChanged(attribute, *wanted);
         }
         copied = end;
     }
@@ -87,8 +102,7 @@ std::string changedTag(std::string_view source, WmlElement element, Attributes t
         const auto* const shown = find(then, attribute.name);
         const bool isSame = shown != nullptr && *shown == attribute;
         if (isSame || written.contains(attribute.name) || !isWritten(element, attribute)) continue;
-        result.append(" ");
-        result.appendAttribute(attribute);
+        result.appendNew(attribute);
     }
     result.append(std::string_view(copied, source.data() + source.size()));
     return result.take();
@@ -102,8 +116,7 @@ std::string newTag(std::string_view name, WmlElement element, Attributes attribu
     result.append(name);
     for (const auto& attribute : attributes) {
         if (!isWritten(element, attribute)) continue;
-        result.append(" ");
-        result.appendAttribute(attribute);
+        result.appendNew(attribute);
     }
     if (isEmptyTag) result.append(manner.hasBlankAheadOfSlash ? " /" : "/");
     result.append(">");

@@ -1,4 +1,4 @@
-// Held by card_changes_test.cpp.
+// Held by standard_road_test.cpp.
 
 #include "document/standard/token_writer.h"
 

@@ -1,4 +1,6 @@
 #include "document/standard/piece_alignment.h"
+
+#include "document/standard/new_runs.h"
 #include "support/small_random.h"
 
 #include <gtest/gtest.h>

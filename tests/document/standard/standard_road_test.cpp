@@ -3,11 +3,14 @@
 #include "document/images.h"
 #include "document/standard/opened_card.h"
 #include "document/standard/standard_deck.h"
+#include "document/standard_recovery.h"
 #include "document/text/failure.h"
 #include "document/text/limits.h"
 #include "support/small_deck.h"
 
 #include <gtest/gtest.h>
+
+#include <array>
 
 namespace quillmere {
 namespace {
@@ -251,6 +254,24 @@ TEST(StandardRoad, KnowsCardsAndJumpsWhereTheyAreOfOtherShapes)
     EXPECT_EQ(deck.written(),
         "<wml><card title='T' ontimer='#b' id='neu'><do type='accept' label='L' name='Sprung0'>"
         "<go href='#b'/></do><do type='accept' name='d'><prev/></do><p/></card></wml>");
+}
+
+TEST(StandardRoad, FindsTheCardsOfADeckAgain)
+{
+    const std::string file
+        = "<wml><head/><card id=\"a\"><p>1<img alt=\"\" src='a.wbmp'/></p></card>"
+          "<card id=\"b\"><p>2</p></card></wml>";
+    OpenDeck crashed(file);
+    crashed.replace(1, "2", "3");
+    RemoveArea(crashed.session, 0, false);
+    OpenDeck deck("<wml/>");
+    deck.session.deck = crashed.session.deck;
+    const std::array cards{cardOf(crashed.session.deck[0])};
+    deck.files.write(deck.session.deck[0].designFile, crashed.design(0));
+    for (auto& record : deck.session.deck)
+        record.origin = {};
+    reopenCards(deck.session, file, cards);
+    EXPECT_EQ(deck.written(), "<wml><head/><card id=\"b\"><p>3</p></card></wml>");
 }
 
 TEST(StandardRoad, MendsABrokenDeckOnlyWithAChange)
