@@ -74,7 +74,9 @@ std::string Drawing::item(const PageItem& item)
 void Drawing::drawBlock(const PageBlock& block)
 {
     constexpr std::array kAlignments{"", "c", "r"};
-    out_ << (block.isAside ? "A" : block.paragraph == kNone ? "-" : "P")
+    out_ << (block.isAside             ? "A"
+            : block.paragraph == kNone ? "-"
+                                       : "P")
          << kAlignments.at(static_cast<std::size_t>(block.alignment)) << ':';
     TextStyle style;
     for (std::size_t i = block.firstItem; i < block.endItem; ++i) {

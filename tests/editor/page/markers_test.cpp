@@ -150,8 +150,7 @@ TEST(Markers, ArePastedAndCopiedAsWholes)
         {"the start of a group", "<p>a[$F]b$fc</p>", "$F$f"},
         {"the start and a part", "<p>a[$Fb]c$fd</p>", "$Fb$f"},
         {"a part and the end", "<p>a$Fb[c$f]d</p>", "$Fc$f"},
-        {"a part of an anchor", "<p><!--anchor-->a[b<!--go x/--><!--/anchor-->]</p>",
-            "b"},
+        {"a part of an anchor", "<p><!--anchor-->a[b<!--go x/--><!--/anchor-->]</p>", "b"},
         {"an anchor", "<p>[<!--anchor-->a<!--go x/--><!--/anchor-->b]</p>",
             "<!--anchor-->a<!--go x/--><!--/anchor-->b"},
     };
