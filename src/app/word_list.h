@@ -58,6 +58,13 @@ inline constexpr WordUse kWordIds[] = {
     {word::kReplaceInProject, 1}, {word::kAddedFolderCaption, 0}, {word::kAddedFolderInfo, 0},
     {word::kSendingFiles, 0}, {word::kDeletingFiles, 0}, {word::kMakingDirectory, 0},
     {word::kReadingDirectory, 0},
+    {word::kNoRecovery, 1}, {word::kRecover, 3}, {word::kRecoverOverAltered, 3},
+    {word::kRecoverRemoved, 3}, {word::kDiscardRecovered, 1}, {word::kAlteredOutside, 1},
+    {word::kRemovedOutside, 1}, {word::kNotSaved, 0}, {word::kTextStays, 0},
+    {word::kToolMissing, 1}, {word::kRecentDecks, 0}, {word::kCharacterCount, 1},
+    {word::kNoHit, 0}, {word::kOneHit, 0}, {word::kHits, 1}, {word::kHitOf, 2},
+    {word::kReplaced, 1}, {word::kBadNameHint, 0}, {word::kBadFolderHint, 0},
+    {word::kIsOpenHint, 0},
 };
 // clang-format on
 

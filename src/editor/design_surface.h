@@ -206,7 +206,7 @@ private:
     void updatePointer(QPoint point);
 
     WorkFiles& files_;
-    PictureCache pictures_;
+    PictureCache pictures_{&files_};
     InlineObjects objects_{pictures_};
     SurfaceStyle style_;
     OutputRules rules_; // of the next text; those of the shown one are the page's

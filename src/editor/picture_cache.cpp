@@ -2,6 +2,7 @@
 
 #include "editor/picture_cache.h"
 
+#include <QBuffer>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -13,12 +14,11 @@ namespace {
 constexpr int kMaxSidePx = 4096;
 constexpr qint64 kMaxFileBytes = 64 * 1024 * 1024;
 
-QImage readPicture(const QString& path)
+QImage readPicture(QIODevice& file)
 {
-    const QFileInfo file(path);
     // A pipe or a device would never end.
-    if (!file.isFile() || file.size() > kMaxFileBytes) return {};
-    QImageReader reader(path);
+    if (file.isSequential() || file.size() > kMaxFileBytes) return {};
+    QImageReader reader(&file);
     reader.setDecideFormatFromContent(true);
     const QSize size = reader.size();
     if (size.isEmpty() || size.width() > kMaxSidePx || size.height() > kMaxSidePx) return {};
@@ -41,7 +41,18 @@ QImage PictureCache::find(std::string_view path)
     const auto whole = QDir::isAbsolutePath(name) ? name : directory_ + name;
     const auto known = pictures_.constFind(whole);
     if (known != pictures_.constEnd()) return *known;
-    return *pictures_.insert(whole, readPicture(whole));
+    return *pictures_.insert(whole, read(whole));
+}
+
+QImage PictureCache::read(const QString& path) const
+{
+    if (QFile file(path); QFileInfo(path).isFile() && file.open(QIODevice::ReadOnly))
+        return readPicture(file);
+    const auto name = QFile::encodeName(path).toStdString();
+    if (files_ == nullptr || QFileInfo::exists(path) || !files_->exists(name)) return {};
+    auto bytes = QByteArray::fromStdString(files_->read(name));
+    QBuffer buffer(&bytes);
+    return buffer.open(QIODevice::ReadOnly) ? readPicture(buffer) : QImage();
 }
 
 } // namespace quillmere

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "document/platform/work_files.h"
+
 #include <QHash>
 #include <QImage>
 #include <QString>
@@ -12,6 +14,11 @@ namespace quillmere {
 /// The pictures of a page, each read once. A picture larger than 4096 by 4096 is not decoded.
 class PictureCache {
 public:
+    /// A display copy that the disk has not is asked of `files`.
+    explicit PictureCache(const WorkFiles* files = nullptr)
+        : files_(files)
+    {
+    }
     /// Where relative paths begin, with its separator. Forgets all pictures.
     void reset(const std::string& directory);
     /// The picture of a path as bytes of the system; a null image where there is none, or where it
@@ -19,6 +26,9 @@ public:
     [[nodiscard]] QImage find(std::string_view path);
 
 private:
+    [[nodiscard]] QImage read(const QString& path) const;
+
+    const WorkFiles* files_;
     QString directory_;
     QHash<QString, QImage> pictures_;
 };

@@ -1,5 +1,7 @@
 #pragma once
 
+#include <string>
+
 namespace quillmere {
 
 /// The main window as the dialogs see it. The shown area is DocumentSession::currentArea.
@@ -20,6 +22,8 @@ public:
     /// Saves a changed deck to its file; with `Ask` only where the person assents.
     virtual void AskAndSaveTmpWmlDocToWmlDoc(bool Ask) = 0;
     virtual void SetScriptUndoFlagsBack() = 0;
+    /// Shows the source view with a text that was never taken over.
+    virtual void resumeSource(const std::string& wml) = 0;
     virtual void ShowHelp() = 0;
     /// Shows one of the four messages that guard the tools: 1 no deck is open, 2 not in the source
     /// view, 3 nothing to save, 4 nothing goes into a table.

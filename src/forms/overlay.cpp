@@ -69,6 +69,9 @@ void overlay(QWidget& control, const ControlEntry& entry, const Session& session
 {
     setCaption(control, entry.Text);
     if (!entry.Tooltip.empty()) control.setToolTip(shownText(entry.Tooltip));
+    const bool isPictureAlone = entry.Text.empty() && !entry.Tooltip.empty();
+    if (isPictureAlone && qobject_cast<QAbstractButton*>(&control) != nullptr)
+        control.setAccessibleName(shownText(entry.Tooltip));
     addItems(control, entry.List);
     setPicture(control, pictureFile(session, entry.Img));
 }

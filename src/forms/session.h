@@ -13,6 +13,7 @@
 #include "skins/user_devices.h"
 
 #include <functional>
+#include <string>
 #include <vector>
 
 namespace quillmere {
@@ -33,9 +34,11 @@ struct Session {
     DeckWindow* window = nullptr; ///< the main window, once there is one
     ImageEntry lastImage{}; ///< the picture that the image dialog handed over last
     bool gSurfaceActive = false; ///< the person works on the surface
-    /// Called by the main window after design work files were written, so that a later start can
-    /// tell what they belong to; the argument tells whether the deck differs from its file.
+    /// Called by the main window after work files were written, so that a later start can tell
+    /// what they belong to; the argument tells whether the deck differs from its file.
     std::function<void(bool deckChanged)> afterStore{};
+    /// The work file of the source view's text, while that is not taken over yet; "": none.
+    std::string sourcePath{};
     /// Whoever opens, makes or saves the deck has the file remembered; asked ahead of a save.
     DeckFileWatch deckFile{};
 };

@@ -4,6 +4,7 @@
 #include "program/data_directories.h"
 
 #include "forms/text.h"
+#include "program/shipped_copy.h"
 
 #include <QStandardPaths>
 
@@ -19,6 +20,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char* kWrittenFolders[] = {"Skins", "Connect"};
+constexpr const char* kSkins = "Skins/";
 
 /// The folder or, where it is still to be made, what it will stand in.
 std::string existingFolder(const std::string& directory, const char* name)
@@ -60,6 +62,7 @@ DataDirectories prepareDataDirectories(const std::string& appDirectory,
     fs::create_directories(userDirectory, error);
     for (const auto* folder : kWrittenFolders)
         copyFolder(appDirectory + folder, userDirectory + folder);
+    renewShippedCopy(appDirectory + kSkins, userDirectory + kSkins);
     const bool isCopied = fs::exists(userDirectory + kWrittenFolders[0], error);
     return {appDirectory, isCopied ? userDirectory : appDirectory};
 }

@@ -14,7 +14,8 @@ struct DataDirectories {
 [[nodiscard]] bool isWritableDirectory(const std::string& directory);
 
 /// Uses the data in `appDirectory` where its folders can be written, else copies them once to
-/// `userDirectory`. Both have their separators. What cannot be copied is left where it is.
+/// `userDirectory` and renews there of the skins what the person has not changed. Both have their
+/// separators. What cannot be copied is left where it is.
 [[nodiscard]] DataDirectories prepareDataDirectories(const std::string& appDirectory,
     const std::string& userDirectory,
     const std::function<bool(const std::string& directory)>& canBeWritten = isWritableDirectory);

@@ -5,6 +5,7 @@
 
 #include "app/settings.h"
 #include "document/platform/paths.h"
+#include "document/platform/word_ids.h"
 #include "document/text/failure.h"
 #include "editor/window/element_forms.h"
 #include "forms/frm_about_quillmere.h"
@@ -217,15 +218,21 @@ void Program::registerForms()
     registerForm("frmOpenFromProjektDir", std::in_place_type<frmOpenFromProjektDir>);
 }
 
-// A note that cannot be written costs nothing but the recovery of what comes next; the store itself
-// told already that the disk is full.
-void Program::noteDeck(bool isChanged) const
+// Behind the step that stored, since a message lets other events in.
+void Program::noteDeck(bool isChanged)
 {
-    try {
-        writeRecoveryNote(session_.document, isChanged);
-    } catch (const FileFailure&) {
-        return;
-    }
+    writeRecoveryNote(
+        session_.document, {isChanged, session_.deckFile.seen(), session_.sourcePath});
+    if (workFiles_.trouble() && !std::exchange(isTroubleTold_, true))
+        QTimer::singleShot(0, &window_, [this] { tellTrouble(); });
+}
+
+/// Once in a run: the text stays in memory and can be saved, but a crash would take it along.
+void Program::tellTrouble()
+{
+    if (!workFiles_.trouble()) return;
+    messages_.show(word::kNoRecovery,
+        {{coreText(QString::fromStdString(workFiles_.trouble()->utf8()))}}, MessageIcon::Warning);
 }
 
 void Program::showWindow()

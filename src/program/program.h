@@ -65,10 +65,12 @@ private:
     void showAssistant();
 
     void registerForms();
-    void noteDeck(bool isChanged) const;
+    void noteDeck(bool isChanged);
+    void tellTrouble();
 
     StartOptions options_;
     bool hasBegun_ = false; // firstActivation() ran
+    bool isTroubleTold_ = false; // of the work files
     DataDirectories directories_;
     clsRegistry settings_;
     DiskFileSystem files_;

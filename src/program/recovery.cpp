@@ -7,6 +7,7 @@
 #include "document/deck_store.h"
 #include "document/platform/files.h"
 #include "document/platform/memory_work_files.h"
+#include "document/platform/paths.h"
 #include "document/text/content_hash.h"
 #include "document/text/failure.h"
 
@@ -79,6 +80,7 @@ std::optional<std::vector<std::string>> areaTexts(const RecoveryNote& note)
 bool hasChanges(const RecoveryNote& note)
 {
     if (note.areas.empty()) return false;
+    if (fileExists(note.source.path())) return true;
     const auto texts = areaTexts(note);
     if (!texts) return note.isChanged && fileExists(note.wml.path());
     if (note.isChanged) return true;
@@ -141,12 +143,35 @@ std::optional<CrashedRun> crashedRun(std::string directory)
 
 } // namespace
 
-void writeRecoveryNote(const DocumentSession& session, bool isChanged)
+void writeRecoveryNote(const DocumentSession& session, const NotedState& state)
 {
     const auto now = std::chrono::system_clock::now().time_since_epoch();
-    const auto seconds = std::chrono::duration_cast<std::chrono::seconds>(now).count();
-    replaceWorkFile(session.workFiles.directory() + std::string(kNoteName),
-        textOfNote(noteOf(session.deck, isChanged, seconds)));
+    auto& files = session.workFiles;
+    auto note = noteOf(session.deck, files, state.isChanged);
+    note.time = std::chrono::duration_cast<std::chrono::seconds>(now).count();
+    note.seen = state.seen;
+    const auto source = SplitPath(state.sourcePath);
+    note.source = {source.directory, source.name};
+    files.write(files.directory() + std::string(kNoteName), textOfNote(note));
+}
+
+DeckFileChange deckFileChange(const CrashedRun& run)
+{
+    const auto& note = run.note;
+    if (!note.seen) return DeckFileChange::None;
+    DeckFileWatch watch;
+    watch.resume(note.deck.path(), *note.seen);
+    const auto change = watch.change();
+    if (change != DeckFileChange::Altered) return change;
+    const auto saved = readable(note.wml.path(), kMaxNoteBytes);
+    const auto text = readable(note.deck.path(), kMaxNoteBytes);
+    return saved && saved == text ? DeckFileChange::None : change;
+}
+
+std::optional<std::string> sourceOf(const CrashedRun& run)
+{
+    return run.note.source.name.empty() ? std::nullopt
+                                        : readable(run.note.source.path(), kMaxNoteBytes);
 }
 
 std::vector<CrashedRun> takeCrashedRuns(const std::string& parent)

@@ -3,7 +3,6 @@
 
 #include "program/recovery_note.h"
 
-#include "document/platform/files.h"
 #include "document/text/content_hash.h"
 
 #include <algorithm>
@@ -130,12 +129,34 @@ ImageEntry readImage(LineReader& line)
     return image;
 }
 
+void writeSeen(std::string& text, const SeenDeckFile& seen)
+{
+    LineWriter(text, "seen")
+        .add(seen.exists ? 1 : 0)
+        .add(seen.sizeBytes)
+        .add(seen.modifiedNs)
+        .add(seen.content)
+        .end();
+}
+
+SeenDeckFile readSeen(LineReader& line)
+{
+    SeenDeckFile seen;
+    line.read(seen.exists);
+    line.read(seen.sizeBytes);
+    line.read(seen.modifiedNs);
+    line.read(seen.content);
+    return seen;
+}
+
 void readLine(LineReader line, RecoveryNote& note)
 {
     if (line.kind() == "time") line.read(note.time);
     if (line.kind() == "changed") line.read(note.isChanged);
     if (line.kind() == "deck") line.read(note.deck);
     if (line.kind() == "wml") line.read(note.wml);
+    if (line.kind() == "source") line.read(note.source);
+    if (line.kind() == "seen") note.seen = readSeen(line);
     if (line.kind() == "area") {
         auto& area = note.areas.emplace_back();
         line.read(area.design);
@@ -145,10 +166,10 @@ void readLine(LineReader line, RecoveryNote& note)
         note.areas.back().images.push_back(readImage(line));
 }
 
-NotedArea areaOf(const DeckRecord& record, bool isChanged)
+NotedArea areaOf(const DeckRecord& record, const WorkFiles& files, bool isChanged)
 {
     NotedArea area{{record.designDir, record.designFile}, 0, {}};
-    if (!isChanged) area.content = contentHash(readFile(area.design.path()));
+    if (!isChanged) area.content = contentHash(files.read(area.design.path()));
     // The last entry is a spare one.
     if (!record.images.empty()) area.images.assign(record.images.begin(), record.images.end() - 1);
     return area;
@@ -156,17 +177,16 @@ NotedArea areaOf(const DeckRecord& record, bool isChanged)
 
 } // namespace
 
-RecoveryNote noteOf(const Deck& deck, bool isChanged, std::int64_t time)
+RecoveryNote noteOf(const Deck& deck, const WorkFiles& files, bool isChanged)
 {
     RecoveryNote note;
-    note.time = time;
     note.isChanged = isChanged;
     if (areaCount(deck) == 0 || !deck.front().inUse) return note;
     const auto& first = deck.front();
     note.deck = {first.deckDir, first.deckFile};
     note.wml = {first.wmlDir, first.wmlFile};
     for (const auto& record : std::span(deck).first(areaCount(deck)))
-        note.areas.push_back(areaOf(record, isChanged));
+        note.areas.push_back(areaOf(record, files, isChanged));
     return note;
 }
 
@@ -178,6 +198,8 @@ std::string textOfNote(const RecoveryNote& note)
     LineWriter(text, "changed").add(note.isChanged ? 1 : 0).end();
     LineWriter(text, "deck").add(note.deck).end();
     LineWriter(text, "wml").add(note.wml).end();
+    LineWriter(text, "source").add(note.source).end();
+    if (note.seen) writeSeen(text, *note.seen);
     for (const auto& area : note.areas) {
         LineWriter(text, "area").add(area.design).add(area.content).end();
         for (const auto& image : area.images)

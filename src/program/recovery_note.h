@@ -1,6 +1,8 @@
 #pragma once
 
 #include "document/deck.h"
+#include "document/platform/deck_file_watch.h"
+#include "document/platform/work_files.h"
 
 #include <cstdint>
 #include <optional>
@@ -34,11 +36,14 @@ struct RecoveryNote {
     NotedFile wml; ///< the deck as generated last
     std::int64_t time = 0; ///< seconds since 1970
     bool isChanged = false; ///< the deck differs from its file
+    std::optional<SeenDeckFile> seen; ///< the person's file as the run read or wrote it
+    NotedFile source; ///< the text of the source view, where that is not in the areas yet
     std::vector<NotedArea> areas; ///< in their order
 };
 
-/// What there is to note of an open deck. Throws FileFailure for a work file that cannot be read.
-[[nodiscard]] RecoveryNote noteOf(const Deck& deck, bool isChanged, std::int64_t time);
+/// What there is to note of an open deck, with its areas. Throws FileFailure for a work file that
+/// cannot be read.
+[[nodiscard]] RecoveryNote noteOf(const Deck& deck, const WorkFiles& files, bool isChanged);
 
 /// A note as lines of fields and back; nullopt for a text that is not whole.
 [[nodiscard]] std::string textOfNote(const RecoveryNote& note);

@@ -12,7 +12,4 @@ namespace quillmere {
 /// is removed or kept for the next start, as the person likes. True where a deck was opened.
 bool offerCrashedRuns(Session& session, const std::string& parent);
 
-/// The question for one run.
-[[nodiscard]] QString recoveryQuestion(const RecoveryNote& note);
-
 } // namespace quillmere

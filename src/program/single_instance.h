@@ -24,7 +24,7 @@ public:
 private:
     void listen();
 
-    QString name_;
+    QString path_; // of the socket; the lock's has an ending more
     QLockFile lock_;
     QLocalServer server_;
     std::function<void()> show_;

@@ -83,14 +83,11 @@ void frmAskProjektDir::validate()
     const bool isPath = CheckPath(coreText(txtPath->text())).has_value();
     const bool isName = CheckFileName(coreText(txtFileName->text())).has_value();
     btnOk->setEnabled(isPath && isName);
-    QString hint;
+    std::string hint;
     if (!isName && !txtFileName->text().isEmpty())
-        hint = QStringLiteral("Dieser Dateiname ist nicht zulässig. Erlaubt sind Buchstaben, "
-                              "Ziffern, Leerzeichen, „-“, „_“ und ein Punkt vor der Endung.");
-    if (!isPath && !txtPath->text().isEmpty())
-        hint = QStringLiteral("Dieses Verzeichnis ist nicht zulässig. Es beginnt mit „/“ und hat "
-                              "Buchstaben, Ziffern, Leerzeichen, „-“, „_“ und Punkte.");
-    lblHint->setText(hint);
+        hint = session().words.GetWord(word::kBadNameHint);
+    if (!isPath && !txtPath->text().isEmpty()) hint = session().words.GetWord(word::kBadFolderHint);
+    lblHint->setText(shownText(hint));
 }
 
 void frmAskProjektDir::chooseFolder()

@@ -2,6 +2,7 @@
 
 #include "project/frm_open_from_projekt_dir.h"
 
+#include "document/platform/word_ids.h"
 #include "document/text/text_search.h"
 #include "forms/text.h"
 #include "project/deck_files.h"
@@ -60,7 +61,7 @@ void frmOpenFromProjektDir::fill()
         auto bold = item->font();
         bold.setBold(true);
         item->setFont(bold);
-        item->setToolTip(QStringLiteral("Dieses Dokument ist geöffnet."));
+        item->setToolTip(shownText(session().words.GetWord(word::kIsOpenHint)));
         lstFiles->setCurrentItem(item, QItemSelectionModel::NoUpdate);
     }
 }

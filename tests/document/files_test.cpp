@@ -12,6 +12,7 @@
 
 #include <csignal>
 #include <filesystem>
+#include <functional>
 #include <optional>
 #include <sys/resource.h>
 #include <sys/stat.h>
@@ -275,7 +276,55 @@ TEST(DiskWorkFiles, AreForThisRunAloneAndNeverGoThroughALink)
     files.reset();
     EXPECT_FALSE(fs::exists(directory));
     EXPECT_TRUE(fs::exists(others.directory()));
-    EXPECT_THROW(DiskWorkFiles(folder.path() + "fehlt/"), FileFailure);
+}
+
+TEST(DiskWorkFiles, KeepTheirTextsWhateverBecomesOfTheDisk)
+{
+    const ScratchFolder folder;
+    const struct {
+        const char* name;
+        std::function<void(const std::string&)> harm, mend;
+    } rows[] = {
+        {"the directory is gone", [](auto& path) { fs::remove_all(path); }, {}},
+        {"a file has its place",
+            [](auto& path) {
+                fs::remove_all(path);
+                replaceFile(path.substr(0, path.size() - 1), "x");
+            },
+            [](auto& path) { fs::remove(path.substr(0, path.size() - 1)); }},
+        {"somebody else made it anew",
+            [](auto& path) {
+                fs::remove_all(path);
+                fs::create_directory(path);
+            },
+            [](auto& path) { fs::remove_all(path); }},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        DiskWorkFiles files(folder.path());
+        const auto path = files.directory();
+        files.write(path + "a", "eins");
+        row.harm(path);
+        files.write(path + "b", "zwei");
+        EXPECT_EQ(files.read(path + "a") + files.read(path + "b"), "einszwei");
+        EXPECT_EQ(files.trouble().has_value(), static_cast<bool>(row.mend));
+        if (row.mend) row.mend(path);
+        files.write(path + "c", "drei");
+        EXPECT_FALSE(files.trouble());
+        for (const char* name : {"a", "b", "c"})
+            EXPECT_EQ(readFile(path + name), files.read(path + name));
+        EXPECT_EQ(modeOf(path), 0700U);
+    }
+    DiskWorkFiles files(folder.path());
+    const auto big = files.directory() + "big";
+    failureOnASmallDisk(1000, [&] { files.write(big, std::string(5000, 'x')); });
+    EXPECT_TRUE(files.trouble()) << "the disk is full";
+    EXPECT_EQ(files.read(big).size(), 5000U);
+    files.write(files.directory() + "a", "");
+    EXPECT_EQ(readFile(big).size(), 5000U) << "all is brought there once it can";
+    DiskWorkFiles nowhere(folder.path() + "fehlt/");
+    EXPECT_TRUE(nowhere.trouble());
+    EXPECT_EQ(nowhere.createFile("Wml", ".htm"), "Wml0.htm");
 }
 
 } // namespace

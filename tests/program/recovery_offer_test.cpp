@@ -18,12 +18,14 @@ class ToldWindow final : public DeckWindow {
 public:
     bool isChanged = false;
     int refreshes = 0;
+    std::string source;
 
     void SetFocusToBrowser() override { }
     void RefreshSurface() override { ++refreshes; }
     void SavePreparedDokumentAndShowArea(bool) override { }
     void AskAndSaveTmpWmlDocToWmlDoc(bool) override { }
     void SetScriptUndoFlagsBack() override { }
+    void resumeSource(const std::string& wml) override { source = wml; }
     void ShowHelp() override { }
     void ShowMsg(int) override { }
     void setDocChanged(bool changed) override { isChanged = changed; }
@@ -37,8 +39,9 @@ struct Offers : testing::Test {
 
     Offers() { program.session.window = &window; }
 
-    /// What a run left that had one area of this text in a deck.
-    void crash(const std::string& name, const std::string& text, int time)
+    /// What a run left that had one area of this text in a deck, and maybe a source.
+    void crash(
+        const std::string& name, const std::string& text, int time, const std::string& source = {})
     {
         const auto path = runs.path() + "quillmere-" + name + "/";
         const auto area = runs.put("quillmere-" + name + "/Wml0.htm", text);
@@ -47,6 +50,9 @@ struct Offers : testing::Test {
         note.time = time;
         note.isChanged = true;
         note.areas = {{{path, "Wml0.htm"}, 0, {}}};
+        if (!source.empty()) note.source = {path, "Source0.txt"};
+        if (!source.empty()) (void)runs.put("quillmere-" + name + "/Source0.txt", source);
+        if (!source.empty()) note.seen = SeenDeckFile{true, 1, 1, 1};
         (void)runs.put("quillmere-" + name + "/Sicherung.txt", textOfNote(note));
         ::chmod(path.c_str(), 0700);
     }
@@ -68,8 +74,11 @@ TEST_F(Offers, OpenTheNewestThatIsWantedAndKeepTheOthers)
     crash("zweite", kArea, 3000);
     crash("dritte", kArea, 2000);
     EXPECT_TRUE(offer({false, false, true})) << "keep the newest, open the next one";
-    EXPECT_NE(program.messages.log.at(0).find("zweite.wml"), std::string::npos);
-    EXPECT_NE(program.messages.log.at(2).find("dritte.wml"), std::string::npos);
+    const auto& log = program.messages.log;
+    EXPECT_TRUE(log.at(0).starts_with("ask 201: ")) << log.at(0);
+    EXPECT_NE(log.at(0).find("zweite.wml|"), std::string::npos);
+    EXPECT_TRUE(log.at(1).starts_with("ask 204: ")) << log.at(1);
+    EXPECT_NE(log.at(2).find("dritte.wml|"), std::string::npos);
     EXPECT_TRUE(window.isChanged);
     EXPECT_EQ(window.refreshes, 1);
     EXPECT_EQ(program.session.document.deck.front().deckFile, "dritte.wml");
@@ -82,6 +91,16 @@ TEST_F(Offers, OpenTheNewestThatIsWantedAndKeepTheOthers)
     EXPECT_FALSE(runs.has("quillmere-zweite"));
     EXPECT_FALSE(runs.has("quillmere-erster"));
     EXPECT_FALSE(offer({}));
+}
+
+TEST_F(Offers, OpenASourceAsItStoodAndAskBeforeASaveGoesOverAnothersText)
+{
+    crash("quelle", kArea, 1000, "<wml>halb ge");
+    (void)program.folder.put("quelle.wml", "<wml>fremd</wml>");
+    EXPECT_TRUE(offer({true}));
+    EXPECT_TRUE(program.messages.log.at(0).starts_with("ask 202: "));
+    EXPECT_EQ(window.source, "<wml>halb ge");
+    EXPECT_EQ(program.session.deckFile.change(), DeckFileChange::Altered);
 }
 
 TEST_F(Offers, SayWhatCannotBeOpenedAndKeepIt)

@@ -66,7 +66,7 @@ std::unique_ptr<Program> programWithDeck(const std::string& parent, const std::s
 {
     auto program = std::make_unique<Program>(parent);
     LoadDeck(program->session, {"index.wml", deckDir, {}, {}});
-    writeRecoveryNote(program->session, false);
+    writeRecoveryNote(program->session, {false});
     return program;
 }
 
@@ -77,6 +77,8 @@ TEST(RecoveryNote, ComesBackAsItWasWritten)
     note.wml = {"/tmp/q/", "Wml0.wml"};
     note.time = 1'763'740'000;
     note.isChanged = true;
+    note.seen = SeenDeckFile{true, 5'000'000'000, -1, 0xFFFFFFFFFFFFFFFFU};
+    note.source = {"/tmp/q/", "Source0.txt"};
     ImageEntry image;
     image.displayDir = "/tmp/q/";
     image.displayFile = "Wml0.bmp";
@@ -92,6 +94,7 @@ TEST(RecoveryNote, ComesBackAsItWasWritten)
     ASSERT_TRUE(read);
     EXPECT_EQ(textOfNote(*read), text);
     EXPECT_EQ(read->deck, note.deck);
+    EXPECT_EQ(read->seen, note.seen);
     EXPECT_EQ(read->areas.at(0).content, note.areas[0].content);
     EXPECT_EQ(read->areas.at(0).images.at(0).sourceFile, "img/a.wbmp");
     for (std::size_t length = 0; length + 1 < text.size(); ++length)
@@ -163,6 +166,44 @@ TEST(Recovery, SaysWhatCannotBeOpenedAndKeepsTheOpenDeck)
     run.note.areas.front().design.name = "gone.htm";
     EXPECT_THROW(openCrashedRun(program.session, run), FileFailure);
     EXPECT_EQ(program.area(0), before);
+}
+
+TEST(Recovery, KeepsASourceAndTellsWhatBecameOfTheDecksFile)
+{
+    const ScratchFolder folder;
+    const struct {
+        const char* name;
+        std::string file; // "": removed
+        DeckFileChange change;
+    } rows[] = {
+        {"as it was", kDeck, DeckFileChange::None},
+        {"the run's own save", "<wml>gespeichert</wml>", DeckFileChange::None},
+        {"another program's", "<wml>fremd</wml>", DeckFileChange::Altered},
+        {"removed", "", DeckFileChange::Removed},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        const auto deck = folder.put("deck/index.wml", kDeck);
+        auto program = programWithDeck(folder.path(), folder.path() + "deck/");
+        auto& files = program->files;
+        const auto source = files.directory() + files.createFile("Source", ".txt");
+        files.write(source, "<wml>halb ge");
+        const auto& first = program->session.deck.front();
+        files.write(first.wmlDir + first.wmlFile, "<wml>gespeichert</wml>");
+        DeckFileWatch watch;
+        watch.remember(deck);
+        writeRecoveryNote(program->session, {true, watch.seen(), source});
+        if (row.file.empty())
+            std::filesystem::remove(deck);
+        else
+            (void)folder.put("deck/index.wml", row.file);
+        (void)crash(std::move(program));
+        const auto runs = takeCrashedRuns(folder.path());
+        ASSERT_EQ(runs.size(), 1U);
+        EXPECT_EQ(sourceOf(runs[0]), "<wml>halb ge");
+        EXPECT_EQ(deckFileChange(runs[0]), row.change);
+        discardCrashedRun(runs[0]);
+    }
 }
 
 /// Lets the program work for a while and kills it at a moment that nobody chose.

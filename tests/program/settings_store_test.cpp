@@ -78,6 +78,19 @@ TEST(DataDirectories, AreCopiedOnceWhereTheProgramsOwnCannotBeWritten)
     (void)prepareDataDirectories(app, user, isMine);
     EXPECT_EQ(folder.get("data/MORVANE/Skins/Adjust.ini"), "mine");
 
+    // A later version: what the person changed stays, all else is renewed.
+    (void)folder.put("app/Skins/ResWords.ini", "alt");
+    (void)prepareDataDirectories(app, user, isMine);
+    EXPECT_EQ(folder.get("data/MORVANE/Skins/ResWords.ini"), "alt") << "it is added";
+    (void)folder.put("data/MORVANE/Skins/ResWords.res", "compiled");
+    (void)folder.put("app/Skins/ResWords.ini", "neuer");
+    std::filesystem::remove(app + "Skins/Adjust.ini");
+    (void)folder.put("app/Skins/Adjust.ini", "other records");
+    (void)prepareDataDirectories(app, user, isMine);
+    EXPECT_EQ(folder.get("data/MORVANE/Skins/ResWords.ini"), "neuer");
+    EXPECT_FALSE(folder.has("data/MORVANE/Skins/ResWords.res"));
+    EXPECT_EQ(folder.get("data/MORVANE/Skins/Adjust.ini"), "mine");
+
     // A copy that was broken off, and a place where none can be made.
     std::filesystem::remove_all(user + "Skins");
     (void)folder.put("data/MORVANE/Skins.new/half", "");

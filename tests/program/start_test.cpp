@@ -14,6 +14,8 @@
 #include <gtest/gtest.h>
 
 #include <csignal>
+#include <filesystem>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -43,6 +45,32 @@ TEST_F(Instances, TheSecondShowsTheFirstAndTheNextIsFirstAgain)
         EXPECT_FALSE(QFile::exists(store));
     }
     EXPECT_TRUE(SingleInstance(store).isFirst());
+}
+
+TEST_F(Instances, StandWhereNobodyElseWrites)
+{
+    const auto runtime = folder.path() + "run";
+    const auto before = qgetenv("XDG_RUNTIME_DIR");
+    const struct {
+        const char* name;
+        mode_t mode;
+        bool isUsed;
+    } rows[] = {{"the person's own", 0700, true}, {"anyone's", 0777, false}, {"none", 0, false}};
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        std::filesystem::remove_all(runtime);
+        if (row.mode != 0) {
+            std::filesystem::create_directory(runtime);
+            ASSERT_EQ(::chmod(runtime.c_str(), row.mode), 0);
+        }
+        qputenv("XDG_RUNTIME_DIR", QByteArray::fromStdString(runtime));
+        const auto other = QString::fromStdString(folder.path() + "config/Quillmere.conf");
+        const SingleInstance first(other);
+        EXPECT_TRUE(first.isFirst());
+        EXPECT_FALSE(SingleInstance(other).isFirst());
+        EXPECT_EQ(row.mode != 0 && !std::filesystem::is_empty(runtime), row.isUsed);
+    }
+    before.isNull() ? (void)qunsetenv("XDG_RUNTIME_DIR") : (void)qputenv("XDG_RUNTIME_DIR", before);
 }
 
 TEST_F(Instances, OneThatWasKilledDoesNotStandInTheWay)

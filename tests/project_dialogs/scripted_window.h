@@ -39,6 +39,7 @@ public:
         isChanged = false;
     }
     void SetScriptUndoFlagsBack() override { }
+    void resumeSource(const std::string&) override { }
     void ShowHelp() override { ++helps; }
     void ShowMsg(int Index) override { shownMessages.push_back(Index); }
     void setDocChanged(bool changed) override { isChanged = changed; }

@@ -42,6 +42,22 @@ void DeckFileWatch::remember(const std::string& path)
     known_ = Known{path, stampOf(path), contentOf(path)};
 }
 
+// The device and the inode are not kept, so that the stamp differs and the text decides.
+void DeckFileWatch::resume(const std::string& path, const SeenDeckFile& seen)
+{
+    known_ = Known{path, std::nullopt, std::nullopt};
+    if (!seen.exists) return;
+    known_->stamp = Stamp{0, 0, seen.sizeBytes, seen.modifiedNs};
+    if (seen.content != 0) known_->content = seen.content;
+}
+
+SeenDeckFile DeckFileWatch::seen() const
+{
+    if (!known_ || !known_->stamp) return {};
+    const auto& stamp = *known_->stamp;
+    return {true, stamp.size, stamp.modifiedNs, known_->content.value_or(0)};
+}
+
 DeckFileChange DeckFileWatch::change() const
 {
     if (!known_) return DeckFileChange::None;

@@ -13,6 +13,15 @@ enum class DeckFileChange {
     Removed
 };
 
+/// A deck's file as it was seen, in a form to be kept beyond the end of the program.
+struct SeenDeckFile {
+    bool exists = false;
+    std::int64_t sizeBytes = 0;
+    std::int64_t modifiedNs = 0; ///< since 1970
+    std::uint64_t content = 0; ///< contentHash(); 0 for a file that cannot be read
+    bool operator==(const SeenDeckFile&) const = default;
+};
+
 /// Tells whether another program went over the deck's file, so that a save can say so before it
 /// goes over that.
 class DeckFileWatch {
@@ -20,6 +29,10 @@ public:
     /// Takes the file as it is now, as what the open deck was read from or written to. A file that
     /// is not there yet is remembered as missing.
     void remember(const std::string& path);
+    /// The same with a file as it was seen by an earlier run.
+    void resume(const std::string& path, const SeenDeckFile& seen);
+    /// What is remembered.
+    [[nodiscard]] SeenDeckFile seen() const;
     /// No deck is open any more.
     void forget() { known_.reset(); }
 

@@ -14,6 +14,8 @@ public:
     explicit DirectoryLock(const std::string& directory);
 
     [[nodiscard]] bool isHeld() const { return isHeld_; }
+    /// Whether the directory that was opened is still the one at this path.
+    [[nodiscard]] bool isAt(const std::string& directory) const;
 
 private:
     PosixFile directory_;

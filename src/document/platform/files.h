@@ -82,9 +82,10 @@ private:
 
 // The work files of a run, in a directory that belongs to it alone.
 
-/// Makes a directory of mode 0700 with a name of its own below `parent` and returns its path, with
-/// its separator. `parent` has its separator.
-[[nodiscard]] std::string makePrivateDirectory(const std::string& parent);
+/// A path for a directory of a run below `parent`, by chance. Both have their separators.
+[[nodiscard]] std::string privateDirectoryName(const std::string& parent);
+/// Makes a directory of mode 0700 at `path`, where nothing may be yet. Throws FileFailure.
+void makePrivateDirectory(const std::string& path);
 /// Makes an empty file of mode 0600. False where the name is taken, be it by a dangling link.
 [[nodiscard]] bool createWorkFile(const std::string& path);
 /// Replaces or makes a file without following a link and without waiting for the disk. Throws

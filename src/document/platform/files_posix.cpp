@@ -13,6 +13,7 @@
 #include <fcntl.h>
 #include <filesystem>
 #include <optional>
+#include <random>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -20,6 +21,7 @@ namespace quillmere {
 namespace {
 
 constexpr mode_t kPrivateMode = 0600;
+constexpr mode_t kPrivateDirectoryMode = 0700;
 constexpr mode_t kUsualMode = 0666; // less what the person's mask takes away
 constexpr int kMaxLinks = 40;
 
@@ -203,11 +205,20 @@ void createFile(const std::string& path, std::string_view bytes, const std::stri
     }
 }
 
-std::string makePrivateDirectory(const std::string& parent)
+std::string privateDirectoryName(const std::string& parent)
 {
-    auto path = parent + "quillmere-XXXXXX";
-    if (::mkdtemp(path.data()) == nullptr) throw cannotWrite(parent, lastError());
+    constexpr std::string_view kLetters = "abcdefghijklmnopqrstuvwxyz0123456789";
+    constexpr std::size_t kLength = 6;
+    std::random_device chance;
+    auto path = parent + "quillmere-";
+    for (std::size_t i = 0; i < kLength; ++i)
+        path += kLetters[chance() % kLetters.size()];
     return path + '/';
+}
+
+void makePrivateDirectory(const std::string& path)
+{
+    if (::mkdir(path.c_str(), kPrivateDirectoryMode) != 0) throw cannotWrite(path, lastError());
 }
 
 bool createWorkFile(const std::string& path)

@@ -88,6 +88,32 @@ inline constexpr int kNothingToSave = 48;
 inline constexpr int kNotIntoTable = 49;
 inline constexpr int kNoElementMarked = 50;
 
+// Recovery
+inline constexpr int kNoRecovery = 200; ///< gap: reason
+inline constexpr int kRecover = 201; ///< gaps: document, day, time
+inline constexpr int kRecoverOverAltered = 202; ///< gaps: document, day, time
+inline constexpr int kRecoverRemoved = 203; ///< gaps: document, day, time
+inline constexpr int kDiscardRecovered = 204; ///< gap: document
+
+// Main window: saving, hints, search in the source
+inline constexpr int kAlteredOutside = 205; ///< gap: file name
+inline constexpr int kRemovedOutside = 206; ///< gap: file name
+inline constexpr int kNotSaved = 207;
+inline constexpr int kTextStays = 208;
+inline constexpr int kToolMissing = 209; ///< gap: tool
+inline constexpr int kRecentDecks = 210;
+inline constexpr int kCharacterCount = 211; ///< gap: number
+inline constexpr int kNoHit = 212;
+inline constexpr int kOneHit = 213;
+inline constexpr int kHits = 214; ///< gap: number
+inline constexpr int kHitOf = 215; ///< gaps: hit, number
+inline constexpr int kReplaced = 216; ///< gap: number
+
+// Hints of the deck dialogs
+inline constexpr int kBadNameHint = 217;
+inline constexpr int kBadFolderHint = 218;
+inline constexpr int kIsOpenHint = 219;
+
 // Picture converter
 inline constexpr int kConverterFolderCaption = 32;
 inline constexpr int kConverterFolderInfo = 33;

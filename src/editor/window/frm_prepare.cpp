@@ -9,6 +9,7 @@
 #include "document/platform/files.h"
 #include "document/platform/word_ids.h"
 #include "editor/window/deck_costs_form.h"
+#include "editor/window/source_search_bar.h"
 #include "forms/overlay.h"
 #include "forms/text.h"
 #include "forms/trap.h"
@@ -96,9 +97,9 @@ void frmPrepare::trap(const std::function<void()>& routine)
     trapped(session_.messages, routine);
 }
 
-QString frmPrepare::word(int id) const
+QString frmPrepare::word(int id, std::string_view gap) const
 {
-    return shownText(session_.words.GetWord(id));
+    return shownText(session_.words.GetWord(id, {gap}));
 }
 
 void frmPrepare::registerForm(const std::string& name, FormOpener opener)
@@ -129,6 +130,7 @@ void frmPrepare::Form_Load()
 {
     OverlayForm(*this, session_);
     overlayMenus();
+    takeTexts();
     session_.document.deck.assign(1, {});
     session_.document.currentArea = 0;
     mDocChanged = false;
@@ -138,6 +140,21 @@ void frmPrepare::Form_Load()
     RefreshSurface();
     mFirstActivate = true;
     mContextMenuEnabled = true;
+}
+
+/// Words of controls that know no resources.
+void frmPrepare::takeTexts()
+{
+    const auto of = [&](std::string_view hit, std::string_view count) {
+        return shownText(session_.words.GetWord(word::kHitOf, {hit, count}));
+    };
+    txtScript->setSearchTexts({word(word::kNoHit), word(word::kOneHit), word(word::kHits, "%1"),
+        of("%1", "%2"), word(word::kReplaced, "%1")});
+}
+
+void frmPrepare::showCharacterCount(int count)
+{
+    lblCharCount->setText(word(word::kCharacterCount, std::to_string(count)));
 }
 
 bool frmPrepare::event(QEvent* event)
@@ -188,7 +205,9 @@ void frmPrepare::showTitle()
 // Escape that closed a dialog and is still held.
 void frmPrepare::keyPressEvent(QKeyEvent* event)
 {
-    if (event->key() == Qt::Key_Escape && !event->isAutoRepeat())
+    if (event->key() == Qt::Key_Escape && txtScript->isSearching() && txtScript->isVisible())
+        txtScript->closeSearch();
+    else if (event->key() == Qt::Key_Escape && !event->isAutoRepeat())
         close();
     else if (event->key() == Qt::Key_F12)
         showNormal();
@@ -219,6 +238,7 @@ void frmPrepare::Form_Unload()
     DeckReplacement emptied(session_.document);
     session_.document.deck.resize(1);
     emptied.commit();
+    dropStoredSource();
     yieldOften();
     const auto& last = session_.lastImage;
     if (!last.displayFile.empty()) removeFile(last.displayDir + last.displayFile);

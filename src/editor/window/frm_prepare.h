@@ -56,6 +56,7 @@ public:
     void SavePreparedDokumentAndShowArea(bool Show) override;
     void AskAndSaveTmpWmlDocToWmlDoc(bool Ask) override;
     void SetScriptUndoFlagsBack() override;
+    void resumeSource(const std::string& wml) override;
     void ShowHelp() override;
     void ShowMsg(int Index) override;
     void CheckElementMovedIntoTable(bool& Undone);
@@ -111,7 +112,9 @@ private:
     void Form_Activate();
     void Form_Unload();
     void showTitle();
-    [[nodiscard]] QString word(int id) const;
+    [[nodiscard]] QString word(int id, std::string_view gap = {}) const;
+    void takeTexts();
+    void showCharacterCount(int count);
     /// A text that the resources have as a variant of this form.
     [[nodiscard]] QString resourceText(std::int16_t number, const char* otherwise) const;
     void trap(const std::function<void()>& routine);
@@ -138,6 +141,7 @@ private:
     void keepUndoState();
     void undoOnSurface();
     void undoOfKey();
+    void storeSoon();
     void storeWhenIdle();
     void tellStored() const;
     void writeDeckFile();
@@ -151,6 +155,8 @@ private:
     void btnScript_Click();
     void showSource();
     void takeSource();
+    void storeSource();
+    void dropStoredSource();
     void txtScript_Change();
     void txtScript_KeyPress();
     void undoInSource();

@@ -79,6 +79,7 @@ void frmPrepare::RefreshSurface()
 void frmPrepare::refresh()
 {
     mScriptView = false;
+    dropStoredSource();
     btnAreaOne->setText({});
     disableNavigation();
     txtScript->hide();

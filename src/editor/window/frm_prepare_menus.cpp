@@ -5,6 +5,7 @@
 #include "editor/window/frm_prepare_commands.h"
 
 #include "document/platform/paths.h"
+#include "document/platform/word_ids.h"
 #include "forms/text.h"
 #include "project/deck_dialogs.h"
 #include "project/deck_files.h"
@@ -89,10 +90,8 @@ const frmPrepare::Command frmPrepare::kMenuEntries[] = {
 // Keys that no menu entry has. Those of the surface and of the source view are theirs.
 const frmPrepare::Command frmPrepare::kKeys[] = {
     {"keyOpen", "", "Ctrl+O", Guards::None, kNoForm, &frmPrepare::lblButtonSeiteOpen},
-    {"keyNextArea", "", "Ctrl+PgDown", Guards::DeckAndSurface, kNoForm,
-        &frmPrepare::btnAreaNext_Click},
-    {"keyPreviousArea", "", "Ctrl+PgUp", Guards::DeckAndSurface, kNoForm,
-        &frmPrepare::btnAreaPrev_Click},
+    {"keyNextArea", "", "Ctrl+PgDown", Guards::OpenDeck, kNoForm, &frmPrepare::btnAreaNext_Click},
+    {"keyPreviousArea", "", "Ctrl+PgUp", Guards::OpenDeck, kNoForm, &frmPrepare::btnAreaPrev_Click},
     {"keyHelp", "", "F1", Guards::None, kNoForm, &frmPrepare::ShowHelp},
 };
 
@@ -196,7 +195,7 @@ void frmPrepare::showRecentDecks()
     }
     const auto paths = RecentDecks(session_.settings).paths();
     if (paths.empty()) return;
-    auto* heading = mnuContextOpen->addSection(QStringLiteral("Zuletzt geöffnet"));
+    auto* heading = mnuContextOpen->addSection(word(word::kRecentDecks));
     heading->setObjectName(QLatin1String(kRecentName));
     for (const auto& path : paths) {
         const QFileInfo file(shownPath(path));

@@ -11,19 +11,10 @@
 #include "forms/text.h"
 #include "project/deck_files.h"
 
+#include <array>
 #include <utility>
 
 namespace quillmere {
-namespace {
-
-constexpr auto kAlteredOutside
-    = "Die Datei „%1“ wurde von einem anderen Programm geändert, seit Sie sie geöffnet haben.\n"
-      "Soll sie durch Ihr Dokument ersetzt werden?";
-constexpr auto kRemovedOutside
-    = "Die Datei „%1“ wurde gelöscht oder verschoben, seit Sie sie geöffnet haben.\n"
-      "Soll sie mit Ihrem Dokument neu angelegt werden?";
-
-} // namespace
 
 bool frmPrepare::docChanged() const
 {
@@ -40,10 +31,16 @@ void frmPrepare::setDocChanged(bool changed)
 void frmPrepare::surfaceChanged()
 {
     const int shown = objBrowserCard->document()->characterCount() - 1; // not its last line end
-    lblCharCount->setText(QStringLiteral("%1 Zeichen").arg(shown));
+    showCharacterCount(shown);
     if (mRefreshGuard >= 1 || !deckIsOpen()) return;
     if (!mDocChanged) setDocChanged(true);
-    idle_.start();
+    storeSoon();
+}
+
+// From the first change on, so that one who types on and on is stored as well.
+void frmPrepare::storeSoon()
+{
+    if (!idle_.isActive()) idle_.start();
 }
 
 // A store that fails is tried again after the next change but told once only: the text stays in
@@ -51,12 +48,12 @@ void frmPrepare::surfaceChanged()
 void frmPrepare::storeWhenIdle()
 {
     try {
-        store();
+        mScriptView ? storeSource() : store();
         idleFailed_ = false;
     } catch (const Failure& failure) {
         if (std::exchange(idleFailed_, true)) return;
-        session_.messages.ShowCriticalError(QString::fromStdString(failure.utf8())
-            + QStringLiteral("\nDer Text im Fenster ist unverändert. Bitte speichern Sie ihn."));
+        session_.messages.ShowCriticalError(
+            QString::fromStdString(failure.utf8()) + '\n' + word(word::kTextStays));
     }
 }
 
@@ -104,12 +101,10 @@ void frmPrepare::requireOwnFile()
     const auto change = watched_ == deckPath() ? session_.deckFile.change() : DeckFileChange::None;
     if (change == DeckFileChange::None) return;
     const auto question
-        = QString::fromUtf8(change == DeckFileChange::Removed ? kRemovedOutside : kAlteredOutside);
-    const auto name = shownPath(session_.document.deck.front().deckFile);
-    if (session_.messages.askText(question.arg(name), MessageIcon::Warning)) return;
-    throw FileFailure("Das Dokument wurde nicht gespeichert. Die Datei ist unverändert, und Ihr "
-                      "Text steht weiter im Fenster. Mit „Speichern unter“ können Sie ihm einen "
-                      "anderen Namen geben.");
+        = change == DeckFileChange::Removed ? word::kRemovedOutside : word::kAlteredOutside;
+    const std::array name{coreText(shownPath(session_.document.deck.front().deckFile))};
+    if (session_.messages.ask(question, name, MessageIcon::Warning)) return;
+    throw FileFailure(word(word::kNotSaved).toStdString());
 }
 
 /// Once for each deck that was opened, as soon as it is shown.

@@ -21,6 +21,9 @@ namespace {
 // Each step is a whole text; a day of typing must not fill the memory.
 constexpr std::size_t kMaxSourceSteps = 400;
 
+constexpr std::string_view kSourcePrefix = "Source";
+constexpr std::string_view kSourceSuffix = ".txt";
+
 /// The pointer that tells of work that goes on, as long as the object lives.
 class Hourglass {
 public:
@@ -125,14 +128,43 @@ void frmPrepare::SetScriptUndoFlagsBack()
     for (auto& area : session_.document.deck)
         area.imageCursor = -1;
     surfaceShows_.clear();
+    dropStoredSource();
     deckIsNew_ = true;
 }
 
 void frmPrepare::txtScript_Change()
 {
     const int shown = txtScript->document()->characterCount() - 1; // not its last line end
-    lblCharCount->setText(QStringLiteral("%1 Zeichen").arg(shown));
+    showCharacterCount(shown);
     if (!std::exchange(mScriptChanged, true)) showTitle();
+    storeSoon();
+}
+
+/// Keeps the text in a work file until it is taken over or dropped.
+void frmPrepare::storeSource()
+{
+    if (!deckIsOpen() || !mScriptView || !mScriptChanged) return;
+    auto& files = session_.document.workFiles;
+    if (session_.sourcePath.empty())
+        session_.sourcePath = files.directory() + files.createFile(kSourcePrefix, kSourceSuffix);
+    files.write(session_.sourcePath, txtScript->wml());
+    tellStored();
+}
+
+/// Told first, so that no note ever names a file that is gone.
+void frmPrepare::dropStoredSource()
+{
+    if (session_.sourcePath.empty()) return;
+    const auto path = std::exchange(session_.sourcePath, {});
+    if (deckIsOpen()) tellStored();
+    session_.document.workFiles.remove(path);
+}
+
+void frmPrepare::resumeSource(const std::string& wml)
+{
+    if (!mScriptView) btnScript_Click();
+    txtScript->setWml(wml);
+    storeSource();
 }
 
 /// Ahead of what a blank or Return changes: a step is a word or a line.
@@ -190,7 +222,8 @@ void frmPrepare::takeSource()
     if (std::exchange(mScriptChanged, false)) mDocChanged = true;
     const int last = static_cast<int>(areaCount(document.deck)) - 1;
     document.currentArea = std::min(document.currentArea, last);
-    tellStored(); // the work files are others now
+    if (session_.sourcePath.empty()) tellStored(); // the work files are others now
+    dropStoredSource();
 }
 
 } // namespace quillmere

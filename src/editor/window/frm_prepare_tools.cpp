@@ -10,6 +10,8 @@
 #include "project/deck_dialogs.h"
 #include "project/deck_files.h"
 
+#include <array>
+
 namespace quillmere {
 
 namespace {
@@ -114,11 +116,7 @@ void frmPrepare::run(const Command& command)
 
 void frmPrepare::tellMissing(const QString& caption)
 {
-    session_.messages.showText(
-        QStringLiteral("Das Werkzeug „%1“ gibt es in dieser Version noch nicht. Das Dokument ist "
-                       "unverändert.")
-            .arg(caption),
-        MessageIcon::None);
+    session_.messages.show(word::kToolMissing, std::array{coreText(caption)}, MessageIcon::None);
 }
 
 void frmPrepare::openForm(const std::string& name, const FormCall& call)

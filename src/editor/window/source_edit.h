@@ -13,6 +13,7 @@ namespace quillmere {
 
 class SourceHighlighter;
 class SourceSearchBar;
+struct SearchTexts;
 
 /// The WML source of a deck as text to edit: with line numbers, colours, the pair of the tag at the
 /// caret, and a bar to search and replace (Ctrl+F, Ctrl+H, F3, Shift+F3, Escape). The colours
@@ -35,6 +36,7 @@ public:
     [[nodiscard]] int numberWidth() const;
     void paintNumbers(QPaintEvent* event);
 
+    void setSearchTexts(SearchTexts texts);
     void openSearch(bool withReplace);
     void closeSearch();
     [[nodiscard]] bool isSearching() const;

@@ -10,6 +10,11 @@
 
 namespace quillmere {
 
+void SourceEdit::setSearchTexts(SearchTexts texts)
+{
+    bar_->setTexts(std::move(texts));
+}
+
 bool SourceEdit::isSearching() const
 {
     return !bar_->isHidden();

@@ -134,14 +134,14 @@ void SourceSearchBar::showHits(std::size_t count, int marked)
         std::initializer_list<QWidget*>{btnFindPrev, btnFindNext, btnReplace, btnReplaceAll})
         control->setEnabled(count > 0);
     if (!hasQuery) return tell({}, false);
-    if (count == 0) return tell(QStringLiteral("Kein Treffer"), true);
-    if (marked >= 0) return tell(QStringLiteral("%1 von %2").arg(marked + 1).arg(count), false);
-    tell(count == 1 ? QStringLiteral("1 Treffer") : QStringLiteral("%1 Treffer").arg(count), false);
+    if (count == 0) return tell(texts_.noHit, true);
+    if (marked >= 0) return tell(texts_.hitOf.arg(marked + 1).arg(count), false);
+    tell(count == 1 ? texts_.oneHit : texts_.hits.arg(count), false);
 }
 
 void SourceSearchBar::showReplaced(std::size_t count)
 {
-    tell(QStringLiteral("%1 ersetzt").arg(count), false);
+    tell(texts_.replaced.arg(count), false);
 }
 
 void SourceSearchBar::keyPressEvent(QKeyEvent* event)

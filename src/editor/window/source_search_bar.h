@@ -11,7 +11,19 @@
 #include <QToolButton>
 #include <QWidget>
 
+#include <utility>
+
 namespace quillmere {
+
+/// What the bar says of the hits, with "%1" for a number; of `hitOf` "%1" is the hit that is
+/// marked.
+struct SearchTexts {
+    QString noHit = QStringLiteral("Kein Treffer");
+    QString oneHit = QStringLiteral("1 Treffer");
+    QString hits = QStringLiteral("%1 Treffer");
+    QString hitOf = QStringLiteral("%1 von %2");
+    QString replaced = QStringLiteral("%1 ersetzt");
+};
 
 /// The bar for searching and replacing in the source view. It knows what is wanted, not the text.
 class SourceSearchBar : public QWidget {
@@ -20,6 +32,7 @@ class SourceSearchBar : public QWidget {
 public:
     explicit SourceSearchBar(QWidget* parent);
 
+    void setTexts(SearchTexts texts) { texts_ = std::move(texts); }
     [[nodiscard]] SourceQuery query() const;
     [[nodiscard]] QString replacement() const { return txtReplace->text(); }
 
@@ -58,6 +71,8 @@ private:
     QLineEdit* const txtReplace = named<QLineEdit>("txtReplace", this);
     QPushButton* const btnReplace = named<QPushButton>("btnReplace", this);
     QPushButton* const btnReplaceAll = named<QPushButton>("btnReplaceAll", this);
+
+    SearchTexts texts_;
 };
 
 } // namespace quillmere

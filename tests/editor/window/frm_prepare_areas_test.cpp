@@ -121,22 +121,5 @@ TEST(Areas, AWorkFileThatVanishedKeepsTheAreaWhereItIs)
     EXPECT_NE(desk.surface().DocumentHTML().find("eins!"), std::string::npos);
 }
 
-TEST(Areas, AWorkFolderThatVanishedLosesNoText)
-{
-    WindowDesk desk;
-    desk.openCards({"eins", "zwei"});
-    std::filesystem::remove_all(desk.workFiles.directory());
-    desk.caretBehind("eins");
-    desk.type("!");
-    for (const auto* button : {"btnAreaNext", "btnScript", "lblButtonLink"})
-        desk.click(button);
-    desk.messages.answers = {true}; // to save
-    desk.window.close();
-    EXPECT_TRUE(desk.window.isVisible());
-    EXPECT_EQ(desk.window.CurArea(), 0);
-    EXPECT_NE(desk.surface().DocumentHTML().find("eins!"), std::string::npos);
-    EXPECT_EQ(desk.saved(), deckOf({"eins", "zwei"}));
-}
-
 } // namespace
 } // namespace quillmere::test

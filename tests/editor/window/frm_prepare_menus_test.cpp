@@ -19,6 +19,16 @@ TEST(Keys, DoWhatPeopleExpect)
     EXPECT_EQ(desk.window.CurArea(), 1);
     desk.press(Qt::Key_PageUp, kControl);
     EXPECT_EQ(desk.window.CurArea(), 0);
+    desk.click("btnScript");
+    desk.press(Qt::Key_F, kControl);
+    desk.control<QPushButton>("btnAreaOne").setFocus();
+    desk.press(Qt::Key_Escape); // closes the search alone
+    EXPECT_TRUE(desk.window.isVisible());
+    EXPECT_FALSE(desk.isShown("objSourceSearch"));
+    desk.press(Qt::Key_PageDown, kControl); // as the button
+    EXPECT_EQ(desk.window.CurArea(), 1);
+    EXPECT_TRUE(desk.surface().isVisible());
+    desk.press(Qt::Key_PageUp, kControl);
 
     desk.caretBehind("eins");
     desk.type("!");

@@ -84,6 +84,39 @@ TEST(WindowSource, NoWhileMovingOnDropsTheTextAndUndoCanBringItBack)
     EXPECT_EQ(desk.source.wml(), deckOf({"eins", "zwei\xA0!"}));
 }
 
+TEST(WindowSource, WhatIsTypedIsKeptInAWorkFileUntilItIsTakenOrDropped)
+{
+    for (const bool isTaken : {true, false}) {
+        SCOPED_TRACE(isTaken);
+        SourceDesk desk;
+        std::vector<std::string> noted; // the text of the source at each store
+        desk.session.afterStore = [&](bool) {
+            const auto& path = desk.session.sourcePath;
+            noted.push_back(path.empty() ? "" : desk.workFiles.read(path));
+        };
+        desk.typeBehind("eins", "1");
+        ASSERT_TRUE(QTest::qWaitFor([&] { return !noted.empty(); }, 2000));
+        EXPECT_EQ(noted.back(), deckOf({"eins1", "zwei"}));
+        desk.messages.answers = {isTaken};
+        desk.click("btnAreaOne");
+        EXPECT_EQ(noted.back(), "");
+        EXPECT_FALSE(std::filesystem::exists(desk.workFiles.directory() + "Source0.txt"));
+    }
+}
+
+TEST(WindowSource, GoesOnWithATextThatWasNeverTaken)
+{
+    SourceDesk desk;
+    desk.click("btnScript");
+    desk.window.resumeSource("<wml>halb ge\r\n");
+    EXPECT_TRUE(desk.source.isVisible());
+    EXPECT_EQ(desk.source.wml(), "<wml>halb ge\r\n");
+    EXPECT_TRUE(desk.window.docChanged());
+    EXPECT_EQ(desk.workFiles.read(desk.session.sourcePath), "<wml>halb ge\r\n");
+    desk.click("lblButtonUndo");
+    EXPECT_EQ(desk.source.wml(), deckOf({"eins", "zwei"}));
+}
+
 TEST(WindowSource, FewerCardsLeaveTheLastOneShown)
 {
     SourceDesk desk({"eins", "zwei", "drei"});

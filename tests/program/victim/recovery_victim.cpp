@@ -24,7 +24,7 @@ public:
     {
         const auto place = SplitPath(deck);
         LoadDeck(session_, {place.name, place.directory, {}, {}});
-        writeRecoveryNote(session_, false);
+        writeRecoveryNote(session_, {false});
         number_ = numberIn(areaText(0));
     }
 
@@ -58,20 +58,20 @@ private:
         const auto end = text.find('!', begin);
         text.replace(begin, end - begin, std::to_string(number_));
         files_.write(areaPath(i), std::move(text));
-        writeRecoveryNote(session_, true);
+        writeRecoveryNote(session_, {true});
     }
     void save()
     {
         WriteDeck(session_);
         const auto& first = session_.deck.front();
         replaceFile(first.deckDir + first.deckFile, files_.read(first.wmlDir + first.wmlFile));
-        writeRecoveryNote(session_, false);
+        writeRecoveryNote(session_, {false});
     }
     void reload()
     {
         const auto first = session_.deck.front();
         LoadDeck(session_, {first.deckFile, first.deckDir, first.wmlFile, first.wmlDir});
-        writeRecoveryNote(session_, false);
+        writeRecoveryNote(session_, {false});
     }
 
     cli::AssentingPrompter prompter_;
