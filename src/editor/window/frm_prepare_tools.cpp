@@ -141,7 +141,8 @@ bool frmPrepare::refusesTable(const Hit& hit, ElementKind kind)
     const auto text = ReadDesignText(session_.document, static_cast<std::size_t>(CurArea()));
     const bool isInCell = kind == ElementKind::Table && hit.Inside
         && objBrowserCard->selection().type != SurfaceSelection::Type::Control;
-    if (!isInCell && !IsInsideTable(text, hit.position, session_.document.output.maxTextLength())) return false;
+    if (!isInCell && !IsInsideTable(text, hit.position, session_.document.output.maxTextLength()))
+        return false;
     ShowMsg(4);
     return true;
 }
