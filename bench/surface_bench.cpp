@@ -26,9 +26,16 @@ namespace quillmere::bench {
 namespace {
 
 constexpr std::size_t kSizes[] = {4000, 8000, 16000, 30000};
+constexpr std::size_t kLongSizes[] = {30000, 60000, 125000, 250000, 500000, 1000000};
 constexpr AreaShape kShapes[]
     = {AreaShape::Page, AreaShape::Table, AreaShape::Cells, AreaShape::Text};
 constexpr const char* kFile = "Wml0.htm";
+
+/// Those that lose nothing where it has an atom.
+OutputRules rulesOf(const std::string& text)
+{
+    return OutputRules(text.find("<!--#") != std::string::npos);
+}
 
 /// A surface that shows an area.
 struct Shown {
@@ -38,6 +45,7 @@ struct Shown {
     explicit Shown(const std::string& text)
     {
         files.write(kFile, text);
+        surface.setRules(rulesOf(text));
         surface.resize(400, 600);
         surface.show();
         surface.LoadURL(kFile);
@@ -87,10 +95,10 @@ Round keyPressPainted(const std::string& text)
 /// The same without a widget.
 template <int percent> Round keyPressPage(const std::string& text)
 {
-    const auto page = std::make_shared<SurfacePage>(readSurfacePage(text));
+    const auto page = std::make_shared<SurfacePage>(readSurfacePage(text, rulesOf(text)));
     return [page, place = placeWithin(*page, percent / 100.0)] {
         const auto edit = typeText(*page, place, place, u"x");
-        const auto wanted = readSurfacePage(edited(page->text, edit));
+        const auto wanted = readSurfacePage(edited(page->text, edit, page->rules), page->rules);
         benchmark::DoNotOptimize(differenceOf(*page, wanted));
     };
 }
@@ -103,7 +111,7 @@ Round load(const std::string& text)
 
 Round loadPage(const std::string& text)
 {
-    return [text] { benchmark::DoNotOptimize(readSurfacePage(text)); };
+    return [text] { benchmark::DoNotOptimize(readSurfacePage(text, rulesOf(text))); };
 }
 
 Round plainSetHtml(const std::string& text)
@@ -154,28 +162,29 @@ Round hitTest(const std::string& text)
             const auto start = std::string("<") + name;
             hit = tester.HitTest(start, std::string("</") + name, saved, selection, false);
         }
-        benchmark::DoNotOptimize(ValidInsertPosition(hit.position - 1, saved));
-        benchmark::DoNotOptimize(IsInsideTable(saved, hit.position));
+        benchmark::DoNotOptimize(ValidInsertPosition(hit.position - 1, saved, selection.limit));
+        benchmark::DoNotOptimize(IsInsideTable(saved, hit.position, selection.limit));
     };
 }
 
 struct Operation {
     const char* name;
     Prepare prepare;
+    bool isOfLongAreas = false;
 };
 
 constexpr Operation kOperations[] = {
-    {"KeyPressFirst", keyPress<0>},
-    {"KeyPressMiddle", keyPress<50>},
-    {"KeyPressLast", keyPress<100>},
+    {"KeyPressFirst", keyPress<0>, true},
+    {"KeyPressMiddle", keyPress<50>, true},
+    {"KeyPressLast", keyPress<100>, true},
     {"KeyPressPainted", keyPressPainted},
-    {"KeyPressPage", keyPressPage<50>},
-    {"Load", load},
-    {"LoadPage", loadPage},
+    {"KeyPressPage", keyPressPage<50>, true},
+    {"Load", load, true},
+    {"LoadPage", loadPage, true},
     {"PlainSetHtml", plainSetHtml},
-    {"SaveWithMap", saveWithMap},
+    {"SaveWithMap", saveWithMap, true},
     {"PlainToHtml", plainToHtml},
-    {"HitTest", hitTest},
+    {"HitTest", hitTest, true},
 };
 
 void measure(benchmark::State& state, const Operation& operation, const std::string& text)
@@ -206,6 +215,10 @@ int main(int argc, char** argv)
         for (const auto shape : quillmere::bench::kShapes)
             for (const auto size : quillmere::bench::kSizes)
                 quillmere::bench::registerAll(operation, shape, size);
+    for (const auto& operation : quillmere::bench::kOperations)
+        for (const auto size : quillmere::bench::kLongSizes)
+            if (operation.isOfLongAreas)
+                quillmere::bench::registerAll(operation, quillmere::bench::AreaShape::Long, size);
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
     benchmark::RunSpecifiedBenchmarks();

@@ -45,6 +45,18 @@ std::string cells(std::size_t size)
     return table(words(share > kTags ? share - kTags : 1));
 }
 
+std::string longArea(std::size_t size)
+{
+    constexpr std::string_view kPiece
+        = R"(<p align="left">Filme von <b>heute</b> in allen Hallen, <a href="#a">Karten</a> an der )"
+          R"(Kasse.</p><p align="left">Name: <!--#input &lt;input name="n"/&gt;--><br/>Wie viele )"
+          R"(Karten im <i>Parkett</i>?</p><!--#comment Saal--><p align="center">Ende</p>)";
+    std::string content = R"(<!--#timer &lt;timer value="10"/&gt;-->)";
+    while (content.size() < size)
+        content += kPiece;
+    return inFrame(content);
+}
+
 std::string page(std::size_t size)
 {
     auto text = inputOf({"deck", ""}, Stage::Design, size);
@@ -64,7 +76,7 @@ std::string pageWithTable(std::size_t size)
 
 std::string_view nameOf(AreaShape shape)
 {
-    constexpr std::string_view kNames[] = {"page", "table", "cells", "text"};
+    constexpr std::string_view kNames[] = {"page", "table", "cells", "text", "long"};
     return kNames[static_cast<std::size_t>(shape)];
 }
 
@@ -77,6 +89,8 @@ std::string areaOf(AreaShape shape, std::size_t size)
         return pageWithTable(size);
     case AreaShape::Cells:
         return inFrame(cells(size));
+    case AreaShape::Long:
+        return longArea(size);
     case AreaShape::Text:
         break;
     }

@@ -13,6 +13,7 @@ enum class AreaShape {
     Table, ///< such a text, and behind it a table of 30 by 10 short cells
     Cells, ///< all in a table of 30 by 10, for cells of up to 90 characters
     Text, ///< one paragraph without any tag in it
+    Long, ///< short paragraphs with formats, links, fields and atoms, as many as it takes
 };
 
 [[nodiscard]] std::string_view nameOf(AreaShape shape);

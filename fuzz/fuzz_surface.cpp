@@ -1,6 +1,6 @@
 // Any bytes as the text of an area: read into a page whose places are exact, and edited by random
 // operations, after each of which all that is promised of edits holds. The first two bytes are the
-// seed of the operations, the third their number.
+// seed of the operations, the third their number; an odd one reads by the rules that lose nothing.
 
 #include "fuzz_target.h"
 
@@ -31,17 +31,18 @@ void requireExactPlaces(const SurfacePage& page)
         }
 }
 
-void requireSoundEdits(std::string text, std::uint64_t seed, std::size_t count)
+void requireSoundEdits(
+    std::string text, std::uint64_t seed, std::size_t count, const OutputRules& rules)
 {
     test::SmallRandom random(seed);
     for (; count > 0; --count) {
-        const auto page = readSurfacePage(text);
+        const auto page = readSurfacePage(text, rules);
         fuzz::require(page.text == text);
         const auto tried = test::randomEdit(random, page);
         const auto fault = test::faultOf(page, tried);
         if (!fault.empty()) (void)std::fprintf(stderr, "%s\n", fault.c_str());
         fuzz::require(fault.empty());
-        text = edited(text, tried.on(page));
+        text = edited(text, tried.on(page), rules);
     }
 }
 
@@ -51,9 +52,11 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
 {
     if (size < kOptions) return 0;
     const std::string text(data + kOptions, data + size);
-    requireExactPlaces(readSurfacePage(text));
+    const OutputRules rules(data[2] % 2 != 0);
+    requireExactPlaces(readSurfacePage(text, rules));
     try {
-        requireSoundEdits(text, data[0] * std::uint64_t{256} + data[1], data[2] % kMaxOperations);
+        requireSoundEdits(
+            text, data[0] * std::uint64_t{256} + data[1], data[2] % kMaxOperations, rules);
     } catch (const Overflow&) {
         return 0; // refused, and nothing is lost
     }

@@ -178,6 +178,11 @@ TEST(DesignSurface, PutsMarkupInPlaceOfWhatIsMarked)
     EXPECT_EQ(surface.DocumentHTML(), "<p>ein <a href=\"#x\">Wort</a> hier</p>");
     EXPECT_THROW(surface.pasteHTML(std::string(40000, 'x')), Overflow);
     EXPECT_EQ(surface.DocumentHTML(), "<p>ein <a href=\"#x\">Wort</a> hier</p>");
+    surface.setRules(OutputRules(true));
+    surface.give("<p>|</p>");
+    surface.pasteHTML(std::string(40000, 'x'));
+    EXPECT_EQ(surface.DocumentHTML().size(), 40007U);
+    EXPECT_GT(surface.selection().limit, 40007U);
 }
 
 TEST(DesignSurface, LooksAsItsStyleSays)

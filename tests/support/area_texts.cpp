@@ -41,8 +41,87 @@ constexpr auto kParts = std::to_array<std::string_view>({"<table><tr><td>", "</t
     "</td><td>", "</td></tr>", "<tr><td>", "</table>", "</td>", "<p>", "</p>", "<b>", "</b>", "<a>",
     "</a>", "<!--x-->", "<!--/x-->", "a", " ", "\r\n", "<br/>", "<x>"});
 
+// The same for what is shown where nothing is lost.
+constexpr auto kMarks = std::to_array<std::string_view>({"<p>", "</p>", "<!--#x y-->",
+    "<!--#input-->", "<!--fieldset-->", "<!--/fieldset-->", "<!--optgroup-->", "<!--/optgroup-->",
+    "<!--anchor-->", "<!--/anchor-->", "<!--pre-->", "<!--/pre-->", "<!--do-->", "<!--/do-->",
+    "<!--go/-->", "<!--option--><input type=radio>", "<!--/option-->", "a", " ", "<b>", "</b>",
+    "<table><tr><td>", "</td></tr></table>", "\r\n", "<br/>"});
+
 constexpr auto kBlanks = std::to_array<std::string_view>(
     {" ", "\r\n", "<p>", "</p>", "<b>", "</a>", "<a>", "<!--x-->", "a", "<table><tr><td></table>"});
+
+/// Writes a card of random parts.
+class FormWriter {
+public:
+    explicit FormWriter(std::uint64_t seed)
+        : random_(seed)
+    {
+    }
+
+    std::string card()
+    {
+        std::string text = "<!--card id=\"a\"-->\r\n<BODY>\r\n";
+        for (auto atoms = random_.below(4); atoms > 0; --atoms)
+            text += "<!--#timer x-->";
+        for (auto parts = 1 + random_.below(5); parts > 0; --parts)
+            text += part();
+        return text + "\r\n</BODY>";
+    }
+
+private:
+    std::string part()
+    {
+        if (random_.chance(0.15)) return "<!--pre-->" + words() + "<!--/pre-->";
+        if (random_.chance(0.15)) return "<!--#comment x-->";
+        if (random_.chance(0.2))
+            return "<p><table><tr><td>" + pieces(2) + "</td><td>" + pieces(2)
+                + "</td></tr></table></p>";
+        return "<p>" + pieces(4) + "</p>";
+    }
+
+    std::string pieces(std::size_t most)
+    {
+        std::string text;
+        for (auto count = random_.below(most + 1); count > 0; --count)
+            text += piece(most);
+        return text;
+    }
+
+    std::string piece(std::size_t most)
+    {
+        switch (random_.below(8)) {
+        case 0:
+            return "<b>" + words() + "</b>";
+        case 1:
+            return "<!--#input x-->";
+        case 2:
+            return "<!--anchor a--><!--go x/-->" + words() + "<!--/anchor-->";
+        case 3:
+            return "<!--select-->" + options() + "<!--optgroup b-->" + options()
+                + "<!--/optgroup--><!--/select-->";
+        case 4:
+            return "<!--fieldset c-->" + (most > 1 ? pieces(most - 1) : words())
+                + "<!--/fieldset-->";
+        case 5:
+            return "<!--do--><!--go--><!--#setvar x--><!--/go--><!--/do-->";
+        default:
+            return words();
+        }
+    }
+
+    std::string options()
+    {
+        std::string text;
+        for (auto count = 1 + random_.below(2); count > 0; --count)
+            text += "<!--option d--><input type=radio>" + words() + "<!--/option-->";
+        return text;
+    }
+
+    std::string words() { return random_.chance(0.5) ? "a b" : "c<br/>d &amp;"; }
+
+    SmallRandom random_;
+};
 
 void useDeck(const std::string& name, const std::string& text, const Use& use)
 {
@@ -76,13 +155,25 @@ void forEachAreaText(const Use& use)
         use("tags " + std::to_string(seed), randomSoup(seed, kTokens, 10 + seed));
 }
 
+OutputRules rulesOf(const std::string& text)
+{
+    return OutputRules(text.find("<!--#") != std::string::npos);
+}
+
+void forEachFormText(const UseText& use)
+{
+    for (std::uint64_t seed = 0; seed < 150; ++seed)
+        use(FormWriter(seed).card() + "<!--#-->");
+}
+
 void forEachSoup(const UseText& use)
 {
     forEachSequence(kBlanks, 4, use);
-    for (std::uint64_t seed = 0; seed < 3000; ++seed) {
+    for (std::uint64_t seed = 0; seed < 2500; ++seed) {
         use(randomSoup(seed, kSoupTags, 3 + seed % 40));
         use(randomSoup(seed, kParts, 3 + seed % 25));
         use("<table><tr><td>" + randomSoup(seed, kParts, 3 + seed % 25));
+        if (seed % 2 == 0) use(randomSoup(seed, kMarks, 3 + seed % 25) + "<!--#x y-->");
     }
 }
 

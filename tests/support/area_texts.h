@@ -1,5 +1,7 @@
 #pragma once
 
+#include "document/text/output_rules.h"
+
 #include <functional>
 #include <string>
 
@@ -14,6 +16,12 @@ using UseText = std::function<void(const std::string& text)>;
 /// has a name that tells where to find it again.
 void forEachAreaText(
     const std::function<void(const std::string& name, const std::string& text)>& use);
+
+/// Those by which a text is to be read: with an atom in it, those that lose nothing.
+[[nodiscard]] OutputRules rulesOf(const std::string& text);
+
+/// Cards without faults as they travel where nothing is lost: with atoms, anchors and groups.
+void forEachFormText(const UseText& use);
 
 /// The areas of generated decks with so many faults per element, 0 for none.
 void forEachDeckText(double faults, const UseText& use);

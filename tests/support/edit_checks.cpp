@@ -3,6 +3,7 @@
 #include "editor/page/markup_tags.h"
 #include "editor/page/page_difference.h"
 #include "editor/page/page_places.h"
+#include "editor/page/splice_list.h"
 
 #include <algorithm>
 #include <array>
@@ -18,7 +19,8 @@ constexpr auto kTyped = std::to_array<std::u16string_view>({u"a", u"Z", u" ", u"
     u"\n", u"&", u"<", u">", u"l", u"amp;", u"65", u";", u"#", u"\u00A0", u"\u20AC", u"\u2212"});
 constexpr auto kMarkup = std::to_array<std::string_view>(
     {"<b>x</b>", "x", "<br/>", "<!--go/-->", "<a href=\"#\">x</a>", "<img src=\"x\"></img>",
-        "<table><tr><td>x</td></tr></table>", "<!--option--><input type=radio>x<!--/option-->"});
+        "<table><tr><td>x</td></tr></table>", "<!--option--><input type=radio>x<!--/option-->",
+        "<!--#x y-->", "<!--fieldset--><!--/fieldset-->"});
 
 bool covers(const SurfaceEdit& edit, SourceRange piece)
 {
@@ -40,7 +42,7 @@ public:
         : page_(page)
         , tried_(tried)
         , edit_(tried.on(page))
-        , after_(readSurfacePage(edited(page.text, edit_)))
+        , after_(readSurfacePage(edited(page.text, edit_, page.rules), page.rules))
         , from_(std::min(tried.from, tried.to))
         , to_(std::max(tried.from, tried.to))
     {
@@ -49,7 +51,8 @@ public:
     std::string fault()
     {
         if (!splicesAscend()) return "splices touch or descend";
-        if (edited(after_.text, reverse(page_.text, edit_, 0)) != page_.text) return "not reversed";
+        if (spliced(after_.text, reverse(page_.text, edit_, 0).splices) != page_.text)
+            return "not reversed";
         if (offsetAt(after_, placeAt(after_, edit_.caret)) != edit_.caret) return "caret nowhere";
         if (!elementsStayPaired()) return "half of an element is gone";
         if (!markersSurvive()) return "a marker is gone";
@@ -94,9 +97,17 @@ private:
             if (!isComment(tag->name) || !touches(edit_, tag->source)) continue;
             const bool isInside
                 = tag->source.begin >= touched.begin && tag->source.end <= touched.end;
-            if (!isInside && !goesWithList(tag->source)) return false;
+            if (!isInside && !goesWithList(tag->source) && !isOfParagraph(tag->source))
+                return false;
         }
         return true;
+    }
+
+    [[nodiscard]] bool isOfParagraph(SourceRange tag) const
+    {
+        return std::ranges::any_of(page_.elements, [tag](const PageElement& element) {
+            return element.kind == Kind::Paragraph && (element.start == tag || element.end == tag);
+        });
     }
 
     /// From the first place to the last one, the cells of a table in full.
@@ -145,12 +156,27 @@ private:
     [[nodiscard]] bool typedTextIsThere() const
     {
         if (tried_.operation != Operation::Type || from_ != to_) return true;
+        if (standsAside()) return isInParagraph();
         const auto place = placeAt(after_, edit_.caret);
         const auto seen = std::count_if(tried_.typed.begin(), tried_.typed.end(),
             [](char16_t unit) { return unit >= u' ' || unit == u'\n'; });
         const auto count = static_cast<std::size_t>(seen);
         return after_.items.size() == page_.items.size() + count
             && place == PagePlace{from_.block, from_.offset + count} && itemsOutsideStay();
+    }
+
+    /// Whether what is put in gets a paragraph of its own.
+    [[nodiscard]] bool standsAside() const
+    {
+        const bool putsIn
+            = tried_.operation == Operation::Type || tried_.operation == Operation::Paste;
+        return putsIn && page_.blocks[from_.block].isAside && page_.blocks[to_.block].isAside;
+    }
+
+    [[nodiscard]] bool isInParagraph() const
+    {
+        return after_.items.size() >= page_.items.size()
+            && after_.blocks[placeAt(after_, edit_.caret).block].paragraph != kNone;
     }
 
     [[nodiscard]] static bool looksLike(const PageItem& one, const PageItem& other)
@@ -165,6 +191,7 @@ private:
     [[nodiscard]] bool itemsOutsideStay() const
     {
         if (tried_.keepsItems()) return std::ranges::equal(page_.items, after_.items, looksLike);
+        if (standsAside()) return true;
         const auto touched = touchedText();
         std::size_t ahead = 0;
         while (ahead < page_.items.size() && page_.items[ahead].source.end <= touched.begin)
@@ -176,7 +203,8 @@ private:
         return startsAlike(ahead) && endsAlike(behind);
     }
 
-    /// Of the items ahead of the places, those of an option may go with its radio button.
+    /// Of the items ahead of the places, those of an option may go with its radio button, and one
+    /// end of a group with the other one.
     [[nodiscard]] bool startsAlike(std::size_t count) const
     {
         if (after_.items.size() < count) return mayTakeOptions();
@@ -197,14 +225,23 @@ private:
 
     [[nodiscard]] bool mayTakeOptions() const
     {
-        return std::ranges::any_of(page_.elements, [this](const PageElement& element) {
-            return element.kind == Kind::Option && covers(edit_, element.start);
+        return takesGroup()
+            || std::ranges::any_of(page_.elements, [this](const PageElement& element) {
+                   return element.kind == Kind::Option && covers(edit_, element.start);
+               });
+    }
+
+    [[nodiscard]] bool takesGroup() const
+    {
+        return std::ranges::any_of(page_.items, [this](const PageItem& item) {
+            return item.kind == ItemKind::Marker && covers(edit_, item.source);
         });
     }
 
     [[nodiscard]] bool isLocal() const
     {
-        if (tried_.keepsItems()) return true; // a format may reach beyond the paragraph
+        // a format may reach beyond the paragraph, and a group of fields as well
+        if (tried_.keepsItems() || takesGroup()) return true;
         if (page_.blocks[from_.block].cell != page_.blocks[to_.block].cell) return true;
         const auto first = frameOf(blockBefore(from_.block)).begin;
         const auto last = frameOf(blockBehind(to_.block)).end;
@@ -264,7 +301,8 @@ private:
     [[nodiscard]] std::string differenceFault() const
     {
         const auto change = differenceOf(page_, after_);
-        const bool isInBlock = tried_.operation == Operation::Type && from_ == to_;
+        const bool isInBlock
+            = tried_.operation == Operation::Type && from_ == to_ && !standsAside();
         if (!change) return isInBlock ? "typing builds the page anew" : "";
         auto looks = looksOf(page_, 0, page_.items.size());
         const auto first = page_.blocks[change->place.block].firstItem + change->place.offset;

@@ -86,6 +86,9 @@ EditDraft::EditDraft(const SurfacePage& page, PagePlace from, PagePlace to, Firs
         std::ranges::copy(parts_.back().itemsOutside, std::back_inserter(itemsOutside_));
     }
     std::erase_if(itemsOutside_, [this](auto i) { return i >= firstItem() && i < endItem(); });
+    std::ranges::sort(itemsOutside_);
+    const auto twice = std::ranges::unique(itemsOutside_); // of parts in several cells
+    itemsOutside_.erase(twice.begin(), twice.end());
     putAt_ = firstItem();
 }
 

@@ -71,8 +71,18 @@ private:
     [[nodiscard]] bool liesBetween(const PageElement& element) const
     {
         if (!lies(element.start, between_)) return false;
+        if (staysAtBorder(element)) return false;
         if (!element.end.empty() || isFrame(element.kind)) return element.end.end <= between_.end;
         return itemsOf(page_, element).within(run_); // a format that nothing closes
+    }
+
+    /// Where nothing is lost, markers that show nothing, as a do block, only go from between items.
+    [[nodiscard]] bool staysAtBorder(const PageElement& element) const
+    {
+        if (!page_.rules.losesNothing() || element.kind != Kind::Marker) return false;
+        const auto items = itemsOf(page_, element);
+        const bool isShown = !items.empty() || itemOf(page_, element.start) != kNone;
+        return !isShown && (items.first <= run_.firstItem || items.first >= run_.endItem);
     }
 
     [[nodiscard]] bool goesEmpty(const PageElement& element) const

@@ -69,12 +69,15 @@ void MarkerFlow::showStart(std::size_t index)
     const MarkupTag& tag = tags_[index];
     if (tag.name == TagName::Do) hiddenTo_ = std::max(hiddenTo_, tags_[tag.partner].source.begin);
     const auto element = page_.elements.size();
-    if (isBlock(index))
-        blocks_.openParagraph(tag.source);
-    else
-        note(index);
+    const bool startsBlock = isBlock(index);
+    startsBlock ? blocks_.openParagraph(tag.source) : note(index);
     if (changesLook(tag.name)) formats_.openMarker(tag.name, element);
-    isGroup(tag.name) ? blocks_.addObject(ItemKind::Marker, tag.source) : blocks_.tagPassed();
+    if (startsBlock)
+        blocks_.formatOpened();
+    else if (isGroup(tag.name))
+        blocks_.addObject(ItemKind::Marker, tag.source);
+    else
+        blocks_.tagPassed();
 }
 
 void MarkerFlow::showEnd(const MarkupTag& tag)

@@ -36,7 +36,8 @@ struct SurfaceEdit {
 /// Puts typed text in place of what lies between two places (the same place: nothing). The text is
 /// escaped; a hard blank becomes &nbsp;, a line end <br/>, a character that Windows-1252 has not a
 /// decimal reference. A blank that would not be seen, next to white space or where a line begins,
-/// becomes &nbsp; as well.
+/// becomes &nbsp; as well. In a line of atoms (PageBlock::isAside) it comes as a paragraph behind
+/// them.
 [[nodiscard]] SurfaceEdit typeText(
     const SurfacePage& page, PagePlace from, PagePlace to, std::u16string_view typed);
 
@@ -49,6 +50,9 @@ struct SurfaceEdit {
 /// tags
 ///   both lie between the places goes as well; else its tags stay, so that no half of a pair is
 ///   lost;
+/// - one end of a group that is shown takes the other one with it;
+/// - where nothing is lost, markers that show nothing go only from between items;
+/// - a line of atoms and a paragraph do not become one;
 /// - a radio button takes its whole option with it, and the last option its list;
 /// - over the border of two blocks they become one: the first block's paragraph goes on;
 /// - a table goes where both places lie outside of it; where one lies within it, the covered cells

@@ -84,13 +84,22 @@ private:
         if (run_.from.block == run_.to.block || first == last) return false;
         if (first == kNone && run_.from.offset == 0) return true;
         if (firstBlock().isAside || lastBlock().isAside) return firstBlock().isAside;
+        const bool goesOn = first != kNone && last != kNone && haveEqualEnds(first, last);
         if (first != kNone) fates_[first].end = true;
-        if (last != kNone)
-            openLastParagraph(last, first != kNone);
-        else if (!page_.elements[first].end.empty())
+        if (last != kNone) openLastParagraph(last, goesOn);
+        if (first != kNone && !goesOn && !page_.elements[first].end.empty())
             splices_.insert(
                 lastBlock().content.end, std::string(page_.elements[first].end.in(page_.text)));
         return false;
+    }
+
+    /// A <p> and a pre marker have not.
+    [[nodiscard]] bool haveEqualEnds(std::size_t first, std::size_t last) const
+    {
+        const auto isMarker = [this](std::size_t paragraph) {
+            return page_.elements[paragraph].start.in(page_.text).starts_with("<!");
+        };
+        return isMarker(first) == isMarker(last);
     }
 
     /// The last block goes on in the first one's paragraph, or in none. What its own paragraph

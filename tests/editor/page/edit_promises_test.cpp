@@ -16,7 +16,7 @@ using Fault = std::string (*)(const SurfacePage&, const test::TriedEdit&);
 std::string toldOf(const SurfacePage& page, const test::TriedEdit& tried)
 {
     return testing::PrintToString(page.text) + "\n->\n"
-        + testing::PrintToString(edited(page.text, tried.on(page))) + "\noperation "
+        + testing::PrintToString(edited(page.text, tried.on(page), page.rules)) + "\noperation "
         + std::to_string(static_cast<int>(tried.operation)) + " at "
         + std::to_string(tried.from.block) + "." + std::to_string(tried.from.offset) + " to "
         + std::to_string(tried.to.block) + "." + std::to_string(tried.to.offset);
@@ -26,11 +26,12 @@ std::string toldOf(const SurfacePage& page, const test::TriedEdit& tried)
 void expectSoundEdits(std::string text, std::uint64_t seed, int edits, Fault faultOf)
 {
     test::SmallRandom random(seed);
+    const auto rules = test::rulesOf(text);
     for (int i = 0; i < edits; ++i) {
-        const auto page = readSurfacePage(std::move(text));
+        const auto page = readSurfacePage(std::move(text), rules);
         const auto tried = test::randomEdit(random, page);
         ASSERT_EQ(faultOf(page, tried), "") << toldOf(page, tried) << "\nseed " << seed;
-        text = edited(page.text, tried.on(page));
+        text = edited(page.text, tried.on(page), rules);
     }
 }
 
@@ -52,6 +53,7 @@ TEST(EditPromises, HoldInDecks)
     };
     test::forEachDeckText(0, expectAll(25, test::faultInGoodText));
     test::forEachDeckText(0.2, expectAll(25, test::faultOf));
+    test::forEachFormText(expectAll(25, test::faultInGoodText));
 }
 
 } // namespace

@@ -100,6 +100,8 @@ TEST(Markers, GoInPairsAndAtomsAsWholes)
             {"the last option of a group",
                 "<p><!--select-->$G$Oa$E$g$G[$Ob]$E$g<!--/select-->c</p>",
                 "<p><!--select-->$G$Oa|$E$g<!--/select-->c</p>"},
+            {"a do block at the border stays", "<p>a[<!--do--><!--go/--><!--/do-->b]c</p>",
+                "<p>a|<!--do--><!--go/--><!--/do-->c</p>"},
             {"all of an anchor", "<p>a[<!--anchor--><!--go/-->b<!--/anchor-->]c</p>", "<p>a|c</p>"},
         },
         deleteRange);

@@ -21,6 +21,7 @@ void forEachDeckText(const test::UseText& check)
 {
     for (const double faults : {0.0, 0.2})
         test::forEachDeckText(faults, check);
+    test::forEachFormText(check);
 }
 
 /// As other editors left them.
@@ -95,7 +96,8 @@ void expectSoundElements(const SurfacePage& page)
     }
     for (const auto& style : page.styles) {
         if (style.link == kNone) continue;
-        EXPECT_EQ(page.elements.at(style.link).kind, PageElement::Kind::Link);
+        const auto kind = page.elements.at(style.link).kind;
+        EXPECT_TRUE(kind == PageElement::Kind::Link || kind == PageElement::Kind::Marker);
     }
 }
 
@@ -121,7 +123,7 @@ void expectOrderedPlaces(const SurfacePage& page)
 TEST(PageProperties, AllRangesLieInTheTextInTheirOrder)
 {
     const auto check = [](const std::string& text) {
-        const auto page = readSurfacePage(text);
+        const auto page = readSurfacePage(text, test::rulesOf(text));
         ASSERT_EQ(page.text, text);
         expectSound(page);
         expectSoundTables(page);
@@ -146,7 +148,7 @@ public:
         , place_(place)
         , offset_(offsetAt(before, place))
         , item_(before.blocks[place.block].firstItem + place.offset)
-        , after_(readSurfacePage(std::string(before.text).insert(offset_, 1, kTyped)))
+        , after_(readSurfacePage(std::string(before.text).insert(offset_, 1, kTyped), before.rules))
     {
     }
     [[nodiscard]] bool isAsBefore() const
@@ -226,7 +228,7 @@ private:
 
 void expectExactTyping(const std::string& text)
 {
-    const auto page = readSurfacePage(text);
+    const auto page = readSurfacePage(text, test::rulesOf(text));
     forEachPlace(page, [&](PagePlace place) {
         const AfterTyping typed(page, place);
         ASSERT_TRUE(typed.isAsBefore()) << text << "\n" << typed.text();
