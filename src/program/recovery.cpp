@@ -127,6 +127,16 @@ std::string wmlOfRun(const DocumentSession& like, const RecoveryNote& note)
     return texts ? wmlOfAreas(like, note, std::move(*texts)) : readFile(note.wml.path());
 }
 
+/// The layout of the deck as the run had it, which its file may not have any more.
+void takeLayout(DocumentSession& session, const RecoveryNote& note)
+{
+    const auto& first = session.deck.front();
+    auto text
+        = note.pristine.name.empty() ? std::nullopt : readable(note.pristine.path(), kMaxNoteBytes);
+    if (text && !first.pristineFile.empty())
+        session.workFiles.write(first.pristineDir + first.pristineFile, std::move(*text));
+}
+
 std::optional<CrashedRun> crashedRun(std::string directory)
 {
     if (!isPrivate(directory)) return std::nullopt;
@@ -202,6 +212,7 @@ void openCrashedRun(DocumentSession& session, const CrashedRun& run)
         throw;
     }
     session.currentArea = 0;
+    takeLayout(session, run.note);
 }
 
 void discardCrashedRun(const CrashedRun& run)

@@ -155,6 +155,7 @@ void readLine(LineReader line, RecoveryNote& note)
     if (line.kind() == "changed") line.read(note.isChanged);
     if (line.kind() == "deck") line.read(note.deck);
     if (line.kind() == "wml") line.read(note.wml);
+    if (line.kind() == "pristine") line.read(note.pristine);
     if (line.kind() == "source") line.read(note.source);
     if (line.kind() == "seen") note.seen = readSeen(line);
     if (line.kind() == "area") {
@@ -185,6 +186,7 @@ RecoveryNote noteOf(const Deck& deck, const WorkFiles& files, bool isChanged)
     const auto& first = deck.front();
     note.deck = {first.deckDir, first.deckFile};
     note.wml = {first.wmlDir, first.wmlFile};
+    note.pristine = {first.pristineDir, first.pristineFile};
     for (const auto& record : std::span(deck).first(areaCount(deck)))
         note.areas.push_back(areaOf(record, files, isChanged));
     return note;
@@ -198,6 +200,7 @@ std::string textOfNote(const RecoveryNote& note)
     LineWriter(text, "changed").add(note.isChanged ? 1 : 0).end();
     LineWriter(text, "deck").add(note.deck).end();
     LineWriter(text, "wml").add(note.wml).end();
+    LineWriter(text, "pristine").add(note.pristine).end();
     LineWriter(text, "source").add(note.source).end();
     if (note.seen) writeSeen(text, *note.seen);
     for (const auto& area : note.areas) {

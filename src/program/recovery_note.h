@@ -34,6 +34,7 @@ struct NotedArea {
 struct RecoveryNote {
     NotedFile deck; ///< the person's own file
     NotedFile wml; ///< the deck as generated last
+    NotedFile pristine; ///< the deck as opened: how its lines are laid out
     std::int64_t time = 0; ///< seconds since 1970
     bool isChanged = false; ///< the deck differs from its file
     std::optional<SeenDeckFile> seen; ///< the person's file as the run read or wrote it
