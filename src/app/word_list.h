@@ -64,7 +64,7 @@ inline constexpr WordUse kWordIds[] = {
     {word::kToolMissing, 1}, {word::kRecentDecks, 0}, {word::kCharacterCount, 1},
     {word::kNoHit, 0}, {word::kOneHit, 0}, {word::kHits, 1}, {word::kHitOf, 2},
     {word::kReplaced, 1}, {word::kBadNameHint, 0}, {word::kBadFolderHint, 0},
-    {word::kIsOpenHint, 0}, {word::kNoHelp, 1},
+    {word::kIsOpenHint, 0}, {word::kNoHelp, 1}, {word::kLanguage, 0},
 };
 // clang-format on
 

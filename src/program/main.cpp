@@ -9,9 +9,7 @@
 #include <QDir>
 #include <QFont>
 #include <QIcon>
-#include <QLibraryInfo>
 #include <QMessageBox>
-#include <QTranslator>
 
 namespace quillmere {
 namespace {
@@ -26,14 +24,6 @@ void setLook()
     QApplication::setFont(font);
     const auto logo = QString::fromStdString(AppDirectory()) + QStringLiteral("Logo.ico");
     if (QFile::exists(logo)) QApplication::setWindowIcon(QIcon(logo));
-}
-
-/// Texts of Qt's own, such as those in its dialog for files.
-void translateQt(QTranslator& translator)
-{
-    const auto folder = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
-    if (translator.load(QStringLiteral("qtbase_de"), folder))
-        QApplication::installTranslator(&translator);
 }
 
 StartOptions optionsOf(std::span<char* const> arguments)
@@ -54,8 +44,6 @@ int start(std::span<char* const> arguments)
         return 0;
     }
     setLook();
-    QTranslator translator;
-    translateQt(translator);
     Program program(optionsOf(arguments));
     instance.onAsked([&program] { program.showWindow(); });
     return program.run();

@@ -26,6 +26,7 @@
 #include "project/frm_open_from_projekt_dir.h"
 
 #include <QApplication>
+#include <QLibraryInfo>
 #include <QScreen>
 #include <QTimer>
 
@@ -127,8 +128,18 @@ void Program::loadResources()
     if (forms_.table().forms.empty())
         trapped(messages_, [&] { forms_.LoadFormResources(shipped); });
     if (words_.table().empty()) trapped(messages_, [&] { words_.LoadWordResources(shipped); });
+    translateQt();
     OverlayForm(window_, session_);
     window_.setWindowTitle(QStringLiteral("MORVANE Quillmere")); // the overlay cannot change it
+}
+
+/// Texts of Qt's own, such as those in its dialog for files and of keys.
+void Program::translateQt()
+{
+    const auto language = shownText(words_.GetWord(word::kLanguage));
+    const auto folder = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+    if (qtTexts_.load(QStringLiteral("qtbase_") + language, folder))
+        QApplication::installTranslator(&qtTexts_);
 }
 
 void Program::applySkins()

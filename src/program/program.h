@@ -11,6 +11,8 @@
 #include "program/cls_registry.h"
 #include "program/data_directories.h"
 
+#include <QTranslator>
+
 #include <array>
 #include <string>
 
@@ -58,6 +60,7 @@ private:
     void ensureSettings();
     void showSplash();
     void loadResources();
+    void translateQt();
     void applySkins();
     void showMainWindow();
     void firstActivation();
@@ -78,6 +81,7 @@ private:
     MountTable drives_;
     DiskWorkFiles workFiles_;
     WordResources words_;
+    QTranslator qtTexts_;
     FormResources forms_;
     WindowMessages messages_{words_};
     SystemFileDialogs fileDialogs_;

@@ -113,7 +113,7 @@ void tieToCards(DocumentSession& session, const RecoveryNote& note)
     for (const auto& area : note.areas)
         cards.push_back(area.card);
     std::optional<std::string> opened;
-    if (!note.opened.name.empty()) opened = readFile(note.opened.path(), kMaxNoteBytes);
+    if (!note.pristine.name.empty()) opened = readFile(note.pristine.path(), kMaxNoteBytes);
     reopenCards(session, opened, cards);
 }
 
@@ -136,6 +136,18 @@ std::string wmlOfRun(const DocumentSession& like, const RecoveryNote& note)
 {
     auto texts = areaTexts(note);
     return texts ? wmlOfAreas(like, note, std::move(*texts)) : readFile(note.wml.path());
+}
+
+/// The layout of the deck as the run had it, which its file may not have any more. A deck without
+/// loss has it in itself.
+void takeLayout(DocumentSession& session, const RecoveryNote& note)
+{
+    if (note.losesNothing || session.output.losesNothing()) return;
+    const auto& first = session.deck.front();
+    auto text
+        = note.pristine.name.empty() ? std::nullopt : readable(note.pristine.path(), kMaxNoteBytes);
+    if (text && !first.pristineFile.empty())
+        session.workFiles.write(first.pristineDir + first.pristineFile, std::move(*text));
 }
 
 std::optional<CrashedRun> crashedRun(std::string directory)
@@ -213,6 +225,7 @@ void openCrashedRun(DocumentSession& session, const CrashedRun& run)
         throw;
     }
     session.currentArea = 0;
+    takeLayout(session, run.note);
 }
 
 void discardCrashedRun(const CrashedRun& run)

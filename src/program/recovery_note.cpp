@@ -155,11 +155,9 @@ void readLine(LineReader line, RecoveryNote& note)
     if (line.kind() == "changed") line.read(note.isChanged);
     if (line.kind() == "deck") line.read(note.deck);
     if (line.kind() == "wml") line.read(note.wml);
+    if (line.kind() == "pristine") line.read(note.pristine);
     if (line.kind() == "source") line.read(note.source);
-    if (line.kind() == "opened") {
-        line.read(note.losesNothing);
-        line.read(note.opened);
-    }
+    if (line.kind() == "lossless") line.read(note.losesNothing);
     if (line.kind() == "seen") note.seen = readSeen(line);
     if (line.kind() == "area") {
         auto& area = note.areas.emplace_back();
@@ -190,8 +188,8 @@ RecoveryNote noteOf(const Deck& deck, const WorkFiles& files, bool isChanged)
     const auto& first = deck.front();
     note.deck = {first.deckDir, first.deckFile};
     note.wml = {first.wmlDir, first.wmlFile};
+    note.pristine = {first.pristineDir, first.pristineFile};
     note.losesNothing = first.origin.deck != nullptr;
-    if (note.losesNothing) note.opened = {first.pristineDir, first.pristineFile};
     for (const auto& record : std::span(deck).first(areaCount(deck)))
         note.areas.push_back(areaOf(record, files, isChanged));
     return note;
@@ -205,8 +203,9 @@ std::string textOfNote(const RecoveryNote& note)
     LineWriter(text, "changed").add(note.isChanged ? 1 : 0).end();
     LineWriter(text, "deck").add(note.deck).end();
     LineWriter(text, "wml").add(note.wml).end();
+    LineWriter(text, "pristine").add(note.pristine).end();
     LineWriter(text, "source").add(note.source).end();
-    LineWriter(text, "opened").add(note.losesNothing ? 1 : 0).add(note.opened).end();
+    LineWriter(text, "lossless").add(note.losesNothing ? 1 : 0).end();
     if (note.seen) writeSeen(text, *note.seen);
     for (const auto& area : note.areas) {
         LineWriter(text, "area").add(area.design).add(area.content).add(area.card).end();

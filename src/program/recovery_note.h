@@ -36,10 +36,10 @@ struct NotedArea {
 struct RecoveryNote {
     NotedFile deck; ///< the person's own file
     NotedFile wml; ///< the deck as generated last
+    NotedFile pristine; ///< the deck as opened; no name: one that was begun anew
     std::int64_t time = 0; ///< seconds since 1970
     bool isChanged = false; ///< the deck differs from its file
     bool losesNothing = false; ///< the areas are those of a deck without loss
-    NotedFile opened; ///< such a deck as it was opened; no name: one that was begun anew
     std::optional<SeenDeckFile> seen; ///< the person's file as the run read or wrote it
     NotedFile source; ///< the text of the source view, where that is not in the areas yet
     std::vector<NotedArea> areas; ///< in their order

@@ -5,7 +5,6 @@
 #include "editor/page_formats.h"
 #include "editor/surface_fixture.h"
 #include "support/area_texts.h"
-#include "support/area_texts.h"
 #include "support/small_random.h"
 
 #include <QClipboard>

@@ -79,6 +79,7 @@ TEST(RecoveryNote, ComesBackAsItWasWritten)
     note.isChanged = true;
     note.seen = SeenDeckFile{true, 5'000'000'000, -1, 0xFFFFFFFFFFFFFFFFU};
     note.source = {"/tmp/q/", "Source0.txt"};
+    note.pristine = {"/tmp/q/", "Wml1.wml"};
     ImageEntry image;
     image.displayDir = "/tmp/q/";
     image.displayFile = "Wml0.bmp";

@@ -109,6 +109,7 @@ inline constexpr int kHits = 214; ///< gap: number
 inline constexpr int kHitOf = 215; ///< gaps: hit, number
 inline constexpr int kReplaced = 216; ///< gap: number
 inline constexpr int kNoHelp = 220; ///< gap: file
+inline constexpr int kLanguage = 221; ///< of the texts, as "de"
 
 // Hints of the deck dialogs
 inline constexpr int kBadNameHint = 217;

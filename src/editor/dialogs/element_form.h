@@ -46,8 +46,8 @@ protected:
     /// Writes the text, shows it with the caret behind the position, keeps it for undo, and closes
     /// the form. Throws as WriteDesignText; nothing is changed then.
     void apply(const ElementEdit& edit);
-    /// The same for an element that was found as the form opened. Where it `isThere` no more, or not
-    /// whole, the person is told and the form closes.
+    /// The same for an element that was found as the form opened. Where it `isThere` no more, or
+    /// not whole, the person is told and the form closes.
     void applyToFound(const ElementEdit& edit, bool isThere);
     /// The same for a deletion, which changes the text where the element is there.
     void applyDeletion(const ElementEdit& edit);
