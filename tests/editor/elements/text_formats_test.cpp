@@ -32,6 +32,7 @@ TEST(FormatText, PutsTagsRoundWhatIsMarked)
     const std::vector<Case> cases{
         {"a word, with the blank ahead of it", "<p>one [two] three</p>", kBold,
             "<p>one<b> [two]</b> three</p>"},
+        {"all formats", "<p>x[y]z</p>", all, "<p>x<big><i><b><u>[y]</u></b></i></big>z</p>"},
         {"over paragraphs", "<p>a[b</p><p align=\"right\">c]d</p>", kBold,
             "<p>a<b>[b</b></p><p align=\"right\"><b>c]</b>d</p>"},
         {"a part of a link", "<p>x<a href=\"#\">o[n]e</a>y</p>", kBold,
