@@ -65,6 +65,19 @@ inline constexpr WordUse kWordIds[] = {
     {word::kNoHit, 0}, {word::kOneHit, 0}, {word::kHits, 1}, {word::kHitOf, 2},
     {word::kReplaced, 1}, {word::kBadNameHint, 0}, {word::kBadFolderHint, 0},
     {word::kIsOpenHint, 0}, {word::kNoHelp, 1}, {word::kLanguage, 0},
+    {word::kAreaNeedsName, 0},
+    {word::kAreaNameBadCharacter, 0},
+    {word::kAreaNameBadBegin, 0},
+    {word::kAreaNameTaken, 0},
+    {word::kJumpNeedsCaption, 0},
+    {word::kTargetMissing, 0},
+    {word::kStillLeadsTo, 2},
+    {word::kElementGone, 0},
+    {word::kNoWbmpPicture, 0},
+    {word::kPictureMissing, 1},
+    {word::kLinkNeedsCaption, 0},
+    {word::kCannotBecomeLink, 0},
+    {word::kTakesNoFormat, 0},
 };
 // clang-format on
 

@@ -9,6 +9,7 @@
 #include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QTextBlock>
+#include <QTextTable>
 
 #include <algorithm>
 #include <utility>
@@ -128,6 +129,26 @@ void DesignSurface::keyPressEvent(QKeyEvent* event)
     else
         return event->ignore();
     event->accept();
+}
+
+/// The tabulator in a table goes to the next cell, or back, and marks what is in it. Beyond the
+/// last cell it leaves the surface, as it does outside of tables.
+bool DesignSurface::focusNextPrevChild(bool next)
+{
+    auto cursor = textCursor();
+    const auto* table = cursor.currentTable();
+    if (table == nullptr) return QTextEdit::focusNextPrevChild(next);
+    const auto cell = table->cellAt(cursor);
+    const int number = cell.row() * table->columns() + cell.column() + (next ? 1 : -1);
+    if (number < 0 || number >= table->rows() * table->columns())
+        return QTextEdit::focusNextPrevChild(next);
+    const auto wanted = table->cellAt(number / table->columns(), number % table->columns());
+    undo_.endTyping();
+    dropControl();
+    cursor.setPosition(wanted.firstPosition());
+    cursor.setPosition(wanted.lastPosition(), QTextCursor::KeepAnchor);
+    setTextCursor(cursor);
+    return true;
 }
 
 void DesignSurface::keyReleaseEvent(QKeyEvent* event)

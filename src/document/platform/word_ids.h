@@ -116,6 +116,21 @@ inline constexpr int kBadNameHint = 217;
 inline constexpr int kBadFolderHint = 218;
 inline constexpr int kIsOpenHint = 219;
 
+// What the dialogs of elements tell
+inline constexpr int kAreaNeedsName = 240;
+inline constexpr int kAreaNameBadCharacter = 241;
+inline constexpr int kAreaNameBadBegin = 242;
+inline constexpr int kAreaNameTaken = 243;
+inline constexpr int kJumpNeedsCaption = 244;
+inline constexpr int kTargetMissing = 245;
+inline constexpr int kStillLeadsTo = 246; ///< gaps: id, areas
+inline constexpr int kElementGone = 247;
+inline constexpr int kNoWbmpPicture = 248;
+inline constexpr int kPictureMissing = 249; ///< gap: file
+inline constexpr int kLinkNeedsCaption = 250;
+inline constexpr int kCannotBecomeLink = 251;
+inline constexpr int kTakesNoFormat = 252;
+
 // Picture converter
 inline constexpr int kConverterFolderCaption = 32;
 inline constexpr int kConverterFolderInfo = 33;

@@ -4,6 +4,7 @@
 
 #include "document/deck_store.h"
 #include "document/design_text.h"
+#include "document/platform/word_ids.h"
 #include "forms/text.h"
 
 #include <QTextCursor>
@@ -53,9 +54,10 @@ bool ElementForm::confirms(int id) const
     return session().messages.ask(id, {}, MessageIcon::Critical);
 }
 
-void ElementForm::complain(const QString& text, QWidget& control) const
+void ElementForm::complain(int id, QWidget& control, const std::string& gap) const
 {
-    session().messages.showText(text, MessageIcon::Warning);
+    const std::size_t gaps = gap.empty() ? 0 : 1;
+    session().messages.show(id, {&gap, gaps}, MessageIcon::Warning);
     control.setFocus();
 }
 
@@ -75,10 +77,7 @@ void ElementForm::apply(const ElementEdit& edit)
 void ElementForm::applyToFound(const ElementEdit& edit, bool isThere)
 {
     if (isThere) return apply(edit);
-    session().messages.showText(
-        "Das Element steht nicht mehr oder nicht vollständig im Text dieses Bereichs. Er ist "
-        "unverändert.",
-        MessageIcon::Warning);
+    session().messages.show(word::kElementGone, {}, MessageIcon::Warning);
     reject();
 }
 

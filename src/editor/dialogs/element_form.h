@@ -40,8 +40,8 @@ protected:
     [[nodiscard]] QString formText(std::int16_t variant, const char* otherwise) const;
     /// Puts a word as a question with the stop icon; true for Yes.
     [[nodiscard]] bool confirms(int id) const;
-    /// Tells what is wrong with a control's content and brings the focus there.
-    void complain(const QString& text, QWidget& control) const;
+    /// Tells what is wrong with a control's content, by a word, and brings the focus there.
+    void complain(int id, QWidget& control, const std::string& gap = {}) const;
 
     /// Writes the text, shows it with the caret behind the position, keeps it for undo, and closes
     /// the form. Throws as WriteDesignText; nothing is changed then.

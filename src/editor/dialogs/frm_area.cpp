@@ -15,6 +15,7 @@
 #include <QVBoxLayout>
 
 #include <algorithm>
+#include <array>
 
 namespace quillmere {
 
@@ -26,6 +27,21 @@ constexpr const char* kNewId = "Bereich"; // and a number
 QString typed(std::string_view markup)
 {
     return QString::fromStdU16String(typedFrom(markup));
+}
+
+int wordFor(CardIdFault fault)
+{
+    switch (fault) {
+    case CardIdFault::Empty:
+        return word::kAreaNeedsName;
+    case CardIdFault::BadCharacter:
+        return word::kAreaNameBadCharacter;
+    case CardIdFault::BadBegin:
+        return word::kAreaNameBadBegin;
+    case CardIdFault::None:
+        break;
+    }
+    return word::kAreaNameTaken;
 }
 
 std::string valueOf(const QLineEdit& field)
@@ -126,15 +142,7 @@ bool frmArea::hasGoodId() const
     if (isKept) return true;
     const auto fault = cardIdFault(id);
     if (fault == CardIdFault::None && !hasId(index, id)) return true;
-    complain(fault == CardIdFault::Empty ? "Bitte geben Sie dem Bereich einen Namen. Über ihn "
-                                           "führen Links zu diesem Bereich."
-            : fault == CardIdFault::BadCharacter
-            ? "Dieser Name ist nicht möglich. Erlaubt sind Buchstaben, Ziffern, „-“, „_“ und „.“, "
-              "aber keine Leerzeichen."
-            : fault == CardIdFault::BadBegin
-            ? "Dieser Name ist nicht möglich. Er muss mit einem Buchstaben oder „_“ beginnen."
-            : "Diesen Namen hat schon ein anderer Bereich. Bitte wählen Sie einen anderen.",
-        *txtId);
+    complain(wordFor(fault), *txtId);
     return false;
 }
 
@@ -216,17 +224,16 @@ void frmArea::btnNew_Click()
     const auto address = objFrmLink->address().text().trimmed();
     const bool hasNewAddress = !address.isEmpty() && address != typed(shownJump_.target);
     if (wanted.label.empty() && hasNewAddress && shownJump_.label.empty())
-        return complain("Bitte geben Sie eine Beschriftung für den Auswahl-Button ein. Ohne sie "
-                        "kann der Bereich keinen Sprung haben.",
-            *txtJumpSelectionCaption);
+        return complain(word::kJumpNeedsCaption, *txtJumpSelectionCaption);
     if (!wanted.label.empty()) wanted.target = objFrmLink->target();
     if (!wanted.label.empty() && wanted.target.empty())
-        return complain(
-            "Bitte geben Sie eine URL ein oder wählen Sie einen Bereich.", objFrmLink->address());
+        return complain(word::kTargetMissing, objFrmLink->address());
     const auto before = designTexts();
     const int shownArea = session().document.currentArea;
+    const auto oldId = NewElement ? "" : GetCardAttributes(session().document, area()).id;
     try {
         write(wanted);
+        if (!oldId.empty()) renameInHistories(oldId);
     } catch (...) {
         putBack(before, shownArea);
         throw;
@@ -242,6 +249,21 @@ void frmArea::write(Jump wanted)
     setIdAndTitle();
     if (wanted.target == "#" + oldId) wanted.target = "#" + GetCardAttributes(document, area()).id;
     setJump(wanted);
+}
+
+void frmArea::renameInHistories(const std::string& oldId)
+{
+    auto& document = session().document;
+    const auto newId = GetCardAttributes(document, area()).id;
+    if (newId == oldId || hasId(area(), oldId)) return;
+    std::vector<std::vector<std::string>> histories;
+    for (std::size_t i = 0; i < areaCount(document.deck); ++i) {
+        auto& history = histories.emplace_back(document.deck.at(i).history);
+        for (auto& state : history)
+            state = stateWithIdRenamed(state, oldId, newId);
+    }
+    for (std::size_t i = 0; i < histories.size(); ++i)
+        document.deck.at(i).history.swap(histories[i]);
 }
 
 /// The areas with the texts that they had.
@@ -282,11 +304,8 @@ void frmArea::tellWhatLeadsTo(const std::string& id)
             areas.append(
                 formText(text_variant::kAreaText, "Bereich") + ' ' + QString::number(i + 1));
     if (areas.isEmpty()) return;
-    session().messages.showText(
-        QStringLiteral("Der Bereich „%1“ ist gelöscht. Links, Optionen oder Sprünge in diesen "
-                       "Bereichen führen noch zu ihm: %2.")
-            .arg(shownText(id), areas.join(", ")),
-        MessageIcon::Warning);
+    const std::array gaps{id, coreText(areas.join(", "))};
+    session().messages.show(word::kStillLeadsTo, gaps, MessageIcon::Warning);
 }
 
 } // namespace quillmere

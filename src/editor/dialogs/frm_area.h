@@ -13,7 +13,8 @@ namespace quillmere {
 /// Changes the shown area's id, title and jump, deletes the area, or adds one behind the last.
 /// - An id that no link could lead to, or that another area has, is refused.
 /// - All is written or nothing: where a later step fails, what was written is put back.
-/// - With a new id, all that leads to the area within the deck leads there still.
+/// - With a new id, all that leads to the area within the deck leads there still. An undo does not
+///   take the new id back.
 /// - The jump is one by its caption: without one the do block goes, and an address without a
 ///   caption is asked for it. A jump that was not changed is not written.
 /// - Which areas still lead to one that was deleted is told.
@@ -40,6 +41,7 @@ private:
     [[nodiscard]] std::vector<std::string> designTexts() const;
     void keepState();
     void write(Jump wanted);
+    void renameInHistories(const std::string& oldId);
     void putBack(const std::vector<std::string>& texts, int shownArea);
     void btnNew_Click();
     void btnDelete_Click();

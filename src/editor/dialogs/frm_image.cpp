@@ -307,13 +307,9 @@ void frmImage::btnNew_Click()
 {
     const auto path = chosenPath();
     if (path.empty() || !lowerCase(path).ends_with(".wbmp"))
-        return complain("Bitte wählen Sie ein Bild im Format WBMP. Der Name der Datei endet in "
-                        "„.wbmp“.",
-            *txtImage);
+        return complain(word::kNoWbmpPicture, *txtImage);
     if (!isThere(path))
-        return complain(QStringLiteral("Das Bild „%1“ gibt es nicht. Das Dokument ist unverändert.")
-                            .arg(txtImage->text().trimmed()),
-            *txtImage);
+        return complain(word::kPictureMissing, *txtImage, coreText(txtImage->text().trimmed()));
     if (const auto taken = pathInProject()) SetImage(*taken);
 }
 

@@ -44,13 +44,9 @@ void frmLinks::btnNew_Click()
 {
     LinkSettings wanted{captionMarkup(txtCaption->text().toStdU16String()), {}};
     if (txtCaption->text().trimmed().isEmpty())
-        return complain("Bitte geben Sie eine Beschriftung ein. Ein Link ohne Beschriftung ist "
-                        "nicht zu sehen.",
-            *txtCaption);
+        return complain(word::kLinkNeedsCaption, *txtCaption);
     wanted.target = objFrmLink->target();
-    if (wanted.target.empty())
-        return complain(
-            "Bitte geben Sie eine URL ein oder wählen Sie einen Bereich.", objFrmLink->address());
+    if (wanted.target.empty()) return complain(word::kTargetMissing, objFrmLink->address());
     const auto text = designText();
     if (!NewElement)
         return applyToFound(
@@ -77,10 +73,7 @@ void frmLinks::markWithoutBlanks()
 void frmLinks::linkMarkedText(const LinkSettings& wanted)
 {
     if (!canBecomeLink(designText(), markedText()))
-        return complain("Was Sie markiert haben, kann kein Link werden. Markieren Sie nur Text, "
-                        "der in einem Absatz steht und kein Bild, keinen Zeilenumbruch und keinen "
-                        "anderen Link enthält. Das Dokument ist unverändert.",
-            *txtCaption);
+        return complain(word::kCannotBecomeLink, *txtCaption);
     markWithoutBlanks();
     surface().pasteHTML(linkInPlace(designText(), markedText(), wanted));
     const auto caret = surface().caretOffset();

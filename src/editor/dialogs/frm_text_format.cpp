@@ -112,11 +112,7 @@ bool frmTextFormat::CheckIfIsValidMarked()
         return false;
     }
     if (!takesNoFormats(text, *range)) return true;
-    session().messages.showText(
-        "Was Sie markiert haben, kann kein Format bekommen. Formate gelten nur für Text, und die "
-        "Einträge einer Auswahlliste zeigt ein Telefon immer ohne Formate. Das Dokument ist "
-        "unverändert.",
-        MessageIcon::Warning);
+    session().messages.show(word::kTakesNoFormat, {}, MessageIcon::Warning);
     return false;
 }
 

@@ -21,6 +21,11 @@ std::string targetValue(std::string_view id)
     return std::string("=\"#").append(id).append("\"");
 }
 
+std::string cardId(std::string_view id)
+{
+    return std::string("<!--card id=\"").append(id).append("\"");
+}
+
 /// As the temporary radio button of an option has it.
 std::string buttonTarget(std::string_view id)
 {
@@ -61,6 +66,13 @@ std::string withTargetsRenamed(
     renamed = replaced(renamed, buttonTarget(oldId), buttonTarget(newId));
     requireAddressable(renamed);
     return renamed;
+}
+
+std::string stateWithIdRenamed(
+    std::string_view state, std::string_view oldId, std::string_view newId)
+{
+    const auto own = replaced(state, cardId(oldId), cardId(newId));
+    return withTargetsRenamed(own, oldId, newId);
 }
 
 bool leadsTo(std::string_view text, std::string_view id)

@@ -15,6 +15,11 @@ namespace quillmere {
 [[nodiscard]] std::string withTargetsRenamed(
     std::string_view text, std::string_view oldId, std::string_view newId);
 
+/// The same for a state of an area that an undo may bring back, with the card's own id changed as
+/// well: so an undo does not part an area from what leads to it.
+[[nodiscard]] std::string stateWithIdRenamed(
+    std::string_view state, std::string_view oldId, std::string_view newId);
+
 /// Whether anything in the text leads to the card `id`: a value in double quotes that is "#" and
 /// it.
 [[nodiscard]] bool leadsTo(std::string_view text, std::string_view id);

@@ -224,8 +224,7 @@ ElementEdit DeleteTable(std::string_view text, int position)
     const auto begin = findIgnoringCase(text, "<table", searchOffset(position));
     const auto end = begin == npos ? npos : findIgnoringCase(text, "/table>", begin);
     if (end == npos) return unchanged(text, position);
-    auto behind = text.find('>', end) + 1;
-    if (text.substr(behind).starts_with(kBehindTable)) behind += kBehindTable.size();
+    const auto behind = text.find('>', end) + 1;
     return {withPiece(text, {begin, behind}, {}), static_cast<int>(begin)};
 }
 

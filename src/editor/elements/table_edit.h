@@ -42,8 +42,8 @@ struct TableSettings {
 [[nodiscard]] ElementEdit SetTable(
     std::string_view text, int position, const TableSettings& wanted);
 
-/// Takes out the first table at or behind the position, with what InsertTable puts behind it. A
-/// table without its end stays.
+/// Takes out the first table at or behind the position, but not the line break that
+/// InsertTable puts behind it. A table without its end stays.
 [[nodiscard]] ElementEdit DeleteTable(std::string_view text, int position);
 
 } // namespace quillmere

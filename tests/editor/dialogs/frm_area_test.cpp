@@ -76,6 +76,8 @@ TEST(FrmArea, ChangesIdTitleAndJump)
     });
     EXPECT_EQ(GetJump(document, 0).target, "#c"); // what led there leads there still
     EXPECT_NE(desk.content(0).find("<a href=\"#c\">"), std::string::npos);
+    desk.click("lblButtonUndo"); // which takes the id back nowhere
+    EXPECT_EQ(GetCardAttributes(document, 1).id, "c");
     desk.click("btnAreaPrev");
     desk.use("mnuContext1AreaParameters", [](QWidget& form) {
         EXPECT_EQ(textOf(form, "txtJumpSelectionCaption"), "Los");

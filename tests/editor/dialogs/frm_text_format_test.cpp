@@ -57,7 +57,7 @@ TEST(FrmTextFormat, RefusesBordersThatAFormatMustNotCross)
     const auto told = desk.messages.taken();
     ASSERT_EQ(told.size(), 3U);
     EXPECT_TRUE(told[0] == "show 64" || told[0] == "show 63") << told[0];
-    EXPECT_EQ(told[1].substr(0, 5), "text:");
+    EXPECT_EQ(told[1], "show 252");
     EXPECT_EQ(told[2], "show 44");
 }
 
@@ -82,6 +82,7 @@ TEST(FrmJustify, AlignsTheLineOfTheCaret)
     justify(1, 0);
     EXPECT_EQ(desk.content(), before);
     EXPECT_TRUE(desk.messages.taken().empty());
+    desk.settings.WriteSetting("ShowImageMessage", "Yes");
     desk.window.setDocChanged(false);
     desk.openCards({"eins<img src=\"x.wbmp\" alt=\"x\"/><br/>zwei"});
     desk.caretBehind("ein");
