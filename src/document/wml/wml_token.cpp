@@ -77,6 +77,7 @@ private:
 
     void readTag()
     {
+        noSubset_ = true; // a document type stands ahead of all tags
         const auto begin = at_;
         TagReader tag(text_, begin);
         while (tag.next()) { }
@@ -176,13 +177,25 @@ private:
     /// npos where it has none ahead of the next tag.
     [[nodiscard]] std::size_t doctypeEnd()
     {
-        const auto stop = text_.find_first_of("[<>", at_ + 1);
+        auto stop = at_;
+        do {
+            stop = behindLiteral(text_.find_first_of("[<>\"'", stop + 1));
+        } while (stop != npos && (text_[stop] == '"' || text_[stop] == '\''));
         if (stop == npos || text_[stop] == '<') return npos;
         if (text_[stop] == '>') return stop + 1;
         if (noSubset_) return npos;
         const auto end = subsetEnd(stop + 1);
         noSubset_ = end == npos;
         return end;
+    }
+
+    /// Where the quotes at `at` close within the tag, their closing one.
+    [[nodiscard]] std::size_t behindLiteral(std::size_t at) const
+    {
+        if (at == npos || (text_[at] != '"' && text_[at] != '\'')) return at;
+        const char stops[] = {text_[at], '<', '>', '\0'};
+        const auto close = text_.find_first_of(stops, at + 1);
+        return close != npos && text_[close] == text_[at] ? close : at;
     }
 
     /// The end of the document type whose internal subset begins at `at`.
@@ -208,7 +221,7 @@ private:
     bool noComment_ = false; // none of these ends from here on
     bool noSection_ = false;
     bool noInstruction_ = false;
-    bool noSubset_ = false;
+    bool noSubset_ = false; // none ends, or none can be
 };
 
 } // namespace

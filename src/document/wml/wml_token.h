@@ -32,8 +32,7 @@ struct WmlToken {
     bool isFaulty : 1 = false; ///< not well-formed in itself
     bool needsLook : 1 = false; ///< the deck tells whether it is right: a reference, upper case
     bool hasId : 1 = false; ///< a tag with the attribute `id`
-    bool isNew : 1
-        = false; ///< not of the file: laid out in the deck's manner where it begins a block
+    bool isNew : 1 = false; ///< not of the file: for those who lay it out
     std::uint32_t mended = kNotMended; ///< in a tree: the text of WmlTree::texts to write instead
     std::string_view source; ///< as written; from '<' to behind '>' for tags
     std::string_view name; ///< of tags and instructions, as written
