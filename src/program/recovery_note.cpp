@@ -171,7 +171,7 @@ void readLine(LineReader line, RecoveryNote& note)
 
 NotedArea areaOf(const DeckRecord& record, const WorkFiles& files, bool isChanged)
 {
-    NotedArea area{{record.designDir, record.designFile}, 0, cardOf(record), {}};
+    NotedArea area{{record.designDir, record.designFile}, 0, {}, cardOf(record)};
     if (!isChanged) area.content = contentHash(files.read(area.design.path()));
     // The last entry is a spare one.
     if (!record.images.empty()) area.images.assign(record.images.begin(), record.images.end() - 1);

@@ -29,8 +29,8 @@ struct NotedArea {
     NotedFile design;
     /// contentHash() of the file; 0 in a note of a changed deck, where nobody asks for it.
     std::uint64_t content = 0;
-    std::uint32_t card = kNoCard; ///< that it was opened from, in a deck without loss
     std::vector<ImageEntry> images;
+    std::uint32_t card = kNoCard; ///< that it was opened from, in a deck without loss
 };
 
 struct RecoveryNote {

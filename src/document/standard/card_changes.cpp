@@ -12,6 +12,8 @@
 #include <set>
 #include <string>
 #include <unordered_map>
+#include <utility>
+#include <vector>
 
 namespace quillmere {
 
@@ -30,6 +32,8 @@ public:
     void write();
 
 private:
+    void keepListText(std::size_t now);
+    void followNesting(const DesignPiece& piece);
     void writeKept(std::size_t now);
     void writeChanged(std::size_t now);
     void writeNew(std::size_t now);
@@ -42,10 +46,16 @@ private:
     [[nodiscard]] bool standsAlone(const DesignPiece& piece) const;
     [[nodiscard]] std::string sourceOf(const PieceTokens& tokens) const;
     [[nodiscard]] std::string sourceOfSame(const DesignPiece& piece);
+    [[nodiscard]] WmlElement parent() const
+    {
+        return open_.empty() ? WmlElement::Other : open_.back();
+    }
 
     const DeckOfCards& deck_;
     const CardPieces& card_;
     TokenWriter& result_;
+    std::vector<WmlElement> open_; ///< as far as written
+    bool isInNewOption_ = false;
     std::set<std::string> startNames_; ///< of elements that WML has not
     std::set<std::string> endNames_;
     std::unordered_map<std::uint64_t, std::uint32_t> sources_; ///< pieces of `then` by their keys
@@ -59,13 +69,37 @@ void CardWriter::write()
         if (piece.kind == Kind::End) endNames_.insert(lowerCase(piece.name));
     }
     for (std::size_t i = 0; i < card_.now.size(); ++i) {
+        keepListText(i);
         if (card_.places[i] != kNoPiece)
             writeKept(i);
         else if (card_.changedFrom[i] != kNoPiece)
             writeChanged(i);
         else if (!isDropped(i))
             writeNew(i);
+        followNesting(card_.now[i]);
     }
+}
+
+/// A list holds entries only: new text between them becomes an entry.
+void CardWriter::keepListText(std::size_t now)
+{
+    const auto& piece = card_.now[now];
+    const bool isText = piece.kind == Kind::Word || piece.kind == Kind::Space;
+    if (std::exchange(isInNewOption_, isInNewOption_ && isText) && !isInNewOption_)
+        result_.addNew("</option>");
+    const bool isInList = parent() == WmlElement::Select || parent() == WmlElement::OptionGroup;
+    const bool isNewWord = piece.kind == Kind::Word && card_.places[now] == kNoPiece;
+    if (isInNewOption_ || !isInList || !isNewWord) return;
+    result_.addNew("<option>");
+    isInNewOption_ = true;
+}
+
+void CardWriter::followNesting(const DesignPiece& piece)
+{
+    if (piece.kind == Kind::Start) open_.push_back(piece.element);
+    if (piece.kind != Kind::End) return;
+    const auto start = std::find(open_.rbegin(), open_.rend(), piece.element);
+    if (start != open_.rend()) open_.erase(std::prev(start.base()), open_.end());
 }
 
 /// Whether the piece is the start of an element that was written as <p/>; its end follows it.
@@ -180,6 +214,8 @@ void CardWriter::writeNew(std::size_t now)
 {
     const auto& piece = card_.now[now];
     if (piece.kind == Kind::Space) return writeBlanks(now);
+    const bool isBreak = piece.element == WmlElement::LineBreak && piece.kind == Kind::Single;
+    if (isBreak && parent() == WmlElement::Option) return result_.addNew(" "); // of one line each
     if (const auto same = sourceOfSame(piece); !same.empty()) return result_.addNew(same);
     if (piece.kind == Kind::Atom)
         return result_.addNew(deck_.bytes.encoded(quillmere::sourceOf(piece)));

@@ -224,7 +224,7 @@ void expectEditStaysInPlace(const std::string& file, std::uint64_t seed, bool ch
     again.load(written);
     EXPECT_EQ(withoutChance(ReadDesignText(again.session, area)), withoutChance(text));
     const bool isValid = checksRules && test::wmlFaults(sound).empty();
-    EXPECT_EQ(isValid ? test::wmlFaults(written) : "", "");
+    EXPECT_EQ(isValid ? test::wmlFaults(written) : "", "") << sound << written;
 }
 
 /// A deck of a plain hand, laid out in one of several ways.
@@ -243,7 +243,7 @@ TEST(StandardEdits, ChangeTheFileWhereTheyWereMade)
         SCOPED_TRACE("seed " + std::to_string(seed));
         auto deck = seed % 3 == 0 ? plainDeck(seed) : bench::generateWml(seed);
         if (seed % 10 == 1) deck = bench::breakDeck(deck, seed, 3);
-        expectEditStaysInPlace(deck, seed, seed % 50 == 0);
+        expectEditStaysInPlace(deck, seed, seed % 3 == 0 && seed < 1500);
     }
 }
 

@@ -177,6 +177,9 @@ const EditRow kNewParts[] = {
         "<p>a</p><p><table columns=\"1\"><tr><td>b</td></tr></table></p>"},
     {"a doubled id", "<p id=\"x\">a</p>", "</p>", "</p><p id=\"x\">b</p>",
         "<p id=\"x\">a</p><p id=\"x2\">b</p>"},
+    {"text and a break in a list", "<p><select><option>a</option></select></p>", "a<!--/option-->",
+        "a<br/>b<!--/option-->c d",
+        "<p><select><option>a b</option><option>c d</option></select></p>"},
     {"bare signs", "<p>a</p>", "a", "R&D <3 a>b", "<p>R&amp;D &lt;3 a&gt;b</p>"},
 };
 
