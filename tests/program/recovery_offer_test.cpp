@@ -59,7 +59,7 @@ struct Offers : testing::Test {
         note.deck = {program.folder.path(), name + ".wml"};
         note.time = time;
         note.isChanged = true;
-        note.areas = {{{path, "Wml0.htm"}, 0, kNoCard, {}}};
+        note.areas = {{{path, "Wml0.htm"}, 0, {}}};
         if (!source.empty()) note.source = {path, "Source0.txt"};
         if (!source.empty()) (void)runs.put("quillmere-" + name + "/Source0.txt", source);
         if (!source.empty()) note.seen = SeenDeckFile{true, 1, 1, 1};

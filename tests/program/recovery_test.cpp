@@ -89,7 +89,7 @@ TEST(RecoveryNote, ComesBackAsItWasWritten)
     image.pictureHeightPx = 7;
     image.widthPx = -1;
     image.hasLayout = true;
-    note.areas = {{{"/tmp/q/", "Wml0.htm"}, 0xFFFFFFFFFFFFFFFFU, kNoCard, {image, {}}}, {}};
+    note.areas = {{{"/tmp/q/", "Wml0.htm"}, 0xFFFFFFFFFFFFFFFFU, {image, {}}}, {}};
     const auto text = textOfNote(note);
     const auto read = noteFromText(text);
     ASSERT_TRUE(read);
@@ -161,7 +161,7 @@ TEST(Recovery, SaysWhatCannotBeOpenedAndKeepsTheOpenDeck)
     const auto before = program.area(0);
     CrashedRun run;
     run.note.deck = {folder.path(), "index.wml"};
-    run.note.areas = {{{folder.path(), "long.htm"}, 0, kNoCard, {}}};
+    run.note.areas = {{{folder.path(), "long.htm"}, 0, {}}};
     (void)folder.put("long.htm", std::string(40'000, 'x'));
     EXPECT_THROW(openCrashedRun(program.session, run), Overflow);
     run.note.areas.front().design.name = "gone.htm";

@@ -23,6 +23,7 @@ const TextFormats kPlain{false, false, false, LetterSize::Normal};
 
 TEST(FormatText, PutsTagsRoundWhatIsMarked)
 {
+    const TextFormats all{true, true, true, LetterSize::Big};
     struct Case {
         std::string name;
         std::string before;
