@@ -230,8 +230,8 @@ TEST(DeckDialogs, AskForPathsWithTheirWordsAndKeepTheFolder)
     EXPECT_EQ(dialogs.questions.at(0).filter, QStringLiteral(u"WML-Dateien\u00a0(*.wml)"));
     EXPECT_EQ(desk.settings.ReadSetting("LastPath1") + "/", folder);
 
-    dialogs.paths = {QString::fromStdString(
-        desk.folder.put("lang.wml", deckOf(std::string(40'000, 'x'))))};
+    dialogs.paths
+        = {QString::fromStdString(desk.folder.put("lang.wml", deckOf(std::string(40'000, 'x'))))};
     EXPECT_THROW(OpenDeckDialog(desk.session), RuntimeFailure); // and the open deck stays
     EXPECT_EQ(desk.deck().front().deckFile, "größe.wml");
     EXPECT_EQ(desk.settings.ReadSetting("LastPath1") + "/", folder);
