@@ -131,12 +131,21 @@ private:
         for (auto at = in_.at; at < in_.text.size(); ++at) {
             const char character = in_.text[at];
             const bool isQuote = character == '"' || character == '\'';
-            if (isQuote && inSubset) at = in_.text.find(character, at + 1); // '>' may stand in it
+            if (isQuote) at = literalEnd(at, inSubset);
             if (at == kNowhere) return kNowhere;
             if (character == '[' || character == ']') inSubset = character == '[';
             if (character == '>' && !inSubset) return at;
         }
         return kNowhere;
+    }
+
+    /// The closing quote. Outside of the subset one that is missing does not reach beyond the tag.
+    [[nodiscard]] std::size_t literalEnd(std::size_t at, bool inSubset) const
+    {
+        const char stops[] = {in_.text[at], '<', '>', '\0'};
+        if (inSubset) return in_.text.find(in_.text[at], at + 1);
+        const auto end = in_.text.find_first_of(stops, at + 1);
+        return end != kNowhere && in_.text[end] == in_.text[at] ? end : at;
     }
 
     MarkupCursor in_;

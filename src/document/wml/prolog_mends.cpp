@@ -175,7 +175,7 @@ bool passDeclaration(Matcher& in)
     for (const std::string_view keyword : {"<!ELEMENT", "<!ATTLIST", "<!NOTATION"})
         if (in.word(keyword)) return in.space() && in.name() && passToEnd(in);
     if (in.word("<!--")) return passUpTo(in, "--") && in.word(">");
-    if (in.word("<?")) return in.name() && passUpTo(in, "?>");
+    if (in.word("<?")) return !standsAt(in.rest(), 0, "xml") && in.name() && passUpTo(in, "?>");
     return in.word("%") && in.name() && in.word(";");
 }
 
