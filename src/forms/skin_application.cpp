@@ -151,11 +151,9 @@ QRect surfacePlace(const SkinRecord& skin, int scrollBarWidth)
 void ApplyEditorSkin(QWidget& frmPrepare, SkinTables& tables, const SettingsStore& settings,
     const StylePage& surface)
 {
-    const auto index = FindSelectedSkin(tables, true);
-    // Without an active skin of the editor the index is that of a telephone, which may lie behind
-    // the list.
-    if (!index || *index >= tables.EditorSkins.size()) return;
-    const auto skin = tables.EditorSkins[*index];
+    const auto* active = activeEditorSkin(tables);
+    if (active == nullptr) return;
+    const auto skin = *active;
     const auto directory = skinDirectory(settings);
     ApplyItem(frmPrepare, itemOf(skin, SkinPart::Window), directory);
     if (surface) {

@@ -73,9 +73,8 @@ Theme themeOf(const SkinRecord& skin)
 
 Theme activeTheme(SkinTables& tables)
 {
-    const auto index = FindSelectedSkin(tables, true);
-    if (!index || *index >= tables.EditorSkins.size()) return {};
-    return themeOf(tables.EditorSkins[*index]);
+    const auto* skin = activeEditorSkin(tables);
+    return skin == nullptr ? Theme{} : themeOf(*skin);
 }
 
 QPalette paletteOf(const Theme& theme)

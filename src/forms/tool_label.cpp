@@ -95,7 +95,7 @@ void ToolLabel::paintEvent(QPaintEvent* /*event*/)
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     const bool held = isDown() || rightDown_;
-    if (isEnabled() && underMouse() && !held) {
+    if (isEnabled() && underMouse() && (!held || picture_ == nullptr)) {
         painter.setBrush(faded(palette().color(QPalette::WindowText), kHoverShare));
         painter.drawRoundedRect(rect(), kCorner, kCorner);
     }

@@ -40,7 +40,6 @@ namespace {
 constexpr int kYieldsBehindAssistant = 4;
 constexpr int kActivationPatienceMs = 300;
 constexpr int kAlternativeTextPx = 11;
-constexpr std::size_t kEditorPageItem = 5;
 constexpr std::size_t kPreviewPageItem = 4;
 
 // Templates come with a later version.
@@ -148,14 +147,9 @@ void Program::applySkins()
     auto& skins = session_.skins;
     trapped(messages_, [&] { ReadEditorSkins(skins, settings_); });
     trapped(messages_, [&] { ReadPreviewSkins(skins, settings_, bigFonts); });
-    const auto editor = FindSelectedSkin(skins, true);
-    if (editor && *editor < skins.EditorSkins.size()) {
-        pages_.front() = pageStyle(skins.EditorSkins[*editor].items[kEditorPageItem]);
-        session_.document.devices[0] = &pages_.front();
-    }
     if (const auto preview = FindSelectedSkin(skins, false)) {
-        pages_.back() = pageStyle(skins.PreviewSkins[*preview].items[kPreviewPageItem]);
-        session_.document.devices[1] = &pages_.back();
+        previewPage_ = pageStyle(skins.PreviewSkins[*preview].items[kPreviewPageItem]);
+        session_.document.devices.back() = &previewPage_; // the front one is the window's
     }
     applyTheme(*qApp, activeTheme(skins));
     trapped(messages_, [this] { window_.applySkin(); });

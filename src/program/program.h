@@ -13,7 +13,6 @@
 
 #include <QTranslator>
 
-#include <array>
 #include <string>
 
 namespace quillmere {
@@ -88,7 +87,7 @@ private:
     QtAlternativeTextPainter painter_;
     Session session_;
     CurrentDisplayCopies displayCopies_{painter_, session_.document};
-    std::array<PageStyle, 2> pages_{}; // of the active skins: editor, preview
+    PageStyle previewPage_{}; // of the active telephone
     frmPrepare window_;
 };
 

@@ -94,6 +94,15 @@ std::optional<std::size_t> FindSelectedSkin(SkinTables& tables, bool inEditor)
     return findSelected(tables.PreviewSkins);
 }
 
+// The index may be that of a telephone, and so that of the spare record or beyond the list.
+const SkinRecord* activeEditorSkin(SkinTables& tables)
+{
+    const auto index = FindSelectedSkin(tables, true);
+    if (!index || *index + 1 >= tables.EditorSkins.size()) return nullptr;
+    const auto& skin = tables.EditorSkins[*index];
+    return skin.Model.text().empty() ? nullptr : &skin;
+}
+
 std::vector<DevicePoint> readOutline(const SettingsStore& settings, bool bigFonts)
 {
     const auto path = skinPath(settings, outlineFile(bigFonts));

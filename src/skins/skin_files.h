@@ -40,6 +40,9 @@ void WritePreviewSkins(SkinTables& tables, const SettingsStore& settings, bool b
 /// without it, in PreviewSkins.
 [[nodiscard]] std::optional<std::size_t> FindSelectedSkin(SkinTables& tables, bool inEditor);
 
+/// The record that the main window takes, by that index; null where the list has no entry there.
+[[nodiscard]] const SkinRecord* activeEditorSkin(SkinTables& tables);
+
 /// The corners of AdjPntBg.ini or AdjPnt.ini and a spare one at (0, 0); nothing without the
 /// setting. Throws FileFailure.
 [[nodiscard]] std::vector<DevicePoint> readOutline(const SettingsStore& settings, bool bigFonts);

@@ -222,21 +222,26 @@ TEST(ApplyEditorSkin, AnySkinFileLeavesAWindow)
         wild[i] = char(i * 31);
     const QByteArray kFiles[] = {"", "x", good.left(20167), good.left(30000), good + "rest", wild,
         QByteArray(20168, '\0'), QByteArray(3 * 20168, ' '), QByteArray(20168, '\xFF')};
-    for (const auto& bytes : kFiles) {
+    // the index of the telephone: where there is no editor skin that of the spare record, or beyond
+    for (int i = 0; i < 2 * int(std::size(kFiles)); ++i) {
+        SCOPED_TRACE(i);
         const SkinFolder skins;
-        skins.file("Adjust.ini", bytes);
+        skins.file("Adjust.ini", kFiles[i / 2]);
         skins.file("AdjuPrev.ini", bytesOf(kSkins + "AdjuPrev.ini"));
         SkinTables tables;
         ReadEditorSkins(tables, skins.store.settings);
         ReadPreviewSkins(tables, skins.store.settings, false);
-        for (auto& skin : tables.PreviewSkins) // its index is beyond the editor's skins
-            skin.Selected
-                = &skin == &tables.PreviewSkins[2] ? SkinHead::kSelected : std::int16_t(0);
+        for (auto& skin : tables.PreviewSkins)
+            skin.Selected = 0;
+        tables.PreviewSkins[i % 2 == 0 ? 0 : 2].Selected = SkinHead::kSelected;
         SkinnedWindow window;
         window.resize(300, 200);
+        const auto place = window.tool("Help").geometry();
         ApplyEditorSkin(window, tables, skins.store.settings, [](const PageLook&) {});
         window.grab();
         EXPECT_FALSE(window.size().isEmpty());
+        const bool hasSkin = !tables.EditorSkins.front().Model.text().empty();
+        if (!hasSkin) EXPECT_EQ(window.tool("Help").geometry(), place);
     }
 }
 

@@ -106,6 +106,13 @@ TEST_F(ToolLabelTest, EachStateIsSeen)
     QTest::mousePress(&tool, Qt::LeftButton, {}, inside);
     EXPECT_NE(shot(), rest);
     QTest::mouseRelease(&tool, Qt::LeftButton, {}, outside);
+
+    ToolLabel plain("lblButtonMorvane", nullptr, &window);
+    plain.setText("Quillmere");
+    const auto plainRest = plain.grab().toImage();
+    plain.setAttribute(Qt::WA_UnderMouse);
+    QTest::mousePress(&plain, Qt::LeftButton, {}, QPoint(5, 5));
+    EXPECT_NE(plain.grab().toImage(), plainRest);
 }
 
 TEST_F(ToolLabelTest, ACaptionIsNeverClipped)

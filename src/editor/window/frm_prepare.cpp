@@ -128,7 +128,6 @@ void frmPrepare::wire()
 void frmPrepare::Form_Load()
 {
     OverlayForm(*this, session_);
-    overlayMenus();
     takeTexts();
     session_.document.deck.assign(1, {});
     session_.document.currentArea = 0;
@@ -147,6 +146,7 @@ void frmPrepare::takeTexts()
     const auto of = [&](std::string_view hit, std::string_view count) {
         return shownText(session_.words.GetWord(word::kHitOf, {hit, count}));
     };
+    sourceHint_ = btnScript->toolTip();
     txtScript->setSearchTexts({word(word::kNoHit), word(word::kOneHit), word(word::kHits, "%1"),
         of("%1", "%2"), word(word::kReplaced, "%1")});
 }
@@ -232,8 +232,8 @@ void frmPrepare::Form_Unload()
     for (auto* form : otherForms(*this))
         form->close();
     if (mCloseNow) return ClearWindowOutline(*this, outline_);
-    idle_.stop();
     if (deckIsOpen()) AskAndSaveTmpWmlDocToWmlDoc(true);
+    idle_.stop(); // not ahead of a save that may fail and leave the window
     DeckReplacement emptied(session_.document);
     session_.document.deck.resize(1);
     emptied.commit();

@@ -107,7 +107,6 @@ private:
     [[nodiscard]] ToolLabel* makeLabel(const char* name);
     void takeSkin(const SkinRecord& skin);
     void makeMenus();
-    void overlayMenus();
     void makeKeys();
     void Form_Activate();
     void Form_Unload();
@@ -215,7 +214,7 @@ private:
     void mnuContext1AreaParameters();
     void insertClip();
     void insertAsElement(ElementKind kind, const std::string& clip, const Hit& hit);
-    [[nodiscard]] bool takePicture(const std::string& clip);
+    void takePicture(const std::string& clip);
     void pasteByKey();
     bool surfaceKey(QKeyEvent& event);
 
@@ -265,6 +264,7 @@ private:
     std::optional<Element> mMarkedTable;
     int mImageIndex = 0;
 
+    QString sourceHint_; ///< of btnScript while the surface is shown
     bool refreshWanted_ = false;
     std::string surfaceShows_; ///< the design work file that the surface was loaded from
     std::optional<SurfaceStyle> skinLook_; ///< of the surface, by the skin

@@ -121,6 +121,7 @@ void frmPrepare::showArea()
 {
     btnScript->setEnabled(true);
     btnScript->setText(resourceText(kTextSource, "Quelltext"));
+    btnScript->setToolTip(sourceHint_);
     showCaptions();
     const auto path = shownDesignPath();
     if (surfaceShows_.empty()) objBrowserCard->hide(); // until it shows something of this deck

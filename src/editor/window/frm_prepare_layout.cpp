@@ -89,8 +89,9 @@ void frmPrepare::layOut()
         auto* control = findChild<QWidget*>(QLatin1String(text.control));
         if (*text.text != '\0') control->setProperty("text", QString::fromUtf8(text.text));
         control->setToolTip(QString::fromUtf8(text.toolTip));
-        control->setAccessibleName(QString::fromUtf8(*text.text ? text.text : text.toolTip));
     }
+    for (auto* button : {btnAreaPrev, btnAreaNext}) // pictures alone; the others' texts tell more
+        button->setAccessibleName(button->toolTip());
     for (auto* label : {lblDeckName, lblCurAreaCaption, lblCharCount, lblToolTipForbtnAreaPrev,
              lblToolTipAreaNext}) {
         label->setTextFormat(Qt::PlainText);
@@ -122,9 +123,7 @@ void frmPrepare::applySkin()
         skinLook_->fontSizePx = look.fontSizePx;
         skinLook_->fontFamily = look.fontFamily;
     });
-    const auto index = FindSelectedSkin(session_.skins, true);
-    if (skinLook_ && index && *index < session_.skins.EditorSkins.size())
-        takeSkin(session_.skins.EditorSkins[*index]);
+    if (const auto* skin = activeEditorSkin(session_.skins)) takeSkin(*skin);
     SetWindowOutline(*this, session_.settings, outline_);
     applySurfaceLook();
 }

@@ -114,23 +114,6 @@ void frmPrepare::makeMenus()
     mnuContext2->insertSeparator(findChild<QAction*>("mnuContext2FormatText"));
 }
 
-/// Gives menus and their entries the texts of the resources.
-void frmPrepare::overlayMenus()
-{
-    const auto& table = session_.forms.table();
-    const auto* form = findForm(table, "frmPrepare");
-    if (form == nullptr) return;
-    const auto textOf = [&](const QObject& object) {
-        const auto* entry = findControl(table, *form, coreText(object.objectName()));
-        return entry == nullptr ? QString() : shownText(entry->Text);
-    };
-    for (auto* menu : findChildren<QMenu*>())
-        if (const auto text = textOf(*menu); !text.isEmpty()) menu->setTitle(text);
-    for (auto* action : findChildren<QAction*>())
-        if (const auto text = textOf(*action); !text.isEmpty() && action->menu() == nullptr)
-            action->setText(text);
-}
-
 void frmPrepare::makeKeys()
 {
     for (const auto& key : kKeys) {

@@ -98,6 +98,7 @@ void frmPrepare::btnScript_Click()
     if (!mScriptView) showSource();
     mScriptView = true;
     btnScript->setText(word(word::kGraphicView));
+    btnScript->setToolTip(btnAreaOne->toolTip());
     btnAreaOne->setFocus();
     showTitle();
 }

@@ -181,10 +181,9 @@ void frmPrepare::mnuContext1Insert_Click()
     const auto* clip = QApplication::clipboard()->mimeData();
     const auto text = clip != nullptr && clip->hasText() ? coreText(clip->text()) : std::string();
     const auto kind = elementIn(text);
-    if (kind && (*kind != ElementKind::Image || takePicture(text)))
-        insertAsElement(*kind, text, hit);
-    else
-        insertClip();
+    if (!kind) return insertClip();
+    if (*kind == ElementKind::Image) takePicture(text);
+    insertAsElement(*kind, text, hit);
 }
 
 void frmPrepare::insertAsElement(ElementKind kind, const std::string& clip, const Hit& hit)
@@ -213,11 +212,11 @@ void frmPrepare::insertClip()
 }
 
 /// Gives the shown area an entry of the pasted picture, as some area has it or the image dialog
-/// handed it over last. Without one the picture is told to go in all the same.
-bool frmPrepare::takePicture(const std::string& clip)
+/// handed it over last. Without one the picture goes in all the same.
+void frmPrepare::takePicture(const std::string& clip)
 {
     const auto source = std::string(withoutScheme(pictureSource(clip)));
-    if (source.empty()) return true;
+    if (source.empty()) return;
     std::optional<ImageEntry> entry;
     for (const auto& area : session_.document.deck)
         if (!entry) entry = findImage(area.images, source);
@@ -228,7 +227,6 @@ bool frmPrepare::takePicture(const std::string& clip)
         images.emplace_back();
         shownArea().imageIndex = {};
     }
-    return true;
 }
 
 /// Markup of the surface's own clips goes in as it is; what was copied as text is told apart.

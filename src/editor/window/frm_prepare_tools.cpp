@@ -17,6 +17,7 @@ namespace quillmere {
 namespace {
 
 constexpr const char* kAnyForm = "";
+constexpr std::string_view kWithoutPicture = "Morvane";
 
 constexpr int kToolWidth = 70, kToolHeight = 64;
 constexpr int kToolStep = 72;
@@ -69,9 +70,10 @@ const frmPrepare::Command frmPrepare::kTools[] = {
 
 ToolLabel* frmPrepare::makeLabel(const char* name)
 {
-    auto* picture = new ToolPicture(QLatin1String("picButton") + QLatin1String(name), this);
-    auto* label = new ToolLabel(QLatin1String("lblButton") + QLatin1String(name), picture, this);
-    return label;
+    auto* picture = name == kWithoutPicture
+        ? nullptr
+        : new ToolPicture(QLatin1String("picButton") + QLatin1String(name), this);
+    return new ToolLabel(QLatin1String("lblButton") + QLatin1String(name), picture, this);
 }
 
 void frmPrepare::makeTools()

@@ -69,6 +69,8 @@ TEST(Tools, GuardsAnswerInThePlaceOfAToolThatCannotAct)
         desk.click((std::string("lblButton") + row.tool).c_str());
         EXPECT_EQ(desk.messages.taken(), std::vector<std::string>{row.told}) << row.tool;
     }
+    // its caption would take the colour of what stands on a picture
+    EXPECT_EQ(desk.window.findChild<ToolPicture*>("picButtonMorvane"), nullptr);
 }
 
 TEST(Tools, AToolWithoutItsFormSaysSo)
