@@ -41,11 +41,13 @@ TEST(WindowSource, ShowsTheDeckAsItWouldBeSaved)
     EXPECT_FALSE(desk.surface().isVisible());
     EXPECT_EQ(desk.control<QPushButton>("btnScript").text(), "Grafische Ansicht");
     EXPECT_TRUE(desk.control<QPushButton>("btnAreaOne").hasFocus());
+    EXPECT_EQ(desk.control<QPushButton>("btnScript").toolTip(), "Grafische Ansicht");
 
     desk.click("btnScript"); // back again; nothing was typed, so nothing is asked
     EXPECT_TRUE(desk.surface().isVisible());
     EXPECT_FALSE(desk.source.isVisible());
     EXPECT_EQ(desk.control<QPushButton>("btnScript").text(), "Quelltext");
+    EXPECT_TRUE(desk.control<QPushButton>("btnScript").toolTip().contains("WML-Text"));
     EXPECT_FALSE(desk.window.docChanged());
     EXPECT_NE(desk.surface().DocumentHTML().find("eins"), std::string::npos);
 }
