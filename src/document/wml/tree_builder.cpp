@@ -38,7 +38,8 @@ TreeBuilder::TreeBuilder(WmlTree& tree, const DeckBytes& deck)
 void TreeBuilder::build()
 {
     if (!partners_.isWellFormed) readBrokenDeck();
-    const auto count = static_cast<std::uint32_t>(partners_.of.size()); // further ones are mended in
+    const auto count
+        = static_cast<std::uint32_t>(partners_.of.size()); // further ones are mended in
     for (now_ = 0; now_ < count; ++now_) {
         offset_ = offsetIn(deck_, tree_.tokens[now_]).value_or(offset_);
         add(now_);
