@@ -241,7 +241,7 @@ TEST(ApplyEditorSkin, AnySkinFileLeavesAWindow)
         window.grab();
         EXPECT_FALSE(window.size().isEmpty());
         const bool hasSkin = !tables.EditorSkins.front().Model.text().empty();
-        if (!hasSkin) EXPECT_EQ(window.tool("Help").geometry(), place);
+        EXPECT_TRUE(hasSkin || window.tool("Help").geometry() == place);
     }
 }
 
