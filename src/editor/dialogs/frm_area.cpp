@@ -182,7 +182,7 @@ void frmArea::renameTargets(const std::string& oldId, const std::string& newId)
 {
     const auto texts = designTexts();
     for (std::size_t i = 0; i < texts.size(); ++i) {
-        const auto renamed = withTargetsRenamed(texts[i], oldId, newId);
+        const auto renamed = withTargetsRenamed(texts[i], oldId, newId, rules());
         if (renamed != texts[i]) WriteDesignText(session().document, i, renamed);
     }
 }
@@ -201,7 +201,7 @@ void frmArea::setJump(const Jump& wanted)
     const auto jump = GetJump(document, area());
     if (wanted.label.empty()) {
         const auto text = designText();
-        const auto without = withoutDoBlock(text);
+        const auto without = withoutDoBlock(text, rules());
         if (!jump.label.empty() && without != text) WriteDesignText(document, area(), without);
     } else if (wanted.label != jump.label || wanted.target != jump.target) {
         SetJump(document, area(), {{}, wanted.label, wanted.target});
@@ -260,7 +260,7 @@ void frmArea::renameInHistories(const std::string& oldId)
     for (std::size_t i = 0; i < areaCount(document.deck); ++i) {
         auto& history = histories.emplace_back(document.deck.at(i).history);
         for (auto& state : history)
-            state = stateWithIdRenamed(state, oldId, newId);
+            state = stateWithIdRenamed(state, oldId, newId, document.output);
     }
     for (std::size_t i = 0; i < histories.size(); ++i)
         document.deck.at(i).history.swap(histories[i]);

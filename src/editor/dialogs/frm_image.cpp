@@ -291,8 +291,8 @@ void frmImage::write(const std::string& path, ImageSettings wanted)
     auto& entry = AddImageToList(path, wanted.caption);
     wanted.source = entry.displayDir + entry.displayFile;
     const auto text = designText();
-    const auto edit = NewElement ? quillmere::SetImage(text, mImagePos, wanted)
-                                 : ReplaceImage(text, mImagePos, wanted);
+    const auto edit = NewElement ? quillmere::SetImage(text, mImagePos, wanted, rules())
+                                 : ReplaceImage(text, mImagePos, wanted, rules());
     entry.alignment = wanted.align;
     entry.hasLayout = wanted.hasLayout;
     entry.heightPx = wanted.hasLayout ? std::stoi(wanted.height) : entry.pictureHeightPx;
@@ -315,7 +315,7 @@ void frmImage::btnNew_Click()
 
 void frmImage::btnDelete_Click()
 {
-    if (confirms(word::kDeleteImage)) applyDeletion(DeleteImage(designText(), mImagePos));
+    if (confirms(word::kDeleteImage)) applyDeletion(DeleteImage(designText(), mImagePos, rules()));
 }
 
 void InsertImageFile(Session& session, DesignSurface& surface, const std::string& path,

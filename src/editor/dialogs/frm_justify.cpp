@@ -88,7 +88,7 @@ void frmJustify::btnOk_Click()
     for (std::size_t i = 0; i < optSchrift.size(); ++i) {
         if (!optSchrift.at(i)->isChecked()) continue;
         const auto text = designText();
-        const auto aligned = alignLines(text, marked(), static_cast<Alignment>(i));
+        const auto aligned = alignLines(text, marked(), static_cast<Alignment>(i), rules());
         if (aligned.text == text) return accept();
         return apply(aligned.text, aligned.marked);
     }

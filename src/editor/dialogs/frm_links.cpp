@@ -50,19 +50,21 @@ void frmLinks::btnNew_Click()
     const auto text = designText();
     if (!NewElement)
         return applyToFound(
-            ReplaceLink(text, mLinkPos, wanted), GetLink(text, mLinkPos).has_value());
-    if (markedText().empty()) return apply(SetLink(text, mLinkPos, wanted));
+            ReplaceLink(text, mLinkPos, wanted, rules()), GetLink(text, mLinkPos).has_value());
+    if (markedText().empty()) return apply(SetLink(text, mLinkPos, wanted, rules()));
     linkMarkedText(wanted);
 }
 
 /// The blanks at the borders of what is marked stay in the sentence: the link takes the place of
-/// the words alone.
+/// the words alone; by the default of the blanks behind them as well, for it brings one.
 void frmLinks::markWithoutBlanks()
 {
     const auto marked = surface().selectedText();
     const auto isText = [](QChar character) { return !character.isSpace(); };
     const auto ahead = std::find_if(marked.begin(), marked.end(), isText) - marked.begin();
-    const auto behind = std::find_if(marked.rbegin(), marked.rend(), isText) - marked.rbegin();
+    const auto behind = rules().losesNothing()
+        ? std::find_if(marked.rbegin(), marked.rend(), isText) - marked.rbegin()
+        : 0;
     auto cursor = surface().textCursor();
     const auto end = cursor.selectionEnd() - static_cast<int>(behind);
     cursor.setPosition(cursor.selectionStart() + static_cast<int>(ahead));
@@ -72,10 +74,10 @@ void frmLinks::markWithoutBlanks()
 
 void frmLinks::linkMarkedText(const LinkSettings& wanted)
 {
-    if (!canBecomeLink(designText(), markedText()))
+    if (!canBecomeLink(designText(), markedText(), rules()))
         return complain(word::kCannotBecomeLink, *txtCaption);
     markWithoutBlanks();
-    surface().pasteHTML(linkInPlace(designText(), markedText(), wanted));
+    surface().pasteHTML(linkInPlace(designText(), markedText(), wanted, rules()));
     const auto caret = surface().caretOffset();
     SaveSurface(session().document, area());
     apply(surface().DocumentHTML(), {caret, caret});
@@ -83,7 +85,7 @@ void frmLinks::linkMarkedText(const LinkSettings& wanted)
 
 void frmLinks::btnDelete_Click()
 {
-    if (confirms(word::kDeleteLink)) applyDeletion(DeleteLink(designText(), mLinkPos));
+    if (confirms(word::kDeleteLink)) applyDeletion(DeleteLink(designText(), mLinkPos, rules()));
 }
 
 } // namespace quillmere

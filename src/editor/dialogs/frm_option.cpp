@@ -32,13 +32,15 @@ void frmOption::btnNew_Click()
     const OptionSettings wanted{
         captionMarkup(txtCaption->text().toStdU16String()), objFrmLink->target()};
     const auto text = designText();
-    if (NewElement) return apply(SetOption(text, mOptionPos, mOptionFound, wanted));
-    applyToFound(ReplaceOption(text, mOptionPos, wanted), GetOption(text, mOptionPos).has_value());
+    if (NewElement) return apply(SetOption(text, mOptionPos, mOptionFound, wanted, rules()));
+    applyToFound(
+        ReplaceOption(text, mOptionPos, wanted, rules()), GetOption(text, mOptionPos).has_value());
 }
 
 void frmOption::btnDelete_Click()
 {
-    if (confirms(word::kDeleteOption)) applyDeletion(DeleteOption(designText(), mOptionPos, false));
+    if (confirms(word::kDeleteOption))
+        applyDeletion(DeleteOption(designText(), mOptionPos, false, rules()));
 }
 
 } // namespace quillmere

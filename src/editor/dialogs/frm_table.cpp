@@ -127,14 +127,14 @@ void frmTable::btnNew_Click()
     const auto text = designText();
     if (!NewElement)
         return applyToFound(
-            SetTable(text, mTablePos, *wanted), GetTable(text, mTablePos).has_value());
-    apply(InsertTable(text, mTablePos, *wanted));
+            SetTable(text, mTablePos, *wanted, rules()), GetTable(text, mTablePos).has_value());
+    apply(InsertTable(text, mTablePos, *wanted, rules()));
     surface().moveCursor(QTextCursor::EndOfBlock, QTextCursor::KeepAnchor);
 }
 
 void frmTable::btnDelete_Click()
 {
-    if (confirms(word::kDeleteTable)) applyDeletion(DeleteTable(designText(), mTablePos));
+    if (confirms(word::kDeleteTable)) applyDeletion(DeleteTable(designText(), mTablePos, rules()));
 }
 
 } // namespace quillmere

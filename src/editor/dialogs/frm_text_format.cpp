@@ -160,7 +160,7 @@ void frmTextFormat::btnOk_Click()
     const auto range = marked();
     if (!range) return reject();
     const auto text = designText();
-    const auto formatted = formatText(text, *range, shownFormats());
+    const auto formatted = formatText(text, *range, shownFormats(), rules());
     if (formatted.text == text) return accept();
     apply(formatted.text, formatted.marked);
 }

@@ -10,13 +10,14 @@
 
 namespace quillmere {
 
-std::string withPiece(std::string_view text, SourceRange piece, std::string_view inserted)
+std::string withPiece(
+    std::string_view text, SourceRange piece, std::string_view inserted, const OutputRules& rules)
 {
     Rewriter result(text);
     result.drop(piece.begin, piece.end);
     result.insert(piece.end, inserted);
     auto changed = result.take();
-    requireAddressable(changed);
+    requireAddressable(changed, rules.maxTextLength());
     return changed;
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document/text/output_rules.h"
 #include "editor/page/surface_page.h"
 
 #include <cstddef>
@@ -9,7 +10,9 @@
 
 // Edits of the elements of an area: its design text in, the changed text out. Positions are told as
 // the hit test tells them: 1-based, 16 bits; what goes in "behind" position n has n characters
-// ahead of it. All edits throw Overflow for a text that would be longer than 32767 characters.
+// ahead of it. `rules` are those of the deck: by the default an edit writes what this program has
+// always written; where nothing is lost it writes what a person would who writes the deck by hand.
+// All edits throw Overflow for a text that would be longer than the rules have it.
 
 namespace quillmere {
 
@@ -20,7 +23,7 @@ struct ElementEdit {
 
 /// The text with `inserted` in the place of a piece of it. Throws Overflow.
 [[nodiscard]] std::string withPiece(
-    std::string_view text, SourceRange piece, std::string_view inserted);
+    std::string_view text, SourceRange piece, std::string_view inserted, const OutputRules& rules);
 
 /// The edit that changes nothing.
 [[nodiscard]] ElementEdit unchanged(std::string_view text, int position);

@@ -4,7 +4,6 @@
 
 #include "document/repair/crossing_formats.h"
 #include "document/text/edited_text.h"
-#include "document/text/limits.h"
 #include "document/text/text_search.h"
 #include "document/text/windows1252.h"
 #include "editor/page/going_tags.h"
@@ -82,9 +81,9 @@ FormatBorder formatBorder(const SurfacePage& page, const std::vector<std::size_t
     return border;
 }
 
-void DeleteFormatTagsWhoArroundsNoText(std::string& Text)
+void DeleteFormatTagsWhoArroundsNoText(std::string& Text, std::size_t limit)
 {
-    requireAddressable(Text);
+    requireAddressable(Text, limit);
     EditedText text(std::move(Text));
     for (std::size_t length = 0; length != text.size();) {
         length = text.size();

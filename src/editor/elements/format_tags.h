@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document/text/limits.h"
 #include "editor/page/surface_page.h"
 
 #include <cstddef>
@@ -42,7 +43,7 @@ struct FormatBorder {
     const SurfacePage& page, const std::vector<std::size_t>& formats);
 
 /// Cuts out the pairs of big, small, i, b and u that enclose nothing but tags and blanks, until
-/// none is left. A picture is no text. Throws Overflow for a text beyond 32767 characters.
-void DeleteFormatTagsWhoArroundsNoText(std::string& Text);
+/// none is left. A picture is no text. Throws Overflow for a text beyond `limit` characters.
+void DeleteFormatTagsWhoArroundsNoText(std::string& Text, std::size_t limit = kMaxTextLength);
 
 } // namespace quillmere

@@ -117,28 +117,34 @@ std::optional<ImageSettings> löschen_GetImage(std::string_view text, int positi
     return image;
 }
 
-ElementEdit SetImage(std::string_view text, int position, const ImageSettings& wanted)
+ElementEdit SetImage(
+    std::string_view text, int position, const ImageSettings& wanted, const OutputRules& rules)
 {
-    const auto place = static_cast<std::size_t>(std::max(ValidInsertPosition(position, text), 0));
+    const auto place = static_cast<std::size_t>(
+        std::max(ValidInsertPosition(position, text, rules.maxTextLength()), 0));
     const auto markup = imageMarkup(wanted);
-    return {withPiece(text, {place, place}, markup), static_cast<int>(place + markup.size())};
+    return {
+        withPiece(text, {place, place}, markup, rules), static_cast<int>(place + markup.size())};
 }
 
-ElementEdit ReplaceImage(std::string_view text, int position, const ImageSettings& wanted)
+ElementEdit ReplaceImage(
+    std::string_view text, int position, const ImageSettings& wanted, const OutputRules& rules)
 {
     const auto old = wholeImage(text, position);
     if (!old) return unchanged(text, position);
     const auto tag = findTagFrom(text, kImage, old->begin)->in(text);
-    const auto markup = imageMarkup(
-        wanted, otherAttributes(tag, {"src", "alt", "align", "style", "height", "width"}));
-    return {withPiece(text, *old, markup), static_cast<int>(old->begin + markup.size())};
+    const auto kept = rules.losesNothing()
+        ? otherAttributes(tag, {"src", "alt", "align", "style", "height", "width"})
+        : std::string();
+    const auto markup = imageMarkup(wanted, kept);
+    return {withPiece(text, *old, markup, rules), static_cast<int>(old->begin + markup.size())};
 }
 
-ElementEdit DeleteImage(std::string_view text, int position)
+ElementEdit DeleteImage(std::string_view text, int position, const OutputRules& rules)
 {
     const auto old = wholeImage(text, position);
     if (!old) return unchanged(text, position);
-    return {withPiece(text, *old, {}), static_cast<int>(old->begin)};
+    return {withPiece(text, *old, {}, rules), static_cast<int>(old->begin)};
 }
 
 } // namespace quillmere

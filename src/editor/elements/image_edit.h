@@ -34,15 +34,17 @@ struct ImageSettings {
 [[nodiscard]] std::optional<ImageSettings> löschen_GetImage(std::string_view text, int position);
 
 /// Puts a picture in behind the first valid place at the position. The caret stands behind it.
-[[nodiscard]] ElementEdit SetImage(
-    std::string_view text, int position, const ImageSettings& wanted);
+[[nodiscard]] ElementEdit SetImage(std::string_view text, int position, const ImageSettings& wanted,
+    const OutputRules& rules = OutputRules());
 
-/// Makes the first picture at or behind the position what is wanted; its other
-/// attributes stay. Without a picture the text stays as it is.
-[[nodiscard]] ElementEdit ReplaceImage(
-    std::string_view text, int position, const ImageSettings& wanted);
+/// Makes the first picture at or behind the position what is wanted, in its
+/// place. Its other attributes stay where nothing is lost; by the default the tag is a new one.
+/// Without a picture the text stays as it is.
+[[nodiscard]] ElementEdit ReplaceImage(std::string_view text, int position,
+    const ImageSettings& wanted, const OutputRules& rules = OutputRules());
 
 /// Takes out the first picture at or behind the position, with an end tag that follows it at once.
-[[nodiscard]] ElementEdit DeleteImage(std::string_view text, int position);
+[[nodiscard]] ElementEdit DeleteImage(
+    std::string_view text, int position, const OutputRules& rules = OutputRules());
 
 } // namespace quillmere

@@ -51,28 +51,28 @@ bool fitsCardId(char character)
 
 } // namespace
 
-std::string withoutDoBlock(std::string_view text)
+std::string withoutDoBlock(std::string_view text, const OutputRules& rules)
 {
     const auto jump = findIgnoringCase(text, "<!--do type=\"accept\"");
     const auto begin = jump != npos ? jump : findIgnoringCase(text, "<!--do");
     const auto end = begin == npos ? std::nullopt : findTagFrom(text, "<!--/do", begin);
-    return end ? withPiece(text, {begin, end->end}, {}) : std::string(text);
+    return end ? withPiece(text, {begin, end->end}, {}, rules) : std::string(text);
 }
 
 std::string withTargetsRenamed(
-    std::string_view text, std::string_view oldId, std::string_view newId)
+    std::string_view text, std::string_view oldId, std::string_view newId, const OutputRules& rules)
 {
     auto renamed = replaced(text, targetValue(oldId), targetValue(newId));
     renamed = replaced(renamed, buttonTarget(oldId), buttonTarget(newId));
-    requireAddressable(renamed);
+    requireAddressable(renamed, rules.maxTextLength());
     return renamed;
 }
 
-std::string stateWithIdRenamed(
-    std::string_view state, std::string_view oldId, std::string_view newId)
+std::string stateWithIdRenamed(std::string_view state, std::string_view oldId,
+    std::string_view newId, const OutputRules& rules)
 {
     const auto own = replaced(state, cardId(oldId), cardId(newId));
-    return withTargetsRenamed(own, oldId, newId);
+    return withTargetsRenamed(own, oldId, newId, rules);
 }
 
 bool leadsTo(std::string_view text, std::string_view id)

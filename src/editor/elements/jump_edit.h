@@ -1,5 +1,7 @@
 #pragma once
 
+#include "document/text/output_rules.h"
+
 #include <string>
 #include <string_view>
 
@@ -8,17 +10,18 @@ namespace quillmere {
 /// The design text without the do block of its jump, or else without its first do block: from
 /// "<!--do" through the '>' of the next "<!--/do", in any case. Without such a block, or without
 /// its end, it stays as it is.
-[[nodiscard]] std::string withoutDoBlock(std::string_view text);
+[[nodiscard]] std::string withoutDoBlock(
+    std::string_view text, const OutputRules& rules = OutputRules());
 
 /// The text with all that leads to the card `oldId` leading to `newId`: attribute values in double
 /// quotes that are "#" and the id, and the addresses of temporary radio buttons.
-[[nodiscard]] std::string withTargetsRenamed(
-    std::string_view text, std::string_view oldId, std::string_view newId);
+[[nodiscard]] std::string withTargetsRenamed(std::string_view text, std::string_view oldId,
+    std::string_view newId, const OutputRules& rules = OutputRules());
 
 /// The same for a state of an area that an undo may bring back, with the card's own id changed as
 /// well: so an undo does not part an area from what leads to it.
-[[nodiscard]] std::string stateWithIdRenamed(
-    std::string_view state, std::string_view oldId, std::string_view newId);
+[[nodiscard]] std::string stateWithIdRenamed(std::string_view state, std::string_view oldId,
+    std::string_view newId, const OutputRules& rules = OutputRules());
 
 /// Whether anything in the text leads to the card `id`: a value in double quotes that is "#" and
 /// it.

@@ -20,7 +20,7 @@ namespace {
 
 constexpr std::string_view kLink = "<a";
 constexpr std::string_view kLinkEnd = "</a";
-constexpr std::string_view kLineBreak = "<br/> ";
+constexpr std::string_view kLineBreak = "<br/>";
 
 struct LinkParts {
     SourceRange startTag;
@@ -50,14 +50,26 @@ const PageItem* firmItem(const SurfacePage& page, PagePlace place, bool ahead)
     return item;
 }
 
-/// Whether the caret at `offset` has its line for itself, with nothing that ends the line.
-bool isAloneOnLine(std::string_view text, std::size_t offset)
+/// Whether a place has its line for itself, with nothing that ends the line.
+bool isAloneOnLine(const SurfacePage& page, PagePlace place)
 {
-    const auto page = readSurfacePage(std::string(text));
-    const auto place = placeAt(page, offset);
     const auto* const ahead = firmItem(page, place, true);
     const bool beginsLine = ahead == nullptr || ahead->kind == ItemKind::LineBreak;
     return beginsLine && firmItem(page, place, false) == nullptr;
+}
+
+/// Whether a link and nothing else stands on the line, directly ahead of a place.
+bool followsLoneLink(const SurfacePage& page, PagePlace place)
+{
+    const auto* const behind = firmItem(page, place, false);
+    const auto* item = itemAhead(page, place);
+    const auto link = item == nullptr ? kNone : page.styles[item->style].link;
+    if (link == kNone || (behind != nullptr && behind->kind != ItemKind::LineBreak)) return false;
+    for (; item != nullptr && item->kind != ItemKind::LineBreak; item = itemAhead(page, place)) {
+        if (page.styles[item->style].link != link) return false;
+        --place.offset;
+    }
+    return true;
 }
 
 bool isMarked(const PageItem& item, SourceRange marked)
@@ -70,21 +82,36 @@ std::string startTag(const LinkSettings& link, std::string_view otherAttributes 
     return std::string("<a href=\"").append(link.target).append("\"").append(otherAttributes) + ">";
 }
 
-ElementEdit putIn(std::string_view text, SourceRange piece, const std::string& link)
+/// A link that takes the place of something, with what is written behind it.
+std::string linkMarkup(const LinkSettings& link, const OutputRules& rules)
 {
-    return {withPiece(text, piece, link), static_cast<int>(piece.begin + link.size())};
+    return startTag(link) + link.caption + (rules.losesNothing() ? "</a>" : "</a> ");
+}
+
+/// A link at an offset of a text that has none there, with what belongs round it.
+std::string newLink(
+    std::string_view text, std::size_t offset, const LinkSettings& link, const OutputRules& rules)
+{
+    const auto page = readSurfacePage(std::string(text), rules);
+    const auto place = placeAt(page, offset);
+    auto markup = linkMarkup(link, rules);
+    if (!rules.losesNothing())
+        return isAloneOnLine(page, place) ? markup.append(kLineBreak) + " " : markup;
+    return followsLoneLink(page, place) ? std::string(kLineBreak) + markup : markup;
+}
+
+ElementEdit putIn(
+    std::string_view text, SourceRange piece, const std::string& link, const OutputRules& rules)
+{
+    return {withPiece(text, piece, link, rules), static_cast<int>(piece.begin + link.size())};
 }
 
 } // namespace
 
-std::string linkMarkup(const LinkSettings& link)
+std::string linkInPlace(
+    std::string_view text, SourceRange marked, const LinkSettings& link, const OutputRules& rules)
 {
-    return startTag(link) + link.caption + "</a>";
-}
-
-std::string linkInPlace(std::string_view text, SourceRange marked, const LinkSettings& link)
-{
-    const auto page = readSurfacePage(std::string(text));
+    const auto page = readSurfacePage(std::string(text), rules);
     const auto isWithin = [](const PageItem& item, SourceRange range) {
         return item.source.begin >= range.begin && item.source.end <= range.end;
     };
@@ -99,12 +126,12 @@ std::string linkInPlace(std::string_view text, SourceRange marked, const LinkSet
             whole.push_back(i);
     }
     const auto border = formatBorder(page, whole);
-    return border.starts + linkMarkup(link) + border.ends;
+    return border.starts + linkMarkup(link, rules) + border.ends;
 }
 
-bool canBecomeLink(std::string_view text, SourceRange marked)
+bool canBecomeLink(std::string_view text, SourceRange marked, const OutputRules& rules)
 {
-    const auto page = readSurfacePage(std::string(text));
+    const auto page = readSurfacePage(std::string(text), rules);
     const auto isInMarked = [marked](const PageItem& item) { return isMarked(item, marked); };
     std::size_t blocks = 0;
     for (const auto& block : page.blocks) {
@@ -127,30 +154,36 @@ std::optional<LinkSettings> GetLink(std::string_view text, int position)
     return settings;
 }
 
-ElementEdit SetLink(std::string_view text, int position, const LinkSettings& wanted)
+ElementEdit SetLink(
+    std::string_view text, int position, const LinkSettings& wanted, const OutputRules& rules)
 {
-    const auto place = static_cast<std::size_t>(std::max(ValidInsertPosition(position, text), 0));
-    auto link = linkMarkup(wanted) + " ";
-    if (isAloneOnLine(text, place)) link += kLineBreak;
-    return putIn(text, {place, place}, link);
+    const auto valid = ValidInsertPosition(position, text, rules.maxTextLength());
+    const auto place = static_cast<std::size_t>(std::max(valid, 0));
+    return putIn(text, {place, place}, newLink(text, place, wanted, rules), rules);
 }
 
-ElementEdit ReplaceLink(std::string_view text, int position, const LinkSettings& wanted)
+ElementEdit ReplaceLink(
+    std::string_view text, int position, const LinkSettings& wanted, const OutputRules& rules)
 {
     const auto old = linkFrom(text, searchOffset(position));
     if (!old) return unchanged(text, position);
+    if (!rules.losesNothing()) {
+        const auto gone = DeleteLink(text, position, rules);
+        const auto place = old->startTag.begin;
+        return putIn(gone.text, {place, place}, newLink(gone.text, place, wanted, rules), rules);
+    }
     const auto inner = SourceRange{old->startTag.end, old->captionEnd}.in(text);
     const bool isKept = typedFrom(textOutsideTags(inner)) == typedFrom(wanted.caption);
     const auto tag = startTag(wanted, otherAttributes(old->startTag.in(text), {"href"}));
     return putIn(text, {old->startTag.begin, old->end},
-        tag + (isKept ? std::string(inner) : wanted.caption) + "</a>");
+        tag + (isKept ? std::string(inner) : wanted.caption) + "</a>", rules);
 }
 
-ElementEdit DeleteLink(std::string_view text, int position)
+ElementEdit DeleteLink(std::string_view text, int position, const OutputRules& rules)
 {
     const auto link = linkFrom(text, searchOffset(position));
     if (!link) return unchanged(text, position);
-    return {withPiece(text, {link->startTag.begin, link->end}, {}),
+    return {withPiece(text, {link->startTag.begin, link->end}, {}, rules),
         static_cast<int>(link->startTag.begin)};
 }
 

@@ -47,8 +47,8 @@ std::string optionMarkup(const OptionSettings& option)
     return "<!--option onpick=\"" + option.target + "\"-->" + option.caption + "<!--/option-->";
 }
 
-/// The same for an option that was there: what the settings do not tell stays.
-std::string optionMarkup(
+/// The same for an option that was there, with what the settings do not tell.
+std::string changedMarkup(
     std::string_view text, const OptionParts& old, const OptionSettings& option)
 {
     const auto marker = old.marker.in(text);
@@ -92,10 +92,10 @@ std::size_t behindBreak(std::string_view text, std::size_t offset)
     return end == npos ? offset : end + 1;
 }
 
-std::string renumbered(std::string text)
+std::string renumbered(std::string text, const OutputRules& rules)
 {
     DeleteAllTemporaeryRadioButtons(text);
-    InsertTemporaeryRadioButtons(text);
+    insertRadioButtons(text, rules.maxTextLength());
     return text;
 }
 
@@ -115,13 +115,15 @@ ElementEdit withCaretBehindList(std::string text, int number)
     return {std::move(text), static_cast<int>(caret)};
 }
 
-ElementEdit newList(
-    std::string_view text, std::size_t offset, const OptionSettings& wanted, bool withBreak)
+ElementEdit newList(std::string_view text, std::size_t offset, const OptionSettings& wanted,
+    const OutputRules& rules)
 {
     const int number = countOptions(text, 0, offset);
-    const auto list = "<!--select-->" + optionMarkup(wanted) + "<!--/select-->";
-    auto changed = withPiece(text, {offset, offset}, list + (withBreak ? "<br/>" : ""));
-    return withCaretBehindList(renumbered(MoveFormatTagsOutOfSelect(changed, offset)), number);
+    auto list = "<!--select-->" + optionMarkup(wanted) + "<!--/select-->";
+    if (!rules.losesNothing()) list += "<br/>";
+    const auto changed = withPiece(text, {offset, offset}, list, rules);
+    return withCaretBehindList(
+        renumbered(MoveFormatTagsOutOfSelect(changed, offset, rules), rules), number);
 }
 
 } // namespace
@@ -141,48 +143,57 @@ std::optional<OptionSettings> GetOption(std::string_view text, int position)
     return settings;
 }
 
-ElementEdit SetOption(
-    std::string_view text, int position, bool optionFound, const OptionSettings& wanted)
+ElementEdit SetOption(std::string_view text, int position, bool optionFound,
+    const OptionSettings& wanted, const OutputRules& rules)
 {
     auto offset = std::min(static_cast<std::size_t>(std::max(position, 0)), text.size());
     if (!optionFound) {
         const auto listEnd = joinedListEnd(text, offset);
         if (listEnd == npos) {
-            const auto place = static_cast<std::size_t>(ValidInsertPosition(position, text));
-            return newList(text, place, wanted, true);
+            const auto valid = ValidInsertPosition(position, text, rules.maxTextLength());
+            return newList(text, static_cast<std::size_t>(std::max(valid, 0)), wanted, rules);
         }
         offset = listEnd;
     }
     const int number = countOptions(text, 0, offset);
     return withCaretBehindList(
-        renumbered(withPiece(text, {offset, offset}, optionMarkup(wanted))), number);
+        renumbered(withPiece(text, {offset, offset}, optionMarkup(wanted), rules), rules), number);
 }
 
-ElementEdit ReplaceOption(std::string_view text, int position, const OptionSettings& wanted)
+ElementEdit ReplaceOption(
+    std::string_view text, int position, const OptionSettings& wanted, const OutputRules& rules)
 {
     const auto option = optionFrom(text, searchOffset(position));
     if (!option) return unchanged(text, position);
     const int number = countOptions(text, 0, option->marker.begin);
-    auto changed = renumbered(
-        withPiece(text, {option->marker.begin, option->end}, optionMarkup(text, *option, wanted)));
+    const auto markup
+        = rules.losesNothing() ? changedMarkup(text, *option, wanted) : optionMarkup(wanted);
+    auto changed = withPiece(text, {option->marker.begin, option->end}, markup, rules);
+    const auto list = listAround(changed, option->marker.begin);
+    const bool isOnly = list && countOptions(changed, list->begin, list->end) == 1;
+    if (isOnly && !rules.losesNothing())
+        changed = withPiece(changed, {list->end, list->end}, "<br/>", rules);
+    changed = renumbered(std::move(changed), rules);
     const auto now = optionOfNumber(changed, number);
     return {std::move(changed), static_cast<int>(now ? now->caption.end : option->marker.begin)};
 }
 
-ElementEdit DeleteOption(std::string_view text, int position, bool Replace)
+ElementEdit DeleteOption(
+    std::string_view text, int position, bool Replace, const OutputRules& rules)
 {
     const auto option = optionFrom(text, searchOffset(position));
     if (!option) return unchanged(text, position);
     const auto list = listAround(text, option->marker.begin);
     const bool isOnly = list && countOptions(text, list->begin, list->end) == 1;
     const auto gone = isOnly ? *list : SourceRange{option->marker.begin, option->end};
-    auto changed = withPiece(text, gone, {});
+    auto changed = withPiece(text, gone, {}, rules);
     if (Replace) return {std::move(changed), static_cast<int>(gone.begin)};
     // All buttons ahead of the place keep their numbers, and with them their lengths.
-    return {renumbered(std::move(changed)), static_cast<int>(gone.begin)};
+    return {renumbered(std::move(changed), rules), static_cast<int>(gone.begin)};
 }
 
-std::string MoveFormatTagsOutOfSelect(std::string_view text, std::size_t list)
+std::string MoveFormatTagsOutOfSelect(
+    std::string_view text, std::size_t list, const OutputRules& rules)
 {
     const auto end = findTagFrom(text, kSelectEnd, list);
     if (!end) return std::string(text);
@@ -197,8 +208,8 @@ std::string MoveFormatTagsOutOfSelect(std::string_view text, std::size_t list)
     result.insert(list, border.ends);
     result.insert(behind, border.starts);
     auto changed = result.take();
-    requireAddressable(changed);
-    DeleteFormatTagsWhoArroundsNoText(changed);
+    requireAddressable(changed, rules.maxTextLength());
+    DeleteFormatTagsWhoArroundsNoText(changed, rules.maxTextLength());
     return changed;
 }
 

@@ -7,7 +7,8 @@
 #include <string_view>
 
 // The entries of selection lists: <!--select--><!--option onpick="TARGET"-->CAPTION<!--/option-->
-// ... <!--/select--><br/>. After each edit all radio buttons of the area are numbered anew.
+// ... <!--/select--><br/>; where nothing is lost no <br/> is put behind a new list. After each edit
+// all radio buttons of the area are numbered anew.
 
 namespace quillmere {
 
@@ -25,26 +26,28 @@ struct OptionSettings {
 /// the last one ahead. In an area without a list it makes one, behind the first valid place at the
 /// position and with the formats there ended ahead of it and begun again behind it. The caret
 /// stands behind the list.
-[[nodiscard]] ElementEdit SetOption(
-    std::string_view text, int position, bool optionFound, const OptionSettings& wanted);
+[[nodiscard]] ElementEdit SetOption(std::string_view text, int position, bool optionFound,
+    const OptionSettings& wanted, const OutputRules& rules = OutputRules());
 
-/// Makes the first option at or behind the position what is wanted: as DeleteOption with `Replace`
-/// and SetOption at the same place would, but that the <br/> behind a list of one option is not
-/// doubled. Other attributes of the option stay, and so do tags in it where the caption is the same
-/// to a reader. The caret stands behind its caption. Without an
-/// option the text stays as it is.
-[[nodiscard]] ElementEdit ReplaceOption(
-    std::string_view text, int position, const OptionSettings& wanted);
+/// Makes the first option at or behind the position what is wanted, as DeleteOption with `Replace`
+/// and SetOption at the same place would: so by the default the list of an only option is a new
+/// one, with one more <br/> behind it. Where nothing is lost no <br/> comes, other attributes of
+/// the option stay, and so do tags in it where the caption is the same to a reader. The caret
+/// stands behind its caption. Without an option the text stays as it is.
+[[nodiscard]] ElementEdit ReplaceOption(std::string_view text, int position,
+    const OptionSettings& wanted, const OutputRules& rules = OutputRules());
 
 /// Takes out the first option at or behind the position, and with the only option of a list the
 /// list, but not the <br/> behind it. `Replace` leaves the radio buttons as they are, since another
 /// edit follows. Without an option the text stays as it is.
-[[nodiscard]] ElementEdit DeleteOption(std::string_view text, int position, bool Replace);
+[[nodiscard]] ElementEdit DeleteOption(
+    std::string_view text, int position, bool Replace, const OutputRules& rules = OutputRules());
 
 /// Ends all formats that enclose the list at offset `list` ahead of it and begins them again behind
 /// it and the <br/> that follows, all at once so that they stay nested; a pair that then holds
 /// nothing is left out. "<b>x<!--select-->...<!--/select--><br/>y</b>" becomes
 /// "<b>x</b><!--select-->...<!--/select--><br/><b>y</b>".
-[[nodiscard]] std::string MoveFormatTagsOutOfSelect(std::string_view text, std::size_t list);
+[[nodiscard]] std::string MoveFormatTagsOutOfSelect(
+    std::string_view text, std::size_t list, const OutputRules& rules = OutputRules());
 
 } // namespace quillmere

@@ -230,9 +230,10 @@ bool holdsPicture(std::string_view text, SourceRange marked)
     });
 }
 
-AlignedText alignLines(std::string_view text, SourceRange marked, Alignment alignment)
+AlignedText alignLines(
+    std::string_view text, SourceRange marked, Alignment alignment, const OutputRules& rules)
 {
-    requireAddressable(text);
+    requireAddressable(text, rules.maxTextLength());
     const auto page = readSurfacePage(std::string(text));
     const auto splices = LineAlignment(page, marked, alignment).take();
     Rewriter result(page.text);
@@ -241,7 +242,7 @@ AlignedText alignLines(std::string_view text, SourceRange marked, Alignment alig
         result.append(splice.inserted);
     }
     auto changed = result.take();
-    requireAddressable(changed);
+    requireAddressable(changed, rules.maxTextLength());
     return {std::move(changed), {moved(marked.begin, splices), moved(marked.end, splices)}};
 }
 

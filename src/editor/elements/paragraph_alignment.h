@@ -35,8 +35,8 @@ struct AlignedText {
 ///   <br/>, for saving would make one paragraph of both with nothing between them. So what was cut
 ///   out and is set back to the left is again what it was.
 /// Throws Overflow.
-[[nodiscard]] AlignedText alignLines(
-    std::string_view text, SourceRange marked, Alignment alignment);
+[[nodiscard]] AlignedText alignLines(std::string_view text, SourceRange marked, Alignment alignment,
+    const OutputRules& rules = OutputRules());
 
 /// What ends the paragraph `paragraph` (an element of the page) at an offset and begins the next
 /// one with the tag `opening`: the ends of the formats that are open in it there, "</p>", the tag,

@@ -78,6 +78,7 @@ std::string startTag(std::string tag, const TableSettings& wanted)
 struct Row {
     SourceRange source;
     std::vector<SourceRange> cells;
+    std::size_t behindCells = 0; ///< behind the last cell of any spelling
     bool hasOtherCells = false;
 };
 
@@ -112,12 +113,23 @@ std::size_t countOf(std::string_view text, std::string_view key, SourceRange wit
     return count;
 }
 
+std::size_t behindCells(std::string_view text, const Row& row, std::size_t rowEnd)
+{
+    auto behind = row.cells.empty() ? row.source.begin + std::string_view("<tr>").size()
+                                    : row.cells.back().end;
+    for (auto end = findTagFrom(text, "</td", behind); end && end->end <= rowEnd;
+         end = findTagFrom(text, "</td", behind))
+        behind = end->end;
+    return behind;
+}
+
 std::vector<Row> rowsOf(std::string_view text, SourceRange table)
 {
     std::vector<Row> rows;
     for (const auto source : piecesOf(text, "<tr>", "</tr", table)) {
         const auto rowEnd = std::min(findIgnoringCase(text, "</tr", source.begin), source.end);
-        Row row{source, piecesOf(text, "<td>", "</td", {source.begin, rowEnd}), false};
+        Row row{source, piecesOf(text, "<td>", "</td", {source.begin, rowEnd}), 0, false};
+        row.behindCells = behindCells(text, row, rowEnd);
         const auto all = countOf(text, "<td", source) + countOf(text, "<th", source);
         row.hasOtherCells = all > row.cells.size();
         rows.push_back(std::move(row));
@@ -125,25 +137,24 @@ std::vector<Row> rowsOf(std::string_view text, SourceRange table)
     return rows;
 }
 
-void setCells(Rewriter& result, const Row& row, int columns)
+void setCells(Rewriter& result, const Row& row, int columns, const OutputRules& rules)
 {
-    if (row.hasOtherCells) return;
+    if (row.hasOtherCells && rules.losesNothing()) return;
     const auto wanted = static_cast<std::size_t>(columns);
     for (std::size_t i = wanted; i < row.cells.size(); ++i)
         result.drop(row.cells[i].begin, row.cells[i].end);
     if (row.cells.size() >= wanted) return;
-    const auto behind = row.cells.empty() ? row.source.begin + std::string_view("<tr>").size()
-                                          : row.cells.back().end;
-    result.insert(behind, times(columns - static_cast<int>(row.cells.size()), kCell));
+    result.insert(row.behindCells, times(columns - static_cast<int>(row.cells.size()), kCell));
 }
 
-void setRows(Rewriter& result, const std::vector<Row>& rows, const TableSettings& wanted)
+void setRows(Rewriter& result, const std::vector<Row>& rows, const TableSettings& wanted,
+    const OutputRules& rules)
 {
     if (rows.empty()) return;
     const auto count = static_cast<std::size_t>(wanted.rows);
     for (std::size_t i = 0; i < rows.size(); ++i) {
         if (i < count)
-            setCells(result, rows[i], wanted.columns);
+            setCells(result, rows[i], wanted.columns, rules);
         else
             result.drop(rows[i].source.begin, rows[i].source.end);
     }
@@ -192,19 +203,23 @@ std::optional<TableSettings> GetTable(std::string_view text, int position)
     return table;
 }
 
-ElementEdit InsertTable(std::string_view text, int position, const TableSettings& wanted)
+ElementEdit InsertTable(
+    std::string_view text, int position, const TableSettings& wanted, const OutputRules& rules)
 {
-    const auto place = static_cast<std::size_t>(std::max(ValidInsertPosition(position, text), 0));
+    const auto valid = ValidInsertPosition(position, text, rules.maxTextLength());
+    const auto place = static_cast<std::size_t>(std::max(valid, 0));
     std::string table = "<table " + quoted("title", wanted.title) + " "
         + quoted("align", wanted.align) + " " + quoted("columns", std::to_string(wanted.columns))
         + " border=\"1\">";
     table += times(wanted.rows, rowOf(wanted.columns)) + "</table>";
-    auto changed = withPiece(text, {place, place}, table.append(kBehindTable));
+    if (!rules.losesNothing()) table += kBehindTable;
+    auto changed = withPiece(text, {place, place}, table, rules);
     const int caret = caretInTable(changed, place);
     return {std::move(changed), caret};
 }
 
-ElementEdit SetTable(std::string_view text, int position, const TableSettings& wanted)
+ElementEdit SetTable(
+    std::string_view text, int position, const TableSettings& wanted, const OutputRules& rules)
 {
     const auto tag = findTagFrom(text, "<table", searchOffset(position));
     if (!tag) return unchanged(text, position);
@@ -212,20 +227,20 @@ ElementEdit SetTable(std::string_view text, int position, const TableSettings& w
     result.drop(tag->begin, tag->end);
     result.insert(tag->end, startTag(std::string(tag->in(text)), wanted));
     const auto end = findIgnoringCase(text, "</table", tag->end);
-    if (end != npos) setRows(result, rowsOf(text, {tag->end, end}), wanted);
+    if (end != npos) setRows(result, rowsOf(text, {tag->end, end}), wanted, rules);
     auto changed = result.take();
-    requireAddressable(changed);
+    requireAddressable(changed, rules.maxTextLength());
     const int caret = caretInTable(changed, tag->begin);
     return {std::move(changed), caret};
 }
 
-ElementEdit DeleteTable(std::string_view text, int position)
+ElementEdit DeleteTable(std::string_view text, int position, const OutputRules& rules)
 {
     const auto begin = findIgnoringCase(text, "<table", searchOffset(position));
     const auto end = begin == npos ? npos : findIgnoringCase(text, "/table>", begin);
     if (end == npos) return unchanged(text, position);
     const auto behind = text.find('>', end) + 1;
-    return {withPiece(text, {begin, behind}, {}), static_cast<int>(begin)};
+    return {withPiece(text, {begin, behind}, {}, rules), static_cast<int>(begin)};
 }
 
 } // namespace quillmere

@@ -29,21 +29,23 @@ struct TableSettings {
 /// of its first row and its rows, as many as there are. nullopt where there is no table.
 [[nodiscard]] std::optional<TableSettings> GetTable(std::string_view text, int position);
 
-/// Puts a table in behind the first valid place at the position. The caret stands ahead of the text
-/// of its first cell.
-[[nodiscard]] ElementEdit InsertTable(
-    std::string_view text, int position, const TableSettings& wanted);
+/// Puts a table in behind the first valid place at the position; by the default with two comments
+/// and a </br> behind it. The caret stands ahead of the text of its first cell.
+[[nodiscard]] ElementEdit InsertTable(std::string_view text, int position,
+    const TableSettings& wanted, const OutputRules& rules = OutputRules());
 
 /// Makes the first table at or behind the position what is wanted. Attributes that the table has
 /// not are put in; others than title, align and columns stay. Cells that stay keep their content;
 /// what is beyond the wanted number goes. Rows and cells count as "<tr>" and "<td>" in this
-/// spelling: a table without such rows keeps them, and so does a row that has cells of another
-/// spelling. Without a table the text stays as it is.
-[[nodiscard]] ElementEdit SetTable(
-    std::string_view text, int position, const TableSettings& wanted);
+/// spelling: a table without such rows keeps them. So does a row that has cells of another spelling
+/// where nothing is lost; by the default these do not count, and new cells go in behind all.
+/// Without a table the text stays as it is.
+[[nodiscard]] ElementEdit SetTable(std::string_view text, int position, const TableSettings& wanted,
+    const OutputRules& rules = OutputRules());
 
 /// Takes out the first table at or behind the position, but not the line break that
 /// InsertTable puts behind it. A table without its end stays.
-[[nodiscard]] ElementEdit DeleteTable(std::string_view text, int position);
+[[nodiscard]] ElementEdit DeleteTable(
+    std::string_view text, int position, const OutputRules& rules = OutputRules());
 
 } // namespace quillmere

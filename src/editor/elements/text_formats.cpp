@@ -186,15 +186,16 @@ bool takesNoFormats(std::string_view text, SourceRange marked)
     });
 }
 
-FormattedText formatText(std::string_view text, SourceRange marked, const TextFormats& wanted)
+FormattedText formatText(
+    std::string_view text, SourceRange marked, const TextFormats& wanted, const OutputRules& rules)
 {
-    requireAddressable(text);
+    requireAddressable(text, rules.maxTextLength());
     const auto page = readSurfacePage(std::string(text));
     auto region = formatRegion(page, marked);
     if (!setFlags(region.units, wanted)) return {page.text, marked};
     auto changed = rewritten(page.text, region);
-    DeleteFormatTagsWhoArroundsNoText(changed);
-    requireAddressable(changed);
+    requireAddressable(changed, rules.maxTextLength());
+    DeleteFormatTagsWhoArroundsNoText(changed, rules.maxTextLength());
     const auto now = markedIn(changed, page, marked);
     return {std::move(changed), now};
 }

@@ -43,7 +43,7 @@ struct FormattedText {
 /// A blank has the formats of what follows it, so that the tag stands ahead of it, as in
 /// "one<b> two</b> three": saving takes blanks away that stand directly ahead of a tag.
 /// Throws Overflow, and RuntimeFailure where a stray '<' keeps tags from being written anew.
-[[nodiscard]] FormattedText formatText(
-    std::string_view text, SourceRange marked, const TextFormats& wanted);
+[[nodiscard]] FormattedText formatText(std::string_view text, SourceRange marked,
+    const TextFormats& wanted, const OutputRules& rules = OutputRules());
 
 } // namespace quillmere

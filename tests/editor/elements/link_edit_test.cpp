@@ -14,46 +14,69 @@ std::string withCaret(ElementEdit edit)
     return edit.text.insert(static_cast<std::size_t>(edit.position), "|");
 }
 
+const OutputRules kLossless(true);
+
+/// <N> and <O> become the new link and an old one.
+std::string withLinks(std::string text)
+{
+    const std::string links[][2]
+        = {{"<N>", "<a href=\"#n\">n</a>"}, {"<O>", "<a href=\"#\">xy</a>"}};
+    for (const auto& [name, link] : links)
+        if (const auto at = text.find(name); at != std::string::npos)
+            text.replace(at, name.size(), link);
+    return text;
+}
+
 TEST(SetLink, EndsTheLineOnlyWhereItIsAlone)
 {
     struct Case {
         std::string before; // with its caret
         std::string after;
+        std::string withoutLoss;
     };
     const std::vector<Case> cases{
-        {"<p>|</p>", "<p><a href=\"#n\">n</a> <br/> |</p>"},
-        {"<p>a<br/>|</p>", "<p>a<br/><a href=\"#n\">n</a> <br/> |</p>"},
-        {"<p>a<br/> |</p>", "<p>a<br/> <a href=\"#n\">n</a> <br/> |</p>"}, // behind another one
-        {"<p>|<br/>b</p>", "<p><a href=\"#n\">n</a> |<br/>b</p>"},
-        {"<p>a|</p>", "<p>a<a href=\"#n\">n</a> |</p>"},
-        {"<p>|b</p>", "<p><a href=\"#n\">n</a> |b</p>"},
-        {"<p>a&a|mp;b</p>", "<p>a&amp;<a href=\"#n\">n</a> |b</p>"},
-        {"<p><a href=\"#\">x|y</a>z</p>", "<p><a href=\"#\">xy</a><a href=\"#n\">n</a> |z</p>"},
+        {"<p>|</p>", "<p><N> <br/> |</p>", "<p><N>|</p>"},
+        {"<p>a<br/>|</p>", "<p>a<br/><N> <br/> |</p>", "<p>a<br/><N>|</p>"},
+        {"<p>a<br/> |</p>", "<p>a<br/> <N> <br/> |</p>", "<p>a<br/> <N>|</p>"},
+        {"<p>|<br/>b</p>", "<p><N> |<br/>b</p>", "<p><N>|<br/>b</p>"},
+        {"<p>a|</p>", "<p>a<N> |</p>", "<p>a<N>|</p>"},
+        {"<p>|b</p>", "<p><N> |b</p>", "<p><N>|b</p>"},
+        {"<p>a&a|mp;b</p>", "<p>a&amp;<N> |b</p>", "<p>a&amp;<N>|b</p>"},
+        {"<p><O>|</p>", "<p><O><N> |</p>", "<p><O><br/><N>|</p>"},
+        {"<p>a<br/><O>|<br/>b</p>", "<p>a<br/><O><N> |<br/>b</p>",
+            "<p>a<br/><O><br/><N>|<br/>b</p>"},
+        {"<p>a <O>|</p>", "<p>a <O><N> |</p>", "<p>a <O><N>|</p>"},
+        {"<p><O>|z</p>", "<p><O><N> |z</p>", "<p><O><N>|z</p>"},
     };
     for (auto row : cases) {
         SCOPED_TRACE(row.before);
+        for (auto* text : {&row.before, &row.after, &row.withoutLoss})
+            *text = withLinks(*text);
         const auto caret = row.before.find('|');
         row.before.erase(caret, 1);
-        EXPECT_EQ(withCaret(SetLink(row.before, static_cast<int>(caret), {"n", "#n"})), row.after);
+        const auto place = static_cast<int>(caret);
+        EXPECT_EQ(withCaret(SetLink(row.before, place, {"n", "#n"})), row.after);
+        EXPECT_EQ(withCaret(SetLink(row.before, place, {"n", "#n"}, kLossless)), row.withoutLoss);
     }
 }
 
 TEST(LinkEdits, KeepWhatStandsAround)
 {
-    EXPECT_EQ(linkMarkup({"Wort", "w.wml"}), "<a href=\"w.wml\">Wort</a>");
     const std::string bold = "<p>a <b>b <i>cd</i></b></p>";
-    EXPECT_EQ(linkInPlace(bold, {8, 20}, {"b cd", "#"}), "<b><a href=\"#\">b cd</a></b>");
-    EXPECT_EQ(linkInPlace(bold, {13, 15}, {"cd", "#"}), "<i><a href=\"#\">cd</a></i>");
-    EXPECT_EQ(linkInPlace(bold, {13, 14}, {"c", "#"}), "<a href=\"#\">c</a>");
+    EXPECT_EQ(linkInPlace(bold, {8, 20}, {"b cd", "#"}), "<b><a href=\"#\">b cd</a> </b>");
+    EXPECT_EQ(linkInPlace(bold, {13, 15}, {"cd", "#"}, kLossless), "<i><a href=\"#\">cd</a></i>");
+    EXPECT_EQ(linkInPlace(bold, {13, 14}, {"c", "#"}, kLossless), "<a href=\"#\">c</a>");
     const std::string text = "<p>ab <i>c</i></p><p>d<br/>e<a href=\"#\">f</a></p>";
     EXPECT_TRUE(canBecomeLink(text, {3, 10}));
     EXPECT_FALSE(canBecomeLink(text, {3, 22})); // two paragraphs
     EXPECT_FALSE(canBecomeLink(text, {21, 28})); // a line break
     EXPECT_FALSE(canBecomeLink(text, {27, 41})); // a link
     const std::string old = "x<A HREF=#a title=t><b>y</b></A>z<a href=\"#\">2</a>";
-    EXPECT_EQ(withCaret(ReplaceLink(old, 1, {"n", "#n"})),
+    EXPECT_EQ(
+        withCaret(ReplaceLink(old, 1, {"n", "#n"})), "x<a href=\"#n\">n</a> |z<a href=\"#\">2</a>");
+    EXPECT_EQ(withCaret(ReplaceLink(old, 1, {"n", "#n"}, kLossless)),
         "x<a href=\"#n\" title=t>n</a>|z<a href=\"#\">2</a>");
-    EXPECT_EQ(ReplaceLink("<a href=\"#\"><b>y</b> &uuml;</a>", 1, {"y \xFC", "#n"}).text,
+    EXPECT_EQ(ReplaceLink("<a href=\"#\"><b>y</b> &uuml;</a>", 1, {"y \xFC", "#n"}, kLossless).text,
         "<a href=\"#n\"><b>y</b> &uuml;</a>");
     EXPECT_EQ(withCaret(DeleteLink(old, 1)), "x|z<a href=\"#\">2</a>");
     EXPECT_EQ(withCaret(DeleteLink("x<a href=#a>y", 1)), "x|y");
@@ -85,7 +108,7 @@ TEST(ImageEdits, WriteBothForms)
     const std::string old = "x<IMG src=a.bmp></img>y";
     EXPECT_EQ(withCaret(ReplaceImage(old, 1, image)), "x" + full + "|y");
     EXPECT_EQ(ReplaceImage("<img id=i src=a height=\"3\" localsrc=\"l\" />", 1,
-                  {"b", "c", false, "top", "", ""})
+                  {"b", "c", false, "top", "", ""}, kLossless)
                   .text,
         "<img src=\"b\" alt=\"c\" id=i localsrc=\"l\">");
     EXPECT_EQ(withCaret(DeleteImage(old, 1)), "x|y");

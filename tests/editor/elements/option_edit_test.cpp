@@ -12,6 +12,8 @@
 namespace quillmere {
 namespace {
 
+const OutputRules kLossless(true);
+
 std::string withCaret(ElementEdit edit)
 {
     return edit.text.insert(static_cast<std::size_t>(edit.position), "|");
@@ -71,6 +73,8 @@ TEST(SetOption, MakesOrJoinsAList)
         EXPECT_EQ(
             edit.text.substr(static_cast<std::size_t>(edit.position)), row.after.substr(bar + 1));
     }
+    EXPECT_EQ(SetOption("<p><b>xy</b></p>", 7, false, {"n", "#n"}, kLossless).text,
+        listText("<p><b>x</b><!--select-->[n]<!--/select--><b>y</b></p>"));
 }
 
 TEST(SetOption, PutsAnotherAheadOfTheMarkedOne)
@@ -80,13 +84,15 @@ TEST(SetOption, PutsAnotherAheadOfTheMarkedOne)
     EXPECT_EQ(edit.text, listText("<p>x<!--select-->[a][n][b]<!--/select--><br/>y</p>"));
 }
 
-TEST(ReplaceOption, KeepsThePlaceAndTheBreak)
+TEST(ReplaceOption, KeepsThePlace)
 {
     const auto one = listText(kOne);
     EXPECT_EQ(withCaret(ReplaceOption(one, positionOf(one, "a"), {"n", "C:\\x\\n.wml"})),
         "<p>x<!--select--><!--option onpick=\"C:\\x\\n.wml\"-->"
         "<input type=radio name=\"TempName1\" onclick=\"javascript:navigate('C:/x/n.wml')\">n"
-        "|<!--/option--><!--/select--><br/>y</p>");
+        "|<!--/option--><!--/select--><br/><br/>y</p>"); // a new list
+    EXPECT_EQ(ReplaceOption(one, positionOf(one, "a"), {"n", "#n"}, kLossless).text,
+        listText("<p>x<!--select-->[n]<!--/select--><br/>y</p>"));
     const auto two = listText(kTwo);
     EXPECT_EQ(ReplaceOption(two, positionOf(two, "b"), {"n", "#n"}).text,
         listText("<p>x<!--select-->[a][n]<!--/select--><br/>y</p>"));
@@ -95,8 +101,9 @@ TEST(ReplaceOption, KeepsThePlaceAndTheBreak)
             "<p>x<!--select--><!--option onpick=\"\"--><!--/option-->[b]<!--/select--><br/>y</p>"));
     const std::string more
         = "<!--select--><!--option value=\"v\"--><b>x</b><!--/option--><!--/select-->";
-    EXPECT_NE(ReplaceOption(more, 1, {"x", ""}).text.find("<!--option value=\"v\"-->"), npos);
-    const auto changed = ReplaceOption(more, 1, {"x", "#n"}).text;
+    EXPECT_NE(
+        ReplaceOption(more, 1, {"x", ""}, kLossless).text.find("<!--option value=\"v\"-->"), npos);
+    const auto changed = ReplaceOption(more, 1, {"x", "#n"}, kLossless).text;
     EXPECT_NE(changed.find("<!--option onpick=\"#n\" value=\"v\"-->"), npos) << changed;
     EXPECT_NE(changed.find("<b>x</b><!--/option-->"), npos) << changed;
 }

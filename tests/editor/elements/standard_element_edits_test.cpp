@@ -22,6 +22,8 @@
 namespace quillmere {
 namespace {
 
+const OutputRules kRules(true);
+
 struct Operation {
     const char* name;
     std::function<std::string(const std::string& text, std::size_t place, std::size_t length)> run;
@@ -35,25 +37,25 @@ int positionOf(std::size_t place)
 const std::array kOperations{
     Operation{"InsertTable",
         [](const auto& text, auto place, auto) {
-            return InsertTable(text, positionOf(place), {"T", "L", 2, 2}).text;
+            return InsertTable(text, positionOf(place), {"T", "L", 2, 2}, kRules).text;
         }},
     Operation{"SetOption",
         [](const auto& text, auto place, auto) {
-            return SetOption(text, positionOf(place), false, {"Neu", "#k1"}).text;
+            return SetOption(text, positionOf(place), false, {"Neu", "#k1"}, kRules).text;
         }},
     Operation{"SetLink",
         [](const auto& text, auto place, auto) {
-            return SetLink(text, positionOf(place), {"Neu", "#k1"}).text;
+            return SetLink(text, positionOf(place), {"Neu", "#k1"}, kRules).text;
         }},
     Operation{"alignLines",
         [](const auto& text, auto place, auto length) {
-            return alignLines(text, {place, place + length}, Alignment::Center).text;
+            return alignLines(text, {place, place + length}, Alignment::Center, kRules).text;
         }},
     Operation{"formatText",
         [](const auto& text, auto place, auto length) {
             TextFormats bold;
             bold.bold = true;
-            return formatText(text, {place, place + length}, bold).text;
+            return formatText(text, {place, place + length}, bold, kRules).text;
         }},
 };
 

@@ -80,10 +80,11 @@ TEST(SetTable, ChangesWhatIsWanted)
             "columns=\"1\"><tr><td>a</td></tr><tr><td>b</td></tr></table>",
             table("n", "L", 1, 1),
             "<table title=\"n\" align=\"L\" columns=\"1\"><tr><td>|a</td></tr></table>"},
-        {"cells of another spelling stay",
+        {"cells of another spelling do not count",
             "<table title=\"n\" align=\"L\" columns=\"1\"><tr><TD>a</TD></tr></table>",
             table("n", "L", 1, 2),
-            "<table title=\"n\" align=\"L\" columns=\"2\"><tr><TD>|a</TD></tr></table>"},
+            "<table title=\"n\" align=\"L\" columns=\"2\"><tr><TD>a</TD><td>|Zelle</td>"
+            "<td>Zelle</td></tr></table>"},
         {"cells without ends",
             "<table title=\"n\" align=\"L\" columns=\"2\"><tr><td>a<td>b</tr></table>",
             table("n", "L", 1, 1),
@@ -95,6 +96,9 @@ TEST(SetTable, ChangesWhatIsWanted)
         auto edit = SetTable(row.before, 0, row.wanted);
         EXPECT_EQ(edit.text.insert(static_cast<std::size_t>(edit.position), "|"), row.after);
     }
+    const std::string capitals = "<table title=\"n\" align=\"L\" columns=\"1\"><tr><TD>a</TD></tr>";
+    EXPECT_EQ(SetTable(capitals + "</table>", 0, table("n", "L", 1, 1), OutputRules(true)).text,
+        capitals + "</table>");
 }
 
 TEST(InsertTable, PutsItInAsItIsTold)
@@ -106,6 +110,9 @@ TEST(InsertTable, PutsItInAsItIsTold)
         "<!--card id=\"a\"--><p>x &amp;<table title=\"T\" align=\"L\" columns=\"2\" "
         "border=\"1\"><tr>"
         "<td>|Zelle</td><td>Zelle</td></tr></table><!--Test--> <!--Test2--></br> y</p>");
+    EXPECT_NE(InsertTable(before, place, table("T", "L", 1, 2), OutputRules(true))
+                  .text.find("</table> y</p>"),
+        std::string::npos);
 }
 
 TEST(DeleteTable, TakesTheTableButNotItsLineBreak)
@@ -123,6 +130,8 @@ TEST(TableEdits, StayWithinTheLimitOfTexts)
 {
     const std::string full(kMaxTextLength - 10, 'x');
     EXPECT_THROW(static_cast<void>(InsertTable(full, 5, table("T", "L", 30, 10))), Overflow);
+    EXPECT_NO_THROW(
+        static_cast<void>(InsertTable(full, 5, table("T", "L", 30, 10), OutputRules(true))));
 }
 
 TEST(TableAlign, KnowsTheGermanTextsOnly)
