@@ -9,8 +9,9 @@
 #include "editor/dialogs/frm_image.h"
 #include "editor/dialogs/frm_justify.h"
 #include "editor/window/deck_costs.h"
-#include "editor/window/deck_costs_form.h"
+#include "editor/window/deck_mends.h"
 #include "editor/window/element_forms.h"
+#include "editor/window/frm_deck_changes.h"
 #include "editor/window/frm_prepare.h"
 #include "forms/frm_about_quillmere.h"
 #include "forms/frm_assistent.h"
@@ -115,7 +116,7 @@ void photographWindow(
     GallerySession& gallery, const WindowShot& shot, const QString& examples, const QString& path)
 {
     frmPrepare window(gallery.session, gallery.workFiles);
-    window.offerStandardOutput = [](const QStringList&) { return false; };
+    window.askAboutCosts = [](const DeckCosts&) { return CostsAnswer::Keep; };
     window.Form_Load();
     window.applySkin();
     window.show();
@@ -126,16 +127,6 @@ void photographWindow(
     for (const auto* button : shot.clicks)
         window.findChild<QAbstractButton*>(QLatin1String(button))->click();
     photograph(window, path);
-}
-
-void photographCosts(GallerySession& gallery, const QString& path)
-{
-    const std::string deck = "<wml><card id=\"a\" title=\"Gem\xFCse\"><p>M\xF6hren im Caf\xE9, "
-                             "<fieldset title=\"x\">2,40 \x80</fieldset></p></card></wml>";
-    DeckCostsForm form(
-        gallery.session, costsOfSaving(gallery.session.document, deck, "/"), nullptr);
-    form.show();
-    photograph(form, path);
 }
 
 /// A dialog over the deck of an example: what the caret stands behind, or what is marked.
@@ -175,6 +166,23 @@ void photographForm(Form& form, const QString& path)
     form.close();
 }
 
+void photographDeckChanges(GallerySession& gallery, const QString& path)
+{
+    const std::string deck
+        = "<wml><template><do type=\"prev\"><prev/></do></template>\n"
+          "<card id=\"a\" title=\"Gem\xFCse\" ontimer=\"#b\"><timer value=\"50\"/>\n"
+          "<p>M\xF6hren im Caf\xE9, <fieldset title=\"x\">2,40 \x80</fieldset>\n"
+          "<input name=\"ort\" size=\"8\"/><input name=\"tag\" format=\"NN\"/></p></card></wml>";
+    frmDeckChanges costs(
+        gallery.session, costsOfSaving(gallery.session.document, deck, "/"), nullptr);
+    photographForm(costs, path);
+    frmDeckChanges mends(gallery.session,
+        mendsOfFile("<wml>\n<card id=a>\n<p>Obst & Gem\xFCse <b><i>frisch</b></i>\n</card>\n"
+                    "<CARD id=\"b\"><p>Brot</p></card></wml>"),
+        nullptr);
+    photographForm(mends, path + "ausbessern-");
+}
+
 /// The forms that stand on the open deck alone, and those of messages.
 void photographPlainForms(Session& session, const QString& path)
 {
@@ -204,7 +212,7 @@ void photographPlainForms(Session& session, const QString& path)
 void photographForms(GallerySession& gallery, const QString& examples, const QString& path)
 {
     frmPrepare window(gallery.session, gallery.workFiles);
-    window.offerStandardOutput = [](const QStringList&) { return false; };
+    window.askAboutCosts = [](const DeckCosts&) { return CostsAnswer::Keep; };
     registerElementForms(window, gallery.session);
     window.Form_Load();
     window.show();
@@ -246,7 +254,7 @@ void writeWindowShots(const QString& skins, const QString& examples, const QStri
         const auto path = directory + "/fenster-" + gallery.chooseSkin(skin) + '-';
         for (const auto& shot : kWindowShots)
             photographWindow(gallery, shot, examples, path + shot.name);
-        photographCosts(gallery, path + "verluste");
+        photographDeckChanges(gallery, path);
     }
     photographForms(gallery, examples, directory + "/form-");
 }

@@ -179,7 +179,8 @@ void Program::firstActivation()
     const double upTwips = twips * 100 / kDesignTwips - 75;
     window_.move(window_.x(), window_.y() - static_cast<int>(std::lround(upTwips / twips)));
     if (!options_.screenshots.isEmpty()) {
-        window_.offerStandardOutput = [](const QStringList&) { return false; }; // nobody answers
+        window_.askAboutCosts
+            = [](const DeckCosts&) { return CostsAnswer::Keep; }; // nobody is there
         openCommandLine();
         return takeScreenshots(window_, session_, options_.screenshots);
     }

@@ -17,6 +17,7 @@
 #include <optional>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
 namespace quillmere {
 
@@ -121,8 +122,8 @@ std::string wmlOfAreas(
     const DocumentSession& like, const RecoveryNote& note, std::vector<std::string> texts)
 {
     MemoryWorkFiles files;
-    DocumentSession session{
-        files, like.displayCopies, like.prompter, like.settings, like.words, like.output};
+    DocumentSession session{files, like.displayCopies, like.prompter, like.settings, like.words,
+        OutputRules(note.losesNothing)};
     for (std::size_t i = 0; i < texts.size(); ++i)
         files.write(note.areas[i].design.path(), std::move(texts[i]));
     session.deck = deckOf(note);
@@ -214,6 +215,7 @@ std::vector<CrashedRun> takeCrashedRuns(const std::string& parent)
 void openCrashedRun(DocumentSession& session, const CrashedRun& run)
 {
     auto wml = wmlOfRun(session, run.note);
+    const auto rules = std::exchange(session.output, OutputRules(run.note.losesNothing));
     auto& files = session.workFiles;
     const auto name = files.createFile(kWorkFilePrefix, kWmlFileSuffix);
     try {
@@ -222,6 +224,7 @@ void openCrashedRun(DocumentSession& session, const CrashedRun& run)
         LoadDeck(session, {deck.name, deck.directory, name, files.directory()});
     } catch (...) {
         files.remove(files.directory() + name);
+        session.output = rules;
         throw;
     }
     session.currentArea = 0;

@@ -44,6 +44,7 @@ struct CrashedRun {
 [[nodiscard]] std::optional<std::string> sourceOf(const CrashedRun& run);
 
 /// Makes the deck of a run's work files the open deck of `session`, its first area the current one.
+/// It goes by the rules that it went by there, whatever the session's are.
 /// The run's files stay. Throws FileFailure, and RuntimeFailure for areas that cannot be converted;
 /// the session's deck is then as it was.
 void openCrashedRun(DocumentSession& session, const CrashedRun& run);

@@ -9,6 +9,7 @@
 #include "document/last_path.h"
 #include "document/platform/file_failures.h"
 #include "document/platform/files.h"
+#include "document/platform/settings_store.h"
 #include "document/platform/word_ids.h"
 #include "document/text/failure.h"
 #include "document/text/windows1252.h"
@@ -27,12 +28,14 @@ namespace quillmere {
 namespace {
 
 /// While a deck is built a note may stand open and let timers run. No surface: the shown area,
-/// which is one of the old deck, is then not stored over one of the new.
+/// which is one of the old deck, is then not stored over one of the new. The rules are those of the
+/// new deck, and the old one's again where that does not come to stand.
 class DeckBuilding {
 public:
-    explicit DeckBuilding(DocumentSession& session)
+    DeckBuilding(DocumentSession& session, const OutputRules& rules)
         : session_(session)
         , surface_(std::exchange(session.surface, nullptr))
+        , rules_(std::exchange(session.output, rules))
         , replacement_(session)
     {
     }
@@ -40,16 +43,31 @@ public:
     DeckBuilding& operator=(const DeckBuilding&) = delete;
     DeckBuilding(DeckBuilding&&) = delete;
     DeckBuilding& operator=(DeckBuilding&&) = delete;
-    ~DeckBuilding() { session_.surface = surface_; }
+    ~DeckBuilding()
+    {
+        session_.surface = surface_;
+        if (!isDone_) session_.output = rules_;
+    }
 
     [[nodiscard]] const Deck& old() const { return replacement_.old(); }
-    void commit() { replacement_.commit(); }
+    void commit()
+    {
+        replacement_.commit();
+        isDone_ = true;
+    }
 
 private:
     DocumentSession& session_;
     EditingSurface* surface_;
+    OutputRules rules_;
     DeckReplacement replacement_;
+    bool isDone_ = false;
 };
+
+OutputRules rulesOfSetting(const Session& session)
+{
+    return OutputRules(isYes(session.settings, "StandardOutput"));
+}
 
 DeckPlace placeOf(const Session& session)
 {
@@ -117,10 +135,10 @@ RuntimeFailure tooLong(const DocumentSession& session, const std::string& path)
     return RuntimeFailure{text};
 }
 
-void load(Session& session, const DeckPlace& place)
+void load(Session& session, const DeckPlace& place, const OutputRules& rules)
 {
     requireOrdinaryFile(place.path());
-    DeckBuilding building(session.document);
+    DeckBuilding building(session.document, rules);
     const auto kind = building.old().empty() ? std::int16_t{} : building.old().front().surfaceKind;
     try {
         // The old deck is out of sight, so that its pristine copy is not taken over.
@@ -143,7 +161,7 @@ void requireGone(const std::string& path)
 
 void build(Session& session, const DeckPlace& place)
 {
-    DeckBuilding building(session.document);
+    DeckBuilding building(session.document, rulesOfSetting(session));
     AddArea(session.document, true, place.name, place.directory);
     WriteDeck(session.document);
     requireGone(place.path());
@@ -237,13 +255,14 @@ bool CreateNewPage(Session& session, const std::string& name, const std::string&
     return true;
 }
 
-void OpenDocument(Session& session, const std::string& name, const std::string& directory)
+void OpenDocument(Session& session, const std::string& name, const std::string& directory,
+    std::optional<OutputRules> rules)
 {
     const DeckPlace place{name, NormalisePath(directory)};
     RecentDecks recent(session.settings);
     if (!fileExists(place.path())) recent.remove(place.path());
     ClearDeck(session);
-    load(session, place);
+    load(session, place, rules ? *rules : rulesOfSetting(session));
     recent.add(place.path());
     showDeck(session, false);
 }

@@ -83,7 +83,7 @@ TEST(ShippedHelp, HasAPageForEachWindowAndNoLinkToNowhere)
         EXPECT_TRUE(places.contains(link)) << link;
     for (const auto* form : {"frmPrepare", "txtScript", "frmAssistent", "frmAskProjektDir",
              "frmDeckOpen", "frmOpenFromProjektDir", "frmArea", "frmTable", "frmOption", "frmImage",
-             "frmLinks", "frmTextFormat", "frmJustify", "frmDeckCosts", "frmMessage", "frmInput",
+             "frmLinks", "frmTextFormat", "frmJustify", "frmDeckChanges", "frmMessage", "frmInput",
              "frmAboutQuillmere"})
         EXPECT_TRUE(places.contains(form)) << form;
 }

@@ -6,7 +6,9 @@
 #include "document/text/content_hash.h"
 #include "document/text/text_lines.h"
 #include "document/wml/deck_bytes.h"
+#include "document/wml/utf16_text.h"
 
+#include <algorithm>
 #include <vector>
 
 namespace quillmere {
@@ -14,6 +16,45 @@ namespace quillmere {
 namespace {
 
 constexpr std::string_view kUsualEnd = "\r\n";
+
+std::string reference(char32_t point)
+{
+    return "&#" + std::to_string(static_cast<std::uint32_t>(point)) + ';';
+}
+
+/// Whether a text field shows it as a character. It ends lines and marks its own places by some.
+bool isShown(char32_t point)
+{
+    const bool isHalf = point >= 0xD800 && point <= 0xDFFF;
+    const bool isMark = point >= 0xFDD0 && point <= 0xFDEF;
+    return !isHalf && !isMark && point != 0x2028 && point != 0x2029 && (point & 0xFFFE) != 0xFFFE;
+}
+
+std::string shownText(const DeckBytes& deck, std::string_view slice)
+{
+    std::string utf8;
+    for (std::size_t at = 0; at < slice.size();) {
+        const auto character = deck.characterAt(slice, at);
+        if (isShown(character.point))
+            appendSpelled(utf8, character.point);
+        else
+            utf8 += reference(character.point);
+        at += character.length;
+    }
+    return utf8;
+}
+
+std::string written(const DeckBytes& deck, std::string_view utf8)
+{
+    std::string text;
+    for (std::size_t at = 0; at < utf8.size();) {
+        const auto [length, point] = spelledPoint(utf8, at);
+        const auto spelled = deck.spelled(point);
+        text += spelled == "?" && point != U'?' ? reference(point) : spelled;
+        at += std::max<std::size_t>(length, 1);
+    }
+    return text;
+}
 
 /// A line of the file's text.
 struct Line {
@@ -37,7 +78,7 @@ std::vector<std::uint64_t> keysOf(const std::vector<Line>& lines, const DeckByte
 {
     std::vector<std::uint64_t> keys;
     for (const auto& line : lines)
-        keys.push_back(contentHash(deck.decoded(line.text)));
+        keys.push_back(contentHash(shownText(deck, line.text)));
     return keys;
 }
 
@@ -63,7 +104,7 @@ std::vector<std::uint64_t> keysOf(const std::vector<std::string_view>& lines)
 std::string shownSource(const std::string& file)
 {
     const DeckBytes deck(file);
-    return deck.decoded(deck.text());
+    return shownText(deck, deck.text());
 }
 
 std::string editedSource(const std::string& file, std::string_view shown)
@@ -79,7 +120,7 @@ std::string editedSource(const std::string& file, std::string_view shown)
         if (line != nullptr)
             text += line->text;
         else
-            text += deck.encoded(now[i]);
+            text += written(deck, now[i]);
         if (i + 1 == now.size())
             text += then.empty() ? std::string_view{} : then.back().end;
         else

@@ -7,7 +7,6 @@
 
 #include "document/deck_replacement.h"
 #include "document/platform/word_ids.h"
-#include "editor/window/deck_costs_form.h"
 #include "editor/window/source_search_bar.h"
 #include "forms/overlay.h"
 #include "forms/text.h"
@@ -72,8 +71,11 @@ frmPrepare::frmPrepare(Session& session, WorkFiles& files, QWidget* parent)
     objBrowserCard->setObjectName(QStringLiteral("objBrowserCard"));
     session_.window = this;
     session_.document.surface = objBrowserCard;
-    offerStandardOutput
-        = [this](const QStringList& costs) { return DeckCostsForm::offer(session_, costs, this); };
+    askAboutCosts
+        = [this](const DeckCosts& costs) { return frmDeckChanges::ask(session_, costs, this); };
+    askAboutMends = [this](const QStringList& mends) {
+        return frmDeckChanges::mayMend(session_, mends, this);
+    };
     openOutside
         = [](const QString& address) { QDesktopServices::openUrl(QUrl::fromUserInput(address)); };
     makeTools();

@@ -3,6 +3,7 @@
 #include "editor/design_surface.h"
 #include "editor/page/pasted_elements.h"
 #include "editor/window/form_openers.h"
+#include "editor/window/frm_deck_changes.h"
 #include "editor/window/source_edit.h"
 #include "forms/named.h"
 #include "forms/session.h"
@@ -80,8 +81,10 @@ public:
     /// Writes the surface to the shown area's design work file.
     void store();
 
-    /// Shows what saving by the default would cost; true where the person wants StandardOutput.
-    std::function<bool(const QStringList& costs)> offerStandardOutput;
+    /// Shows what saving by the default would cost, and asks how the deck is to be opened.
+    std::function<CostsAnswer(const DeckCosts& costs)> askAboutCosts;
+    /// Shows what a save mends; true where it may.
+    std::function<bool(const QStringList& mends)> askAboutMends;
     /// Opens an address or a file in the program that the desktop has for it.
     std::function<void(const QString& address)> openOutside;
 
@@ -147,8 +150,10 @@ private:
     [[nodiscard]] std::string deckPath() const;
     void rememberFile();
     void requireOwnFile();
+    void lookAtNewDeck();
     void warnOfCosts();
     void useStandardOutput();
+    [[nodiscard]] bool mayMend();
 
     // the source view
     void btnScript_Click();
@@ -274,6 +279,8 @@ private:
     bool idleFailed_ = false; ///< and was told
     std::string watched_; ///< the path that Session::deckFile remembers
     bool deckIsNew_ = false; ///< and not yet looked at for what saving would cost
+    QStringList mendsMade_; ///< in the areas already, and not told
+    bool mayMend_ = false; ///< the person assented for this deck
 };
 
 } // namespace quillmere

@@ -73,7 +73,7 @@ void frmPrepare::RefreshSurface()
     }
     if (!deckIsNew_ || !deckIsOpen()) return;
     rememberFile();
-    QTimer::singleShot(0, this, [this] { trap([this] { warnOfCosts(); }); });
+    QTimer::singleShot(0, this, [this] { trap([this] { lookAtNewDeck(); }); });
 }
 
 void frmPrepare::refresh()

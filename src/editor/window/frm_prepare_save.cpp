@@ -7,7 +7,7 @@
 #include "document/platform/files.h"
 #include "document/platform/word_ids.h"
 #include "document/text/failure.h"
-#include "editor/window/deck_costs.h"
+#include "editor/window/deck_mends.h"
 #include "forms/text.h"
 #include "project/deck_files.h"
 
@@ -78,6 +78,7 @@ void frmPrepare::AskAndSaveTmpWmlDocToWmlDoc(bool Ask)
 void frmPrepare::writeDeckFile()
 {
     WriteDeck(session_.document);
+    if (!mayMend()) throw FileFailure(word(word::kNotSaved).toStdString());
     const auto& first = session_.document.deck.front();
     replaceFile(deckPath(), session_.document.workFiles.read(first.wmlDir + first.wmlFile));
     rememberFile();
@@ -108,11 +109,23 @@ void frmPrepare::requireOwnFile()
 }
 
 /// Once for each deck that was opened, as soon as it is shown.
-void frmPrepare::warnOfCosts()
+void frmPrepare::lookAtNewDeck()
 {
     if (!std::exchange(deckIsNew_, false) || !deckIsOpen()) return;
+    const bool isRecovered = losesNothing(session_.document) && docChanged();
+    if (isRecovered && regularFileExists(deckPath()))
+        mendsMade_ = mendsOfFile(readFile(deckPath()));
+    warnOfCosts();
+}
+
+void frmPrepare::warnOfCosts()
+{
     const auto costs = costsOfSaving(session_.document);
-    if (costs.isEmpty() || !offerStandardOutput(costs)) return;
+    if (costs.empty()) return;
+    const auto answer = askAboutCosts(costs);
+    if (answer == CostsAnswer::Keep) return;
+    if (answer == CostsAnswer::StandardAlways)
+        session_.settings.WriteSetting("StandardOutput", "Yes");
     useStandardOutput();
 }
 
@@ -120,11 +133,20 @@ void frmPrepare::warnOfCosts()
 /// with changes, such as a recovered one, keeps them and is written by the switch from now on.
 void frmPrepare::useStandardOutput()
 {
-    session_.settings.WriteSetting("StandardOutput", "Yes");
-    session_.document.output = OutputRules(true);
-    if (docChanged()) return;
+    if (docChanged()) {
+        session_.document.output = OutputRules(true);
+        return;
+    }
     const auto first = session_.document.deck.front();
-    OpenDocument(session_, first.deckFile, first.deckDir);
+    OpenDocument(session_, first.deckFile, first.deckDir, OutputRules(true));
+}
+
+/// Asked of a deck that is generated. Once a deck: who assented is not asked again.
+bool frmPrepare::mayMend()
+{
+    const auto mends = mendsMade_ + mendsMade(session_.document);
+    if (mends.isEmpty() || mayMend_) return true;
+    return mayMend_ = askAboutMends(mends);
 }
 
 } // namespace quillmere

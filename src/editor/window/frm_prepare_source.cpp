@@ -7,6 +7,7 @@
 #include "document/platform/word_ids.h"
 #include "document/standard/deck_source.h"
 #include "document/text/text_lines.h"
+#include "editor/window/deck_mends.h"
 #include "forms/text.h"
 
 #include <QApplication>
@@ -77,6 +78,22 @@ void replaceText(SourceEdit& view, const QString& wanted)
     view.setTextCursor(cursor);
 }
 
+/// A text as the view shows it. That of a deck without loss is a file in its encoding.
+QString shownIn(const DocumentSession& session, const std::string& text)
+{
+    return losesNothing(session) ? QString::fromStdString(withCrLf(shownSource(text)))
+                                 : shownText(withCrLf(text));
+}
+
+/// What the view shows as the text of shownIn.
+std::string textOf(const DocumentSession& session, const SourceEdit& view)
+{
+    if (!losesNothing(session)) return view.wml();
+    const auto& first = session.deck.front();
+    const auto file = session.workFiles.read(first.wmlDir + first.wmlFile);
+    return editedSource(file, view.source().toStdString());
+}
+
 /// Makes sure that record 0 names a file for the pristine copy.
 void namePristine(DocumentSession& session)
 {
@@ -112,7 +129,7 @@ void frmPrepare::showSource()
     const auto file = session_.document.workFiles.read(first.wmlDir + first.wmlFile);
     objBrowserCard->hide();
     mScriptChangedBefore = mScriptChanged;
-    txtScript->setWml(withCrLf(losesNothing(session_.document) ? shownSource(file) : file));
+    txtScript->setPlainText(shownIn(session_.document, file));
     const auto text = txtScript->source();
     if (mScriptUndo.front().isEmpty()) mScriptUndo.front() = text;
     if (mScriptInitial.isEmpty()) mScriptInitial = text;
@@ -132,6 +149,8 @@ void frmPrepare::SetScriptUndoFlagsBack()
     surfaceShows_.clear();
     dropStoredSource();
     deckIsNew_ = true;
+    mendsMade_.clear();
+    mayMend_ = false;
 }
 
 void frmPrepare::txtScript_Change()
@@ -149,7 +168,7 @@ void frmPrepare::storeSource()
     auto& files = session_.document.workFiles;
     if (session_.sourcePath.empty())
         session_.sourcePath = files.directory() + files.createFile(kSourcePrefix, kSourceSuffix);
-    files.write(session_.sourcePath, txtScript->wml());
+    files.write(session_.sourcePath, textOf(session_.document, *txtScript));
     tellStored();
 }
 
@@ -165,7 +184,7 @@ void frmPrepare::dropStoredSource()
 void frmPrepare::resumeSource(const std::string& wml)
 {
     if (!mScriptView) btnScript_Click();
-    txtScript->setWml(wml);
+    txtScript->setPlainText(shownIn(session_.document, wml));
     storeSource();
 }
 
@@ -201,18 +220,19 @@ void frmPrepare::SavePreparedDokumentAndShowArea(bool Show)
     SetFocusToBrowser();
 }
 
-/// Loads the deck from the text. Where that fails all files are as before and the view stays.
+/// Loads the deck from the text. Where that fails all files are as before and the view stays. A
+/// deck without loss stays as it was opened where nothing was written.
 void frmPrepare::takeSource()
 {
     auto& document = session_.document;
+    if (losesNothing(document) && !mScriptChanged) return;
     namePristine(document);
     const auto first = document.deck.front();
     const KeptFile wml(document.workFiles, first.wmlDir + first.wmlFile);
     const KeptFile pristine(document.workFiles, first.pristineDir + first.pristineFile);
-    const bool keepsFile = losesNothing(document) && document.output.losesNothing();
-    const auto text = keepsFile
-        ? editedSource(document.workFiles.read(first.wmlDir + first.wmlFile), txtScript->wml())
-        : txtScript->wml() + "\r\n";
+    auto text = textOf(document, *txtScript);
+    if (!losesNothing(document)) text += "\r\n";
+    const auto mends = mendsMade(document);
     try {
         document.workFiles.write(first.wmlDir + first.wmlFile, text);
         document.workFiles.write(first.pristineDir + first.pristineFile, text);
@@ -223,6 +243,7 @@ void frmPrepare::takeSource()
         pristine.putBack();
         throw;
     }
+    mendsMade_ += mends;
     surfaceShows_.clear();
     if (std::exchange(mScriptChanged, false)) mDocChanged = true;
     const int last = static_cast<int>(areaCount(document.deck)) - 1;

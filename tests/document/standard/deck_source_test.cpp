@@ -12,8 +12,12 @@ TEST(EditedSource, KeepsTheBytesOfLinesThatAreAsTheyWere)
     };
     const Row rows[] = {
         {"<wml>\r\n <p>\xC3\xA4\xE2\x86\x92</p>\n</wml>", "", "", ""},
-        {"<wml>\n <p>\xC3\xA4\xE2\x86\x92</p>\n a\r\n</wml>\n", " a", " \xE4",
+        {"<wml>\n <p>\xC3\xA4\xE2\x86\x92</p>\n a\r\n</wml>\n", " a", " \xC3\xA4",
             "<wml>\n <p>\xC3\xA4\xE2\x86\x92</p>\n \xC3\xA4\n</wml>\n"},
+        {"<?xml version=\"1.0\" encoding=\"iso-8859-1\"?>\n\xE4?\n", "?\r\n",
+            "\xC3\xB6\xE2\x86\x92\r\n",
+            "<?xml version=\"1.0\" encoding=\"iso-8859-1\"?>\n\xE4\xF6&#8594;\n"},
+        {"\xE2\x80\xA8 und \xE2\x86\x92\n", "", "", ""},
         {"a\nb\nc", "b\r\n", "", "a\nc"},
         {"a\rb", "b", "b\r\nneu", "a\rb\rneu"},
         {"", "", "neu\nzwei", "neu\r\nzwei"},

@@ -39,7 +39,7 @@ struct AuthoringSession : Author {
     explicit AuthoringSession(bool standard)
     {
         folder.put("haus.wbmp", kPicture);
-        session.document.output = OutputRules(standard);
+        settings.WriteSetting("StandardOutput", standard ? "Yes" : "No");
         for (const auto* note : {"ShowOptionMessage", "ShowImageMessage"})
             settings.WriteSetting(note, "No");
     }

@@ -1,5 +1,7 @@
+#include "document/text/failure.h"
 #include "editor/window/deck_costs.h"
 #include "editor/window/window_desk.h"
+#include "gui/modal.h"
 
 #include <QDragEnterEvent>
 #include <QDropEvent>
@@ -143,26 +145,150 @@ TEST(Dropping, OpensADeckAndRefusesOneThatIsTooLong)
     EXPECT_NE(desk.messages.log[0].find("zu lang"), std::string::npos);
 }
 
-TEST(Costs, AreToldOnceForADeckAndTheSwitchIsOffered)
+/// A deck that loses things by the default; its texts are in UTF-8.
+constexpr const char* kForm
+    = "<?xml version=\"1.0\"?>\n<wml>\n"
+      "<template><do type=\"prev\" label=\"Zur\xC3\xBC"
+      "ck\"><prev/></do></template>\n"
+      "<card id=\"a\" title=\"Ort\" ontimer=\"#b\">\n\t<timer value='50'/>\r\n"
+      "<p>Caf\xC3\xA9 <input name=\"ort\"/><input name=\"tag\" format=\"NN\"/></p>\n</card>\n"
+      "<card id=\"b\"><p>Ende</p></card>\n</wml>";
+
+/// Puts the one in place of the other, which is there once.
+std::string with(std::string text, const std::string& before, const std::string& after)
+{
+    return text.replace(text.find(before), before.size(), after);
+}
+
+void typeAndSave(WindowDesk& desk, const char* there)
+{
+    QTest::qWaitForWindowActive(&desk.window); // a form may have stood there
+    desk.caretBehind(there);
+    desk.type("x");
+    desk.choose("mnuSave");
+}
+
+TEST(Costs, AreToldOnceForADeckByTheirKinds)
 {
     WindowDesk desk;
     desk.openCards({"nichts"});
     EXPECT_TRUE(desk.costs.empty());
-    desk.open(deckOf({"Caf\xE9 <em>schr\xE4g</em>"}));
+    desk.open(kForm);
     ASSERT_EQ(desk.costs.size(), 1U);
-    EXPECT_TRUE(desk.costs[0].join('|').contains(QString::fromUtf8("Café")));
+    const auto& costs = desk.costs[0];
+    const auto fields = std::ranges::find(costs, "Eingabefelder <input>", &DeckCost::name);
+    ASSERT_NE(fields, costs.end());
+    EXPECT_EQ(fields->count, 2U);
+    EXPECT_EQ(fields->examples.front(), "Zeile 6: <input name=\"ort\"/>");
     desk.click("btnAreaOne");
     EXPECT_EQ(desk.costs.size(), 1U);
-    EXPECT_FALSE(isYes(desk.settings, "StandardOutput"));
+    typeAndSave(desk, "Caf");
+    EXPECT_EQ(desk.saved().find("<input"), std::string::npos) << "as told";
+}
 
-    desk.wantsStandard = true;
-    desk.open(deckOf({"Caf\xE9"}));
-    EXPECT_EQ(desk.costs.size(), 2U);
-    EXPECT_TRUE(isYes(desk.settings, "StandardOutput"));
-    desk.caretBehind("Caf");
+TEST(Costs, AreAvoidedForOneDeckOrForAllByTheFormsButtons)
+{
+    for (const bool isAlways : {false, true}) {
+        SCOPED_TRACE(isAlways);
+        WindowDesk desk;
+        desk.window.askAboutCosts = [&](const DeckCosts& costs) {
+            desk.costs.push_back(costs);
+            return frmDeckChanges::ask(desk.session, costs, &desk.window);
+        };
+        const auto* button = isAlways ? "btnStandardAlways" : "btnStandardOnce";
+        withNextModal([&](QWidget& form) { click(form, button); });
+        desk.open(kForm);
+        EXPECT_EQ(isYes(desk.settings, "StandardOutput"), isAlways);
+        typeAndSave(desk, "Caf");
+        EXPECT_EQ(desk.saved(), with(kForm, "Caf", "Cafx"));
+        desk.folder.put("fort.wml", std::string(40000, 'x'));
+        if (!isAlways) { // a deck that cannot be opened leaves this one and its rules
+            EXPECT_THROW(
+                OpenDocument(desk.session, "fort.wml", desk.folder.path()), RuntimeFailure);
+        }
+        EXPECT_TRUE(desk.session.document.output.losesNothing());
+        if (!isAlways) withNextModal([](QWidget& form) { click(form, "btnKeep"); });
+        desk.open(kForm); // the next one goes by the setting
+        EXPECT_EQ(desk.costs.size(), isAlways ? 1U : 2U);
+        EXPECT_EQ(desk.session.document.output.losesNothing(), isAlways);
+    }
+}
+
+struct StandardDesk : WindowDesk {
+    std::vector<QStringList> mends; ///< that were told
+    bool mayMend = false;
+
+    explicit StandardDesk(const std::string& file)
+    {
+        settings.WriteSetting("StandardOutput", "Yes");
+        window.askAboutMends = [this](const QStringList& told) {
+            mends.push_back(told);
+            return mayMend;
+        };
+        open(file);
+    }
+};
+
+const std::string kBroken = "<wml>\n<card id=\"a\">\n<p>eins <b>zwei</p>\n</card></wml>\n";
+
+TEST(Mends, AreAskedForBeforeASaveThatMakesThemAndOnceOnly)
+{
+    StandardDesk desk(kBroken);
+    desk.window.setDocChanged(true);
+    desk.choose("mnuSave"); // nothing was edited
+    EXPECT_TRUE(desk.mends.empty());
+    EXPECT_EQ(desk.saved(), kBroken);
+
+    typeAndSave(desk, "eins");
+    ASSERT_EQ(desk.mends.size(), 1U);
+    EXPECT_EQ(desk.mends[0], QStringList("Zeile 3: Ein fehlendes Ende wurde ergänzt: </b>"));
+    EXPECT_EQ(desk.saved(), kBroken);
+    EXPECT_TRUE(desk.window.docChanged());
+    EXPECT_NE(desk.surface().DocumentHTML().find("einsx"), std::string::npos);
+
+    desk.mayMend = true;
+    typeAndSave(desk, "einsx");
+    EXPECT_EQ(desk.mends.size(), 2U);
+    EXPECT_EQ(desk.saved(), with(with(kBroken, "eins", "einsxx"), "</p>", "</b></p>"));
+    EXPECT_FALSE(desk.window.docChanged());
+    typeAndSave(desk, "einsxx");
+    EXPECT_EQ(desk.mends.size(), 2U);
+}
+
+TEST(Mends, AreAskedForByTheForm)
+{
+    StandardDesk desk(kBroken);
+    desk.window.askAboutMends = [&](const QStringList& told) {
+        return frmDeckChanges::mayMend(desk.session, told, &desk.window);
+    };
+    for (const auto* button : {"btnLeave", "btnMend"}) {
+        withNextModal([&](QWidget& form) { click(form, button); });
+        typeAndSave(desk, "eins");
+        EXPECT_EQ(desk.saved() == kBroken, button == std::string("btnLeave"));
+    }
+}
+
+TEST(Mends, OfTheSurfacesTextAreNotForgottenInTheSourceView)
+{
+    StandardDesk desk(kBroken);
+    auto& source = desk.control<SourceEdit>("txtScript");
+    const auto typeInSource = [&] {
+        desk.click("btnScript");
+        source.find("zwei");
+        source.setFocus();
+        desk.type("drei");
+        desk.choose("mnuSave");
+    };
+    typeInSource(); // a person's own text is the person's, faults included
+    EXPECT_TRUE(desk.mends.empty());
+    EXPECT_EQ(desk.saved(), with(kBroken, "zwei", "drei"));
+
+    desk.open(kBroken);
+    desk.caretBehind("eins");
     desk.type("x");
-    desk.choose("mnuSave");
-    EXPECT_NE(desk.saved().find("Cafx\xC3\xA9"), std::string::npos) << desk.saved(); // as opened
+    typeInSource();
+    EXPECT_EQ(desk.mends.size(), 1U);
+    EXPECT_EQ(desk.saved(), kBroken);
 }
 
 TEST(Costs, OfALargeDeckAreKnownInABlink)
@@ -175,7 +301,7 @@ TEST(Costs, OfALargeDeckAreKnownInABlink)
     ASSERT_GT(deck.size(), 29000U);
     QElapsedTimer time;
     time.start();
-    EXPECT_FALSE(costsOfSaving(desk.session.document, deck, desk.folder.path()).isEmpty());
+    EXPECT_FALSE(costsOfSaving(desk.session.document, deck, desk.folder.path()).empty());
     EXPECT_LT(time.elapsed(), 100);
 }
 

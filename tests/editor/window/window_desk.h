@@ -35,16 +35,16 @@ inline std::string deckOf(const std::vector<std::string>& texts)
 /// The main window with real controls, and a person with prepared answers.
 struct WindowDesk : WindowSession {
     frmPrepare window{session, workFiles};
-    std::vector<QStringList> costs; ///< that were offered
-    bool wantsStandard = false;
+    std::vector<DeckCosts> costs; ///< that were told
+    CostsAnswer costsAnswer = CostsAnswer::Keep;
 
     explicit WindowDesk(const std::string& skins = "Skins")
         : WindowSession(skins)
     {
         ReadEditorSkins(session.skins, settings);
-        window.offerStandardOutput = [this](const QStringList& told) {
+        window.askAboutCosts = [this](const DeckCosts& told) {
             costs.push_back(told);
-            return wantsStandard;
+            return costsAnswer;
         };
         window.Form_Load();
         window.applySkin();
