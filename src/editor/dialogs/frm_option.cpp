@@ -32,7 +32,12 @@ void frmOption::btnNew_Click()
     const OptionSettings wanted{
         captionMarkup(txtCaption->text().toStdU16String()), objFrmLink->target()};
     const auto text = designText();
-    if (NewElement) return apply(SetOption(text, mOptionPos, mOptionFound, wanted, rules()));
+    if (NewElement) {
+        const auto caret = surface().selection().marked.end;
+        const int place
+            = mOptionFound ? newOptionPosition(text, mOptionPos, caret, rules()) : mOptionPos;
+        return apply(SetOption(text, place, mOptionFound, wanted, rules()));
+    }
     applyToFound(
         ReplaceOption(text, mOptionPos, wanted, rules()), GetOption(text, mOptionPos).has_value());
 }

@@ -119,7 +119,9 @@ std::string linkInPlace(
     for (std::size_t i = 0; i < page.elements.size(); ++i) {
         const auto& element = page.elements[i];
         const auto holdsTheMarked = [&](const PageItem& item) {
-            return isWithin(item, element.whole()) == isMarked(item, marked);
+            const bool isMarkedOne = isMarked(item, marked);
+            return isWithin(item, element.whole()) == isMarkedOne
+                || (isMarkedOne && item.kind == ItemKind::Blank);
         };
         if (element.kind == PageElement::Kind::Format
             && std::ranges::all_of(page.items, holdsTheMarked))

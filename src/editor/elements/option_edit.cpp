@@ -160,6 +160,15 @@ ElementEdit SetOption(std::string_view text, int position, bool optionFound,
         renumbered(withPiece(text, {offset, offset}, optionMarkup(wanted), rules), rules), number);
 }
 
+int newOptionPosition(
+    std::string_view text, int position, std::size_t caret, const OutputRules& rules)
+{
+    const auto option = optionFrom(text, searchOffset(position));
+    const bool isBehind = option && rules.losesNothing() && !option->caption.empty()
+        && caret >= option->caption.end;
+    return isBehind ? static_cast<int>(option->end) : position;
+}
+
 ElementEdit ReplaceOption(
     std::string_view text, int position, const OptionSettings& wanted, const OutputRules& rules)
 {

@@ -29,6 +29,12 @@ struct OptionSettings {
 [[nodiscard]] ElementEdit SetOption(std::string_view text, int position, bool optionFound,
     const OptionSettings& wanted, const OutputRules& rules = OutputRules());
 
+/// Where a new option goes in while the caret stands in the first one at or behind the position:
+/// ahead of that one; where nothing is lost behind it if the caret stands behind its caption, as it
+/// does behind a list that ends its line.
+[[nodiscard]] int newOptionPosition(
+    std::string_view text, int position, std::size_t caret, const OutputRules& rules);
+
 /// Makes the first option at or behind the position what is wanted, as DeleteOption with `Replace`
 /// and SetOption at the same place would: so by the default the list of an only option is a new
 /// one, with one more <br/> behind it. Where nothing is lost no <br/> comes, other attributes of

@@ -82,6 +82,10 @@ TEST(SetOption, PutsAnotherAheadOfTheMarkedOne)
     const auto text = listText(kTwo);
     const auto edit = SetOption(text, positionOf(text, "b"), true, {"n", "#n"});
     EXPECT_EQ(edit.text, listText("<p>x<!--select-->[a][n][b]<!--/select--><br/>y</p>"));
+    const auto end = text.find("<!--/option", static_cast<std::size_t>(positionOf(text, "b")));
+    const auto behind = newOptionPosition(text, positionOf(text, "b"), end, kLossless);
+    EXPECT_EQ(text.find("<!--/select"), static_cast<std::size_t>(behind));
+    EXPECT_EQ(newOptionPosition(text, 40, end - 1, kLossless), 40);
 }
 
 TEST(ReplaceOption, KeepsThePlace)

@@ -83,7 +83,7 @@ TEST(SetTable, ChangesWhatIsWanted)
         {"cells of another spelling do not count",
             "<table title=\"n\" align=\"L\" columns=\"1\"><tr><TD>a</TD></tr></table>",
             table("n", "L", 1, 2),
-            "<table title=\"n\" align=\"L\" columns=\"2\"><tr><TD>a</TD><td>|Zelle</td>"
+            "<table title=\"n\" align=\"L\" columns=\"2\"><tr><TD>|a</TD><td>Zelle</td>"
             "<td>Zelle</td></tr></table>"},
         {"cells without ends",
             "<table title=\"n\" align=\"L\" columns=\"2\"><tr><td>a<td>b</tr></table>",
