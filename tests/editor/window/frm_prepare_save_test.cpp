@@ -162,7 +162,8 @@ std::string with(std::string text, const std::string& before, const std::string&
 
 void typeAndSave(WindowDesk& desk, const char* there)
 {
-    QTest::qWaitForWindowActive(&desk.window); // a form may have stood there
+    desk.window.activateWindow(); // a form may have stood there
+    EXPECT_TRUE(QTest::qWaitForWindowActive(&desk.window));
     desk.caretBehind(there);
     desk.type("x");
     desk.choose("mnuSave");
