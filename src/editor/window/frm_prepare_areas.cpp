@@ -124,7 +124,7 @@ void frmPrepare::showArea()
     showCaptions();
     const auto path = shownDesignPath();
     if (surfaceShows_.empty()) objBrowserCard->hide(); // until it shows something of this deck
-    objBrowserCard->setRules(session_.document.output);
+    objBrowserCard->setRules(OutputRules(losesNothing(session_.document)));
     objBrowserCard->LoadURL(path);
     surfaceShows_ = path;
     objBrowserCard->show();
