@@ -21,6 +21,11 @@ namespace {
 
 using Kind = DesignPiece::Kind;
 
+bool isAction(WmlElement element)
+{
+    return element == WmlElement::Do || element == WmlElement::Go;
+}
+
 class CardWriter {
 public:
     CardWriter(const DeckOfCards& deck, const CardPieces& card, TokenWriter& result)
@@ -34,6 +39,9 @@ public:
 private:
     void keepListText(std::size_t now);
     void followNesting(const DesignPiece& piece);
+    void noteAction(const DesignPiece& piece);
+    void addNew(std::string_view text);
+    void endAction();
     void writeKept(std::size_t now);
     void writeChanged(std::size_t now);
     void writeNew(std::size_t now);
@@ -56,6 +64,8 @@ private:
     TokenWriter& result_;
     std::vector<WmlElement> open_; ///< as far as written
     bool isInNewOption_ = false;
+    bool goesOut_ = false; ///< the new piece at hand may not stand in its action
+    std::string behindAction_;
     std::set<std::string> startNames_; ///< of elements that WML has not
     std::set<std::string> endNames_;
     std::unordered_map<std::uint64_t, std::uint32_t> sources_; ///< pieces of `then` by their keys
@@ -70,6 +80,8 @@ void CardWriter::write()
     }
     for (std::size_t i = 0; i < card_.now.size(); ++i) {
         keepListText(i);
+        noteAction(card_.now[i]);
+        if (i + 1 == card_.now.size()) endAction();
         if (card_.places[i] != kNoPiece)
             writeKept(i);
         else if (card_.changedFrom[i] != kNoPiece)
@@ -100,6 +112,28 @@ void CardWriter::followNesting(const DesignPiece& piece)
     if (piece.kind != Kind::End) return;
     const auto start = std::find(open_.rbegin(), open_.rend(), piece.element);
     if (start != open_.rend()) open_.erase(std::prev(start.base()), open_.end());
+    if (std::ranges::none_of(open_, isAction)) endAction();
+}
+
+/// Actions hold no text: what is typed between their parameters goes behind them.
+void CardWriter::noteAction(const DesignPiece& piece)
+{
+    const bool isPart = piece.kind == Kind::Atom ? isAction(parent()) : isAction(piece.element);
+    const bool isLayout = piece.kind == Kind::Space && behindAction_.empty();
+    goesOut_ = std::ranges::any_of(open_, isAction) && !isPart && !isLayout;
+}
+
+void CardWriter::addNew(std::string_view text)
+{
+    if (goesOut_)
+        behindAction_ += text;
+    else
+        result_.addNew(text);
+}
+
+void CardWriter::endAction()
+{
+    if (!behindAction_.empty()) result_.addNew(std::exchange(behindAction_, {}));
 }
 
 /// Whether the piece is the start of an element that was written as <p/>; its end follows it.
@@ -207,7 +241,7 @@ void CardWriter::writeBlanks(std::size_t now)
         for (const auto then : known->second)
             blanks += sourceOf(card_.tokens[then]);
     blanks.resize(card_.now[now].text.size(), ' ');
-    result_.addNew(blanks);
+    addNew(blanks);
 }
 
 void CardWriter::writeNew(std::size_t now)
@@ -215,22 +249,21 @@ void CardWriter::writeNew(std::size_t now)
     const auto& piece = card_.now[now];
     if (piece.kind == Kind::Space) return writeBlanks(now);
     const bool isBreak = piece.element == WmlElement::LineBreak && piece.kind == Kind::Single;
-    if (isBreak && parent() == WmlElement::Option) return result_.addNew(" "); // of one line each
-    if (const auto same = sourceOfSame(piece); !same.empty()) return result_.addNew(same);
-    if (piece.kind == Kind::Atom)
-        return result_.addNew(deck_.bytes.encoded(quillmere::sourceOf(piece)));
+    if (isBreak && parent() == WmlElement::Option) return addNew(" "); // of one line each
+    if (const auto same = sourceOfSame(piece); !same.empty()) return addNew(same);
+    if (piece.kind == Kind::Atom) return addNew(deck_.bytes.encoded(quillmere::sourceOf(piece)));
     if (piece.kind != Kind::Word) return writeNewTag(piece);
     const auto text = writtenText(shownText(piece.text), deck_.manner.knowsHardBlank);
-    result_.addNew(deck_.bytes.encoded(text));
+    addNew(deck_.bytes.encoded(text));
 }
 
 void CardWriter::writeNewTag(const DesignPiece& piece)
 {
     const auto known = ruleOf(piece.element).name;
     const std::string name(piece.element == WmlElement::Other ? piece.name : known);
-    if (piece.kind == Kind::End) return result_.addNew("</" + name + ">");
+    if (piece.kind == Kind::End) return addNew("</" + name + ">");
     const auto attributes = deckAttributes(piece, deck_.roads);
-    result_.addNew(newTag(
+    addNew(newTag(
         name, piece.element, attributes, piece.kind == Kind::Single, deck_.bytes, deck_.manner));
 }
 

@@ -177,10 +177,13 @@ std::vector<Item> inOrder(const std::vector<Item>& items, const std::vector<std:
     return result;
 }
 
-/// White space that was moved is written as blanks.
+/// White space that was moved is written as blanks. What only changed is not new.
 void reorder(CardPieces& card)
 {
-    const auto order = orderedPieces(card.now, card.places);
+    auto known = card.places;
+    for (std::size_t i = 0; i < known.size(); ++i)
+        if (known[i] == kNoPiece) known[i] = card.changedFrom[i];
+    const auto order = orderedPieces(card.now, known);
     if (std::ranges::is_sorted(order)) return;
     card.now = inOrder(card.now, order);
     card.places = inOrder(card.places, order);

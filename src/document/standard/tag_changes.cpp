@@ -34,6 +34,17 @@ std::string_view withoutSpaceBehind(std::string_view text)
     return text;
 }
 
+/// With the '<' ahead of the name, behind which the first attribute of a bare tag stands.
+std::size_t nameLength(std::string_view tag)
+{
+    const auto attributes = attributesOf(tag);
+    if (!attributes.empty())
+        tag = tag.substr(0, static_cast<std::size_t>(attributes[0].source.data() - tag.data()));
+    else
+        tag.remove_suffix(tag.ends_with("/>") ? 2 : 1);
+    return withoutSpaceBehind(tag).size();
+}
+
 class TagWriter {
 public:
     TagWriter(const DeckBytes& deck, const DeckManner& manner)
@@ -79,7 +90,8 @@ std::string changedTag(std::string_view source, WmlElement element, Attributes t
 {
     TagWriter result(deck, manner);
     std::set<std::string> written;
-    const auto* copied = source.data();
+    const auto* copied = source.data() + nameLength(source);
+    result.append({source.data(), copied});
     for (const auto& attribute : attributesOf(source)) {
         const auto name = deck.decoded(attribute.name);
         written.insert(name);
