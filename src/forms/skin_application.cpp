@@ -128,6 +128,22 @@ void ApplyItem(QWidget& control, const SkinItem& item, const QString& directory)
     if (!picture.isNull()) showPicture(control, picture);
 }
 
+void decodePicturesAhead(SkinTables& tables, const SettingsStore& settings, qreal ratio)
+{
+    const auto* active = activeEditorSkin(tables);
+    if (active == nullptr) return;
+    const auto decode = [directory = skinDirectory(settings), ratio](const SkinItem& item) {
+        const auto name = item.Picture.text();
+        if (!name.empty()) static_cast<void>(skinPicture(directory + shownPath(name), ratio));
+    };
+    for (const auto& item : active->items)
+        decode(item);
+    for (const auto& button : active->buttons) {
+        decode(button.clickArea);
+        decode(button.picture);
+    }
+}
+
 PageLook pageLook(const SkinItem& item, const ScreenTwips& twips)
 {
     return {placeOf(item), skinColour(item.ForeColor), skinColour(item.BackColor),

@@ -32,6 +32,10 @@ using StylePage = std::function<void(const PageLook&)>;
 /// A colour of a record, which has red in its low byte.
 [[nodiscard]] QColor skinColour(std::int32_t colour);
 
+/// Decodes the pictures of the active editor skin, so that its application finds them decoded.
+/// `ratio` is that of the screen's pixels. What cannot be decoded is passed over.
+void decodePicturesAhead(SkinTables& tables, const SettingsStore& settings, qreal ratio);
+
 /// Sets one control from one item: place (but for frmPrepare), size, font, colours and picture, in
 /// this order. What the item leaves blank stays, and so does the picture that cannot be loaded.
 /// `directory` ends in its separator.

@@ -4,10 +4,12 @@
 #include "forms/skin_picture.h"
 
 #include <QAbstractButton>
+#include <QDateTime>
 #include <QFileInfo>
 #include <QImageReader>
 #include <QLabel>
 #include <QMetaObject>
+#include <QPixmapCache>
 
 namespace quillmere {
 
@@ -15,14 +17,29 @@ namespace {
 
 constexpr int kLargestSide = 8192;
 
-QPixmap loaded(const QString& path)
+QPixmap decoded(const QString& path)
 {
-    if (!QFileInfo(path).isFile()) return {};
     QImageReader reader(path);
     reader.setDecideFormatFromContent(true);
     const QSize size = reader.size();
     if (!size.isValid() || size.width() > kLargestSide || size.height() > kLargestSide) return {};
     return QPixmap::fromImageReader(&reader);
+}
+
+/// Decoded once as long as the file stays as it is.
+QPixmap loaded(const QString& path)
+{
+    const QFileInfo file(path);
+    if (!file.isFile()) return {};
+    const auto key = QStringLiteral("skin %1 %2 %3")
+                         .arg(file.lastModified().toMSecsSinceEpoch())
+                         .arg(file.size())
+                         .arg(file.absoluteFilePath());
+    QPixmap picture;
+    if (QPixmapCache::find(key, &picture)) return picture;
+    picture = decoded(path);
+    QPixmapCache::insert(key, picture);
+    return picture;
 }
 
 QString doubleSized(const QString& path)

@@ -10,6 +10,8 @@
 #include <QPainter>
 #include <QScreen>
 
+#include <utility>
+
 namespace quillmere {
 
 namespace {
@@ -19,10 +21,12 @@ constexpr QSize kPlainSize{480, 300};
 
 } // namespace
 
-frmStart::frmStart(const QString& picture, std::function<void()> work, QWidget* parent)
+frmStart::frmStart(const QString& picture, std::function<void()> work, std::function<void()> ahead,
+    QWidget* parent)
     : QDialog(parent, Qt::SplashScreen | Qt::FramelessWindowHint)
     , picture_(skinPicture(picture, devicePixelRatioF()))
     , work_(std::move(work))
+    , ahead_(std::move(ahead))
 {
     setObjectName(QStringLiteral("frmStart"));
     objTimer.setSingleShot(true);
@@ -56,6 +60,7 @@ void frmStart::paintEvent(QPaintEvent* event)
 {
     QDialog::paintEvent(event);
     if (!picture_.isNull()) QPainter(this).drawPixmap(0, 0, picture_);
+    if (ahead_) QTimer::singleShot(0, this, std::exchange(ahead_, nullptr));
 }
 
 void frmStart::keyPressEvent(QKeyEvent* event)

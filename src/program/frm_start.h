@@ -8,13 +8,16 @@
 
 namespace quillmere {
 
-/// The splash. It stands for 750 ms from its first showing, does its work then, and goes.
+/// The splash. It stands for 750 ms from its first showing, does its work then, and goes. While it
+/// stands there is time to get ready for what comes behind it.
 class frmStart : public QDialog {
     Q_OBJECT
 
 public:
     /// `picture` fills the form; without one that can be loaded the form is plain.
-    frmStart(const QString& picture, std::function<void()> work, QWidget* parent = nullptr);
+    /// `ahead` runs as soon as the form is painted.
+    frmStart(const QString& picture, std::function<void()> work,
+        std::function<void()> ahead = nullptr, QWidget* parent = nullptr);
 
 protected:
     void showEvent(QShowEvent* event) override;
@@ -30,6 +33,7 @@ private:
     QTimer objTimer;
     QPixmap picture_;
     std::function<void()> work_;
+    std::function<void()> ahead_; // until it has run
 };
 
 } // namespace quillmere

@@ -13,6 +13,7 @@
 #include "forms/help_window.h"
 #include "forms/overlay.h"
 #include "forms/screen_twips.h"
+#include "forms/skin_application.h"
 #include "forms/text.h"
 #include "forms/theme.h"
 #include "forms/trap.h"
@@ -113,7 +114,22 @@ void Program::showSplash()
 {
     const auto skins = settings_.ReadSetting("Skins");
     const auto picture = skins.empty() ? QString() : shownPath(skins + "splash.bmp");
-    frmStart(picture, [this] { loadResources(); }).exec();
+    frmStart(
+        picture, [this] { loadResources(); }, [this] { decodeSkinAhead(); })
+        .exec();
+}
+
+/// The pictures of the window, while the splash waits. What is wrong with a skin is told when it is
+/// applied.
+void Program::decodeSkinAhead()
+{
+    SkinTables tables;
+    try {
+        ReadEditorSkins(tables, settings_);
+        decodePicturesAhead(tables, settings_, window_.devicePixelRatioF());
+    } catch (const Failure&) {
+        return;
+    }
 }
 
 void Program::loadResources()

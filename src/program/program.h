@@ -58,6 +58,7 @@ private:
     // the start, in its order
     void ensureSettings();
     void showSplash();
+    void decodeSkinAhead();
     void loadResources();
     void translateQt();
     void applySkins();
