@@ -80,7 +80,7 @@ QString textIn(const Named (&rows)[size], std::string_view name, const QString& 
 
 QString actionName(std::string_view tag)
 {
-    if (const auto label = valueOf(tag, "label"); !label.isEmpty()) return label;
+    if (auto label = valueOf(tag, "label"); !label.isEmpty()) return label;
     const auto type = attributeOf(tag, "type");
     return textIn(kActions, type, valueOf(tag, "type"));
 }
@@ -173,7 +173,7 @@ const AtomRow* rowOf(const Atom& atom)
 QString tagName(QString tag)
 {
     if (tag.startsWith(u'<')) tag.remove(0, 1);
-    const auto end
+    const auto* const end
         = std::find_if(tag.cbegin(), tag.cend(), [](QChar c) { return c.isSpace() || c == u'>'; });
     if (end != tag.cbegin()) tag.truncate(end - tag.cbegin());
     return tag;

@@ -87,8 +87,8 @@ EditDraft::EditDraft(const SurfacePage& page, PagePlace from, PagePlace to, Firs
     }
     std::erase_if(itemsOutside_, [this](auto i) { return i >= firstItem() && i < endItem(); });
     std::ranges::sort(itemsOutside_);
-    const auto twice = std::ranges::unique(itemsOutside_); // of parts in several cells
-    itemsOutside_.erase(twice.begin(), twice.end());
+    const auto twice = std::unique(itemsOutside_.begin(), itemsOutside_.end());
+    itemsOutside_.erase(twice, itemsOutside_.end()); // of parts in several cells
     putAt_ = firstItem();
 }
 
