@@ -3,6 +3,7 @@
 #include "editor/elements/link_edit.h"
 
 #include "document/text/text_search.h"
+#include "document/wml/wml_elements.h"
 #include "editor/elements/format_tags.h"
 #include "editor/elements/typed_values.h"
 #include "editor/page/attribute_values.h"
@@ -77,6 +78,18 @@ bool isMarked(const PageItem& item, SourceRange marked)
     return item.source.begin < marked.end && item.source.end > marked.begin;
 }
 
+/// Whether the rules of WML allow a link where something is marked: in no entry of a list.
+bool mayHoldLink(const SurfacePage& page, SourceRange marked)
+{
+    auto innermost = WmlElement::Card;
+    for (const auto& element : page.elements) {
+        const bool isAround = element.start.end <= marked.begin && element.end.begin >= marked.end;
+        if (isAround && element.kind != PageElement::Kind::Format)
+            innermost = wmlElement(tagName(element.start.in(page.text)));
+    }
+    return innermost == WmlElement::Card || mayContain(innermost, WmlElement::Link);
+}
+
 std::string startTag(const LinkSettings& link, std::string_view otherAttributes = {})
 {
     return std::string("<a href=\"").append(link.target).append("\"").append(otherAttributes) + ">";
@@ -135,6 +148,7 @@ bool canBecomeLink(std::string_view text, SourceRange marked, const OutputRules&
 {
     const auto page = readSurfacePage(std::string(text), rules);
     const auto isInMarked = [marked](const PageItem& item) { return isMarked(item, marked); };
+    if (rules.losesNothing() && !mayHoldLink(page, marked)) return false;
     std::size_t blocks = 0;
     for (const auto& block : page.blocks) {
         const auto items = std::span(page.items).subspan(block.firstItem, itemCount(block));
@@ -159,7 +173,7 @@ std::optional<LinkSettings> GetLink(std::string_view text, int position)
 ElementEdit SetLink(
     std::string_view text, int position, const LinkSettings& wanted, const OutputRules& rules)
 {
-    const auto valid = ValidInsertPosition(position, text, rules.maxTextLength());
+    const auto valid = ValidInsertPosition(position, text, WmlElement::Link, rules);
     const auto place = static_cast<std::size_t>(std::max(valid, 0));
     return putIn(text, {place, place}, newLink(text, place, wanted, rules), rules);
 }
