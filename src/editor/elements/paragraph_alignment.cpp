@@ -7,6 +7,7 @@
 #include "document/text/text_search.h"
 #include "editor/elements/format_tags.h"
 #include "editor/elements/page_lines.h"
+#include "editor/page/attribute_values.h"
 #include "editor/page/markup_tags.h"
 
 #include <algorithm>
@@ -70,9 +71,10 @@ public:
     {
         for (std::size_t i = first_; i < end_;) {
             auto end = i + 1;
-            while (end < end_ && lines_[end].paragraph == lines_[i].paragraph)
+            while (end < end_ && lines_[end].paragraph == lines_[i].paragraph
+                && lines_[end].mayAlign == lines_[i].mayAlign)
                 ++end;
-            if (lines_[i].alignment != wanted_) align(i, end);
+            if (lines_[i].mayAlign && lines_[i].alignment != wanted_) align(i, end);
             i = end;
         }
         return std::move(splices_);
@@ -82,14 +84,24 @@ private:
     void align(std::size_t first, std::size_t end)
     {
         if (lines_[first].paragraph == kNone) return wrap(first, end);
+        const auto old = startTag(first).in(page_.text);
         if (isInSameParagraph(first - 1, first))
-            cut(first, paragraphTag(wanted_), true);
+            cut(first, secondTag(alignedTag(old), page_.rules), true);
         else if (!joinAhead(first))
-            splices_.push_back({startTag(first), std::string(paragraphTag(wanted_)), true});
+            splices_.push_back({startTag(first), alignedTag(old), true});
         if (isInSameParagraph(end - 1, end))
-            cut(end, startTag(first).in(page_.text), false);
+            cut(end, secondTag(old, page_.rules), false);
         else
             joinBehind(end);
+    }
+
+    /// The start tag of a paragraph as it is to be; where nothing is lost with its other
+    /// attributes.
+    [[nodiscard]] std::string alignedTag(std::string_view old) const
+    {
+        std::string tag(paragraphTag(wanted_));
+        if (!page_.rules.losesNothing()) return tag;
+        return tag.insert(tag.size() - 1, otherAttributes(old, {"align"}));
     }
 
     /// Puts a paragraph round lines that have none. A <br> to a line beside them goes, since the
@@ -166,18 +178,22 @@ private:
         return true;
     }
 
+    [[nodiscard]] bool mayJoin() const
+    {
+        return wanted_ == Alignment::Left && !page_.rules.losesNothing();
+    }
+
     [[nodiscard]] bool joinAhead(std::size_t line)
     {
-        const bool fits
-            = wanted_ == Alignment::Left && line > 0 && alignmentAfter(line - 1) == Alignment::Left;
+        const bool fits = mayJoin() && line > 0 && alignmentAfter(line - 1) == Alignment::Left;
         return fits && join(line, true);
     }
 
     /// A paragraph that is aligned as well joins by itself.
     void joinBehind(std::size_t line)
     {
-        const bool fits = wanted_ == Alignment::Left && line < lines_.size()
-            && lines_[line].alignment == Alignment::Left;
+        const bool fits
+            = mayJoin() && line < lines_.size() && lines_[line].alignment == Alignment::Left;
         if (fits) static_cast<void>(join(line, false));
     }
 
@@ -210,16 +226,25 @@ std::string_view paragraphTag(Alignment alignment)
     return kParagraphTags.at(static_cast<std::size_t>(alignment));
 }
 
-Alignment alignmentOf(std::string_view text, SourceRange marked)
+Alignment alignmentOf(std::string_view text, SourceRange marked, const OutputRules& rules)
 {
-    const auto lines = pageLines(readSurfacePage(std::string(text)));
+    const auto lines = pageLines(readSurfacePage(std::string(text), rules));
     const auto [first, end] = markedLines(lines, marked);
     return first < end ? lines[first].alignment : Alignment::Left;
 }
 
-bool holdsPicture(std::string_view text, SourceRange marked)
+bool takesNoAlignment(std::string_view text, SourceRange marked, const OutputRules& rules)
 {
-    const auto page = readSurfacePage(std::string(text));
+    const auto lines = pageLines(readSurfacePage(std::string(text), rules));
+    const auto [first, end] = markedLines(lines, marked);
+    return std::none_of(lines.begin() + static_cast<std::ptrdiff_t>(first),
+        lines.begin() + static_cast<std::ptrdiff_t>(end),
+        [](const PageLine& line) { return line.mayAlign; });
+}
+
+bool holdsPicture(std::string_view text, SourceRange marked, const OutputRules& rules)
+{
+    const auto page = readSurfacePage(std::string(text), rules);
     const auto lines = pageLines(page);
     const auto [first, end] = markedLines(lines, marked);
     if (first >= end) return false;
@@ -234,7 +259,7 @@ AlignedText alignLines(
     std::string_view text, SourceRange marked, Alignment alignment, const OutputRules& rules)
 {
     requireAddressable(text, rules.maxTextLength());
-    const auto page = readSurfacePage(std::string(text));
+    const auto page = readSurfacePage(std::string(text), rules);
     const auto splices = LineAlignment(page, marked, alignment).take();
     Rewriter result(page.text);
     for (const auto& splice : splices) {
