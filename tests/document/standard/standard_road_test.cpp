@@ -192,6 +192,11 @@ const EditRow kNewParts[] = {
     {"text and a break in a list", "<p><select><option>a</option></select></p>", "a<!--/option-->",
         "a<br/>b<!--/option-->c d",
         "<p><select><option>a b</option><option>c d</option></select></p>"},
+    {"formats and a link that were put into a link", "<p><a href=\"#a\">x</a><b>y</b></p>", ">x<",
+        "><b>x</b><a href=\"#b\">z</a><br/><", "<p><a href=\"#a\">xz<br/></a><b>y</b></p>"},
+    {"a break that was moved into an entry", "<p><select><option>ab</option></select>c<br/>d</p>",
+        "b<!--/option--><!--/select-->c<br/>", "<br/>b<!--/option--><!--/select-->c",
+        "<p><select><option>a b</option></select>cd</p>"},
     {"bare signs", "<p>a</p>", "a", "R&D <3 a>b", "<p>R&amp;D &lt;3 a&gt;b</p>"},
 };
 
