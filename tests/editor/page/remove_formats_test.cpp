@@ -13,6 +13,7 @@ TEST(RemoveFormats, ClosesAFormatAheadAndOpensItAgainBehind)
         const char* name;
         std::string before;
         std::string after;
+        bool losesNothing = false;
     } rows[] = {
         {"nothing marked", "<b>a|b</b>", "<b>a|b</b>"},
         {"nothing to take", "[ab]c", "ab|c"},
@@ -33,10 +34,11 @@ TEST(RemoveFormats, ClosesAFormatAheadAndOpensItAgainBehind)
             "<b>a</b><table><tr><td><b>b</b></td><td><b>c</b>d|</td></tr></table><b>e</b>"},
         {"blanks that only tags kept apart", "[a <b> b</b>]", "a &nbsp;b|"},
         {"an '&' that only tags kept apart", "[&<b>lt;</b>]", "&amp;lt;|"},
+        {"a link as a whole", "<b>a<a>b[c]d</a>e</b>", "<b>a</b><a>bc|d</a><b>e</b>", true},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);
-        const test::MarkedPage marked(row.before);
+        const test::MarkedPage marked(row.before, OutputRules(row.losesNothing));
         const auto edit = removeFormats(marked.page, marked.from, marked.to);
         EXPECT_EQ(test::editedWithCaret(marked.page, edit), row.after);
     }
