@@ -91,13 +91,28 @@ private:
         while (unit.endItem < end && page_.styles[page_.items[unit.endItem].style].link == link)
             ++unit.endItem;
         const auto& element = page_.elements[link];
-        const bool isWhole = !isBorder(page_.text, {element.start.end, unit.source.begin})
-            && !isBorder(page_.text, {page_.items[unit.endItem - 1].source.end, element.end.begin});
-        if (!isWhole) return unitOf(item);
+        if (element.kind == Kind::Link ? !hasPlainTags(unit, element) : !hasAllOf(unit, element))
+            return unitOf(item);
         unit.source = element.whole();
         unit.isBlank = false;
         unit.takesFormats |= page_.rules.losesNothing(); // an anchor may begin with its action
         return unit;
+    }
+
+    [[nodiscard]] bool hasPlainTags(const FormatUnit& unit, const PageElement& link) const
+    {
+        return !isBorder(page_.text, {link.start.end, unit.source.begin})
+            && !isBorder(page_.text, {page_.items[unit.endItem - 1].source.end, link.end.begin});
+    }
+
+    /// An anchor has its action between its items.
+    [[nodiscard]] bool hasAllOf(const FormatUnit& unit, const PageElement& anchor) const
+    {
+        const bool begins = unit.firstItem == 0
+            || page_.items[unit.firstItem - 1].source.end <= anchor.start.begin;
+        return begins
+            && (unit.endItem == page_.items.size()
+                || page_.items[unit.endItem].source.begin >= anchor.end.end);
     }
 
     void markLists()

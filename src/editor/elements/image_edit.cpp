@@ -122,9 +122,10 @@ ElementEdit SetImage(
 {
     const auto place = static_cast<std::size_t>(
         std::max(ValidInsertPosition(position, text, WmlElement::Image, rules), 0));
-    const auto markup = imageMarkup(wanted);
-    return {
-        withPiece(text, {place, place}, markup, rules), static_cast<int>(place + markup.size())};
+    const auto [start, end] = frameAt(readSurfacePage(std::string(text), rules), place);
+    const auto markup = std::string(start) + imageMarkup(wanted);
+    return {withPiece(text, {place, place}, markup + std::string(end), rules),
+        static_cast<int>(place + markup.size())};
 }
 
 ElementEdit ReplaceImage(

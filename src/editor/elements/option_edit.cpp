@@ -119,11 +119,12 @@ ElementEdit newList(std::string_view text, std::size_t offset, const OptionSetti
     const OutputRules& rules)
 {
     const int number = countOptions(text, 0, offset);
-    auto list = "<!--select-->" + optionMarkup(wanted) + "<!--/select-->";
+    const auto [start, end] = frameAt(readSurfacePage(std::string(text), rules), offset);
+    auto list = std::string(start) + "<!--select-->" + optionMarkup(wanted) + "<!--/select-->";
     if (!rules.losesNothing()) list += "<br/>";
-    const auto changed = withPiece(text, {offset, offset}, list, rules);
-    return withCaretBehindList(
-        renumbered(MoveFormatTagsOutOfSelect(changed, offset, rules), rules), number);
+    const auto changed = withPiece(text, {offset, offset}, list.append(end), rules);
+    const auto moved = MoveFormatTagsOutOfSelect(changed, offset + start.size(), rules);
+    return withCaretBehindList(renumbered(moved, rules), number);
 }
 
 } // namespace

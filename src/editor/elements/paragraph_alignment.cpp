@@ -108,15 +108,31 @@ private:
     /// paragraph's border takes its place.
     void wrap(std::size_t first, std::size_t end)
     {
-        const auto begin = lines_[first].source.begin;
-        const auto last = lines_[end - 1].source.end;
-        const auto ahead
-            = first > 0 && hasBreakBetween(first) ? lines_[first - 1].source.end : begin;
-        const auto behind = hasBreakBetween(end) ? lines_[end].source.begin : last;
+        const auto lines = SourceRange{lines_[first].source.begin, lines_[end - 1].source.end};
+        const auto [begin, last] = page_.rules.losesNothing() ? withoutHalves(lines) : lines;
+        if (begin >= last && begin != lines.begin) return;
+        const bool takesBreakAhead = first > 0 && begin == lines.begin && hasBreakBetween(first);
+        const auto ahead = takesBreakAhead ? lines_[first - 1].source.end : begin;
+        const bool takesBreakBehind = last == lines.end && hasBreakBetween(end);
+        const auto behind = takesBreakBehind ? lines_[end].source.begin : last;
         splices_.push_back({{ahead, begin},
             CloseOpenParagraphs(page_, kNone, begin, paragraphTag(wanted_)), true});
         splices_.push_back(
             {{last, behind}, CloseOpenParagraphs(page_, kNone, last, kParagraphEnd), false});
+    }
+
+    /// A range without the starts and ends of elements whose other half lies outside of it.
+    [[nodiscard]] SourceRange withoutHalves(SourceRange range) const
+    {
+        for (const auto& element : page_.elements) {
+            if (element.kind == PageElement::Kind::Format) continue;
+            const bool starts
+                = element.start.begin >= range.begin && element.start.end <= range.end;
+            const bool ends = element.end.begin >= range.begin && element.end.end <= range.end;
+            if (ends && !starts) range.begin = element.end.end;
+            if (starts && !ends) range.end = element.start.begin;
+        }
+        return range;
     }
 
     /// Whether a <br> or </br> and nothing else parts a line from the one ahead, and neither is

@@ -65,6 +65,11 @@ TEST(AlignLines, CutsParagraphsAtLines)
             "<!--#timer 1-->[<!--pre-->a<!--/pre--><p>b]</p><!--#do 2-->", kRight,
             "<!--#timer 1-->[<!--pre-->a<!--/pre--><p align=\"right\">b]</p><!--#do 2-->",
             lossless},
+        {"text that an element begins behind", "[<!--x-->a<!--/x--><!--y--><p>b]</p><!--/y-->",
+            kCenter,
+            "<p align=\"center\">[<!--x-->a<!--/x--></p>"
+            "<!--y--><p align=\"center\">b]</p><!--/y-->",
+            lossless},
         {"a group of fields is one line",
             "<p>a<br/><!--fieldset-->b<br/>" + table + "c|<!--/fieldset--></p>", kCenter,
             "<p>a</p><p align=\"center\"><!--fieldset-->b<br/>" + table + "c|<!--/fieldset--></p>",
