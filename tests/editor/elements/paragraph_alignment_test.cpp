@@ -30,9 +30,6 @@ TEST(AlignLines, CutsParagraphsAtLines)
     const OutputRules lossless(true);
     const std::string table = "<table><tr><td>t</td></tr></table>";
     const std::vector<Case> cases{
-        {"a paragraph", "<P>a|b</P>", kCenter, "<p align=\"center\">a|b</P>"},
-        {"a line in the middle", "<p>a<br/>b|<br/>c</p>", kCenter,
-            "<p>a</p><p align=\"center\">b|</p><p>c</p>"},
         {"and back", "<p>a</p><p align=\"center\">b|</p><p>c</p>", kLeft, "<p>a<br/>b|<br/>c</p>"},
         {"the first lines", "<p align=\"right\">a[<br/>b<br/>c]<br>d</p>", kCenter,
             "<p align=\"right\">a[</p><p align=\"center\">b<br/>c]</p><p align=\"right\">d</p>"},
@@ -53,7 +50,6 @@ TEST(AlignLines, CutsParagraphsAtLines)
             "<p>a</p><p "
             "align=\"center\"><!--select--><!--option-->b<br/>|c<!--/option--><!--/select--></"
             "p><p>d</p>"},
-        {"nothing to do", "<p align=left>|a</p>", kLeft, "<p align=left>|a</p>"},
         {"other attributes stay, the id once",
             "<p mode=\"nowrap\" id=\"x\"><b id=\"y\">a<br/>|b<br/>c</b></p>", kCenter,
             "<p mode=\"nowrap\" id=\"x\"><b id=\"y\">a</b></p>"
