@@ -143,7 +143,7 @@ bool frmPrepare::refusesTable(const Hit& hit, ElementKind kind)
     const auto text = ReadDesignText(session_.document, static_cast<std::size_t>(CurArea()));
     const bool isInCell = kind == ElementKind::Table && hit.Inside
         && objBrowserCard->selection().type != SurfaceSelection::Type::Control;
-    if (!isInCell && !IsInsideTable(text, hit.position, session_.document.output.maxTextLength()))
+    if (!isInCell && !IsInsideTable(text, hit.position, maxDesignLength(session_.document)))
         return false;
     ShowMsg(4);
     return true;
