@@ -53,8 +53,10 @@ QStringList mendsMade(const DocumentSession& session)
     return written == opened.file() ? QStringList() : shownMends(opened);
 }
 
-QStringList mendsOfFile(const std::string& file)
+QStringList mendsAheadOf(const DocumentSession& session, const std::string& file)
 {
+    const bool isOpened = session.deck.front().origin.deck->file() == file;
+    if (isOpened || file.size() > session.output.maxDeckLength()) return {};
     return shownMends(StandardDeck(file));
 }
 

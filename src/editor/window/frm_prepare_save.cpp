@@ -114,7 +114,7 @@ void frmPrepare::lookAtNewDeck()
     if (!std::exchange(deckIsNew_, false) || !deckIsOpen()) return;
     const bool isRecovered = losesNothing(session_.document) && docChanged();
     if (isRecovered && regularFileExists(deckPath()))
-        mendsMade_ = mendsOfFile(readFile(deckPath()));
+        mendsMade_ = mendsAheadOf(session_.document, readFile(deckPath()));
     warnOfCosts();
 }
 
