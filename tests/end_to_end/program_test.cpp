@@ -73,6 +73,26 @@ struct WholeProgram : testing::Test {
         EXPECT_EQ(saved(), kDeck);
         saveAndEnd(program, changed());
     }
+    /// Opens the deck, types, and kills the program once that was stored by itself.
+    void crash()
+    {
+        const auto program = open();
+        (void)mainWindow();
+        type();
+        std::this_thread::sleep_for(std::chrono::milliseconds(1500));
+        desktop.kill(program);
+    }
+    /// Starts the program anew and takes what it offers.
+    pid_t recover()
+    {
+        const auto program = desktop.start({QUILLMERE});
+        desktop.waitUntil("question over the window",
+            [&] { return desktop.windows("^MORVANE Quillmere$") == 2; });
+        rest();
+        press("Return");
+        (void)mainWindow();
+        return program;
+    }
     void setting(const std::string& line)
     {
         (void)desktop.folder.put("config/MORVANE/Quillmere.conf", "[General]\n" + line + "\n");
@@ -225,20 +245,11 @@ TEST_F(WholeProgram, SavesWithoutADirectoryOfWorkFiles)
 
 TEST_F(WholeProgram, OffersWhatAKilledProgramHadNotSaved)
 {
-    const auto program = open();
-    (void)mainWindow();
-    type();
-    std::this_thread::sleep_for(std::chrono::milliseconds(1500)); // until it was stored by itself
-    desktop.kill(program);
+    crash();
     EXPECT_EQ(saved(), kDeck);
     (void)desktop.folder.put("meine decks/index.wml", "<wml>fremd</wml>");
 
-    const auto next = desktop.start({QUILLMERE});
-    desktop.waitUntil(
-        "question over the window", [&] { return desktop.windows("^MORVANE Quillmere$") == 2; });
-    rest();
-    press("Return");
-    (void)mainWindow();
+    const auto next = recover();
     press("ctrl+s");
     desktop.waitUntil(
         "question of the other text", [&] { return desktop.windows("^MORVANE Quillmere$") == 1; });
@@ -249,6 +260,26 @@ TEST_F(WholeProgram, OffersWhatAKilledProgramHadNotSaved)
     (void)mainWindow();
     press("Escape");
     EXPECT_EQ(desktop.waitForEnd(next), 0);
+}
+
+TEST_F(WholeProgram, MendsARecoveredDeckInTheOpenAndNothingElse)
+{
+    const std::string ahead = "<wml>\n<card  id='a'>\n<p  >", words = "Guten <b>Tag";
+    const std::string behind = "</p></card>\n</wml>";
+    setting("StandardOutput=Yes");
+    (void)desktop.folder.put("meine decks/index.wml", ahead + words + behind);
+    crash();
+    const auto program = recover();
+    EXPECT_EQ(saved(), ahead + words + behind);
+    press("ctrl+s");
+    desktop.focus(desktop.window("Was das Speichern"));
+    rest();
+    press("Return"); // the mends are wanted
+    desktop.waitUntil("saved deck", [&] { return saved() != ahead + words + behind; });
+    EXPECT_EQ(saved(), ahead + "neu " + words + "</b>" + behind);
+    (void)mainWindow();
+    press("Escape");
+    EXPECT_EQ(desktop.waitForEnd(program), 0);
 }
 
 } // namespace
