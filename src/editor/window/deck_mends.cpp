@@ -53,10 +53,8 @@ QStringList mendsMade(const DocumentSession& session)
     return written == opened.file() ? QStringList() : shownMends(opened);
 }
 
-QStringList mendsAheadOf(const DocumentSession& session, const std::string& file)
+QStringList mendsOfFile(const std::string& file)
 {
-    const bool isOpened = session.deck.front().origin.deck->file() == file;
-    if (isOpened || file.size() > session.output.maxDeckLength()) return {};
     return shownMends(StandardDeck(file));
 }
 

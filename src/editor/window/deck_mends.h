@@ -13,8 +13,7 @@ namespace quillmere {
 /// or one that does not go without loss.
 [[nodiscard]] QStringList mendsMade(const DocumentSession& session);
 
-/// The mends of the deck's file where that is not what the open deck was opened from: its source
-/// was taken over, and so they are made already.
-[[nodiscard]] QStringList mendsAheadOf(const DocumentSession& session, const std::string& file);
+/// The mends of a deck file of these bytes.
+[[nodiscard]] QStringList mendsOfFile(const std::string& file);
 
 } // namespace quillmere
