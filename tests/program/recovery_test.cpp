@@ -165,7 +165,6 @@ TEST(Recovery, WithoutLossGoesOnWhereTheRunWas)
     crashed->replace(1, "width: 9px", "width: 8px");
     AddArea(crashed->session, false);
     RemoveArea(crashed->session, 0, false);
-    std::swap(crashed->session.deck[0], crashed->session.deck[1]); // the new area comes first
     const auto wanted = crashed->written();
     writeRecoveryNote(crashed->session, {true});
     const auto left = crash(std::move(crashed));
@@ -178,10 +177,10 @@ TEST(Recovery, WithoutLossGoesOnWhereTheRunWas)
     EXPECT_TRUE(next.session.output.losesNothing());
     EXPECT_EQ(standardMends(next.session).size(), 1U);
     EXPECT_EQ(next.written(), wanted);
-    const auto& image = next.session.deck.at(1).images.at(0);
-    EXPECT_NE(next.area(1).find(image.displayDir + image.displayFile), std::string::npos);
+    const auto& image = next.session.deck.at(0).images.at(1);
+    EXPECT_NE(next.area(0).find(image.displayDir + image.displayFile), std::string::npos);
     EXPECT_EQ(next.files.read(image.displayDir + image.displayFile), "BM");
-    EXPECT_EQ(next.area(1).find(left), std::string::npos);
+    EXPECT_EQ(next.area(0).find(left), std::string::npos);
 
     auto again = programWithDeck(folder.path(), folder.path() + "deck/", true);
     again->replace(1, "drei", "3");
