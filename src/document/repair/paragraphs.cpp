@@ -111,10 +111,10 @@ std::size_t firstDoubledEnd(const std::string& text)
     bool ended = false;
     CharacterWalk tags(text, '<');
     for (auto at = tags.next(); at != npos; at = tags.next()) {
-        if (isParagraphBegin(text, at)) ended = false;
-        if (!isParagraphEnd(text, at)) continue;
-        if (ended) return at;
-        ended = true;
+        const std::size_t slash = text[at + 1] == '/' ? 1 : 0; // a zero where the text ends
+        if (lowerCase(text[at + 1 + slash]) != 'p') continue;
+        if (ended && slash > 0) return at;
+        ended = slash > 0;
     }
     return npos;
 }
