@@ -61,19 +61,21 @@ public:
     /// over: a tag that begins there gets no line.
     std::size_t countLine(bool isClose)
     {
-        if (!first_ && lastWasOpen_ == isClose) indent_ += isClose ? -2 : 2;
+        const int step = isClose ? -2 : 2;
+        indent_ += step == -lastStep_ ? step : 0;
         const int passed = std::max(indent_, 0);
-        indent_ = passed + (isClose ? -2 : 2);
-        lastWasOpen_ = !isClose;
-        first_ = false;
+        indent_ = passed + step;
+        lastStep_ = step;
         return static_cast<std::size_t>(passed);
     }
-    void countKeptOpen() { first_ = false; }
+    void countKeptOpen()
+    {
+        if (lastStep_ == 0) lastStep_ = -2;
+    }
 
 private:
     int indent_ = 0;
-    bool lastWasOpen_ = false;
-    bool first_ = true;
+    int lastStep_ = 0; // none so far
 };
 
 /// Writes a text with other white space at the ends of its gaps.
