@@ -2,7 +2,6 @@
 // their compiled form has.
 
 #include "app/form_table.h"
-#include "app/word_table.h"
 #include "document/platform/files.h"
 
 #include <gtest/gtest.h>
@@ -73,23 +72,6 @@ TEST(ShippedTexts, BothLanguagesHaveTheSameEntries)
         EXPECT_EQ(a.Text.empty(), b.Text.empty());
         EXPECT_EQ(a.Tooltip.empty(), b.Tooltip.empty());
         EXPECT_EQ(itemsOfList(a.List).size(), itemsOfList(b.List).size());
-    }
-}
-
-TEST(ShippedTexts, BothLanguagesHaveTheSameWordsAndGaps)
-{
-    const auto german = wordsFromText(textOf("Skins/ResWords.ini"));
-    const auto english = wordsFromText(textOf("Skins.en/ResWords.ini"));
-    ASSERT_EQ(german.size(), english.size());
-    const auto gaps = [](std::string_view text) {
-        std::size_t count = 0;
-        for (auto at = text.find("<?>"); at != text.npos; at = text.find("<?>", at + 1))
-            ++count;
-        return count;
-    };
-    for (std::size_t i = 0; i < german.size(); ++i) {
-        EXPECT_EQ(german[i].text.empty(), english[i].text.empty()) << i;
-        EXPECT_EQ(gaps(german[i].text), gaps(english[i].text)) << i;
     }
 }
 

@@ -13,18 +13,15 @@
 namespace quillmere {
 namespace {
 
-constexpr const char* kFile = QUILLMERE_SOURCE_DIR "/data/Skins/ResWords.ini";
-
-const WordTable& shipped()
+std::string fileOf(const char* skins)
 {
-    static const WordTable table = wordsFromText(readFile(kFile));
-    return table;
+    return readFile(std::string(QUILLMERE_SOURCE_DIR "/data/") + skins + "/ResWords.ini");
 }
 
-std::multiset<int> idsOfTheFile()
+std::multiset<int> idsOfTheFile(const char* skins)
 {
     std::multiset<int> ids;
-    const auto text = joinLines(readFile(kFile));
+    const auto text = joinLines(fileOf(skins));
     ResourceEntries entries(text, "<word", "</word");
     while (const auto entry = entries.next())
         ids.insert(shortNumber(resourceAttribute(entry->tag, "id=")).value_or(-1));
@@ -44,38 +41,47 @@ TEST(ShippedWords, HaveJustTheNumbersThatTheProgramAsksFor)
     std::multiset<int> asked;
     for (const auto& use : kWordIds)
         asked.insert(use.id);
-    EXPECT_EQ(asked, idsOfTheFile());
+    for (const auto* skins : {"Skins", "Skins.en"})
+        EXPECT_EQ(asked, idsOfTheFile(skins)) << skins;
     EXPECT_EQ(std::set<int>(asked.begin(), asked.end()).size(), asked.size()); // none twice
     const auto names = readFile(QUILLMERE_SOURCE_DIR "/src/document/platform/word_ids.h");
     EXPECT_EQ(countOf(names, "constexpr int k"), std::size(kWordIds));
 }
 
+void expectFittingWord(const WordUse& use, const WordEntry& word)
+{
+    EXPECT_FALSE(word.text.empty());
+    EXPECT_LT(word.text.size(), 1000U); // not cut
+    EXPECT_EQ(countOf(word.text, "<?>"), static_cast<std::size_t>(use.gaps));
+    const auto markers = countOf(word.text, "<?>") + countOf(word.text, "<br>");
+    EXPECT_EQ(countOf(word.text, "<"), markers);
+    EXPECT_EQ(countOf(word.text, ">"), markers);
+    EXPECT_EQ(word.text.find("  "), npos);
+    // UTF-8 would show as pairs such as "Ã¼"; the other codes have no character.
+    EXPECT_EQ(word.text.find_first_of("\x81\x8d\x8f\x90\x9d\xc3\xe2"), npos);
+}
+
 TEST(ShippedWords, FitTheirUse)
 {
-    for (const auto& use : kWordIds) {
-        SCOPED_TRACE(use.id);
-        const auto& word = shipped().at(static_cast<std::size_t>(use.id));
-        EXPECT_FALSE(word.text.empty() || word.group.empty() || word.rem.empty());
-        EXPECT_LT(word.text.size(), 1000U); // not cut
-        EXPECT_EQ(countOf(word.text, "<?>"), static_cast<std::size_t>(use.gaps));
-        const auto markers = countOf(word.text, "<?>") + countOf(word.text, "<br>");
-        EXPECT_EQ(countOf(word.text, "<"), markers);
-        EXPECT_EQ(countOf(word.text, ">"), markers);
-        EXPECT_EQ(word.text.find("  "), npos);
-        // UTF-8 would show as pairs such as "Ã¼"; the other codes have no character.
-        EXPECT_EQ(word.text.find_first_of("\x81\x8d\x8f\x90\x9d\xc3\xe2"), npos);
+    for (const auto* skins : {"Skins", "Skins.en"}) {
+        const auto words = wordsFromText(fileOf(skins));
+        for (const auto& use : kWordIds) {
+            SCOPED_TRACE(skins + std::to_string(use.id));
+            expectFittingWord(use, words.at(static_cast<std::size_t>(use.id)));
+        }
     }
 }
 
 TEST(ShippedWords, WorkWhereTheyAreParts)
 {
-    const auto textOf = [](int id) { return toUtf8(filledWord(shipped(), id, {"1", "30"})); };
+    const auto words = wordsFromText(fileOf("Skins"));
+    const auto textOf = [&](int id) { return toUtf8(filledWord(words, id, {"1", "30"})); };
     EXPECT_EQ(textOf(word::kNumberRange), "Bitte geben Sie eine Zahl von 1 bis 30 ein.");
     EXPECT_EQ(textOf(word::kSizeLimits), "(1 bis 30)");
     EXPECT_EQ(textOf(word::kAreaCaption) + " 1" + textOf(word::kAreaCaptionEnd) + " Titel",
         "Bereich 1: Titel");
     EXPECT_EQ(textOf(word::kWmlFilter) + "(*.wml)|*.wml", "WML-Dateien\u00a0(*.wml)|*.wml");
-    EXPECT_TRUE(CheckFileName(filledWord(shipped(), word::kNewFolderName, {})));
+    EXPECT_TRUE(CheckFileName(filledWord(words, word::kNewFolderName, {})));
 }
 
 } // namespace

@@ -210,16 +210,6 @@ TEST_F(Cli, JsonHasTheDecksThatFailed)
     EXPECT_TRUE(noFolder.output.starts_with("[{\"deck\"") && noFolder.output.ends_with("}]\n"));
 }
 
-TEST_F(Cli, SaysOnceOnStandardErrorWhatIsNotWellFormed)
-{
-    folder.put("i.wml", kStray);
-    const auto line = "quillmere-cli: " + folder.path()
-        + "i.wml: Das Ergebnis ist nicht wohlgeformt: </b> beendet nicht das Element, das gerade "
-          "offen ist (Zeile 4, Spalte 5 des Ergebnisses).\n";
-    EXPECT_EQ(cli({"repair", "@i.wml", "-o", "-"}).errors, line);
-    EXPECT_EQ(cli({"repair", "@i.wml", "-o", "@o.wml", "--report"}).errors, line);
-}
-
 /// More decks than are kept waiting for the disk at once.
 TEST_F(Cli, ManyDecksAreWrittenAndToldInTheirOrder)
 {

@@ -52,15 +52,6 @@ Eine weitere Korrektur ändert es noch einmal.
 )");
 }
 
-TEST(DeckChangesReport, SaysWhereNothingHasChanged)
-{
-    auto report = DeckChanges("<wml/>", "<wml></wml>");
-    report.stable = true;
-    EXPECT_EQ(textReport(report, "a.wml"),
-        "a.wml\n  Nichts verloren, nichts hinzugekommen.\nDas Ergebnis ist wohlgeformt.\n"
-        "Eine weitere Korrektur ändert daran nichts.\n");
-}
-
 TEST(DeckChangesReport, IsWholeAsJson)
 {
     EXPECT_EQ(

@@ -105,32 +105,6 @@ TEST(Operations, LeaveTheTextWhereTheyFail)
     EXPECT_NO_THROW(toDesign(grown));
 }
 
-// The tables of both conversions have these rows in common; <em> differs, and ends of lines and
-// pictures are added anew.
-TEST(Operations, TakeTheTagsOfBothSidesAlike)
-{
-    const std::string names[] = {"p", "b", "big", "small", "strong", "i", "u", "tr", "td"};
-    std::vector<std::string> tags{"<p align=\"left\">", "<p align=\"center\">",
-        "<p align=\"right\">", "<br/>", "<a href=\"#A\">", "</a>", "</table>"};
-    for (const auto& name : names)
-        tags.insert(tags.end(), {"<" + name + ">", "</" + name + ">"});
-    for (const auto& tag : tags) {
-        std::string text = tag;
-        toDesign(text);
-        EXPECT_EQ(text, tag);
-        toWml(text);
-        EXPECT_EQ(text, tag);
-    }
-    for (const std::string tag : {"<select>", "</select>", "<option value=\"A\">", "</option>",
-             "</do>", "<go href=\"#A\"/>", "</go>", "<card id=\"A\">", "</card>"}) {
-        std::string text = tag;
-        toDesign(text);
-        EXPECT_TRUE(text.starts_with("<!--")) << text;
-        toWml(text);
-        EXPECT_EQ(text, tag);
-    }
-}
-
 TEST(Operations, GiveBackTheDeckThatCameIn)
 {
     const std::string deck

@@ -40,7 +40,7 @@ QTextCharFormat formatAt(QTextDocument& document, int position)
     return cursor.charFormat();
 }
 
-TEST(PageDocument, HasTheBlocksAndItemsOfThePageInItsOrder)
+TEST(PageDocument, HasTheBlocksAndItemsOfThePageAtTheirPlaces)
 {
     test::forEachAreaText([](const std::string& name, const std::string& text) {
         SCOPED_TRACE(name);
@@ -48,16 +48,6 @@ TEST(PageDocument, HasTheBlocksAndItemsOfThePageInItsOrder)
         QTextDocument document;
         showPage(document, page, {});
         ASSERT_EQ(shownBlocks(document), wantedBlocks(page)) << text;
-    });
-}
-
-TEST(PageDocument, KnowsEachPlaceOfThePageByItsPosition)
-{
-    test::forEachAreaText([](const std::string& name, const std::string& text) {
-        SCOPED_TRACE(name);
-        const auto page = readSurfacePage(text);
-        QTextDocument document;
-        showPage(document, page, {});
         int last = -1;
         for (std::size_t block = 0; block < page.blocks.size(); ++block)
             for (std::size_t offset = 0; offset <= itemCount(page.blocks[block]); ++offset) {

@@ -7,34 +7,20 @@
 namespace quillmere {
 namespace {
 
-ScaledControl control(const char* name)
-{
-    return {name, 1500, 3000, 600, 900, 10};
-}
-
 constexpr ScreenTwips k15{15, 15}, k12{12, 12};
 
+/// A form and its only control.
 struct Scaled {
-    ScaledControl form;
-    std::vector<ScaledControl> controls;
+    ScaledControl form, control;
 };
 
-Scaled scaled(const char* form, double width, double height, std::vector<const char*> names,
-    ScreenTwips twips)
+Scaled scaled(const char* form, double width, double height, const char* control, ScreenTwips twips)
 {
     Scaled result{{form, 0, 0, width, height, 10}, {}};
-    for (const auto* name : names)
-        result.controls.push_back(control(name));
-    scaleForm(result.form, result.controls, twips);
+    std::vector<ScaledControl> controls{{control, 1500, 3000, 600, 900, 10}};
+    scaleForm(result.form, controls, twips);
+    result.control = controls[0];
     return result;
-}
-
-TEST(ScaleForm, AFormStaysOnTheScreenItWasDrawnFor)
-{
-    const auto result = scaled("frmArea", 9000, 9000, {"btnNew", "objBrowserCard"}, k15);
-    EXPECT_EQ(result.form.width, 9000);
-    EXPECT_EQ(result.controls[0].left, 1500);
-    EXPECT_EQ(result.controls[1].fontSize, 10);
 }
 
 TEST(ScaleForm, TwelveTwipsAPixelTakeAFifth)
@@ -56,7 +42,7 @@ TEST(ScaleForm, TwelveTwipsAPixelTakeAFifth)
     };
     for (const auto& row : kRows) {
         SCOPED_TRACE(row.name);
-        const auto result = scaled("frmArea", 9000, 9000, {row.name}, k12).controls[0];
+        const auto result = scaled("frmArea", 9000, 9000, row.name, k12).control;
         EXPECT_EQ(result.left, row.left);
         EXPECT_EQ(result.width, row.width);
         EXPECT_EQ(result.fontSize, row.font);
@@ -65,15 +51,15 @@ TEST(ScaleForm, TwelveTwipsAPixelTakeAFifth)
 
 TEST(ScaleForm, AFormGrowsToHoldItsControls)
 {
-    EXPECT_EQ(scaled("frmArea", 100, 100, {"btnNew"}, k15).form.width, 2150);
-    EXPECT_EQ(scaled("frmArea", 100, 100, {"btnNew"}, k15).form.height, 3900);
-    EXPECT_EQ(scaled("frmPreview", 100, 100, {"btnNew"}, k15).form.width, 100);
-    EXPECT_EQ(scaled("frmArea", 100, 9000, {"picSkin"}, k15).form.width, 100);
-    EXPECT_EQ(scaled("frmUploadExtended", 9000, 100, {"btnNew"}, k12).form.height, 3270);
-    EXPECT_EQ(scaled("frmUploadExtended", 9000, 100, {"btnNew"}, k15).form.height, 3900);
+    EXPECT_EQ(scaled("frmArea", 100, 100, "btnNew", k15).form.width, 2150);
+    EXPECT_EQ(scaled("frmArea", 100, 100, "btnNew", k15).form.height, 3900);
+    EXPECT_EQ(scaled("frmPreview", 100, 100, "btnNew", k15).form.width, 100);
+    EXPECT_EQ(scaled("frmArea", 100, 9000, "picSkin", k15).form.width, 100);
+    EXPECT_EQ(scaled("frmUploadExtended", 9000, 100, "btnNew", k12).form.height, 3270);
+    EXPECT_EQ(scaled("frmUploadExtended", 9000, 100, "btnNew", k15).form.height, 3900);
     // Across, not down, tells whether fonts are big.
-    EXPECT_EQ(scaled("frmUploadExtended", 9000, 100, {"btnNew"}, {12, 15}).form.height, 4050);
-    EXPECT_EQ(scaled("frmUploadExtended", 9000, 100, {"btnNew"}, {15, 12}).form.height, 3120);
+    EXPECT_EQ(scaled("frmUploadExtended", 9000, 100, "btnNew", {12, 15}).form.height, 4050);
+    EXPECT_EQ(scaled("frmUploadExtended", 9000, 100, "btnNew", {15, 12}).form.height, 3120);
 }
 
 TEST(ScaleForm, PixelsStayWhatTheyAre)

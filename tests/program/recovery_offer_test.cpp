@@ -1,8 +1,7 @@
 #include "program/recovery_offer.h"
 
-#include "document/deck_store.h"
-#include "document/design_text.h"
-#include "gui/window_session.h"
+#include "project/deck_files.h"
+#include "project_dialogs/scripted_window.h"
 
 #include <filesystem>
 #include <sys/stat.h>
@@ -13,41 +12,9 @@ namespace {
 using namespace test;
 using Log = std::vector<std::string>;
 
-/// Stands in for the main window and keeps what it is told.
-class ToldWindow final : public DeckWindow {
-public:
-    bool isChanged = false;
-    int refreshes = 0;
-    Session* session = nullptr;
-    std::string source;
-
-    void SetFocusToBrowser() override { }
-    void RefreshSurface() override
-    {
-        ++refreshes;
-        const auto& first = session->document.deck.front();
-        session->deckFile.remember(first.deckDir + first.deckFile);
-    }
-    void SavePreparedDokumentAndShowArea(bool) override { }
-    void AskAndSaveTmpWmlDocToWmlDoc(bool) override { }
-    void SetScriptUndoFlagsBack() override { }
-    void resumeSource(const std::string& wml) override { source = wml; }
-    void ShowHelp() override { }
-    void ShowMsg(int) override { }
-    void setDocChanged(bool changed) override { isChanged = changed; }
-    [[nodiscard]] bool docChanged() const override { return isChanged; }
-};
-
 struct Offers : testing::Test {
-    WindowSession program;
-    ToldWindow window;
+    DeckDesk program;
     ScratchFolder runs;
-
-    Offers()
-    {
-        program.session.window = &window;
-        window.session = &program.session;
-    }
 
     /// What a run left that had one area of this text in a deck, and maybe a source.
     void crash(
@@ -89,10 +56,10 @@ TEST_F(Offers, OpenTheNewestThatIsWantedAndKeepTheOthers)
     EXPECT_NE(log.at(0).find("zweite.wml|"), std::string::npos);
     EXPECT_TRUE(log.at(1).starts_with("ask 204: ")) << log.at(1);
     EXPECT_NE(log.at(2).find("dritte.wml|"), std::string::npos);
-    EXPECT_TRUE(window.isChanged);
-    EXPECT_EQ(window.refreshes, 1);
-    EXPECT_EQ(program.session.document.deck.front().deckFile, "dritte.wml");
-    EXPECT_NE(ReadDesignText(program.session.document, 0).find("Hallo"), std::string::npos);
+    EXPECT_TRUE(program.window.isChanged);
+    EXPECT_EQ(program.window.shown, 1);
+    EXPECT_EQ(program.deck().front().deckFile, "dritte.wml");
+    EXPECT_NE(program.area(0).find("Hallo"), std::string::npos);
     EXPECT_FALSE(runs.has("quillmere-dritte"));
     EXPECT_TRUE(runs.has("quillmere-zweite"));
     EXPECT_TRUE(std::filesystem::exists(program.workFiles.directory() + "Sicherung.txt"));
@@ -109,14 +76,17 @@ TEST_F(Offers, OpenASourceAsItStoodAndAskBeforeASaveGoesOverAnothersText)
     (void)program.folder.put("quelle.wml", "<wml>fremd</wml>");
     EXPECT_TRUE(offer({true}));
     EXPECT_TRUE(program.messages.log.at(0).starts_with("ask 202: "));
-    EXPECT_EQ(window.source, "<wml>halb ge");
+    EXPECT_EQ(program.window.source, "<wml>halb ge");
     EXPECT_EQ(program.session.deckFile.change(), DeckFileChange::Altered);
 }
 
 TEST_F(Offers, SayWhatCannotBeOpenedAndKeepIt)
 {
+    (void)program.folder.put("index.wml", deckOf("alt"));
+    OpenDocument(program.session, "index.wml", program.folder.path());
     crash("langer", std::string(40'000, 'x'), 1000);
     EXPECT_FALSE(offer({true}));
+    EXPECT_NE(program.area(0).find("alt"), std::string::npos);
     ASSERT_EQ(program.messages.log.size(), 2U);
     EXPECT_TRUE(program.messages.log[1].starts_with("failure: "));
     EXPECT_TRUE(runs.has("quillmere-langer"));

@@ -152,23 +152,6 @@ TEST(Recovery, LeavesAloneWhatIsNoRunOfThisPerson)
     EXPECT_TRUE(takeCrashedRuns("/nowhere/").empty());
 }
 
-TEST(Recovery, SaysWhatCannotBeOpenedAndKeepsTheOpenDeck)
-{
-    const ScratchFolder folder;
-    Program program(folder.path());
-    (void)folder.put("index.wml", kDeck);
-    LoadDeck(program.session, {"index.wml", folder.path(), {}, {}});
-    const auto before = program.area(0);
-    CrashedRun run;
-    run.note.deck = {folder.path(), "index.wml"};
-    run.note.areas = {{{folder.path(), "long.htm"}, 0, {}}};
-    (void)folder.put("long.htm", std::string(40'000, 'x'));
-    EXPECT_THROW(openCrashedRun(program.session, run), Overflow);
-    run.note.areas.front().design.name = "gone.htm";
-    EXPECT_THROW(openCrashedRun(program.session, run), FileFailure);
-    EXPECT_EQ(program.area(0), before);
-}
-
 TEST(Recovery, KeepsASourceAndTellsWhatBecameOfTheDecksFile)
 {
     const ScratchFolder folder;

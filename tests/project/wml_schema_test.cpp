@@ -50,26 +50,6 @@ const Rule kRules[] = {
             "<card newcontext=\"yes\"/>", "<card name=\"a\"/>",
             "<card><table columns=\"1\"><tr>"
             "<td/></tr></table></card>"}},
-    {"an id stands once and is a name", "<card id=\"a\"/><card id=\"b\"><p id=\"c\"/></card>",
-        {"<card id=\"a\"/><card id=\"a\"/>", "<card id=\"1a\"/>", "<card id=\"a b\"/>",
-            "<card id=\"\"/>"}},
-    {"a do has a type and one task",
-        "<card><do type=\"accept\" label=\"Los\" name=\"n\" optional=\"true\" xml:lang=\"de\">"
-        "<refresh><setvar name=\"a\" value=\"b\"/></refresh></do></card>",
-        {"<card><do><noop/></do></card>", "<card><do type=\"accept\"/></card>",
-            "<card><do type=\"accept\"><noop/><prev/></do></card>",
-            "<card><do type=\"accept\">Los<noop/></do></card>",
-            "<card><do type=\"accept\" name=\"a b\"><noop/></do></card>"}},
-    {"a go has an address, fields and variables",
-        "<card><do type=\"a\"><go href=\"a.wml?x=$(x)\" sendreferer=\"true\" method=\"post\" "
-        "accept-charset=\"utf-8\"><postfield name=\"a\" value=\"b\"/><setvar name=\"a\" "
-        "value=\"b\"/></go></do><do type=\"b\"><prev><setvar name=\"a\" value=\"b\"/></prev></do>"
-        "</card>",
-        {"<card><do type=\"a\"><go/></do></card>",
-            "<card><do type=\"a\"><go href=\"#a\" method=\"put\"/></do></card>",
-            "<card><do type=\"a\"><go href=\"#a\"><postfield name=\"a\"/></go></do></card>",
-            "<card><do type=\"a\"><prev><postfield name=\"a\" value=\"b\"/></prev></do></card>",
-            "<card><do type=\"a\"><noop><setvar name=\"a\" value=\"b\"/></noop></do></card>"}},
     {"a paragraph has its alignment and its way to wrap",
         "<card><p align=\"left\" mode=\"wrap\"/><p align=\"center\" mode=\"nowrap\" class=\"c\"/>"
         "<p align=\"right\" xml:lang=\"de\">a&nbsp;b&shy;c<do type=\"a\"><noop/></do></p></card>",
@@ -93,14 +73,6 @@ const Rule kRules[] = {
             paragraph("<select><option>a<br/></option></select>"),
             paragraph("<select><optgroup/></select>"), paragraph("<option>a</option>"),
             paragraph("<select name=\"a b\"><option/></select>")}},
-    {"a field has a name, and a set of fields a title",
-        paragraph("<fieldset title=\"t\"><input name=\"n\" type=\"password\" value=\"v\" "
-                  "format=\"4N\" emptyok=\"true\" size=\"4\" maxlength=\"8\" tabindex=\"2\" "
-                  "title=\"t\"/><select><option/></select><fieldset/></fieldset>"),
-        {paragraph("<input/>"), paragraph("<input name=\"a\" type=\"radio\"/>"),
-            paragraph("<input name=\"a\" size=\"vier\"/>"), paragraph("<fieldset><p/></fieldset>"),
-            paragraph("<input name=\"a\">b</input>"),
-            paragraph("<input name=\"a\" accesskey=\"1\"/>")}},
     {"a picture has a source and a text",
         paragraph("<img src=\"a.wbmp\" alt=\"\" localsrc=\"l\" vspace=\"0\" hspace=\"1%\" "
                   "align=\"middle\" height=\"10\" width=\"50%\"/>"),

@@ -23,10 +23,15 @@ public:
     bool isChanged = false;
     int shown = 0; ///< how often the surface was loaded
     int helps = 0; ///< how often the help was wanted
-    std::vector<int> shownMessages;
+    std::string source; ///< that was to be gone on with
 
     void SetFocusToBrowser() override { }
-    void RefreshSurface() override { ++shown; }
+    void RefreshSurface() override
+    {
+        ++shown;
+        const auto& first = session_.document.deck.front();
+        session_.deckFile.remember(first.deckDir + first.deckFile);
+    }
     void SavePreparedDokumentAndShowArea(bool) override { }
     void AskAndSaveTmpWmlDocToWmlDoc(bool Ask) override
     {
@@ -39,9 +44,9 @@ public:
         isChanged = false;
     }
     void SetScriptUndoFlagsBack() override { }
-    void resumeSource(const std::string&) override { }
+    void resumeSource(const std::string& wml) override { source = wml; }
     void ShowHelp() override { ++helps; }
-    void ShowMsg(int Index) override { shownMessages.push_back(Index); }
+    void ShowMsg(int) override { }
     void setDocChanged(bool changed) override { isChanged = changed; }
     [[nodiscard]] bool docChanged() const override { return isChanged; }
 

@@ -1,6 +1,5 @@
 // The tags lie in two stacks that meet where the last change was, so that neighbouring changes move
-// few of them, and those behind a change need no new place. Held by tag_index_test.cpp and, under
-// changes, by clean_passes_test.cpp.
+// few of them, and those behind a change need no new place. Held by clean_passes_test.cpp.
 
 #include "document/text/tag_index.h"
 

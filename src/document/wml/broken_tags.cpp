@@ -1,7 +1,7 @@
 // Where a deck is not well-formed, ends are mended in as a reader with good will would see them:
 // an element that is never closed ends where something begins that may not stand in it and may
 // stand around it. What surely has its end is not cut by the faults of others; formats are closed
-// ahead of it and opened anew in it. Held by tests/document/wml/wml_tree_test.cpp.
+// ahead of it and opened anew in it. Held by tests/document/wml/wml_mends_test.cpp.
 
 #include "document/text/windows1252.h"
 #include "document/wml/token_pass.h"

@@ -1,6 +1,6 @@
 // What stands outside of the deck, of all cards or of all paragraphs gets what holds it, in
 // well-formed decks as well: nobody could see or edit it otherwise. An element with a paragraph in
-// it stays where it is. Held by tests/document/wml/wml_tree_test.cpp.
+// it stays where it is. Held by tests/document/wml/wml_mends_test.cpp.
 
 #include "document/wml/token_pass.h"
 #include "document/wml/tree_builder.h"

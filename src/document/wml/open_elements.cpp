@@ -1,4 +1,4 @@
-// Held by tests/document/wml/wml_tree_test.cpp.
+// Held by tests/document/wml/wml_mends_test.cpp.
 
 #include "document/wml/open_elements.h"
 

@@ -1,5 +1,5 @@
 // Two walks over each stretch of tokens: one that pairs the tags of each name, one that parts those
-// again of which some are left over. Held by tests/document/wml/wml_tree_test.cpp.
+// again of which some are left over. Held by tests/document/wml/wml_mends_test.cpp.
 
 #include "document/wml/tag_partners.h"
 

@@ -1,6 +1,6 @@
 // Well-formed decks go this way alone: what has its end is taken as it stands, and only what stands
 // outside of cards and paragraphs gets them (mended_places.cpp). Broken ones ask broken_tags.cpp
-// ahead of each tag. Held by tests/document/wml/wml_tree_test.cpp.
+// ahead of each tag. Held by tests/document/wml/wml_mends_test.cpp.
 
 #include "document/wml/tree_builder.h"
 

@@ -1,6 +1,6 @@
 // One row for each element, in the order of WmlElement; content and attributes are those of the
 // document types of WML 1.1 to 1.3. Names are told apart by their length and letters packed into a
-// number. Held by tests/document/wml/wml_elements_test.cpp.
+// number. Held by tests/document/wml/wml_mends_test.cpp.
 
 #include "document/wml/wml_elements.h"
 

@@ -1,5 +1,5 @@
 // The tokens are mended one by one first, then hung into the tree. Held by
-// tests/document/wml/wml_tree_test.cpp.
+// tests/document/wml/wml_mends_test.cpp.
 
 #include "document/wml/wml_tree.h"
 

@@ -1,5 +1,5 @@
 // One walk over the nodes, without recursion: decks may be as deep as they are long. Held by
-// tests/document/wml/wml_tree_test.cpp.
+// tests/document/wml/wml_mends_test.cpp.
 
 #include "document/wml/wml_tree.h"
 

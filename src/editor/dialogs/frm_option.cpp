@@ -1,4 +1,4 @@
-// Held by tests/editor/dialogs/frm_option_test.cpp.
+// Held by tests/editor/dialogs/authoring_session_test.cpp.
 
 #include "editor/dialogs/frm_option.h"
 

@@ -1,6 +1,6 @@
 // Changes are sorted by their begin and those that touch are joined: what they take out is united,
 // what they put in stands in their order. An insertion at the begin of a removal comes ahead of it,
-// which is the same place. Held by splice_list_test.cpp.
+// which is the same place. Held by edit_promises_test.cpp.
 
 #include "editor/page/splice_list.h"
 

@@ -34,15 +34,6 @@ TEST(ShownText, SpellsWhatWindows1252HasAndKeepsTheRest)
     EXPECT_EQ(writtenValue("\"it's\"&nbsp;", '\'', true), "\"it&apos;s\"&nbsp;");
 }
 
-TEST(HiddenSource, IsOneWordOfAMarkerAndComesBack)
-{
-    const std::string source = "<!-- a--b -> --- & &amp; - -->\r\n\t<x y='\"'>";
-    const auto hidden = hiddenSource(source);
-    EXPECT_EQ(hidden.find_first_of("<>\r\n\t"), std::string::npos);
-    EXPECT_EQ(hidden.find("--"), std::string::npos);
-    EXPECT_EQ(sourceOfHidden(hidden), source);
-}
-
 /// Each piece with a letter for its kind, a line each.
 std::string listed(const std::string& design)
 {
@@ -73,18 +64,6 @@ TEST(ReadDesignPieces, TakesWhatIsOfTheDeckAndLeavesWhatIsOfTheSurface)
         "></table>\n");
     EXPECT_EQ(
         listed("a<b 1<2 x < y <font><i"), "wa\nw<b\n_ \nw1<2\n_ \nwx\n_ \nw<\n_ \nwy\n_ \nw<i\n");
-}
-
-TEST(ReadDesignPieces, GivesTheSameKeyToWhatMeansTheSame)
-{
-    const auto key = [](const std::string& text) { return readDesignPieces(text).front().key; };
-    EXPECT_EQ(key("<P align=center>"), key("<p align=\"center\">"));
-    EXPECT_EQ(key("<table title=\"a\" columns=\"2\">"), key("<TABLE COLUMNS=2 TITLE='a'>"));
-    EXPECT_EQ(key("</TD>"), key("</td>"));
-    EXPECT_NE(key("<p align=\"center\">"), key("<p align=\"left\">"));
-    EXPECT_NE(key("<p>"), key("</p>"));
-    EXPECT_NE(key("<b>"), key("<i>"));
-    EXPECT_EQ(sourceOf(readDesignPieces("<!--#pi &lt;?a b?&gt;-->").front()), "<?a b?>");
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 #include "document/design_text.h"
 #include "document/platform/files.h"
 #include "document/standard/opened_card.h"
+#include "document/text/text_search.h"
 #include "document/wml/repaired_file.h"
 #include "generator/deck_generator.h"
 #include "generator/wml_generator.h"
@@ -180,9 +181,20 @@ std::string inAscii(std::string text)
 /// end that have come to stand beside a tag may be layout.
 std::string withoutChance(const std::string& design)
 {
-    const auto plain
-        = std::regex_replace(design, std::regex("<input type=radio[^>]*>|(Bmp)[0-9]+"), "$1");
-    return std::regex_replace(plain, std::regex(" *(<[^>]*>) *"), "$1");
+    std::string plain;
+    for (std::size_t at = 0; at < design.size();) {
+        const auto next = std::min(design.find_first_not_of(' ', at), design.size());
+        const bool isBesideTag = plain.ends_with('>') || standsAt(design, next, "<");
+        if (standsAt(design, at, "<input type=radio"))
+            at = design.find('>', at) + 1;
+        else if (next > at && isBesideTag)
+            at = next;
+        else if (plain.ends_with("Bmp") && design[at] >= '0' && design[at] <= '9')
+            ++at;
+        else
+            plain += design[at++];
+    }
+    return plain;
 }
 
 /// Each piece of an opened text is read as one, and each token of the card belongs to one.

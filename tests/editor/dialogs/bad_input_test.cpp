@@ -80,26 +80,6 @@ TEST(BadInput, AFullAreaStaysAsItIs)
     EXPECT_EQ(areaCount(desk.session.document.deck), 2U);
 }
 
-TEST(BadInput, AnAreaIsChangedAsAWholeOrNotAtAll)
-{
-    ElementDesk desk;
-    desk.openCards({"eins", "<a href=\"#a\">zwei</a>"});
-    auto text = desk.design(1);
-    text.insert(text.find("</BODY>"), std::string(kMaxTextLength - text.size(), 'x'));
-    WriteDesignText(desk.session.document, 1, text);
-    const auto first = desk.design(0);
-    desk.use("mnuContext1AreaParameters", [](QWidget& form) {
-        type(form, "txtTitle", "Neu");
-        type(form, "txtId", "a2"); // there is no place for it in the link of the other area
-        click(form, "btnNew");
-        EXPECT_TRUE(form.isVisible());
-        QTest::keyClick(&form, Qt::Key_Escape);
-    });
-    EXPECT_EQ(desk.messages.taken().size(), 1U);
-    EXPECT_EQ(desk.design(0), first);
-    EXPECT_EQ(desk.design(1), text);
-}
-
 TEST(BadInput, AnElementThatIsGoneIsTold)
 {
     const struct {

@@ -20,31 +20,6 @@ struct ImageDesk : ElementDesk {
     ImageEntry& entry() { return session.document.deck.front().images.end()[-2]; }
 };
 
-TEST(FrmImage, InsertsAPictureThatIsChosen)
-{
-    ImageDesk desk;
-    desk.dialogs.paths = {desk.path("haus.wbmp")};
-    desk.use("mnuInsertImage2", [](QWidget& form) {
-        EXPECT_EQ(textOf(form, "txtImage"), "haus.wbmp");
-        EXPECT_EQ(textOf(form, "txtHeight"), "3");
-        EXPECT_EQ(textOf(form, "txtWidth"), "8");
-        EXPECT_FALSE(control(form, "txtHeight").isEnabled());
-        type(form, "txtCaption", "Das <Haus>");
-        QTest::keyClick(&form, Qt::Key_Return);
-    });
-    const auto display = desk.entry().displayDir + desk.entry().displayFile;
-    EXPECT_NE(desk.contentWithCaret().find(
-                  "vorn<img src=\"" + display + "\" alt=\"Das &lt;Haus&gt;\">| hinten"),
-        std::string::npos)
-        << desk.contentWithCaret();
-    EXPECT_FALSE(desk.entry().hasLayout);
-    EXPECT_EQ(desk.session.lastImage.sourceFile, "haus.wbmp");
-    desk.window.AskAndSaveTmpWmlDocToWmlDoc(false);
-    EXPECT_NE(
-        desk.saved().find("<img src=\"haus.wbmp\" alt=\"das &lt;haus&gt;\">"), std::string::npos)
-        << desk.saved();
-}
-
 TEST(FrmImage, ChangesSizeAndPicture)
 {
     ImageDesk desk;

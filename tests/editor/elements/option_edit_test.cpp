@@ -55,10 +55,7 @@ TEST(SetOption, MakesOrJoinsAList)
             "<a href=\"#\">xy</a><!--select-->[n]<!--/select--><br/>|z"},
         {"out of formats", "<p><i><b>xy</b></i></p>", 10,
             "<p><i><b>x</b></i><!--select-->[n]<!--/select--><br/>|<i><b>y</b></i></p>"},
-        {"at the begin of a format", "<p><b>xy</b></p>", 6,
-            "<p><!--select-->[n]<!--/select--><br/>|<b>xy</b></p>"},
         {"joins a list ahead", kOne, 100, "<p>x<!--select-->[a][n]<!--/select--><br/>|y</p>"},
-        {"joins a list behind", kOne, 3, "<p>x<!--select-->[a][n]<!--/select--><br/>|y</p>"},
         {"joins the next of two lists",
             "<!--select-->[a]<!--/select-->x<!--select-->[b]<!--/select-->y", 140,
             "<!--select-->[a]<!--/select-->x<!--select-->[b][n]<!--/select-->|y"},
@@ -133,7 +130,6 @@ TEST(GetOption, ReadsAllSpellings)
         std::string target;
     };
     const std::vector<Case> cases{
-        {listText("[ab]"), "ab", "#ab"},
         {"<!--OPTION value=\"1\" ONPICK=#ab--><P>a</P> b<!--/OPTION-->", "a b", "#ab"},
         {"<!--option onpick=\"a b.wml\"-->x", "", "a b.wml"},
         {"<!--option value=1--><b>x<!--/option-->", "x", ""},

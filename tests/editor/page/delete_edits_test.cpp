@@ -26,16 +26,11 @@ void expectDeleted(std::initializer_list<Row> rows)
 TEST(DeleteRange, TakesItemsAndWhatShowsNothingWithoutThem)
 {
     expectDeleted({
-        {"nothing", "<p>a|b</p>", "<p>a|b</p>"},
-        {"all of a paragraph", "<p align=center>[abc]</p>", "<p align=center>|</p>"},
         {"a reference and a picture", "<p>a[&uuml;<img src=\"x\"></img>]b</p>", "<p>a|b</p>"},
         {"all of a format", "a<b>[b]</b>c", "a|c"},
-        {"empty formats in it", "<b>[a<i></i>]</b>c", "|c"},
         {"parts of two formats", "<b>a[b</b><i>c]d</i>", "<b>a|</b><i>d</i>"},
-        {"crossing formats", "<b>a[b<i>c</b>d]e</i>", "<b>a|<i></b>e</i>"},
         {"a format that is never ended and goes on", "a[<b>b]c", "a|<b>c"},
         {"a link as a whole", "a<a href=\"x\">[bc</a>]d", "a|d"},
-        {"the end of a link", "<a>b[c</a>]d", "<a>b</a>|d"},
     });
 }
 
@@ -60,31 +55,24 @@ TEST(DeleteRange, KeepsMarkersInPairs)
         {"from ahead of a list into it",
             "<p>[a<!--select--><!--option x--><input type=radio>]bc<!--/option-->" + two + end,
             "<p>|<!--select-->" + two + end},
-        {"a whole list", "<p>[a<!--select-->" + one + two + "<!--/select-->]e</p>", "<p>|e</p>"},
-        {"a do block within", "a[b<!--do--><!--go href=\"#x\"/--><!--/do-->c]d", "a|d"},
         {"a do block at the border", "a[b]<!--do--><!--/do-->c", "a|<!--do--><!--/do-->c"},
         {"the text of a do block but for its end", "x<!--do-->[a<!--go/-->b]c<!--/do-->",
             "x|<!--do--><!--go/-->c<!--/do-->"},
         {"a single marker behind another parent's text", "<b>a[b</b><!--go/-->c]d",
             "<b>a|</b><!--go/-->d"},
-        {"an end without start", "a[b<!--/do-->c]d", "a|d"},
     });
 }
 
 TEST(DeleteRange, MakesOneOfTwoBlocks)
 {
     expectDeleted({
-        {"two paragraphs", "<p>A[a</p>\r\n<p align=right>b]B</p>", "<p>A|B</p>"},
-        {"paragraphs without ends", "<p>A[a<p>b]B<p>C", "<p>A|B<p>C"},
         {"the border alone", "<p>A[</p><p>]B</p>", "<p>A|B</p>"},
-        {"plain text behind a paragraph", "<p>A[</p>]B<p>C</p>", "<p>A|B</p><p>C</p>"},
         {"plain text round a paragraph", "A[<p>x</p>]B", "A|B"},
         {"all of plain text and a part behind", "[A<p align=center>b]B</p>",
             "<p align=center>|B</p>"},
         {"a part of a paragraph that a table follows",
             "A[<p align=center>b]B<table><tr><td>x</td></tr></table>C</p>",
             "A|B<table><tr><td>x</td></tr></table><p align=center>C</p>"},
-        {"a link over the border", "<p>a<a>[b</a></p><p><a>c]d</a></p>", "<p>a|<a>d</a></p>"},
         {"half of a marker over the border", "<p>a[<!--x-->b</p><p>c]d<!--/x--></p>",
             "<p>a|<!--x-->d<!--/x--></p>"},
     });
@@ -95,7 +83,6 @@ TEST(DeleteRange, TakesTablesAsWholesAndEmptiesCells)
     const std::string table = "<table><tr><td>a</td><td>b</td></tr>\r\n<tr><td>c</td></tr></table>";
     expectDeleted({
         {"a table in text", "A[x" + table + "y]B", "A|B"},
-        {"a table alone", "[" + table + "]", "|"},
         {"an end marker in a table", "A[<!--x--><table><tr><td>a<!--/x--></table>]B", "A|B"},
         {"a start marker in a table", "A[<table><tr><td><!--x-->a</table>]B<!--/x-->",
             "A|<!--x-->B<!--/x-->"},
@@ -137,11 +124,9 @@ TEST(DeleteBackwardAndForward, TakeOneItemOrTheBorderToANeighbour)
         std::string backward;
         std::string forward;
     } rows[] = {
-        {"letters", "<p>ab|cd</p>", "<p>a|cd</p>", "<p>ab|d</p>"},
         {"a picture", "<p><img></img>|<br/></p>", "<p>|<br/></p>", "<p><img></img>|</p>"},
         {"the only letter of a format", "a<b>b|</b><i>c</i>", "a|<i>c</i>", "a<b>b|</b>"},
         {"borders", "<p>a</p><p>|</p><p>b</p>", "<p>a|</p><p>b</p>", "<p>a</p><p>|b</p>"},
-        {"the page's ends", "|", "|", "|"},
         {"a cell's ends", cell + "|" + end, cell + "|" + end, cell + "|" + end},
         {"behind a table", cell + "a" + end + "|b", cell + "a" + end + "|b",
             cell + "a" + end + "|"},

@@ -59,7 +59,6 @@ constexpr Element kTable{"<table", "</table"};
 constexpr Element kOption{"<!--option", "<!--/option"};
 constexpr Element kList{"<!--select", "<!--/select"};
 constexpr Element kBold{"<b", "</b"};
-constexpr Element kBreak{"<br", ""};
 
 TEST(HitTest, FindsTheElementAroundTheMarkedPlace)
 {
@@ -69,22 +68,12 @@ TEST(HitTest, FindsTheElementAroundTheMarkedPlace)
         const char* drawn;
         std::string_view found; ///< how the text goes on at the hit; "" for none
     } rows[] = {
-        {"in a link", kLink, "x<a 1>Ki|no</a>y", "<a 1>"},
-        {"directly ahead of it", kLink, "x|<a 1>Kino</a>y", ""},
-        {"marked from its begin on", kLink, "x[<a 1>Kino</a>]y", "<a 1>"},
-        {"marked from ahead of it on", kLink, "[x<a 1>Kino</a>]y", ""},
         {"the mouse is on it", kLink, "<a 1>x</a>^<a 1>Kino</a>y", "<a 1>Kino"},
         {"a picture in a link", kLink, "<a 1>^<img 2></img></a>", "<a 1>"},
-        {"another case", kLink, "<A 1>x|</A>", "<A 1>"},
-        {"in a cell", kTable, "<table 1><tr><td>|</td></tr></table>", "<table 1>"},
         {"the whole table", kTable, "x^<table 1><tr></tr></table>", "<table 1>"},
         {"a button", kOption, "<!--option 1-->^<input 2>A<!--/option-->", "<!--option 1"},
-        {"in an option", kOption, "<!--option 1--><input 2>A|<!--/option-->", "<!--option 1"},
-        {"in the list still", kList, "<!--select 1-->A<!--/option-->|<!--/select-->", "<!--sel"},
         {"behind the list", kList, "<!--select 1--><!--/select-->|<br/>", ""},
         {"names by their begin", kBold, "<body 1>x|</b></body>", "<body 1>"},
-        {"up to the next tag", kBreak, "<br/>x|y<i>", "<br/>"},
-        {"no further tag", kBreak, "<br/>x|", ""},
     };
     for (const auto& row : rows) {
         SCOPED_TRACE(row.name);

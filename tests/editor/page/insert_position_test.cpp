@@ -10,60 +10,9 @@
 
 #include <algorithm>
 #include <cctype>
-#include <functional>
 
 namespace quillmere {
 namespace {
-
-std::string moved(std::string drawn)
-{
-    const auto at = drawn.find('|');
-    drawn.erase(at, 1);
-    const int position = ValidInsertPosition(static_cast<int>(at), drawn);
-    return drawn.insert(static_cast<std::size_t>(position), 1, '|');
-}
-
-TEST(ValidInsertPosition, MovesBehindWhatMayNotBeBroken)
-{
-    const struct {
-        const char* name;
-        std::string before;
-        std::string after;
-    } rows[] = {
-        {"in a format", "<b>|x</b>", "<b>|x</b>"},
-        {"in a tag", "x<b|r/>y", "x<br/>|y"},
-        {"ahead of a link", "x|<a 1>y</a>", "x|<a 1>y</a>"},
-        {"in a link", "<a 1>y|</a>z", "<a 1>y</a>|z"},
-        {"a link without end", "<a 1>x|y<a 2>z</a>", "<a 1>x|y<a 2>z</a>"},
-        {"in a picture", "<img 1>|</img>x", "<img 1></img>|x"},
-        {"in a cell", "<TABLE><tr><td>|x</td></tr></TABLE>y",
-            "<TABLE><tr><td>x</td></tr></TABLE>|y"},
-        {"in nested tables", "<table><table>|</table></table>x",
-            "<table><table></table></table>|x"},
-        {"behind an inner table", "<table><table></table>|</table>x",
-            "<table><table></table></table>|x"},
-        {"between options", "<!--select--><!--option-->A<!--/option-->|<!--/select--><br/>",
-            "<!--select--><!--option-->A<!--/option--><!--/select-->|<br/>"},
-        {"in a do block", "<!--do 1-->|<!--go 2/--><!--/do-->x",
-            "<!--do 1--><!--go 2/--><!--/do-->|x"},
-        {"overlapping", "<a 1>|<table></a>x</table>y", "<a 1><table></a>x</table>|y"},
-        {"ahead of the card", "|<!--card 1--><HTML>", "<!--card 1-->|<HTML>"},
-        {"in the frame", "<!--card 1--><BO|DY>x", "<!--card 1--><BODY>|x"},
-        {"in a comment", "<!-- a |<b> c -->x", "<!-- a <b> c -->|x"},
-        {"a comment without end", "<!-- a| <b> c", "<!-- a <b>| c"},
-        {"in an entity", "a&au|ml;b c", "a&auml;|b c"},
-        {"a name that needs no end", "a&au|ml b", "a&auml| b"},
-        {"an & in text", "R&|D x", "R&|D x"},
-        {"a stray bracket", "<b>x| > y > z</b>", "<b>x > y >| z</b>"},
-        {"at the end", "<a 1>x</a|", "<a 1>x</a|"},
-    };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        EXPECT_EQ(moved(row.before), row.after);
-    }
-    EXPECT_EQ(ValidInsertPosition(-5, "xy"), 0);
-    EXPECT_EQ(ValidInsertPosition(99, "<a>"), 99);
-}
 
 // Slowly, one rule after the other and one place at a time.
 
@@ -172,6 +121,8 @@ void forEachArea(const test::UseText& use)
 TEST(ValidInsertPosition, IsTheFirstPlaceInAreasOfDecks)
 {
     forEachArea(expectFirstPlaces);
+    EXPECT_EQ(ValidInsertPosition(-5, "xy"), 0);
+    EXPECT_EQ(ValidInsertPosition(99, "<a>"), 99);
 }
 
 /// What the surface shows of a text, white space left out.

@@ -2,30 +2,19 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <string>
 
 namespace quillmere {
 namespace {
 
-std::vector<PagePlace> placesOf(const SurfacePage& page)
-{
-    std::vector<PagePlace> places;
-    for (std::size_t block = 0; block < page.blocks.size(); ++block)
-        for (std::size_t offset = 0; offset <= itemCount(page.blocks[block]); ++offset)
-            places.push_back({block, offset});
-    return places;
-}
-
 /// The text with a bar at the offset of each place.
 std::string withPlaces(const std::string& text)
 {
     const auto page = readSurfacePage(text);
-    auto places = placesOf(page);
     std::string result = text;
-    std::ranges::reverse(places); // from the back, so that the offsets ahead stay valid
-    for (const auto place : places)
-        result.insert(offsetAt(page, place), "|");
+    for (auto block = page.blocks.size(); block-- > 0;) // the offsets ahead stay valid
+        for (auto offset = itemCount(page.blocks[block]) + 1; offset-- > 0;)
+            result.insert(offsetAt(page, {block, offset}), "|");
     return result;
 }
 
@@ -67,51 +56,6 @@ TEST(PagePlaces, LieWhereTypedTextBelongs)
         SCOPED_TRACE(name);
         EXPECT_EQ(withPlaces(withoutBars(text)), text);
     }
-}
-
-TEST(PagePlaces, AreFoundForEveryOffset)
-{
-    const std::string text = "<BODY> <p>a<a>b</a></p> <table><tr><td></td></tr></table>c</BODY>";
-    const auto page = readSurfacePage(text);
-    const auto places = placesOf(page);
-    for (std::size_t offset = 0; offset <= text.size(); ++offset) {
-        PagePlace expected = firstPlace(page);
-        for (const auto place : places)
-            if (offsetAt(page, place) <= offset) expected = place;
-        EXPECT_EQ(placeAt(page, offset), expected) << offset;
-    }
-    EXPECT_EQ(lastPlace(page), places.back());
-}
-
-TEST(PagePlaces, KnowTheirNeighbours)
-{
-    const auto page = readSurfacePage("<p>ab</p><p></p>");
-    EXPECT_EQ(itemAhead(page, {0, 0}), nullptr);
-    EXPECT_EQ(itemBehind(page, {0, 0})->shown, u'a');
-    EXPECT_EQ(itemAhead(page, {0, 2})->shown, u'b');
-    EXPECT_EQ(itemBehind(page, {0, 2}), nullptr);
-    EXPECT_EQ(itemBehind(page, {1, 0}), nullptr);
-    EXPECT_EQ(offsetAt(page, {0, 99}), offsetAt(page, {0, 2}));
-}
-
-TEST(PagePlaces, LieInElements)
-{
-    using Kind = PageElement::Kind;
-    const std::string text = "<p><b>a<b>b</b>c</b>d<i>e</p>f<b>g</b>";
-    const auto page = readSurfacePage(text);
-    const auto startOfInnermost = [&](char letter, Kind kind) {
-        const auto element = innermostElement(page, text.find(letter, text.find('a')), kind);
-        return element == kNone ? kNone : page.elements[element].start.begin;
-    };
-    EXPECT_EQ(startOfInnermost('a', Kind::Format), text.find("<b>a"));
-    EXPECT_EQ(startOfInnermost('c', Kind::Format), text.find("<b>a"));
-    EXPECT_EQ(startOfInnermost('d', Kind::Format), kNone);
-    EXPECT_EQ(startOfInnermost('f', Kind::Format), text.find("<i>"));
-    EXPECT_EQ(startOfInnermost('g', Kind::Format), text.find("<b>g"));
-    EXPECT_EQ(startOfInnermost('e', Kind::Paragraph), 0U);
-    EXPECT_EQ(startOfInnermost('f', Kind::Paragraph), kNone);
-    EXPECT_EQ(innermostElement(page, text.find("b</b>"), Kind::Format), 2U);
-    EXPECT_EQ(innermostElement(page, 0, Kind::Paragraph), kNone); // ahead of its content
 }
 
 TEST(PagePlaces, KnowTheTextAsItIsReadAgain)

@@ -79,17 +79,6 @@ TEST(Areas, UndoGoesBackToTheStateOfTheStart)
     EXPECT_EQ(desk.surface().DocumentHTML(), atStart);
 }
 
-TEST(Areas, FifteenStatesAreKept)
-{
-    WindowDesk desk;
-    desk.openCards({"x"});
-    desk.caretBehind(">x");
-    desk.type("abcdefghijklmnopqrst");
-    for (int i = 0; i < 20; ++i)
-        desk.click("lblButtonUndo");
-    EXPECT_NE(desk.design(0).find(">xabcdef</"), std::string::npos) << desk.design(0);
-}
-
 TEST(Areas, TheKeyTakesBackWhatWasTypedAndTheButtonGoesOnFromThere)
 {
     WindowDesk desk;

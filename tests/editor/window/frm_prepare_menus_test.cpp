@@ -56,21 +56,6 @@ TEST(Keys, DoWhatPeopleExpect)
     EXPECT_TRUE(desk.window.isVisible());
 }
 
-TEST(Keys, OfTheSurfaceReachTheFile)
-{
-    WindowDesk desk;
-    desk.openCards({"abc", "zwei"});
-    desk.caretBehind(">abc");
-    desk.press(Qt::Key_A, kControl);
-    desk.press(Qt::Key_X, kControl);
-    desk.type("neu ");
-    desk.press(Qt::Key_V, kControl);
-    desk.press(Qt::Key_V, kControl);
-    desk.press(Qt::Key_Z, kControl);
-    desk.press(Qt::Key_S, kControl);
-    EXPECT_EQ(desk.saved(), deckOf({"neu abc", "zwei"}));
-}
-
 TEST(Menus, TakeTheirTextsFromTheResources)
 {
     const struct {

@@ -17,39 +17,6 @@
 namespace quillmere::test {
 namespace {
 
-/// Lets timers run.
-void wait(int ms)
-{
-    QElapsedTimer time;
-    time.start();
-    while (time.elapsed() < ms)
-        QApplication::processEvents(QEventLoop::AllEvents, 20);
-}
-
-TEST(Closing, AsksForChangesOnlyAndEmptiesTheDeck)
-{
-    const struct {
-        const char* name;
-        bool types, saves;
-    } rows[] = {{"nothing changed", false, false}, {"saves", true, true}, {"drops", true, false}};
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        WindowDesk desk;
-        desk.openCards({"x"});
-        desk.caretBehind(">x");
-        if (row.types) {
-            desk.type("y");
-            desk.messages.answers = {row.saves};
-        }
-        desk.press(Qt::Key_Escape);
-        EXPECT_FALSE(desk.window.isVisible());
-        EXPECT_EQ(desk.messages.log.size(), row.types ? 1U : 0U);
-        EXPECT_EQ(desk.saved(), deckOf({row.saves ? "xy" : "x"}));
-        EXPECT_EQ(desk.session.document.deck.size(), 1U);
-        EXPECT_TRUE(std::filesystem::is_empty(desk.workFiles.directory()));
-    }
-}
-
 TEST(Closing, WhatCannotBeSavedKeepsTheWindowOpen)
 {
     WindowDesk desk;
@@ -88,38 +55,6 @@ TEST(Saving, SaysSoBeforeItGoesOverAnotherProgramsText)
     desk.type("z");
     desk.choose("mnuSave"); // its own text is no other program's
     EXPECT_EQ(desk.saved(), deckOf({"xyz"}));
-}
-
-TEST(Saving, WorksWithoutTheDirectoryOfTheWorkFiles)
-{
-    WindowDesk desk;
-    desk.openCards({"x", "y"});
-    const auto directory = desk.workFiles.directory();
-    std::filesystem::remove_all(directory);
-    desk.folder.put(std::filesystem::path(directory).parent_path().filename(), "im Weg");
-    desk.caretBehind(">x");
-    desk.type("1");
-    desk.click("btnAreaNext");
-    desk.caretBehind(">y");
-    desk.type("2");
-    desk.choose("mnuSave");
-    EXPECT_TRUE(desk.messages.log.empty());
-    EXPECT_EQ(desk.saved(), deckOf({"x1", "y2"}));
-    EXPECT_TRUE(desk.workFiles.trouble());
-}
-
-TEST(Saving, AChangeIsStoredSoonAndToldToWhoWatchesOverCrashes)
-{
-    WindowDesk desk;
-    std::vector<bool> stored;
-    desk.openCards({"x"});
-    desk.session.afterStore = [&](bool changed) { stored.push_back(changed); };
-    desk.caretBehind(">x");
-    desk.type("y");
-    EXPECT_TRUE(stored.empty());
-    wait(1300);
-    EXPECT_EQ(stored, std::vector<bool>{true});
-    EXPECT_NE(desk.design(0).find(">xy<"), std::string::npos);
 }
 
 TEST(Dropping, OpensADeckAndRefusesOneThatIsTooLong)

@@ -36,20 +36,15 @@ struct SourceDesk : WindowDesk {
 TEST(WindowSource, ShowsTheDeckAsItWouldBeSaved)
 {
     SourceDesk desk;
+    const auto& button = desk.control<QPushButton>("btnScript");
     EXPECT_EQ(desk.source.wml(), deckOf({"eins", "zwei"}));
-    EXPECT_TRUE(desk.source.isVisible());
-    EXPECT_FALSE(desk.surface().isVisible());
-    EXPECT_EQ(desk.control<QPushButton>("btnScript").text(), "Grafische Ansicht");
+    EXPECT_TRUE(desk.source.isVisible() && !desk.surface().isVisible());
+    EXPECT_EQ(button.text() + button.toolTip(), "Grafische AnsichtGrafische Ansicht");
     EXPECT_TRUE(desk.control<QPushButton>("btnAreaOne").hasFocus());
-    EXPECT_EQ(desk.control<QPushButton>("btnScript").toolTip(), "Grafische Ansicht");
-
     desk.click("btnScript"); // back again; nothing was typed, so nothing is asked
-    EXPECT_TRUE(desk.surface().isVisible());
-    EXPECT_FALSE(desk.source.isVisible());
-    EXPECT_EQ(desk.control<QPushButton>("btnScript").text(), "Quelltext");
-    EXPECT_TRUE(desk.control<QPushButton>("btnScript").toolTip().contains("WML-Text"));
+    EXPECT_TRUE(desk.surface().isVisible() && !desk.source.isVisible());
+    EXPECT_TRUE(button.text() == "Quelltext" && button.toolTip().contains("WML-Text"));
     EXPECT_FALSE(desk.window.docChanged());
-    EXPECT_NE(desk.surface().DocumentHTML().find("eins"), std::string::npos);
 }
 
 TEST(WindowSource, AnEditReplacesAllAreasOnceItIsAssentedTo)
@@ -200,15 +195,6 @@ TEST(WindowSource, ATextThatCannotBeADeckStaysInTheView)
         EXPECT_TRUE(desk.source.isVisible());
         EXPECT_EQ(desk.source.toPlainText(), row.text);
         EXPECT_NE(desk.design(1).find("zwei"), std::string::npos);
-    }
-}
-
-TEST(WindowSource, ToolsOfTheSurfaceRefuse)
-{
-    SourceDesk desk;
-    for (const auto* tool : {"Area", "Table", "Image", "Link", "Option", "TextFormat", "Justify"}) {
-        desk.click((std::string("lblButton") + tool).c_str());
-        EXPECT_EQ(desk.messages.taken(), std::vector<std::string>{"show 47"}) << tool;
     }
 }
 
