@@ -123,7 +123,7 @@ std::size_t firstDoubledEnd(const std::string& text)
 void dropDoubledEnds(std::string& text)
 {
     TextCutter cutter(text);
-    bool ended = true;
+    bool ended = true; // ahead of the first doubled one
     auto resumeAt = npos;
     for (auto at = firstDoubledEnd(text); at != npos; at = text.find('<', resumeAt)) {
         resumeAt = at + 1;
