@@ -1,31 +1,15 @@
 #include "document/standard/piece_alignment.h"
 
+#include "support/longest_common.h"
 #include "support/small_random.h"
 
 #include <gtest/gtest.h>
-
-#include <algorithm>
 
 namespace quillmere {
 namespace {
 
 using Keys = std::vector<std::uint64_t>;
 using Places = std::vector<std::uint32_t>;
-
-/// The length of the longest common part, by the table of all beginnings.
-std::size_t longestCommonPart(const Keys& then, const Keys& now)
-{
-    std::vector<std::size_t> row(now.size() + 1);
-    for (const auto key : then) {
-        auto diagonal = std::size_t{0};
-        for (std::size_t i = 0; i < now.size(); ++i) {
-            const auto above = row[i + 1];
-            row[i + 1] = key == now[i] ? diagonal + 1 : std::max(above, row[i]);
-            diagonal = above;
-        }
-    }
-    return row.back();
-}
 
 /// How much stays, after a look at what an alignment must be.
 std::size_t kept(const Keys& then, const Keys& now, const Places& places)
@@ -61,7 +45,7 @@ TEST(AlignPieces, KeepsAsMuchAsCanBe)
         if (!now.empty())
             now.erase(now.begin() + static_cast<std::ptrdiff_t>(random.below(now.size())));
         const auto places = alignPieces(then, now);
-        ASSERT_EQ(kept(then, now, places), longestCommonPart(then, now)) << seed;
+        ASSERT_EQ(kept(then, now, places), test::longestCommonPart(then, now)) << seed;
         EXPECT_EQ(inverted(inverted(places, then.size()), now.size()), places);
     }
 }

@@ -7,20 +7,9 @@
 namespace quillmere {
 namespace {
 
-struct Row {
-    const char* name;
-    std::string before;
-    std::string after;
-};
-
-void expectDeleted(std::initializer_list<Row> rows)
+void expectDeleted(const std::vector<test::EditRow>& rows)
 {
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        const test::MarkedPage marked(row.before);
-        const auto edit = deleteRange(marked.page, marked.from, marked.to);
-        EXPECT_EQ(test::editedWithCaret(marked.page, edit), row.after);
-    }
+    test::expectEdits(deleteRange, rows);
 }
 
 TEST(DeleteRange, TakesItemsAndWhatShowsNothingWithoutThem)
