@@ -17,6 +17,7 @@
 #include <filesystem>
 #include <sys/stat.h>
 #include <sys/wait.h>
+#include <tuple>
 #include <unistd.h>
 
 namespace quillmere {
@@ -33,24 +34,21 @@ TEST_F(Instances, StandWhereNobodyElseWrites)
 {
     const auto runtime = folder.path() + "run";
     const auto before = qgetenv("XDG_RUNTIME_DIR");
-    const struct {
-        const char* name;
-        mode_t mode;
-        bool isUsed;
-    } rows[] = {{"the person's own", 0700, true}, {"anyone's", 0777, false}, {"none", 0, false}};
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
+    const std::tuple<const char*, mode_t, bool> rows[]
+        = {{"the person's own", 0700, true}, {"anyone's", 0777, false}, {"none", 0, false}};
+    for (const auto& [name, mode, isUsed] : rows) {
+        SCOPED_TRACE(name);
         std::filesystem::remove_all(runtime);
-        if (row.mode != 0) {
+        if (mode != 0) {
             std::filesystem::create_directory(runtime);
-            ASSERT_EQ(::chmod(runtime.c_str(), row.mode), 0);
+            ASSERT_EQ(::chmod(runtime.c_str(), mode), 0);
         }
         qputenv("XDG_RUNTIME_DIR", QByteArray::fromStdString(runtime));
         const auto other = QString::fromStdString(folder.path() + "config/Quillmere.conf");
         const SingleInstance first(other);
         EXPECT_TRUE(first.isFirst());
         EXPECT_FALSE(SingleInstance(other).isFirst());
-        EXPECT_EQ(row.mode != 0 && !std::filesystem::is_empty(runtime), row.isUsed);
+        EXPECT_EQ(mode != 0 && !std::filesystem::is_empty(runtime), isUsed);
     }
     before.isNull() ? (void)qunsetenv("XDG_RUNTIME_DIR") : (void)qputenv("XDG_RUNTIME_DIR", before);
 }

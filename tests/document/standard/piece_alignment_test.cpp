@@ -1,5 +1,6 @@
 #include "document/standard/piece_alignment.h"
 
+#include "document/standard/new_runs.h"
 #include "support/longest_common.h"
 #include "support/small_random.h"
 
@@ -64,6 +65,40 @@ TEST(AlignPieces, HoldsWhatIsUniqueWhereMuchHasChanged)
     const auto same = randomKeys(random, 30000, 3); // in some seconds if it grew with the square
     const auto others = randomKeys(random, 30000, 3);
     EXPECT_GT(kept(same, others, alignPieces(same, others)), 0U);
+}
+
+TEST(SettleRuns, MovesANewRunToWhereItIsAnElement)
+{
+    const auto turnsOf = [](const std::string& text) {
+        std::vector<PieceTurn> turns;
+        for (const char c : text)
+            turns.push_back(c == '(' || c == '[' ? PieceTurn::Opens
+                    : c == ')' || c == ']'       ? PieceTurn::Closes
+                                                 : PieceTurn::None);
+        return turns;
+    };
+    struct Row {
+        std::string then, now, kept; ///< kept: the pieces of `now` that stayed
+    };
+    const Row rows[] = {
+        {"(b)", "(a)(b)", "   (b)"},
+        {"(a)", "(a)(b)", "(a)   "},
+        {"(a)(c)", "(a)(b)(c)", "(a)   (c)"},
+        {"(a[x])", "(a[x][x])", "(a[x]   )"},
+        {"(ab)", "(aab)", "(a b)"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.now);
+        const Keys then(row.then.begin(), row.then.end());
+        const Keys now(row.now.begin(), row.now.end());
+        auto places = alignPieces(then, now);
+        settleRuns(now, turnsOf(row.now), places);
+        EXPECT_EQ(kept(then, now, places), then.size());
+        auto shown = row.now;
+        for (std::size_t i = 0; i < shown.size(); ++i)
+            if (places[i] == kNoPiece) shown[i] = ' ';
+        EXPECT_EQ(shown, row.kept);
+    }
 }
 
 } // namespace

@@ -20,12 +20,7 @@ std::string toldDifference(const std::string& shown, const std::string& wanted)
 
 TEST(PageDifference, IsTheSmallestChangeOfOneBlock)
 {
-    const struct {
-        const char* name;
-        std::string shown;
-        std::string wanted;
-        const char* difference;
-    } rows[] = {
+    const std::string rows[][4] = {
         {"the same", "<p>a</p>", "<p>a</p>", "alike"},
         {"tags that show nothing", "<p>a<!--go/--></p>", "<p  >a</p >", "alike"},
         {"a blank as another one", "<p>a b</p>", "<p>a\tb</p>", "alike"},
@@ -39,9 +34,9 @@ TEST(PageDifference, IsTheSmallestChangeOfOneBlock)
         {"a border of a table", "<table><tr><td>a</table>", "<table border=1><tr><td>a</table>",
             "anew"},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        EXPECT_EQ(toldDifference(row.shown, row.wanted), row.difference);
+    for (const auto& [name, shown, wanted, difference] : rows) {
+        SCOPED_TRACE(name);
+        EXPECT_EQ(toldDifference(shown, wanted), difference);
     }
 }
 
