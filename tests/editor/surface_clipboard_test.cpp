@@ -33,10 +33,8 @@ TEST(SurfaceClipboard, BringsHtmlInAsTheFormatsOfAnArea)
             "b"},
         {"nothing", "<html><body></body></html>", ""},
     };
-    for (const auto& [name, html, markup] : rows) {
-        SCOPED_TRACE(name);
-        EXPECT_EQ(designMarkupOf(html), markup);
-    }
+    for (const auto& [name, html, markup] : rows)
+        EXPECT_EQ(designMarkupOf(html), markup) << name;
 }
 
 TEST(SurfaceClipboard, GivesOthersTheFormatsWithoutMarkersAndChips)

@@ -3,12 +3,8 @@
 
 #include "support/scratch_folder.h"
 
-#include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
-#include <QGuiApplication>
-#include <QImage>
-#include <QScreen>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -102,23 +98,6 @@ TEST(Splash, StandsForItsTimeWhateverIsPressedAndDoesItsWorkOnce)
     EXPECT_GE(workedMs, 745);
     EXPECT_LT(workedMs, 1000);
     EXPECT_FALSE(splash.isVisible());
-}
-
-TEST(Splash, HasTheSizeOfItsPictureButNotAnySize)
-{
-    const ScratchFolder folder;
-    const auto path = QString::fromStdString(folder.path() + "splash.bmp");
-    const auto sizeOf = [&] { return frmStart(path, [] {}).size(); };
-    const auto plain = sizeOf();
-    const auto screen = QGuiApplication::primaryScreen()->availableGeometry().size();
-    QImage(31, 20, QImage::Format_RGB32).save(path);
-    EXPECT_EQ(sizeOf(), QSize(31, 20));
-    QImage(4000, 10, QImage::Format_RGB32).save(path);
-    EXPECT_EQ(sizeOf(), QSize(screen.width(), 10));
-    for (const char* bytes : {"", "BM", "no picture"}) {
-        (void)folder.put("splash.bmp", bytes);
-        EXPECT_EQ(sizeOf(), plain);
-    }
 }
 
 } // namespace

@@ -53,10 +53,8 @@ TEST(PagePlaces, LieWhereTypedTextBelongs)
             "<tr></table>\r\n|"},
         {"a table without end", "<p>|<table><tr><td>|</td></tr>|b|</p>"},
     };
-    for (const auto& [name, text] : kRows) {
-        SCOPED_TRACE(name);
-        EXPECT_EQ(withPlaces(withoutBars(text)), text);
-    }
+    for (const auto& [name, text] : kRows)
+        EXPECT_EQ(withPlaces(withoutBars(text)), text) << name;
 }
 
 TEST(PagePlaces, KnowTheTextAsItIsReadAgain)

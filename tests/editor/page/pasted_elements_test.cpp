@@ -42,10 +42,8 @@ TEST(PasteElement, PutsElementsWhereNothingBreaks)
         {"never ahead of the card's marker", "|<!--card id=\"a\"--><p>x</p>", "<img src=\"a\">",
             "<!--card id=\"a\"--><img src=\"a\">|<p>x</p>"},
     };
-    for (const auto& [name, design, clip, wanted] : rows) {
-        SCOPED_TRACE(name);
-        EXPECT_EQ(pasted(design, clip), wanted);
-    }
+    for (const auto& [name, design, clip, wanted] : rows)
+        EXPECT_EQ(pasted(design, clip), wanted) << name;
 }
 
 TEST(PasteElement, PutsOptionsIntoTheOneListOfTheArea)
@@ -65,10 +63,8 @@ TEST(PasteElement, PutsOptionsIntoTheOneListOfTheArea)
         {"at the end of the list", "<!--card--><!--select-->" + one + "|<!--/select-->",
             "<!--card--><!--select-->" + one + placed + "<!--/select-->"},
     };
-    for (const auto& [name, design, wanted] : rows) {
-        SCOPED_TRACE(name);
-        EXPECT_EQ(pasted(design, clip), wanted);
-    }
+    for (const auto& [name, design, wanted] : rows)
+        EXPECT_EQ(pasted(design, clip), wanted) << name;
 }
 
 TEST(PasteElement, TellsElementsFromOtherText)
