@@ -1,4 +1,4 @@
-// Held by surface_undo_test.cpp.
+// Held by surface_typing_test.cpp.
 
 #include "editor/surface_undo.h"
 

@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <tuple>
 
 namespace quillmere {
 namespace {
@@ -65,19 +66,15 @@ TEST(WordTable, BothFormsReadAlike)
 TEST(WordTable, FillsGapsAndBreaksLines)
 {
     using Arguments = std::vector<std::string_view>;
-    const struct {
-        const char* text;
-        Arguments arguments;
-        const char* filled;
-    } rows[] = {{"plain", {"unused"}, "plain"},
+    const std::tuple<const char*, Arguments, const char*> rows[] = {{"plain", {"unused"}, "plain"},
         {"Datei <?><br>fehlt", {"x.wml"}, "Datei x.wml\r\nfehlt"}, {"<?> bis <?>", {"1"}, "1 bis "},
         {"<?>-<?>", {"<?>", "b"}, "-b"}, {"<?>-<?>", {"a<?>", "b"}, "a<?>-b"},
         {"<?>", {"<br>"}, "<br>"},
         {"<?><?><?><?><?><?><?><?><?><?><?><?>",
             {"a", "b", "c", "d", "e", "f", "g", "h", "i", "j", "k"}, "abcdefghijjj"},
         {"<BR><? ><<?>", {"x"}, "<BR><? ><x"}};
-    for (const auto& row : rows)
-        EXPECT_EQ(filledWord({{row.text, "", ""}}, 0, row.arguments), row.filled) << row.text;
+    for (const auto& [text, arguments, filled] : rows)
+        EXPECT_EQ(filledWord({{text, "", ""}}, 0, arguments), filled) << text;
     EXPECT_EQ(filledWord({{"a", "", ""}}, 1, {}) + filledWord({{"a", "", ""}}, -1, {}), "");
 }
 

@@ -75,11 +75,7 @@ TEST_F(Cli, WritesToStandardOutputJustWhatIsAsked)
           "\"target\": \"#b\"},\n"
           " {\"index\": 1, \"id\": \"b\", \"title\": \"Zw\\u0009ei\", \"label\": \"\", "
           "\"target\": \"\"}]\n";
-    const struct {
-        Call call;
-        std::string input;
-        std::string output;
-    } rows[] = {
+    const std::tuple<Call, std::string, std::string> rows[] = {
         {{"step", "WmlToDesign"}, "<img src=\"a.wbmp\" alt=\"x\"/>",
             "<img src=\"a.wbmp\" alt=\"x\"/>"},
         {{"step", "DesignToWml", "--standard-output"}, "<TABLE border=1>", "<table>"},
@@ -97,11 +93,11 @@ TEST_F(Cli, WritesToStandardOutputJustWhatIsAsked)
     folder.put("words/ResWords.ini", "<word id=\"1\"></word><word id=\"2\">x</word>");
     folder.put("old.wml", "<wml>\n\n<card>");
     folder.put("d.wml", kDeck);
-    for (const auto& row : rows) {
-        SCOPED_TRACE(testing::PrintToString(row.call));
-        const auto result = cli(row.call, row.input);
+    for (const auto& [call, input, output] : rows) {
+        SCOPED_TRACE(testing::PrintToString(call));
+        const auto result = cli(call, input);
         EXPECT_EQ(result.status, 0) << result.errors;
-        EXPECT_EQ(result.output, row.output);
+        EXPECT_EQ(result.output, output);
     }
     EXPECT_TRUE(cli({"repair", "/dev/stdin", "-o", "-"}, kDeck).output.ends_with("</wml>\r\n"));
     EXPECT_NE(cli({"words"}).output.find("136\t"), std::string::npos);

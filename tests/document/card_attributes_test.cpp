@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace quillmere {
 namespace {
 
@@ -23,26 +25,24 @@ std::string jump(DocumentSession& session)
 
 TEST(CardAttributes, AreReadFromTheFirstMarkers)
 {
-    const struct {
-        Read read;
-        const char *file, *wanted;
-    } rows[] = {{card, "\r\n<!--CARD ID=\"a\" TITLE=\"b c\" newcontext=\"true\"-->\r\nx", "a|b c"},
-        {card, "<!--card id=\"a\"-->\r\n<!--card id=\"b\" title=\"t\"-->", "a|"},
-        {card, R"(<!--card title="t" card id="a"-->)", "a|"},
-        {card, "<!--card id=a title=\"t\"-->", "t|"}, {card, "<!--card id=a-->\"x\"", "|"},
-        {card, R"(<!--card id="a" title="t")", "|"}, {card, R"(<!--card id="a>b"-->)", "a>b|"},
-        {jump, R"(<!--DO TYPE="Accept" NAME="n" LABEL="l"--><!--GO HREF="#b"--><!--/DO-->)",
-            "n|l|#b"},
-        {jump, R"(<!--do type="prev" label="l"--><!--go href="#b"--><!--/do-->)", "||"},
-        {jump, R"(<!--do type="accept"--><!--/do--> label="l" name="n" <!--go href="#b"/-->)",
-            "||"},
-        {jump, R"(<!--do type="prev"--><!--/do--><!--do type="accept" label="l"--><!--/do-->)",
-            "|l|"},
-        {jump, R"(<!--do type="accept" label="l"-->)", "||"}}; // without end
+    const std::tuple<Read, const char*, const char*> rows[]
+        = {{card, "\r\n<!--CARD ID=\"a\" TITLE=\"b c\" newcontext=\"true\"-->\r\nx", "a|b c"},
+            {card, "<!--card id=\"a\"-->\r\n<!--card id=\"b\" title=\"t\"-->", "a|"},
+            {card, R"(<!--card title="t" card id="a"-->)", "a|"},
+            {card, "<!--card id=a title=\"t\"-->", "t|"}, {card, "<!--card id=a-->\"x\"", "|"},
+            {card, R"(<!--card id="a" title="t")", "|"}, {card, R"(<!--card id="a>b"-->)", "a>b|"},
+            {jump, R"(<!--DO TYPE="Accept" NAME="n" LABEL="l"--><!--GO HREF="#b"--><!--/DO-->)",
+                "n|l|#b"},
+            {jump, R"(<!--do type="prev" label="l"--><!--go href="#b"--><!--/do-->)", "||"},
+            {jump, R"(<!--do type="accept"--><!--/do--> label="l" name="n" <!--go href="#b"/-->)",
+                "||"},
+            {jump, R"(<!--do type="prev"--><!--/do--><!--do type="accept" label="l"--><!--/do-->)",
+                "|l|"},
+            {jump, R"(<!--do type="accept" label="l"-->)", "||"}}; // without end
     test::SmallDeck deck;
-    for (const auto& row : rows) {
-        deck.giveArea(row.file);
-        EXPECT_EQ(row.read(deck.session), row.wanted) << row.file;
+    for (const auto& [read, file, wanted] : rows) {
+        deck.giveArea(file);
+        EXPECT_EQ(read(deck.session), wanted) << file;
     }
 }
 

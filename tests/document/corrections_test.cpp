@@ -19,6 +19,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 // Each correction of a text is held against a version that searches the whole text anew for each
 // tag: on all short texts of a few tokens, and on random ones of many. Pieces such as "<" and "/b>"
 // become tags when a tag between them goes.
@@ -248,22 +250,20 @@ TEST(HostileTexts, OfTooManyCharactersAreRefusedAndStay)
 TEST(RepairFormatAroundSelect, AsksWhereTheSettingWantsIt)
 {
     const std::string broken = "<b><select></select></b>";
-    const struct {
-        const char* setting;
-        std::vector<bool> answers; // one for each question
-        std::string before, after;
-    } rows[] = {{"yes", {true}, broken, "<select></select>"}, {"YES", {false}, broken, broken},
-        {"No", {}, broken, "<select></select>"}, {"", {}, broken, "<select></select>"},
-        {"yes", {}, "<b>x</b><select></select>", "<b>x</b><select></select>"}};
-    for (const auto& row : rows) {
+    // answers: one for each question
+    const std::tuple<const char*, std::vector<bool>, std::string, std::string> rows[]
+        = {{"yes", {true}, broken, "<select></select>"}, {"YES", {false}, broken, broken},
+            {"No", {}, broken, "<select></select>"}, {"", {}, broken, "<select></select>"},
+            {"yes", {}, "<b>x</b><select></select>", "<b>x</b><select></select>"}};
+    for (const auto& [setting, answers, before, after] : rows) {
         test::SmallDeck none;
-        test::ScriptedPrompter person(row.answers);
-        none.core.settings.WriteSetting("ShowSelectTagCorrectMessage", row.setting);
+        test::ScriptedPrompter person(answers);
+        none.core.settings.WriteSetting("ShowSelectTagCorrectMessage", setting);
         auto session = none.sessionWith(person);
-        std::string text = row.before;
+        std::string text = before;
         RepairFormatAroundSelect(text, session);
-        EXPECT_EQ(text, row.after) << row.setting;
-        EXPECT_EQ(person.log, std::vector<std::string>(row.answers.size(), "note 5"));
+        EXPECT_EQ(text, after) << setting;
+        EXPECT_EQ(person.log, std::vector<std::string>(answers.size(), "note 5"));
     }
 }
 

@@ -2,11 +2,11 @@
 #include "document/changes/deck_changes.h"
 #include "document/changes/sequence_match.h"
 #include "generator/deck_generator.h"
+#include "support/longest_common.h"
 #include "support/small_random.h"
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <map>
 #include <regex>
 
@@ -158,20 +158,6 @@ TEST(DeckChanges, NothingChangesBetweenADeckAndItself)
     EXPECT_FALSE(report.wellFormed());
 }
 
-std::size_t longestCommonLength(const std::vector<int>& a, const std::vector<int>& b)
-{
-    std::vector<std::size_t> row(b.size() + 1);
-    for (const int value : a) {
-        std::size_t diagonal = 0;
-        for (std::size_t j = 0; j < b.size(); ++j) {
-            const auto above = row[j + 1];
-            row[j + 1] = value == b[j] ? diagonal + 1 : std::max(above, row[j]);
-            diagonal = above;
-        }
-    }
-    return row.back();
-}
-
 TEST(SequenceMatch, IsALongestListOfEqualPairs)
 {
     for (std::uint64_t seed = 0; seed < 2000; ++seed) {
@@ -190,7 +176,7 @@ TEST(SequenceMatch, IsALongestListOfEqualPairs)
             left = pair.left + 1;
             right = pair.right + 1;
         }
-        const auto longest = longestCommonLength(lists[0], lists[1]);
+        const auto longest = test::longestCommonPart(lists[0], lists[1]);
         ASSERT_TRUE(isLong ? 2 * pairs.size() > longest : pairs.size() == longest) << seed;
     }
 }

@@ -11,6 +11,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 // Both path styles on any machine, and what a person types into fields for names and numbers.
 
 namespace quillmere {
@@ -22,10 +24,7 @@ using Names = std::vector<std::string>;
 
 TEST(Paths, NormaliseToAbsoluteDirectoriesThatStayAsTheyAre)
 {
-    const struct {
-        PathStyle style;
-        const char *path, *current, *wanted;
-    } rows[] = {
+    const std::tuple<PathStyle, const char*, const char*, const char*> rows[] = {
         {kPosix, "/a//b/./c/", "/home", "/a/b/c/"},
         {kPosix, "x", "/home/me", "/home/me/x/"},
         {kPosix, "../x", "/home", "/home/../x/"}, // what is ahead of ".." may be a link
@@ -37,10 +36,10 @@ TEST(Paths, NormaliseToAbsoluteDirectoriesThatStayAsTheyAre)
         {kWindows, R"(C:\..\a)", R"(D:\x)", R"(C:\a\)"},
         {kWindows, "a", R"(D:\x\)", R"(D:\x\a\)"},
     };
-    for (const auto& row : rows) {
-        const auto normal = NormalisePath(row.path, row.style, row.current);
-        EXPECT_EQ(normal, row.wanted) << row.path;
-        EXPECT_EQ(NormalisePath(normal, row.style, row.current), normal);
+    for (const auto& [style, path, current, wanted] : rows) {
+        const auto normal = NormalisePath(path, style, current);
+        EXPECT_EQ(normal, wanted) << path;
+        EXPECT_EQ(NormalisePath(normal, style, current), normal);
     }
 }
 
@@ -172,36 +171,32 @@ TEST(CheckedNames, AreCompletedAndCutAtThePoint)
 
 TEST(CompleteUrl, OffersWhatIsMissing)
 {
-    const struct {
-        const char *text, *offer; // null: nothing is offered
-    } rows[] = {{"www.a.de", "http://www.a.de"}, {" WWW.a.de ", "http://WWW.a.de"},
-        {"a.de/b", "http://www.a.de/b"}, {R"(a\b)", R"(http://www.a\b)"},
-        {"a.wml", "http://www.a.wml"}, {"HTTP://a/b", nullptr}, {" http:x ", nullptr},
-        {"#karte", nullptr}, {" Wort ", nullptr}, {"", nullptr}};
-    for (const auto& row : rows) {
+    // What is typed, and what is offered for it, if anything.
+    const char* const rows[][2] = {{"www.a.de", "http://www.a.de"},
+        {" WWW.a.de ", "http://WWW.a.de"}, {"a.de/b", "http://www.a.de/b"},
+        {R"(a\b)", R"(http://www.a\b)"}, {"a.wml", "http://www.a.wml"}, {"HTTP://a/b", nullptr},
+        {" http:x ", nullptr}, {"#karte", nullptr}, {" Wort ", nullptr}, {"", nullptr}};
+    for (const auto& [text, offer] : rows) {
         for (const bool assents : {true, false}) {
             test::ScriptedPrompter person;
-            if (row.offer != nullptr) person.answers = {assents};
-            const bool isTaken = assents && row.offer != nullptr;
-            EXPECT_EQ(CompleteUrl(row.text, person), isTaken ? row.offer : row.text);
+            if (offer != nullptr) person.answers = {assents};
+            const bool isTaken = assents && offer != nullptr;
+            EXPECT_EQ(CompleteUrl(text, person), isTaken ? offer : text);
             const auto log = person.log.empty() ? "" : person.log.front();
-            EXPECT_EQ(log, row.offer == nullptr ? "" : std::string("129: ") + row.offer);
+            EXPECT_EQ(log, offer == nullptr ? "" : std::string("129: ") + offer);
         }
     }
 }
 
 TEST(NumberTexts, AreDecimalOrCleaned)
 {
-    const struct {
-        const char* text;
-        bool isDecimal;
-        const char* cleaned;
-    } rows[] = {{"12", true, "12"}, {"1,5", true, "15"}, {",5", false, "5"}, {"1,2,3", false, ""},
-        {"12345678901", true, "12345678"}, {" 42 ", false, "42"}, {"1.000", false, "1000"},
-        {"1a", false, ""}, {",", false, ""}, {"1-2", false, ""}, {"      1234", false, "12"}};
-    for (const auto& row : rows) {
-        EXPECT_EQ(IsDecimal(row.text), row.isDecimal) << row.text;
-        EXPECT_EQ(CleanNumberText(row.text), row.cleaned);
+    const std::tuple<const char*, bool, const char*> rows[]
+        = {{"12", true, "12"}, {"1,5", true, "15"}, {",5", false, "5"}, {"1,2,3", false, ""},
+            {"12345678901", true, "12345678"}, {" 42 ", false, "42"}, {"1.000", false, "1000"},
+            {"1a", false, ""}, {",", false, ""}, {"1-2", false, ""}, {"      1234", false, "12"}};
+    for (const auto& [text, isDecimal, cleaned] : rows) {
+        EXPECT_EQ(IsDecimal(text), isDecimal) << text;
+        EXPECT_EQ(CleanNumberText(text), cleaned);
     }
     for (int bit = 1; bit <= 32; ++bit)
         EXPECT_TRUE(BitIsSet(1U << (bit - 1), bit) && !BitIsSet(~(1U << (bit - 1)), bit)) << bit;

@@ -11,6 +11,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace quillmere {
 namespace {
 
@@ -97,28 +99,23 @@ private:
 
 TEST(SurfaceMouse, SelectsObjectsWholeByAClick)
 {
-    struct Row {
-        const char* source;
-        const char* tag;
-        bool isImage;
-    };
-    const Row rows[] = {{"<img src=\"a", "img", true}, {"<input", "input", false},
-        {"<timer", "timer", false}, {"<img src=\"b", "img", true}};
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.source);
+    const std::tuple<const char*, const char*, bool> rows[] = {{"<img src=\"a", "img", true},
+        {"<input", "input", false}, {"<timer", "timer", false}, {"<img src=\"b", "img", true}};
+    for (const auto& [source, tag, isImage] : rows) {
+        SCOPED_TRACE(source);
         Moused surface;
-        surface.click(surface.pointOf(row.source));
+        surface.click(surface.pointOf(source));
         const auto told = surface.selection();
         EXPECT_EQ(told.type, Type::Control);
-        EXPECT_EQ(told.control->tag, row.tag);
+        EXPECT_EQ(told.control->tag, tag);
         EXPECT_EQ(surface.QueryStatus(surface_command::kItalic), 1);
         const auto range = FindMarkedRange(surface.DocumentHTML(), told);
         if (range) {
-            EXPECT_EQ(range->IsImage, row.isImage);
-            EXPECT_EQ(range->Start, static_cast<int>(surface.DocumentHTML().find(row.source)) + 1);
+            EXPECT_EQ(range->IsImage, isImage);
+            EXPECT_EQ(range->Start, static_cast<int>(surface.DocumentHTML().find(source)) + 1);
         }
         surface.press(Qt::Key_Delete);
-        EXPECT_EQ(surface.DocumentHTML().find(row.source), std::string::npos);
+        EXPECT_EQ(surface.DocumentHTML().find(source), std::string::npos);
         EXPECT_EQ(surface.selection().type, Type::None);
     }
 }

@@ -16,7 +16,6 @@ namespace quillmere {
 namespace {
 
 using test::ShownSurface;
-using Type = SurfaceSelection::Type;
 
 constexpr auto kTable = "<table title=\"T\"><tr><td>a</td><td><b>b</b></td></tr>"
                         "<tr><td><b>c</b></td><td><b>d</b></td></tr></table>";
@@ -76,32 +75,16 @@ TEST(DesignSurface, KeepsTheCaretAtItsPlaceOverAReloadOnly)
     EXPECT_EQ(surface.caretOffset(), 3U);
 }
 
-TEST(DesignSurface, TellsWhatIsSelectedInPlacesOfTheJoinedText)
-{
-    ShownSurface surface;
-    surface.give("<p>a\r\nb</p>\r\n<p>b|c|</p>");
-    auto told = surface.selection();
-    const auto text = joinLines(surface.DocumentHTML());
-    EXPECT_EQ(told.type, Type::Text);
-    EXPECT_EQ(told.marked.in(text), "c");
-    const auto range = FindMarkedRange(text, told);
-    ASSERT_TRUE(range);
-    EXPECT_EQ(range->Start, static_cast<int>(text.find('c')) + 1);
-    EXPECT_EQ(surface.selectedMarkup(), "c");
-    EXPECT_EQ(surface.selectedText(), "c");
-    surface.setCaretOffset(3);
-    EXPECT_EQ(surface.selection().type, Type::None);
-    EXPECT_EQ(surface.QueryStatus(surface_command::kItalic), 3);
-}
-
 TEST(DesignSurface, FindsTheMarkedPlaceWhereTheSameWordsStandSeveralTimes)
 {
     ShownSurface surface;
-    const std::string text
-        = "<p>wo wo <a href=\"#wo\">wo</a> <b>wo</b></p><!--select--><!--option value=\"wo\"-->"
+    const std::string given
+        = "<p>wo\r\nwo <a href=\"#wo\">wo</a> <b>wo</b></p>\r\n<!--select--><!--option "
+          "value=\"wo\"-->"
           "<input type=radio "
           "name=\"wo\">wo<!--/option--><!--/select--><table><tr><td>wo<td>wo</table>";
-    surface.give(text);
+    surface.give(given);
+    const auto text = joinLines(given); // what places are told in
     std::vector<int> found;
     while (surface.find("wo")) {
         const auto range = FindMarkedRange(text, surface.selection());

@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace quillmere {
 namespace {
 
@@ -79,23 +81,18 @@ TEST(PageDocument, PutsTheBlocksOfACellIntoItAndLetsTheLastCellOfAShortRowTakeTh
 
 TEST(PageDocument, ShowsAChangeAsThePageAnewWould)
 {
-    struct Row {
-        const char* before;
-        const char* after;
-        ItemChange change;
-    };
-    const Row rows[] = {
+    const std::tuple<const char*, const char*, ItemChange> rows[] = {
         {"<p>ab</p>", "<p>a<b>x</b>b</p>", {{0, 1}, 0, 1, 2}},
         {"<p>a<br/>b</p>", "<p>ab</p>", {{0, 1}, 1, 1, 1}},
         {"<table><tr><td>ab<td>c</table>", "<table><tr><td>ab<td><img src=x></table>",
             {{2, 0}, 1, 2, 3}},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.after);
+    for (const auto& [before, after, change] : rows) {
+        SCOPED_TRACE(after);
         QTextDocument document;
-        showPage(document, readSurfacePage(row.before), {});
-        const auto wanted = readSurfacePage(row.after);
-        showChange(document, wanted, row.change, {});
+        showPage(document, readSurfacePage(before), {});
+        const auto wanted = readSurfacePage(after);
+        showChange(document, wanted, change, {});
         QTextDocument anew;
         showPage(anew, wanted, {});
         EXPECT_EQ(shownBlocks(document), shownBlocks(anew));

@@ -13,12 +13,7 @@ namespace {
 
 TEST(SurfaceClipboard, BringsHtmlInAsTheFormatsOfAnArea)
 {
-    struct Row {
-        const char* name;
-        const char* html;
-        const char* markup;
-    };
-    const Row rows[] = {
+    const char* const rows[][3] = {
         {"paragraphs", "<p>eins</p><p>zwei<br>drei</p>", "eins<br/>zwei<br/>drei"},
         {"formats", "<b>a</b><em>b</em><u>c</u><small>d</small>",
             "<b>a</b><i>b</i><u>c</u><small>d</small>"},
@@ -38,10 +33,8 @@ TEST(SurfaceClipboard, BringsHtmlInAsTheFormatsOfAnArea)
             "b"},
         {"nothing", "<html><body></body></html>", ""},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        EXPECT_EQ(designMarkupOf(row.html), row.markup);
-    }
+    for (const auto& [name, html, markup] : rows)
+        EXPECT_EQ(designMarkupOf(html), markup) << name;
 }
 
 TEST(SurfaceClipboard, GivesOthersTheFormatsWithoutMarkersAndChips)

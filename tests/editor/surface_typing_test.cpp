@@ -77,6 +77,22 @@ TEST(SurfaceTyping, PutsIntoTheTextWhatKeysMean)
                 s.press(Qt::Key_Z, kControl | kShift);
             },
             "<p>axyz|</p>"},
+        {"what is typed elsewhere is a step of its own", "<p>a|b</p>",
+            [](auto& s) {
+                s.type("x");
+                s.press(Qt::Key_End);
+                s.type("y");
+                s.press(Qt::Key_Z, kControl);
+            },
+            "<p>axb|</p>"},
+        {"no redo behind another edit", "<p>a|b</p>",
+            [](auto& s) {
+                s.type("x");
+                s.press(Qt::Key_Z, kControl);
+                s.type("y");
+                s.press(Qt::Key_Z, kControl | kShift);
+            },
+            "<p>ay|b</p>"},
         {"cut and paste", "<p>a|b|<b>c</b></p>",
             [](auto& s) {
                 s.press(Qt::Key_X, kControl);

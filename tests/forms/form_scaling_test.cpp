@@ -1,7 +1,5 @@
 #include "forms/form_scaling.h"
 
-#include <QLabel>
-
 #include <gtest/gtest.h>
 
 namespace quillmere {
@@ -60,18 +58,6 @@ TEST(ScaleForm, AFormGrowsToHoldItsControls)
     // Across, not down, tells whether fonts are big.
     EXPECT_EQ(scaled("frmUploadExtended", 9000, 100, "btnNew", {12, 15}).form.height, 4050);
     EXPECT_EQ(scaled("frmUploadExtended", 9000, 100, "btnNew", {15, 12}).form.height, 3120);
-}
-
-TEST(ScaleForm, PixelsStayWhatTheyAre)
-{
-    QWidget form;
-    form.setObjectName("frmInput");
-    form.resize(400, 300);
-    QLabel label(&form);
-    label.setGeometry(10, 20, 100, 30);
-    ScaleFormToScreen(form, true);
-    EXPECT_EQ(label.geometry(), QRect(10, 20, 100, 30));
-    EXPECT_EQ(form.size(), QSize(400, 300));
 }
 
 } // namespace

@@ -116,20 +116,6 @@ TEST(ApplyItem, BlanksLeaveWhatIsThere)
     }
 }
 
-TEST(ApplyItem, BoundsWhatARecordAsksFor)
-{
-    QWidget window;
-    QLabel label(&window);
-    auto item = someItem();
-    item.Width = -5;
-    item.Height = 32767;
-    item.FontSize = 32767;
-    ApplyItem(label, item, "");
-    EXPECT_EQ(label.width(), 0);
-    EXPECT_LE(label.height(), 4096);
-    EXPECT_LE(label.font().pointSize(), 200);
-}
-
 TEST(SkinPicture, ComesAtDoubleSizeWhereTheScreenHasIt)
 {
     const SkinFolder skins;

@@ -55,21 +55,6 @@ TEST(Theme, DialogsCanBeReadInEverySkin)
     }
 }
 
-TEST(Theme, ARecordOfControlsAloneStillGivesATheme)
-{
-    SkinRecord skin;
-    auto& window = skin.items[std::size_t(SkinPart::Window)];
-    window.BackColor = 0xFFFFFF;
-    window.ForeColor = 0x000000;
-    const auto theme = themeOf(skin);
-    EXPECT_EQ(theme.shell, QColor(Qt::white));
-    EXPECT_GE(contrast(theme.muted, theme.shell), 4.5);
-    EXPECT_GE(contrast(theme.onAccent, theme.accent), 4.5);
-    EXPECT_GE(contrast(theme.edge, theme.shell), 3.0);
-    SkinTables none;
-    EXPECT_EQ(activeTheme(none).shell, Theme().shell);
-}
-
 /// One window with the common controls, in a style of its own.
 class ThemedControls : public testing::Test {
 protected:

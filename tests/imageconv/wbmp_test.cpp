@@ -7,6 +7,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace quillmere {
 namespace {
 
@@ -119,20 +121,17 @@ TEST(ReadWbmp, RefusesByTheStandardWhatIsNone)
 
 TEST(WriteWbmp, WritesTheUsualForms)
 {
-    const struct {
-        std::size_t width, height;
-        std::string header;
-        std::size_t rowBytes;
-    } rows[] = {{8, 1, {"\0\0\x08\x01", 4}, 2}, // a byte of 0 behind full bytes
-        {51, 21, {"\0\0\x33\x15", 4}, 7}, {128, 128, {"\0\0\x80\x80", 4}, 17},
-        {129, 1, {"\0\0\x81\x00\x80\x00", 6}, 17}, // the largest index and not the count
-        {201, 51, {"\0\0\x81\x48\x80\x32", 6}, 26}};
-    for (const auto& row : rows) {
-        Drawing drawing(Rows(row.height, std::string(row.width, '.')));
+    const std::tuple<std::size_t, std::size_t, std::string, std::size_t> rows[]
+        = {{8, 1, {"\0\0\x08\x01", 4}, 2}, // a byte of 0 behind full bytes
+            {51, 21, {"\0\0\x33\x15", 4}, 7}, {128, 128, {"\0\0\x80\x80", 4}, 17},
+            {129, 1, {"\0\0\x81\x00\x80\x00", 6}, 17}, // the largest index and not the count
+            {201, 51, {"\0\0\x81\x48\x80\x32", 6}, 26}};
+    for (const auto& [width, height, header, rowBytes] : rows) {
+        Drawing drawing(Rows(height, std::string(width, '.')));
         const auto bytes = wbmpBytes(drawing, kUsual);
-        EXPECT_EQ(bytes.substr(0, row.header.size()), row.header);
-        EXPECT_EQ(bytes.size(), row.header.size() + row.height * row.rowBytes);
-        EXPECT_EQ(std::size_t(drawing.yields), row.width * row.height);
+        EXPECT_EQ(bytes.substr(0, header.size()), header);
+        EXPECT_EQ(bytes.size(), header.size() + height * rowBytes);
+        EXPECT_EQ(std::size_t(drawing.yields), width * height);
     }
     Drawing drawing({"#.#.#.#.#", "?.??#...."}); // what cannot be read is missing in its row
     EXPECT_EQ(wbmpBytes(drawing, kUsual), std::string("\0\0\x09\x02\x55\x00\xBC", 7));

@@ -3,12 +3,8 @@
 
 #include "support/scratch_folder.h"
 
-#include <QDir>
 #include <QElapsedTimer>
 #include <QFile>
-#include <QGuiApplication>
-#include <QImage>
-#include <QScreen>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -17,6 +13,7 @@
 #include <filesystem>
 #include <sys/stat.h>
 #include <sys/wait.h>
+#include <tuple>
 #include <unistd.h>
 
 namespace quillmere {
@@ -33,24 +30,21 @@ TEST_F(Instances, StandWhereNobodyElseWrites)
 {
     const auto runtime = folder.path() + "run";
     const auto before = qgetenv("XDG_RUNTIME_DIR");
-    const struct {
-        const char* name;
-        mode_t mode;
-        bool isUsed;
-    } rows[] = {{"the person's own", 0700, true}, {"anyone's", 0777, false}, {"none", 0, false}};
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
+    const std::tuple<const char*, mode_t, bool> rows[]
+        = {{"the person's own", 0700, true}, {"anyone's", 0777, false}, {"none", 0, false}};
+    for (const auto& [name, mode, isUsed] : rows) {
+        SCOPED_TRACE(name);
         std::filesystem::remove_all(runtime);
-        if (row.mode != 0) {
+        if (mode != 0) {
             std::filesystem::create_directory(runtime);
-            ASSERT_EQ(::chmod(runtime.c_str(), row.mode), 0);
+            ASSERT_EQ(::chmod(runtime.c_str(), mode), 0);
         }
         qputenv("XDG_RUNTIME_DIR", QByteArray::fromStdString(runtime));
         const auto other = QString::fromStdString(folder.path() + "config/Quillmere.conf");
         const SingleInstance first(other);
         EXPECT_TRUE(first.isFirst());
         EXPECT_FALSE(SingleInstance(other).isFirst());
-        EXPECT_EQ(row.mode != 0 && !std::filesystem::is_empty(runtime), row.isUsed);
+        EXPECT_EQ(mode != 0 && !std::filesystem::is_empty(runtime), isUsed);
     }
     before.isNull() ? (void)qunsetenv("XDG_RUNTIME_DIR") : (void)qputenv("XDG_RUNTIME_DIR", before);
 }
@@ -104,23 +98,6 @@ TEST(Splash, StandsForItsTimeWhateverIsPressedAndDoesItsWorkOnce)
     EXPECT_GE(workedMs, 745);
     EXPECT_LT(workedMs, 1000);
     EXPECT_FALSE(splash.isVisible());
-}
-
-TEST(Splash, HasTheSizeOfItsPictureButNotAnySize)
-{
-    const ScratchFolder folder;
-    const auto path = QString::fromStdString(folder.path() + "splash.bmp");
-    const auto sizeOf = [&] { return frmStart(path, [] {}).size(); };
-    const auto plain = sizeOf();
-    const auto screen = QGuiApplication::primaryScreen()->availableGeometry().size();
-    QImage(31, 20, QImage::Format_RGB32).save(path);
-    EXPECT_EQ(sizeOf(), QSize(31, 20));
-    QImage(4000, 10, QImage::Format_RGB32).save(path);
-    EXPECT_EQ(sizeOf(), QSize(screen.width(), 10));
-    for (const char* bytes : {"", "BM", "no picture"}) {
-        (void)folder.put("splash.bmp", bytes);
-        EXPECT_EQ(sizeOf(), plain);
-    }
 }
 
 } // namespace

@@ -111,6 +111,7 @@ TEST(OpenDocument, LeavesTheOpenDeckAloneWhereItFails)
             EXPECT_EQ(stateOf(desk), before);
         }
     }
+    desk.folder.put("decks/riese.wml", std::string(3'000'000, ' '));
     desk.settings.WriteSetting("StandardOutput", "Yes");
     desk.messages.answers = {false};
     try {

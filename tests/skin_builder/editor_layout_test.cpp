@@ -8,8 +8,7 @@
 
 #include <QFileInfo>
 #include <QImageReader>
-#include <QPolygon>
-#include <QRegion>
+#include <QRect>
 
 #include <gtest/gtest.h>
 
@@ -73,19 +72,6 @@ TEST(EditorLayout, EveryPictureOfTheRecordsShips)
         for (const auto& button : record.buttons)
             expectPicture(button.picture);
     }
-}
-
-TEST(EditorLayout, TheSpareCornerTakesNothingFromTheOutline)
-{
-    QPolygon wanted;
-    for (const auto& point : windowOutline())
-        wanted << QPoint(point.X, point.Y);
-    const QRegion shape(wanted, Qt::OddEvenFill);
-    EXPECT_EQ(QRegion(wanted << QPoint(0, 0), Qt::OddEvenFill), shape);
-    EXPECT_EQ(shape.boundingRect(), QRect(0, 0, kWindowWidth, kWindowHeight));
-    EXPECT_FALSE(shape.contains(QPoint(2, 2)));
-    EXPECT_FALSE(shape.contains(QPoint(kWindowWidth - 3, kWindowHeight - 3)));
-    EXPECT_TRUE(shape.contains(QPoint(0, kWindowCorner + 1)));
 }
 
 TEST(Telephones, EachDisplayLiesWithinTheBoundsOfItsDevice)

@@ -10,6 +10,7 @@
 #include <gtest/gtest.h>
 
 #include <limits>
+#include <tuple>
 
 namespace quillmere {
 namespace {
@@ -152,16 +153,13 @@ template <typename Record> std::vector<Record> recordsOf(const std::string& lett
 
 TEST_F(SkinFiles, TheFirstSelectedRecordWithAModelIsFound)
 {
-    const struct {
-        const char *editor, *preview;
-        bool inEditor;
-        std::optional<std::size_t> found;
-    } rows[] = {{"-SS", "S", true, 1}, {"s-S", "", true, 2}, {"-s-", "--S", true, 2},
-        {"S", "-S", false, 1}, {"-", "s", true, std::nullopt}, {"", "", true, std::nullopt}};
-    for (const auto& row : rows) {
-        tables.EditorSkins = recordsOf<SkinRecord>(row.editor);
-        tables.PreviewSkins = recordsOf<PreviewSkinRecord>(row.preview);
-        EXPECT_EQ(FindSelectedSkin(tables, row.inEditor), row.found) << row.editor << row.preview;
+    const std::tuple<const char*, const char*, bool, std::optional<std::size_t>> rows[]
+        = {{"-SS", "S", true, 1}, {"s-S", "", true, 2}, {"-s-", "--S", true, 2},
+            {"S", "-S", false, 1}, {"-", "s", true, std::nullopt}, {"", "", true, std::nullopt}};
+    for (const auto& [editor, preview, inEditor, found] : rows) {
+        tables.EditorSkins = recordsOf<SkinRecord>(editor);
+        tables.PreviewSkins = recordsOf<PreviewSkinRecord>(preview);
+        EXPECT_EQ(FindSelectedSkin(tables, inEditor), found) << editor << preview;
     }
 }
 

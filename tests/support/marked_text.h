@@ -3,8 +3,11 @@
 #include "editor/page/page_edits.h"
 #include "editor/page/page_places.h"
 
+#include <gtest/gtest.h>
+
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace quillmere::test {
 
@@ -50,6 +53,26 @@ struct MarkedPage {
 [[nodiscard]] inline std::string editedWithCaret(const SurfacePage& page, const SurfaceEdit& edit)
 {
     return edited(page.text, edit, page.rules).insert(edit.caret, "|");
+}
+
+/// A text with the caret or what is marked in it, and what becomes of it.
+struct EditRow {
+    const char* name;
+    std::string before;
+    std::string after;
+};
+
+/// Each row after `operation` between its two places.
+template <class Operation>
+void expectEdits(
+    Operation operation, const std::vector<EditRow>& rows, const OutputRules& rules = OutputRules())
+{
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.name);
+        const MarkedPage marked(row.before, rules);
+        const SurfaceEdit edit = operation(marked.page, marked.from, marked.to);
+        EXPECT_EQ(editedWithCaret(marked.page, edit), row.after);
+    }
 }
 
 } // namespace quillmere::test

@@ -1,6 +1,6 @@
 // Blocks, cells and tables are held against each other one by one; in the one block whose items are
 // not the same, what it has in common at its start and at its end stays. Held by
-// page_difference_test.cpp.
+// edit_promises_test.cpp.
 
 #include "editor/page/page_difference.h"
 

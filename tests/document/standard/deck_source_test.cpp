@@ -7,10 +7,7 @@ namespace {
 
 TEST(EditedSource, KeepsTheBytesOfLinesThatAreAsTheyWere)
 {
-    struct Row {
-        std::string file, before, after, wanted;
-    };
-    const Row rows[] = {
+    const std::string rows[][4] = {
         {"<wml>\r\n <p>\xC3\xA4\xE2\x86\x92</p>\n</wml>", "", "", ""},
         {"<wml>\n <p>\xC3\xA4\xE2\x86\x92</p>\n a\r\n</wml>\n", " a", " \xC3\xA4",
             "<wml>\n <p>\xC3\xA4\xE2\x86\x92</p>\n \xC3\xA4\n</wml>\n"},
@@ -22,9 +19,9 @@ TEST(EditedSource, KeepsTheBytesOfLinesThatAreAsTheyWere)
         {"a\rb", "b", "b\r\nneu", "a\rb\rneu"},
         {"", "", "neu\nzwei", "neu\r\nzwei"},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.file);
-        auto shown = shownSource(row.file);
+    for (const auto& [file, before, after, wanted] : rows) {
+        SCOPED_TRACE(file);
+        auto shown = shownSource(file);
         std::string lines; // as a text field has them
         for (std::size_t at = 0; at < shown.size(); ++at) {
             const bool isPair = shown.compare(at, 2, "\r\n") == 0;
@@ -32,9 +29,9 @@ TEST(EditedSource, KeepsTheBytesOfLinesThatAreAsTheyWere)
             isEnd ? lines.append("\r\n") : lines.append(1, shown[at]);
             at += isPair ? 1 : 0;
         }
-        EXPECT_EQ(editedSource(row.file, lines), row.file);
-        lines.replace(lines.find(row.before), row.before.size(), row.after);
-        EXPECT_EQ(editedSource(row.file, lines), row.wanted.empty() ? row.file : row.wanted);
+        EXPECT_EQ(editedSource(file, lines), file);
+        lines.replace(lines.find(before), before.size(), after);
+        EXPECT_EQ(editedSource(file, lines), wanted.empty() ? file : wanted);
     }
 }
 

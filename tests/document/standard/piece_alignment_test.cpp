@@ -1,31 +1,16 @@
 #include "document/standard/piece_alignment.h"
 
+#include "document/standard/new_runs.h"
+#include "support/longest_common.h"
 #include "support/small_random.h"
 
 #include <gtest/gtest.h>
-
-#include <algorithm>
 
 namespace quillmere {
 namespace {
 
 using Keys = std::vector<std::uint64_t>;
 using Places = std::vector<std::uint32_t>;
-
-/// The length of the longest common part, by the table of all beginnings.
-std::size_t longestCommonPart(const Keys& then, const Keys& now)
-{
-    std::vector<std::size_t> row(now.size() + 1);
-    for (const auto key : then) {
-        auto diagonal = std::size_t{0};
-        for (std::size_t i = 0; i < now.size(); ++i) {
-            const auto above = row[i + 1];
-            row[i + 1] = key == now[i] ? diagonal + 1 : std::max(above, row[i]);
-            diagonal = above;
-        }
-    }
-    return row.back();
-}
 
 /// How much stays, after a look at what an alignment must be.
 std::size_t kept(const Keys& then, const Keys& now, const Places& places)
@@ -61,7 +46,7 @@ TEST(AlignPieces, KeepsAsMuchAsCanBe)
         if (!now.empty())
             now.erase(now.begin() + static_cast<std::ptrdiff_t>(random.below(now.size())));
         const auto places = alignPieces(then, now);
-        ASSERT_EQ(kept(then, now, places), longestCommonPart(then, now)) << seed;
+        ASSERT_EQ(kept(then, now, places), test::longestCommonPart(then, now)) << seed;
         EXPECT_EQ(inverted(inverted(places, then.size()), now.size()), places);
     }
 }
@@ -80,6 +65,40 @@ TEST(AlignPieces, HoldsWhatIsUniqueWhereMuchHasChanged)
     const auto same = randomKeys(random, 30000, 3); // in some seconds if it grew with the square
     const auto others = randomKeys(random, 30000, 3);
     EXPECT_GT(kept(same, others, alignPieces(same, others)), 0U);
+}
+
+TEST(SettleRuns, MovesANewRunToWhereItIsAnElement)
+{
+    const auto turnsOf = [](const std::string& text) {
+        std::vector<PieceTurn> turns;
+        for (const char c : text)
+            turns.push_back(c == '(' || c == '[' ? PieceTurn::Opens
+                    : c == ')' || c == ']'       ? PieceTurn::Closes
+                                                 : PieceTurn::None);
+        return turns;
+    };
+    struct Row {
+        std::string then, now, kept; ///< kept: the pieces of `now` that stayed
+    };
+    const Row rows[] = {
+        {"(b)", "(a)(b)", "   (b)"},
+        {"(a)", "(a)(b)", "(a)   "},
+        {"(a)(c)", "(a)(b)(c)", "(a)   (c)"},
+        {"(a[x])", "(a[x][x])", "(a[x]   )"},
+        {"(ab)", "(aab)", "(a b)"},
+    };
+    for (const auto& row : rows) {
+        SCOPED_TRACE(row.now);
+        const Keys then(row.then.begin(), row.then.end());
+        const Keys now(row.now.begin(), row.now.end());
+        auto places = alignPieces(then, now);
+        settleRuns(now, turnsOf(row.now), places);
+        EXPECT_EQ(kept(then, now, places), then.size());
+        auto shown = row.now;
+        for (std::size_t i = 0; i < shown.size(); ++i)
+            if (places[i] == kNoPiece) shown[i] = ' ';
+        EXPECT_EQ(shown, row.kept);
+    }
 }
 
 } // namespace

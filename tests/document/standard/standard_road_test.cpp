@@ -282,7 +282,7 @@ TEST(StandardRoad, ShowsTheEntitiesThatADeckDeclares)
     deck.replace(0, "bei<!--#entity &amp;firma; A &amp;amp; 'B'-->!", "an");
     EXPECT_EQ(deck.written(), head + "Gr&ue;n an &lt;&a;&f;" + tail);
     deck.replace(0, "Gr", "<!--#entity &amp;firma; A--> gr");
-    EXPECT_EQ(deck.written(), head + "&firma; gr\xC3\xBCn an &lt;&a;&f;" + tail);
+    EXPECT_EQ(deck.written(), head + "&firma; gr&#252;n an &lt;&a;&f;" + tail);
 }
 
 TEST(StandardRoad, MendsABrokenDeckOnlyWithAChange)

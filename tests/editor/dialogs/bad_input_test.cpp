@@ -82,21 +82,18 @@ TEST(BadInput, AFullAreaStaysAsItIs)
 
 TEST(BadInput, AnElementThatIsGoneIsTold)
 {
-    const struct {
-        const char* element;
-        const char* place;
-    } rows[] = {{"<a href=\"#a\">eins</a>", "eins"},
+    const char* const rows[][2] = {{"<a href=\"#a\">eins</a>", "eins"},
         {"<select><option onpick=\"#a\">zwei</option></select>", "zwei"},
         {"<table title=\"t\" columns=\"1\"><tr><td>drei</td></tr></table>", "drei"}};
-    for (const auto& row : rows) {
+    for (const auto& [element, place] : rows) {
         for (const char* button : {"btnNew", "btnDelete"}) {
-            SCOPED_TRACE(std::string(row.place) + button);
+            SCOPED_TRACE(std::string(place) + button);
             ElementDesk desk;
-            desk.openCards({std::string("vor ") + row.element + " nach"});
+            desk.openCards({std::string("vor ") + element + " nach"});
             auto gone = desk.design(0);
             const auto begin = gone.find("vor ") + 4;
             gone.erase(begin, gone.find(" nach") - begin);
-            desk.mark(row.place);
+            desk.mark(place);
             desk.messages.answers = {true};
             desk.use("mnuContext2PrepareElement", [&](QWidget& form) {
                 WriteDesignText(desk.session.document, 0, gone);

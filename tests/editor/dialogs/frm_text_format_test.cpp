@@ -118,21 +118,18 @@ void expectGoodForms(const std::string& skins)
                     "</select>"
                     "<table title=\"t\" columns=\"1\"><tr><td>vier</td></tr></table>"});
     const auto before = desk.content();
-    const struct {
-        const char* entry;
-        const char* place;
-    } rows[] = {{"mnuContext1InsertTable", "eins"}, {"mnuContext1InsertOption", "eins"},
-        {"mnuContext1InsertHyperlink", "eins"}, {"mnuInsertImage2", "eins"},
-        {"lblButtonJustify", "eins"}, {"mnuContext1FormatText", "eins"},
-        {"mnuContext1AreaInsert", "eins"}, {"mnuContext1AreaParameters", "eins"},
-        {"mnuContext2PrepareElement", "zwei"}, {"mnuContext2PrepareElement", "drei"},
-        {"mnuContext2PrepareElement", "vier"}};
+    const char* const rows[][2] = {{"mnuContext1InsertTable", "eins"},
+        {"mnuContext1InsertOption", "eins"}, {"mnuContext1InsertHyperlink", "eins"},
+        {"mnuInsertImage2", "eins"}, {"lblButtonJustify", "eins"},
+        {"mnuContext1FormatText", "eins"}, {"mnuContext1AreaInsert", "eins"},
+        {"mnuContext1AreaParameters", "eins"}, {"mnuContext2PrepareElement", "zwei"},
+        {"mnuContext2PrepareElement", "drei"}, {"mnuContext2PrepareElement", "vier"}};
     const auto picture = desk.folder.put("b.wbmp", std::string("\0\0\x08\x01\xFF", 5));
-    for (const auto& row : rows) {
-        SCOPED_TRACE(std::string(row.entry) + " " + row.place);
+    for (const auto& [entry, place] : rows) {
+        SCOPED_TRACE(std::string(entry) + " " + place);
         desk.dialogs.paths = {QString::fromStdString(picture)};
-        desk.mark(row.place);
-        desk.use(row.entry, [&](QWidget& form) {
+        desk.mark(place);
+        desk.use(entry, [&](QWidget& form) {
             ++forms;
             EXPECT_FALSE(form.windowTitle().isEmpty());
             expectOwnLetters(form);

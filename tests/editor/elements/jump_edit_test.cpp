@@ -5,6 +5,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace quillmere {
@@ -50,19 +51,15 @@ TEST(CardIdFault, TellsWhatNoLinkCanLeadTo)
 
 TEST(NumberRules, AreThoseOfTheFields)
 {
-    struct Case {
-        std::string text;
-        bool isNumber;
-        std::optional<int> value; // of 1 to 30
-    };
-    const std::vector<Case> cases{{"", false, {}}, {"30", true, 30}, {"31", true, {}},
-        {"0", true, {}}, {"12,x", true, 12}, {",5", false, {}}, {"-1", false, {}},
-        {"1a", false, {}}, {"000000007", true, 7}, {"0000000007", false, {}},
-        {"999999999", true, {}}};
-    for (const auto& row : cases) {
-        SCOPED_TRACE(row.text);
-        EXPECT_EQ(isFieldNumber(row.text), row.isNumber);
-        EXPECT_EQ(fieldNumber(row.text, {1, 30}), row.value);
+    // value: of 1 to 30
+    const std::tuple<std::string, bool, std::optional<int>> cases[]
+        = {{"", false, {}}, {"30", true, 30}, {"31", true, {}}, {"0", true, {}}, {"12,x", true, 12},
+            {",5", false, {}}, {"-1", false, {}}, {"1a", false, {}}, {"000000007", true, 7},
+            {"0000000007", false, {}}, {"999999999", true, {}}};
+    for (const auto& [text, isNumber, value] : cases) {
+        SCOPED_TRACE(text);
+        EXPECT_EQ(isFieldNumber(text), isNumber);
+        EXPECT_EQ(fieldNumber(text, {1, 30}), value);
     }
     EXPECT_EQ(NumberFilter("12a3"), "123");
     EXPECT_EQ(NumberFilter("1.234"), "1234");

@@ -29,12 +29,8 @@ std::string withLinks(std::string text)
 
 TEST(SetLink, EndsTheLineOnlyWhereItIsAlone)
 {
-    struct Case {
-        std::string before; // with its caret
-        std::string after;
-        std::string withoutLoss;
-    };
-    const std::vector<Case> cases{
+    // each with its caret; without loss in the last one
+    std::string cases[][3] = {
         {"<p>|</p>", "<p><N> <br/> |</p>", "<p><N>|</p>"},
         {"<p>a<br/> |</p>", "<p>a<br/> <N> <br/> |</p>", "<p>a<br/> <N>|</p>"},
         {"<p>|<br/>b</p>", "<p><N> |<br/>b</p>", "<p><N>|<br/>b</p>"},
@@ -44,15 +40,15 @@ TEST(SetLink, EndsTheLineOnlyWhereItIsAlone)
             "<p>a<br/><O><br/><N>|<br/>b</p>"},
         {"<p>a <O>|</p>", "<p>a <O><N> |</p>", "<p>a <O><N>|</p>"},
     };
-    for (auto row : cases) {
-        SCOPED_TRACE(row.before);
-        for (auto* text : {&row.before, &row.after, &row.withoutLoss})
+    for (auto& [before, after, withoutLoss] : cases) {
+        SCOPED_TRACE(before);
+        for (auto* text : {&before, &after, &withoutLoss})
             *text = withLinks(*text);
-        const auto caret = row.before.find('|');
-        row.before.erase(caret, 1);
+        const auto caret = before.find('|');
+        before.erase(caret, 1);
         const auto place = static_cast<int>(caret);
-        EXPECT_EQ(withCaret(SetLink(row.before, place, {"n", "#n"})), row.after);
-        EXPECT_EQ(withCaret(SetLink(row.before, place, {"n", "#n"}, kLossless)), row.withoutLoss);
+        EXPECT_EQ(withCaret(SetLink(before, place, {"n", "#n"})), after);
+        EXPECT_EQ(withCaret(SetLink(before, place, {"n", "#n"}, kLossless)), withoutLoss);
     }
 }
 

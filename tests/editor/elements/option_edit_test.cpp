@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace quillmere {
@@ -43,13 +44,7 @@ const std::string kTwo = "<p>x<!--select-->[a][b]<!--/select--><br/>y</p>";
 
 TEST(SetOption, MakesOrJoinsAList)
 {
-    struct Case {
-        std::string name;
-        std::string before;
-        int position;
-        std::string after;
-    };
-    const std::vector<Case> cases{
+    const std::tuple<std::string, std::string, int, std::string> cases[] = {
         {"a new list", "<p>xy</p>", 4, "<p>x<!--select-->[n]<!--/select--><br/>|y</p>"},
         {"out of a link", "<a href=\"#\">xy</a>z", 12,
             "<a href=\"#\">xy</a><!--select-->[n]<!--/select--><br/>|z"},
@@ -60,15 +55,14 @@ TEST(SetOption, MakesOrJoinsAList)
             "<!--select-->[a]<!--/select-->x<!--select-->[b]<!--/select-->y", 140,
             "<!--select-->[a]<!--/select-->x<!--select-->[b][n]<!--/select-->|y"},
     };
-    for (const auto& row : cases) {
-        SCOPED_TRACE(row.name);
-        const auto edit = SetOption(listText(row.before), row.position, false, {"n", "#n"});
-        auto expected = row.after;
+    for (const auto& [name, before, position, after] : cases) {
+        SCOPED_TRACE(name);
+        const auto edit = SetOption(listText(before), position, false, {"n", "#n"});
+        auto expected = after;
         const auto bar = expected.find('|');
         expected.erase(bar, 1);
         EXPECT_EQ(edit.text, listText(expected));
-        EXPECT_EQ(
-            edit.text.substr(static_cast<std::size_t>(edit.position)), row.after.substr(bar + 1));
+        EXPECT_EQ(edit.text.substr(static_cast<std::size_t>(edit.position)), after.substr(bar + 1));
     }
     EXPECT_EQ(SetOption("<p><b>xy</b></p>", 7, false, {"n", "#n"}, kLossless).text,
         listText("<p><b>x</b><!--select-->[n]<!--/select--><b>y</b></p>"));
@@ -124,22 +118,17 @@ TEST(DeleteOption, TakesTheListWithTheLastOption)
 
 TEST(GetOption, ReadsAllSpellings)
 {
-    struct Case {
-        std::string text;
-        std::string caption;
-        std::string target;
-    };
-    const std::vector<Case> cases{
+    const std::string cases[][3] = {
         {"<!--OPTION value=\"1\" ONPICK=#ab--><P>a</P> b<!--/OPTION-->", "a b", "#ab"},
         {"<!--option onpick=\"a b.wml\"-->x", "", "a b.wml"},
         {"<!--option value=1--><b>x<!--/option-->", "x", ""},
     };
-    for (const auto& row : cases) {
-        SCOPED_TRACE(row.text);
-        const auto option = GetOption(row.text, 0);
+    for (const auto& [text, caption, target] : cases) {
+        SCOPED_TRACE(text);
+        const auto option = GetOption(text, 0);
         ASSERT_TRUE(option);
-        EXPECT_EQ(option->caption, row.caption);
-        EXPECT_EQ(option->target, row.target);
+        EXPECT_EQ(option->caption, caption);
+        EXPECT_EQ(option->target, target);
     }
     EXPECT_FALSE(GetOption("<p>", 0));
 }

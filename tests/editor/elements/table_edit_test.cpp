@@ -6,6 +6,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <tuple>
 #include <vector>
 
 namespace quillmere {
@@ -44,13 +45,7 @@ TEST(GetTable, ReadsTablesOfAllSpellings)
 
 TEST(SetTable, ChangesWhatIsWanted)
 {
-    struct Case {
-        std::string name;
-        std::string before;
-        TableSettings wanted;
-        std::string after;
-    };
-    const std::vector<Case> cases{
+    const std::tuple<std::string, std::string, TableSettings, std::string> cases[] = {
         {"without quotes, in capitals; other rows stay",
             "<TABLE title=o align=L columns=2 border=1><TR><TD>x</TD></TR></TABLE>",
             table("n", "R", 5, 3),
@@ -79,10 +74,10 @@ TEST(SetTable, ChangesWhatIsWanted)
             "<table title=\"n\" align=\"L\" columns=\"1\"><tr><td>|a</tr></table>"},
         {"no table", "abc", table("n", "L", 1, 1), "|abc"},
     };
-    for (const auto& row : cases) {
-        SCOPED_TRACE(row.name);
-        auto edit = SetTable(row.before, 0, row.wanted);
-        EXPECT_EQ(edit.text.insert(static_cast<std::size_t>(edit.position), "|"), row.after);
+    for (const auto& [name, before, wanted, after] : cases) {
+        SCOPED_TRACE(name);
+        auto edit = SetTable(before, 0, wanted);
+        EXPECT_EQ(edit.text.insert(static_cast<std::size_t>(edit.position), "|"), after);
     }
     const std::string capitals = "<table title=\"n\" align=\"L\" columns=\"1\"><tr><TD>a</TD></tr>";
     EXPECT_EQ(SetTable(capitals + "</table>", 0, table("n", "L", 1, 1), OutputRules(true)).text,

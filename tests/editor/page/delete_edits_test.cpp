@@ -7,20 +7,9 @@
 namespace quillmere {
 namespace {
 
-struct Row {
-    const char* name;
-    std::string before;
-    std::string after;
-};
-
-void expectDeleted(std::initializer_list<Row> rows)
+void expectDeleted(const std::vector<test::EditRow>& rows)
 {
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        const test::MarkedPage marked(row.before);
-        const auto edit = deleteRange(marked.page, marked.from, marked.to);
-        EXPECT_EQ(test::editedWithCaret(marked.page, edit), row.after);
-    }
+    test::expectEdits(deleteRange, rows);
 }
 
 TEST(DeleteRange, TakesItemsAndWhatShowsNothingWithoutThem)
@@ -118,12 +107,7 @@ TEST(DeleteBackwardAndForward, TakeOneItemOrTheBorderToANeighbour)
 {
     const std::string cell = "<table><tr><td>";
     const std::string end = "</td></tr></table>";
-    const struct {
-        const char* name;
-        std::string before;
-        std::string backward;
-        std::string forward;
-    } rows[] = {
+    const std::string rows[][4] = {
         {"a picture", "<p><img></img>|<br/></p>", "<p>|<br/></p>", "<p><img></img>|</p>"},
         {"the only letter of a format", "a<b>b|</b><i>c</i>", "a|<i>c</i>", "a<b>b|</b>"},
         {"borders", "<p>a</p><p>|</p><p>b</p>", "<p>a|</p><p>b</p>", "<p>a</p><p>|b</p>"},
@@ -135,14 +119,14 @@ TEST(DeleteBackwardAndForward, TakeOneItemOrTheBorderToANeighbour)
         {"between tables", cell + "a" + end + "|" + cell + "b" + end,
             cell + "a" + end + "|" + cell + "b" + end, cell + "a" + end + "|" + cell + "b" + end},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        const test::MarkedPage marked(row.before);
+    for (const auto& [name, before, backward, forward] : rows) {
+        SCOPED_TRACE(name);
+        const test::MarkedPage marked(before);
         const auto apply = [&](auto operation) {
             return test::editedWithCaret(marked.page, operation(marked.page, marked.from));
         };
-        EXPECT_EQ(apply(deleteBackward), row.backward);
-        EXPECT_EQ(apply(deleteForward), row.forward);
+        EXPECT_EQ(apply(deleteBackward), backward);
+        EXPECT_EQ(apply(deleteForward), forward);
     }
 }
 

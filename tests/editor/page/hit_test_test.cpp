@@ -11,6 +11,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <tuple>
 #include <utility>
 
 namespace quillmere {
@@ -62,12 +63,8 @@ constexpr Element kBold{"<b", "</b"};
 
 TEST(HitTest, FindsTheElementAroundTheMarkedPlace)
 {
-    const struct {
-        const char* name;
-        Element wanted;
-        const char* drawn;
-        std::string_view found; ///< how the text goes on at the hit; "" for none
-    } rows[] = {
+    // found: how the text goes on at the hit; "" for none
+    const std::tuple<const char*, Element, const char*, std::string_view> rows[] = {
         {"the mouse is on it", kLink, "<a 1>x</a>^<a 1>Kino</a>y", "<a 1>Kino"},
         {"a picture in a link", kLink, "<a 1>^<img 2></img></a>", "<a 1>"},
         {"the whole table", kTable, "x^<table 1><tr></tr></table>", "<table 1>"},
@@ -75,15 +72,14 @@ TEST(HitTest, FindsTheElementAroundTheMarkedPlace)
         {"behind the list", kList, "<!--select 1--><!--/select-->|<br/>", ""},
         {"names by their begin", kBold, "<body 1>x|</b></body>", "<body 1>"},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        const auto [text, selection] = drawn(row.drawn);
-        const auto hit
-            = HitTester().HitTest(row.wanted.startTag, row.wanted.endTag, text, selection, true);
-        ASSERT_EQ(hit.Inside, !row.found.empty());
+    for (const auto& [name, wanted, sketch, found] : rows) {
+        SCOPED_TRACE(name);
+        const auto [text, selection] = drawn(sketch);
+        const auto hit = HitTester().HitTest(wanted.startTag, wanted.endTag, text, selection, true);
+        ASSERT_EQ(hit.Inside, !found.empty());
         ASSERT_GE(hit.position, 1);
         const auto behind = text.substr(static_cast<std::size_t>(hit.position) - 1);
-        EXPECT_TRUE(behind.starts_with(row.found)) << behind;
+        EXPECT_TRUE(behind.starts_with(found)) << behind;
         if (!hit.Inside) {
             EXPECT_EQ(behind, text.substr(selection.marked.begin)) << "a fragment goes in there";
         }
@@ -240,19 +236,16 @@ TEST(FindMarkedRange, TellsTextWhereNoObjectIsSelected)
 
 TEST(IsInsideTable, LooksForTheEndThatComesAheadOfAnyBegin)
 {
-    const struct {
-        const char* drawn;
-        bool inside;
-    } rows[] = {
+    const std::tuple<const char*, bool> rows[] = {
         {"|<table></table>", false}, {"<table>|</table>", true},
         {"<table><tr><td>|x</td></tr></TABLE><table></table>", true}, {"<table></table>|", false},
         {"<table></table>|<table></table>", false}, {"<table>|", false},
         {"x|</table>", true}, // no table's begin is asked for
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.drawn);
-        const auto [text, selection] = drawn(row.drawn);
-        EXPECT_EQ(IsInsideTable(text, FindMarkedRange(text, selection)->Start), row.inside);
+    for (const auto& [sketch, inside] : rows) {
+        SCOPED_TRACE(sketch);
+        const auto [text, selection] = drawn(sketch);
+        EXPECT_EQ(IsInsideTable(text, FindMarkedRange(text, selection)->Start), inside);
     }
     EXPECT_FALSE(IsInsideTable("</table>", 0));
     EXPECT_FALSE(IsInsideTable("</table>", 32767));

@@ -63,25 +63,16 @@ TEST(Markers, AreCommentsWhereTheRulesLoseSomething)
     EXPECT_EQ(test::drawn(page), "P:abc -:d");
 }
 
-struct Row {
-    const char* name;
-    const char* before;
-    const char* after;
-};
-
-template <class Operation> void expectEdits(std::initializer_list<Row> rows, Operation operation)
+template <class Operation> void expectEdits(Operation operation, std::vector<test::EditRow> rows)
 {
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        const test::MarkedPage marked(spelled(row.before), kLossless);
-        const SurfaceEdit edit = operation(marked.page, marked.from, marked.to);
-        EXPECT_EQ(test::editedWithCaret(marked.page, edit), spelled(row.after));
-    }
+    for (auto& row : rows)
+        row = {row.name, spelled(row.before), spelled(row.after)};
+    test::expectEdits(operation, rows, kLossless);
 }
 
 TEST(Markers, GoInPairsAndAtomsAsWholes)
 {
-    expectEdits(
+    expectEdits(deleteRange,
         {
             {"an atom", "<p>a[$T]b</p>", "<p>a|b</p>"},
             {"a line of atoms", "[$T$T]<p>a</p>", "<p>|a</p>"},
@@ -95,21 +86,23 @@ TEST(Markers, GoInPairsAndAtomsAsWholes)
             {"a do block at the border stays", "<p>a[<!--do--><!--go/--><!--/do-->b]c</p>",
                 "<p>a|<!--do--><!--go/--><!--/do-->c</p>"},
             {"all of an anchor", "<p>a[<!--anchor--><!--go/-->b<!--/anchor-->]c</p>", "<p>a|c</p>"},
-        },
-        deleteRange);
+        });
 }
 
 TEST(Markers, KeepLinesOfAtomsApartFromParagraphs)
 {
-    expectEdits(
+    const auto deletes = [](const SurfacePage& page, PagePlace from, PagePlace to) {
+        return from == to ? deleteBackward(page, from) : deleteRange(page, from, to);
+    };
+    expectEdits(deletes,
         {
             {"from one into a paragraph", "$T[$T<p>a]b</p>", "$T|<p>b</p>"},
             {"over a paragraph", "$T[<p>a</p>$T]$T", "$T|$T"},
-        },
-        [](const SurfacePage& page, PagePlace from, PagePlace to) {
-            return from == to ? deleteBackward(page, from) : deleteRange(page, from, to);
         });
-    expectEdits(
+    const auto types = [](const SurfacePage& page, PagePlace from, PagePlace to) {
+        return typeText(page, from, to, u"x y");
+    };
+    expectEdits(types,
         {
             {"typed behind an atom", "$T|$T<p>a</p>", "$T$T<p>x y|</p><p>a</p>"},
             {"for an atom", "[$T]$T<p>a</p>", "$T<p>x y|</p><p>a</p>"},
@@ -118,9 +111,6 @@ TEST(Markers, KeepLinesOfAtomsApartFromParagraphs)
             {"for the end of a group", "<p>$Fab[$f]c</p>", "<p>abx y|c</p>"},
             {"behind an anchor", "<p><!--anchor-->a<!--/anchor-->|</p>",
                 "<p><!--anchor-->a<!--/anchor-->x y|</p>"},
-        },
-        [](const SurfacePage& page, PagePlace from, PagePlace to) {
-            return typeText(page, from, to, u"x y");
         });
 }
 
@@ -132,10 +122,10 @@ TEST(Markers, ArePastedAndCopiedAsWholes)
         };
     };
     expectEdits(
-        {{"an atom", "<p>a|b</p>", "<p>a$T|b</p>"}, {"to others", "|$T", "$T|$T"}}, paste("$T"));
+        paste("$T"), {{"an atom", "<p>a|b</p>", "<p>a$T|b</p>"}, {"to others", "|$T", "$T|$T"}});
     expectEdits(
-        {{"text to atoms", "|$T<p>a</p>", "$T<p><b>x</b>$T|</p><p>a</p>"}}, paste("<b>x</b>$T"));
-    const Row rows[] = {
+        paste("<b>x</b>$T"), {{"text to atoms", "|$T<p>a</p>", "$T<p><b>x</b>$T|</p><p>a</p>"}});
+    const test::EditRow rows[] = {
         {"an atom", "<p>a[$T]b</p>", "$T"},
         {"the start and a part", "<p>a[$Fb]c$fd</p>", "$Fb$f"},
         {"a part of an anchor", "<p><!--anchor-->a[b<!--go x/--><!--/anchor-->]</p>", "b"},

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <tuple>
 
 namespace quillmere {
 namespace {
@@ -52,26 +53,20 @@ TEST(PagePlaces, LieWhereTypedTextBelongs)
             "<tr></table>\r\n|"},
         {"a table without end", "<p>|<table><tr><td>|</td></tr>|b|</p>"},
     };
-    for (const auto& [name, text] : kRows) {
-        SCOPED_TRACE(name);
-        EXPECT_EQ(withPlaces(withoutBars(text)), text);
-    }
+    for (const auto& [name, text] : kRows)
+        EXPECT_EQ(withPlaces(withoutBars(text)), text) << name;
 }
 
 TEST(PagePlaces, KnowTheTextAsItIsReadAgain)
 {
-    const struct {
-        std::string_view text;
-        std::vector<std::size_t> offsets;
-    } rows[] = {
+    const std::tuple<std::string_view, std::vector<std::size_t>> rows[] = {
         {"a\r\n\nb\rc", {0, 1, 1, 1, 1, 2, 2, 3}},
         {"?a<b\nc", {0, 0, 0, 1, 2, 2, 3}}, // what stands ahead of the first tag is dropped
         {"a\nb<c", {0, 1, 1, 2, 3, 4}}, // but of the first line only
     };
-    for (const auto& row : rows)
-        for (std::size_t offset = 0; offset <= row.text.size(); ++offset)
-            EXPECT_EQ(offsetInJoinedLines(row.text, offset), row.offsets.at(offset))
-                << row.text << offset;
+    for (const auto& [text, offsets] : rows)
+        for (std::size_t offset = 0; offset <= text.size(); ++offset)
+            EXPECT_EQ(offsetInJoinedLines(text, offset), offsets.at(offset)) << text << offset;
 }
 
 } // namespace

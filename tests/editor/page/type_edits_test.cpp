@@ -67,23 +67,16 @@ TEST(TypeText, WritesEachCharacterSoThatItIsSeen)
 
 TEST(PasteMarkup, PutsMarkupInAsItIs)
 {
-    const struct {
-        const char* name;
-        std::string before;
-        std::string markup;
-        std::string after;
-    } rows[] = {
-        {"a table", "<p>a|b</p>", "<table><tr><td>c</td></tr></table>",
-            "<p>a<table><tr><td>c</td></tr></table>|b</p>"},
-        {"nothing to see", "<p>a|b</p>", "<!--go/-->", "<p>a|<!--go/-->b</p>"},
-        {"behind a format that goes", "<p>a<b>[b]</b></p>", "x", "<p>ax|</p>"},
+    const auto expectPasted = [](const char* markup, const test::EditRow& row) {
+        const auto paste = [markup](const auto& page, auto from, auto to) {
+            return pasteMarkup(page, from, to, markup);
+        };
+        test::expectEdits(paste, {row});
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        const test::MarkedPage marked(row.before);
-        const auto edit = pasteMarkup(marked.page, marked.from, marked.to, row.markup);
-        EXPECT_EQ(test::editedWithCaret(marked.page, edit), row.after);
-    }
+    const char* const table = "<table><tr><td>c</td></tr></table>";
+    expectPasted(table, {"a table", "<p>a|b</p>", std::string("<p>a") + table + "|b</p>"});
+    expectPasted("<!--go/-->", {"nothing to see", "<p>a|b</p>", "<p>a|<!--go/-->b</p>"});
+    expectPasted("x", {"behind a format that goes", "<p>a<b>[b]</b></p>", "<p>ax|</p>"});
 }
 
 TEST(Edited, RefusesATextThatPositionsCannotTell)

@@ -58,17 +58,14 @@ TEST(Keys, DoWhatPeopleExpect)
 
 TEST(Menus, TakeTheirTextsFromTheResources)
 {
-    const struct {
-        const char* skins;
-        const char* save;
-        const char* of;
-    } rows[] = {{"Skins", "Speichern", "1 von 2"}, {"Skins.en", "Save", "1 of 2"}};
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.skins);
-        WindowDesk desk(row.skins);
+    const char* const rows[][3]
+        = {{"Skins", "Speichern", "1 von 2"}, {"Skins.en", "Save", "1 of 2"}};
+    for (const auto& [skins, save, of] : rows) {
+        SCOPED_TRACE(skins);
+        WindowDesk desk(skins);
         desk.openCards({"eins", "zwei"});
-        EXPECT_EQ(desk.control<QAction>("mnuSave").text(), row.save);
-        EXPECT_EQ(desk.control<QPushButton>("btnAreaOne").text(), row.of);
+        EXPECT_EQ(desk.control<QAction>("mnuSave").text(), save);
+        EXPECT_EQ(desk.control<QPushButton>("btnAreaOne").text(), of);
     }
 }
 

@@ -4,6 +4,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace quillmere::test {
 namespace {
 
@@ -176,24 +178,21 @@ TEST(WindowSource, ATextThatCannotBeADeckStaysInTheView)
 {
     SourceDesk desk;
     const auto open = desk.source.wml();
-    const struct {
-        const char* name;
-        QString text;
-    } rows[] = {
+    const std::tuple<const char*, QString> rows[] = {
         {"too long", QString(40000, 'x')},
         {"a value that never ends", "<wml><card id=\"a\"><p><img src=\"x></p></card></wml>"},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
+    for (const auto& [name, text] : rows) {
+        SCOPED_TRACE(name);
         desk.source.selectAll();
-        desk.source.insertPlainText(row.text);
+        desk.source.insertPlainText(text);
         desk.messages.answers = {true};
         desk.click("btnAreaOne");
         const auto told = desk.messages.taken();
         ASSERT_EQ(told.size(), 2U);
         EXPECT_TRUE(told[1].starts_with("failure: ")) << told[1];
         EXPECT_TRUE(desk.source.isVisible());
-        EXPECT_EQ(desk.source.toPlainText(), row.text);
+        EXPECT_EQ(desk.source.toPlainText(), text);
         EXPECT_NE(desk.design(1).find("zwei"), std::string::npos);
     }
 }

@@ -77,14 +77,11 @@ TEST(Tools, OpenTheirFormsWithTheSurfaceStored)
     desk.openCards({"vor<a href=\"#a\">Sprung</a>nach"});
     desk.caretBehind("vor");
     desk.type("!");
-    const struct {
-        const char* tool;
-        const char* form;
-    } rows[] = {{"Area", "frmArea new"}, {"Table", "frmTable new"}, {"Option", "frmOption new"},
-        {"Link", "frmLinks new"}, {"Justify", "frmJustify new"}};
-    for (const auto& row : rows) {
-        desk.click((std::string("lblButton") + row.tool).c_str());
-        EXPECT_EQ(desk.taken(), std::vector<std::string>{row.form});
+    const char* const rows[][2] = {{"Area", "frmArea new"}, {"Table", "frmTable new"},
+        {"Option", "frmOption new"}, {"Link", "frmLinks new"}, {"Justify", "frmJustify new"}};
+    for (const auto& [tool, form] : rows) {
+        desk.click((std::string("lblButton") + tool).c_str());
+        EXPECT_EQ(desk.taken(), std::vector<std::string>{form});
     }
     EXPECT_NE(desk.design(0).find("vor!"), std::string::npos);
     desk.click("lblButtonTextFormat");

@@ -38,11 +38,7 @@ std::string runsOf(const QString& source)
 
 TEST(SourceTokens, TellTheSyntaxOfEachCharacter)
 {
-    struct Row {
-        const char* source;
-        const char* wanted;
-    };
-    const Row rows[] = {
+    const char* const rows[][2] = {
         {"<p>a &auml; &#228;</p>", "TTT..EEEEEE.EEEEEETTTT"},
         {"<a href=\"x\" b='>'/>", "TT.AAAA.VVV.A.VVVTT"},
         {"<?xml version=\"1\"?>x<!DOCTYPE\nwml>y", "CCCCCCCCCCCCCCCCCCC.CCCCCCCCC\nCCCC."},
@@ -56,8 +52,8 @@ TEST(SourceTokens, TellTheSyntaxOfEachCharacter)
         {"<p a=\"<\">", "TT.A.V!VT"},
         {"", ""},
     };
-    for (const auto& row : rows)
-        EXPECT_EQ(runsOf(QString::fromUtf8(row.source)), row.wanted) << row.source;
+    for (const auto& [source, wanted] : rows)
+        EXPECT_EQ(runsOf(QString::fromUtf8(source)), wanted) << source;
 }
 
 TEST(SourceTokens, CoverEachCharacterOnceInTheirOrder)

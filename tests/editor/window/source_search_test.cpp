@@ -10,6 +10,8 @@
 
 #include <gtest/gtest.h>
 
+#include <tuple>
+
 namespace quillmere {
 namespace {
 
@@ -18,11 +20,7 @@ using Hits = std::vector<int>;
 TEST(FindAll, FollowsCaseAndWords)
 {
     const QString text = QStringLiteral("Äpfel äpfel xäpfel <p>P</p> aaa");
-    struct Row {
-        SourceQuery query;
-        Hits wanted;
-    };
-    const Row rows[] = {
+    const std::tuple<SourceQuery, Hits> rows[] = {
         {{QStringLiteral("äpfel")}, {0, 6, 13}},
         {{QStringLiteral("äpfel"), true}, {6, 13}},
         {{QStringLiteral("äpfel"), true, true}, {6}},
@@ -32,8 +30,8 @@ TEST(FindAll, FollowsCaseAndWords)
         {{QString()}, {}},
         {{QStringLiteral("fehlt")}, {}},
     };
-    for (const auto& row : rows)
-        EXPECT_EQ(findAll(text, row.query), row.wanted) << row.query.text.toStdString();
+    for (const auto& [query, wanted] : rows)
+        EXPECT_EQ(findAll(text, query), wanted) << query.text.toStdString();
 }
 
 /// A source view with its bar.
