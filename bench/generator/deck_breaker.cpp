@@ -10,7 +10,6 @@ namespace quillmere::bench {
 namespace {
 
 using test::SmallRandom;
-using std::string_view_literals::operator""sv;
 
 constexpr auto kNowhere = std::string::npos;
 

@@ -36,6 +36,7 @@ constexpr std::string_view kDoctypes[] = {"<!DOCTYPE wml PUBLIC \"-//WAPFORUM//D
     "<!DOCTYPE wml PUBLIC '-//WAPFORUM//DTD WML 1.2//EN'\n "
     "'http://www.wapforum.org/DTD/wml12.dtd'>",
     "<!DOCTYPE wml SYSTEM \"wml.dtd\" [\n<!ENTITY ort \"Bonn\">\n<!-- Ort -->\n]>"};
+constexpr std::size_t kDoctypeWithEntity = 2;
 constexpr std::string_view kWords[] = {"Wetter", "heute", "22", "Grad", "$(name)", "$$5", "&amp;",
     "&lt;b&gt;", "&#8364;", "&nbsp;", "a>b", "]]", "18.30", "(Uhr)", "&#x41;", "&quot;"};
 constexpr std::string_view kValues[]
@@ -63,7 +64,9 @@ public:
     {
         deck_ = hand_.declaration;
         deck_ += hand_.lineEnd;
-        deck_ += kDoctypes[random_.below(doctypes_)];
+        const auto doctype = random_.below(doctypes_);
+        deck_ += kDoctypes[doctype];
+        hasEntity_ = doctype == kDoctypeWithEntity;
         deck_ += hand_.lineEnd;
         if (random_.chance(0.2)) deck_ += kAsides[0];
         addElement(E::Wml, 0);
@@ -149,6 +152,8 @@ private:
                 addElement(children[random_.below(children.size())], depth);
             } else if (random_.chance(0.1)) {
                 deck_ += pick(kAsides);
+            } else if (hasEntity_ && random_.chance(0.3)) {
+                deck_ += "&ort;";
             } else {
                 deck_ += random_.chance(0.2) ? hand_.umlaut : pick(kWords);
             }
@@ -158,6 +163,7 @@ private:
 
     test::SmallRandom random_;
     std::size_t doctypes_;
+    bool hasEntity_ = false;
     Hand hand_;
     std::string deck_;
     int ids_ = 0;

@@ -78,6 +78,7 @@ inline constexpr WordUse kWordIds[] = {
     {word::kLinkNeedsCaption, 0},
     {word::kCannotBecomeLink, 0},
     {word::kTakesNoFormat, 0},
+    {word::kTakesNoAlignment, 0},
 };
 // clang-format on
 

@@ -6,11 +6,11 @@
 
 namespace quillmere::cli {
 
-std::optional<std::string> doubtAbout(const std::string& path, std::string_view text)
+std::optional<std::string> doubtAbout(const std::string& path, std::string_view deck)
 {
-    const auto card = findIgnoringCase(text, "<card");
-    const bool holdsCard = card != npos && text.find('>', card) != npos;
-    const bool isBinary = text.find('\0') != npos; // UTF-16 as well, where it was not decoded
+    const auto card = findIgnoringCase(deck, "<card");
+    const bool holdsCard = card != npos && deck.find('>', card) != npos;
+    const bool isBinary = deck.find('\0') != npos; // UTF-16 as well, where it was not decoded
     if (holdsCard && !isBinary) return std::nullopt;
     const std::string reason
         = isBinary ? "Nullbytes wie eine Binärdatei" : "keine vollständige Karte (<card>)";

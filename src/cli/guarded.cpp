@@ -26,6 +26,9 @@ std::optional<Problem> problemOf(const std::string& about, const std::function<v
         return std::nullopt;
     } catch (const BadArguments& bad) {
         return Problem{ExitStatus::BadArguments, bad.message, bad.command};
+    } catch (const DeckTooLong& failure) {
+        return Problem{
+            ExitStatus::RunFailure, (about.empty() ? "" : about + ": ") + failure.utf8()};
     } catch (const Overflow& failure) {
         return refusal(
             about, failure.utf8() + ": Der Text oder sein Ergebnis hat mehr als 32767 Zeichen.");

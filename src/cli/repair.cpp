@@ -16,6 +16,7 @@
 #include "document/deck_repair.h"
 #include "document/deck_store.h"
 #include "document/platform/paths.h"
+#include "document/standard/deck_file.h"
 #include "document/text/windows1252.h"
 
 #include <algorithm>
@@ -93,7 +94,7 @@ std::vector<std::string> areaTextsOf(const CoreSession& core)
 /// The road without loss, which needs no areas.
 void repairByMends(const Run& run, RepairedDeck& deck)
 {
-    auto repair = repairStandard(readFile(deck.input));
+    auto repair = repairStandard(readStandardFile(deck.input));
     deck.doubt = checkIsDeck(run, deck.input, repair.read);
     if (run.arguments.keepWork) {
         CoreSession core(true);

@@ -24,7 +24,7 @@ struct StandardRepair {
     std::optional<DeckFault> fault; ///< of what is written; there should be none
 };
 
-/// Mends the bytes of a deck file. Throws Overflow for more than 1 MB.
+/// Mends the bytes of a deck file. Throws DeckTooLong.
 [[nodiscard]] StandardRepair repairStandard(const std::string& bytes);
 
 /// What the repair changed beside its mends, and whether another one would change more.

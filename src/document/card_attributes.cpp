@@ -8,6 +8,7 @@
 #include "document/text/text_search.h"
 #include "document/text/windows1252.h"
 
+#include <algorithm>
 #include <optional>
 
 namespace quillmere {
@@ -67,12 +68,22 @@ std::optional<std::string_view> lineWithCard(std::string_view text)
     return line;
 }
 
-/// A value inside the accept do that begins at `at`; without an end nothing lies inside of it.
-std::optional<Value> valueInDo(std::string_view text, std::size_t at, std::string_view key)
+/// The jump of an area. Without an end nothing lies inside of it.
+struct AcceptDo {
+    std::size_t begin = 0;
+    std::size_t behindAttributes = 0;
+    std::size_t end = 0;
+};
+
+/// An attribute of the jump itself.
+std::optional<Value> attributeIn(std::string_view text, const AcceptDo& jump, std::string_view key)
 {
-    const auto end = findIgnoringCase(text, "<!--/do", at);
-    if (end == npos) return std::nullopt;
-    return valueOf(text, key, at, end);
+    return valueOf(text, key, jump.begin, jump.behindAttributes);
+}
+
+std::optional<Value> targetIn(std::string_view text, const AcceptDo& jump)
+{
+    return valueOf(text, "go href=", jump.begin, jump.end);
 }
 
 /// ` key="value"`, to be put into a marker.
@@ -101,7 +112,7 @@ std::string unusedJumpName(std::string_view text, std::string_view wanted, bool 
 
 /// The first do marker of type accept; npos for none. In a deck without loss other actions stand
 /// whole within one marker each, "<!--#do &lt;do type="accept"&gt;...-->".
-std::size_t acceptDoIn(std::string_view text, const DocumentSession& session)
+std::size_t acceptDoBegin(std::string_view text, const DocumentSession& session)
 {
     auto at = findIgnoringCase(text, kAcceptDo);
     if (!losesNothing(session)) return at;
@@ -110,20 +121,33 @@ std::size_t acceptDoIn(std::string_view text, const DocumentSession& session)
     return at;
 }
 
-/// Sets an attribute of the accept do at `at`; a missing one is put in behind the type.
-void setDoAttribute(std::string& text, std::size_t at, std::string_view key, std::string_view value)
+/// Its parameters, which have names as well, stand in it only in a deck without loss.
+std::optional<AcceptDo> acceptDoIn(std::string_view text, const DocumentSession& session)
 {
-    if (const auto old = valueInDo(text, at, key))
-        text.replace(old->begin, old->end - old->begin, value);
-    else
-        text.insert(at + kAcceptDo.size(), attribute(key, value).append(" "));
+    const auto begin = acceptDoBegin(text, session);
+    if (begin == npos) return std::nullopt;
+    const auto end = findIgnoringCase(text, "<!--/do", begin);
+    if (end == npos) return AcceptDo{begin, begin, begin};
+    return AcceptDo{
+        begin, losesNothing(session) ? std::min(text.find("-->", begin), end) : end, end};
 }
 
-void changeJump(std::string& text, std::size_t at, const Jump& jump)
+/// Sets an attribute of the jump; a missing one is put in behind the type.
+void setDoAttribute(
+    std::string& text, const DocumentSession& session, std::string_view key, std::string_view value)
 {
-    setDoAttribute(text, at, "label=", jump.label);
-    setDoAttribute(text, at, "name=", jump.name);
-    if (const auto old = valueInDo(text, at, "go href="))
+    const auto jump = *acceptDoIn(text, session);
+    if (const auto old = attributeIn(text, jump, key))
+        text.replace(old->begin, old->end - old->begin, value);
+    else
+        text.insert(jump.begin + kAcceptDo.size(), attribute(key, value).append(" "));
+}
+
+void changeJump(std::string& text, const DocumentSession& session, const Jump& jump)
+{
+    setDoAttribute(text, session, "label=", jump.label);
+    setDoAttribute(text, session, "name=", jump.name);
+    if (const auto old = targetIn(text, *acceptDoIn(text, session)))
         text.replace(old->begin, old->end - old->begin, jump.target);
 }
 
@@ -172,13 +196,13 @@ void SetCardAttributes(
 Jump GetJump(DocumentSession& session, std::size_t areaIndex)
 {
     const auto text = ReadDesignText(session, areaIndex);
-    const auto at = acceptDoIn(text, session);
-    if (at == npos) return {};
-    const auto valueOrEmpty = [&](std::string_view key) {
-        const auto value = valueInDo(text, at, key);
+    const auto jump = acceptDoIn(text, session);
+    if (!jump) return {};
+    const auto orEmpty = [&](const std::optional<Value>& value) {
         return value ? value->in(text) : std::string();
     };
-    return {valueOrEmpty("name="), valueOrEmpty("label="), valueOrEmpty("go href=")};
+    return {orEmpty(attributeIn(text, *jump, "name=")), orEmpty(attributeIn(text, *jump, "label=")),
+        orEmpty(targetIn(text, *jump))};
 }
 
 void SetJump(DocumentSession& session, std::size_t areaIndex, const Jump& jump)
@@ -186,9 +210,8 @@ void SetJump(DocumentSession& session, std::size_t areaIndex, const Jump& jump)
     auto text = ReadDesignText(session, areaIndex);
     const Jump named{
         unusedJumpName(text, jump.name, losesNothing(session)), jump.label, jump.target};
-    const auto at = acceptDoIn(text, session);
-    if (at != npos)
-        changeJump(text, at, named);
+    if (acceptDoIn(text, session))
+        changeJump(text, session, named);
     else
         insertJump(text, named);
     WriteDesignText(session, areaIndex, text);

@@ -26,8 +26,8 @@ constexpr std::string_view kCorrectedHead
 /// By the first letter. Most tags are others.
 bool mayBeMark(const std::string& text, std::size_t at)
 {
-    const char behind = text[at + 1]; // a zero where the text ends
-    const char letter = lowerCase(behind == '/' ? text[at + 2] : behind);
+    const std::size_t slash = text[at + 1] == '/' ? 1 : 0; // a zero where the text ends
+    const char letter = lowerCase(text[at + 1 + slash]);
     return letter == 'c' || letter == 'd';
 }
 

@@ -2,6 +2,7 @@
 
 #include "document/design_text.h"
 
+#include "document/deck_store.h"
 #include "document/text/failure.h"
 #include "document/text/limits.h"
 #include "document/text/text_search.h"
@@ -16,9 +17,7 @@ DeckRecord& areaRecord(DocumentSession& session, std::size_t areaIndex)
 
 std::size_t maxDesignLength(const DocumentSession& session)
 {
-    constexpr std::size_t kTimesAsLong = 8; // "<" in an atom is "&lt;", a picture's name a path
-    const bool isStandard = !session.deck.empty() && session.deck.front().origin.deck != nullptr;
-    return isStandard ? kTimesAsLong * kMaxLosslessTextLength : kMaxTextLength;
+    return OutputRules(losesNothing(session)).maxTextLength();
 }
 
 void waitForSurface(DocumentSession& session)

@@ -14,8 +14,7 @@ namespace quillmere {
 /// The record of an area. Throws InvalidArgument where the deck has no such area.
 [[nodiscard]] DeckRecord& areaRecord(DocumentSession& session, std::size_t areaIndex);
 
-/// The longest text of an area. A deck that is opened without loss has a limit as a whole, and the
-/// texts of its areas, which are longer than their cards, a wide one.
+/// The longest text of an area, by the rules that the deck was opened by.
 [[nodiscard]] std::size_t maxDesignLength(const DocumentSession& session);
 
 /// Lets events run until the surface is not busy. What they did to the session is then done.

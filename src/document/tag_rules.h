@@ -83,9 +83,9 @@ private:
         /// Names with the same letter and the same characters ahead of it have the same slot.
         [[nodiscard]] constexpr std::size_t slot() const
         {
-            const bool isClose = (word & 0xFFU) == '/';
-            const auto letter = (isClose ? word >> 8U : word) & 31U;
-            return letter | (isClose ? 32U : 0U) | (isMarker ? 64U : 0U);
+            const std::uint64_t slash = (word & 0xFFU) == '/' ? 1 : 0;
+            const auto letter = (word >> 8 * slash) & 31U;
+            return letter | 32U * slash | (isMarker ? 64U : 0U);
         }
     };
 

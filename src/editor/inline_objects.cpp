@@ -85,8 +85,8 @@ void drawRadio(QPainter& painter, const QRectF& place, const SurfaceStyle& style
 /// The size that the tag asks for; one side alone keeps the picture's proportion.
 QSizeF wantedSize(const PictureTag& tag, const QSizeF& own)
 {
-    if (tag.widthPx && tag.heightPx) return QSizeF(*tag.widthPx, *tag.heightPx);
-    if (own.isEmpty()) return QSizeF(tag.widthPx.value_or(0), tag.heightPx.value_or(0));
+    const QSizeF asked(tag.widthPx.value_or(0), tag.heightPx.value_or(0));
+    if (own.isEmpty() || (tag.widthPx && tag.heightPx)) return asked;
     if (tag.widthPx) return own * (*tag.widthPx / own.width());
     if (tag.heightPx) return own * (*tag.heightPx / own.height());
     return own;

@@ -31,6 +31,11 @@ QString shortened(QString text, qsizetype length)
     return text;
 }
 
+QString unicode(std::string_view text)
+{
+    return QString::fromStdString(toUtf8(text));
+}
+
 /// The value of an attribute of a start tag as a person reads it.
 QString valueOf(std::string_view tag, std::string_view name)
 {
@@ -103,6 +108,19 @@ QString nameOf(const Atom& atom)
     return valueOf(atom.startTag(), "name");
 }
 
+/// "firma" of "&firma;".
+QString entityName(const Atom& atom)
+{
+    return unicode(atom.source).remove(u'&').remove(u';');
+}
+
+/// Markup in it is shown as it is written.
+QString entityText(const Atom& atom)
+{
+    const bool isMarkup = atom.meaning.find('<') != npos;
+    return isMarkup ? unicode(atom.meaning) : shownText(QByteArrayView(atom.meaning));
+}
+
 using AtomText = QString (*)(const Atom&);
 
 struct AtomRow {
@@ -159,6 +177,8 @@ constexpr AtomRow kAtoms[] = {
         [](const Atom&) { return told("Eine Bemerkung, die das Telefon nicht zeigt."); }},
     {"cdata", "Wörtlicher Text", kNothing,
         [](const Atom&) { return told("Text, in dem jedes Zeichen für sich selbst steht."); }},
+    {"entity", "Textbaustein", entityName,
+        [](const Atom& atom) { return told("Das Deck setzt hier ein: ") + entityText(atom); }},
     {"pi", "Anweisung", kNothing,
         [](const Atom&) { return told("Eine Anweisung an das Programm, das das Deck liest."); }},
 };
@@ -177,11 +197,6 @@ QString tagName(QString tag)
         = std::find_if(tag.cbegin(), tag.cend(), [](QChar c) { return c.isSpace() || c == u'>'; });
     if (end != tag.cbegin()) tag.truncate(end - tag.cbegin());
     return tag;
-}
-
-QString unicode(std::string_view text)
-{
-    return QString::fromStdString(toUtf8(text));
 }
 
 QString meaningOf(std::string_view source, const Atom& atom)

@@ -150,11 +150,11 @@ ClipContent contentOf(const QMimeData& clip, const OutputRules& rules)
     if (auto markup = designBytes(clip); !markup.empty()) return markup;
     if (const auto html = clip.html(); !html.isEmpty() && html.size() <= kMaxHtml) {
         auto markup = designMarkupOf(html);
-        requireAddressable(markup, rules.maxTextLength());
+        requireAddressable(markup, rules.maxDeckLength());
         if (!markup.empty()) return markup;
     }
     auto text = clip.text();
-    requireAddressableLength(static_cast<std::size_t>(text.size()), rules.maxTextLength());
+    requireAddressableLength(static_cast<std::size_t>(text.size()), rules.maxDeckLength());
     if (text.isEmpty()) return {};
     return text;
 }

@@ -15,7 +15,6 @@
 #include "forms/screen_twips.h"
 #include "forms/skin_application.h"
 #include "forms/text.h"
-#include "forms/theme.h"
 #include "forms/trap.h"
 #include "program/command_line_deck.h"
 #include "program/frm_start.h"
@@ -167,7 +166,6 @@ void Program::applySkins()
         previewPage_ = pageStyle(skins.PreviewSkins[*preview].items[kPreviewPageItem]);
         session_.document.devices.back() = &previewPage_; // the front one is the window's
     }
-    applyTheme(*qApp, activeTheme(skins));
     trapped(messages_, [this] { window_.applySkin(); });
 }
 

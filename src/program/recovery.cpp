@@ -1,6 +1,6 @@
-// The areas of a run are written as WML, as a save would, and that is opened: so the run's files
-// need not be touched, and they may be tried again. Held by recovery_test.cpp, which kills a
-// program at work again and again.
+// The areas of a run are written as WML, as a save would, and that is opened; those of a deck
+// without loss become areas again. The run's files are not touched, and so they may be tried again.
+// Held by recovery_test.cpp, which kills a program at work again and again.
 
 #include "program/recovery.h"
 
@@ -8,8 +8,10 @@
 #include "document/platform/files.h"
 #include "document/platform/memory_work_files.h"
 #include "document/platform/paths.h"
+#include "document/standard_recovery.h"
 #include "document/text/content_hash.h"
 #include "document/text/failure.h"
+#include "document/text/limits.h"
 
 #include <algorithm>
 #include <chrono>
@@ -29,6 +31,7 @@ constexpr std::string_view kNoteName = "Sicherung.txt";
 constexpr std::string_view kRunPrefix = "quillmere-";
 constexpr std::size_t kRunNameLength = kRunPrefix.size() + 6;
 constexpr std::size_t kMaxNoteBytes = 1U << 24U;
+constexpr std::size_t kMaxAreaBytes = 2 * kMaxLosslessDesignLength;
 constexpr std::chrono::minutes kYoungest{1}; // a run may have made its directory just now
 
 bool isPrivate(const std::string& directory)
@@ -70,7 +73,7 @@ std::optional<std::vector<std::string>> areaTexts(const RecoveryNote& note)
 {
     std::vector<std::string> texts;
     for (const auto& area : note.areas) {
-        auto text = readable(area.design.path(), kMaxNoteBytes);
+        auto text = readable(area.design.path(), kMaxAreaBytes);
         if (!text) return std::nullopt;
         texts.push_back(std::move(*text));
     }
@@ -108,47 +111,65 @@ Deck deckOf(const RecoveryNote& note)
     return deck;
 }
 
-void tieToCards(DocumentSession& session, const RecoveryNote& note)
-{
-    std::vector<std::uint32_t> cards;
-    for (const auto& area : note.areas)
-        cards.push_back(area.card);
-    std::optional<std::string> opened;
-    if (!note.pristine.name.empty()) opened = readFile(note.pristine.path(), kMaxNoteBytes);
-    reopenCards(session, opened, cards);
-}
-
 std::string wmlOfAreas(
     const DocumentSession& like, const RecoveryNote& note, std::vector<std::string> texts)
 {
     MemoryWorkFiles files;
-    DocumentSession session{files, like.displayCopies, like.prompter, like.settings, like.words,
-        OutputRules(note.losesNothing)};
+    DocumentSession session{
+        files, like.displayCopies, like.prompter, like.settings, like.words, OutputRules()};
     for (std::size_t i = 0; i < texts.size(); ++i)
         files.write(note.areas[i].design.path(), std::move(texts[i]));
     session.deck = deckOf(note);
-    if (note.losesNothing) tieToCards(session, note);
     WriteDeck(session);
     return files.read(session.deck.front().wmlFile);
-}
-
-// While a deck is loaded anew out of its WML its areas are not there, but that is.
-std::string wmlOfRun(const DocumentSession& like, const RecoveryNote& note)
-{
-    auto texts = areaTexts(note);
-    return texts ? wmlOfAreas(like, note, std::move(*texts)) : readFile(note.wml.path());
 }
 
 /// The layout of the deck as the run had it, which its file may not have any more. A deck without
 /// loss has it in itself.
 void takeLayout(DocumentSession& session, const RecoveryNote& note)
 {
-    if (note.losesNothing || session.output.losesNothing()) return;
+    if (note.losesNothing) return;
     const auto& first = session.deck.front();
     auto text
         = note.pristine.name.empty() ? std::nullopt : readable(note.pristine.path(), kMaxNoteBytes);
     if (text && !first.pristineFile.empty())
         session.workFiles.write(first.pristineDir + first.pristineFile, std::move(*text));
+}
+
+/// Opens a deck of this text by the session's rules.
+void openWml(DocumentSession& session, const RecoveryNote& note, std::string wml)
+{
+    auto& files = session.workFiles;
+    const auto name = files.createFile(kWorkFilePrefix, kWmlFileSuffix);
+    try {
+        files.write(files.directory() + name, std::move(wml));
+        LoadDeck(session, {note.deck.name, note.deck.directory, name, files.directory()});
+    } catch (...) {
+        files.remove(files.directory() + name);
+        throw;
+    }
+    takeLayout(session, note);
+}
+
+void openAreas(DocumentSession& session, const RecoveryNote& note, std::vector<std::string> texts)
+{
+    LeftDeck deck{{note.deck.name, note.deck.directory, {}, {}}, {}, {}};
+    if (!note.pristine.name.empty()) deck.opened = readFile(note.pristine.path(), kMaxNoteBytes);
+    for (std::size_t i = 0; i < texts.size(); ++i)
+        deck.areas.push_back({std::move(texts[i]), note.areas[i].images, note.areas[i].card});
+    reopenDeck(session, std::move(deck));
+}
+
+// While a deck is loaded anew out of its WML its areas are not there, but that is.
+void openNoted(DocumentSession& session, const RecoveryNote& note)
+{
+    auto texts = areaTexts(note);
+    if (!texts)
+        openWml(session, note, readFile(note.wml.path()));
+    else if (note.losesNothing)
+        openAreas(session, note, std::move(*texts));
+    else
+        openWml(session, note, wmlOfAreas(session, note, std::move(*texts)));
 }
 
 std::optional<CrashedRun> crashedRun(std::string directory)
@@ -214,21 +235,14 @@ std::vector<CrashedRun> takeCrashedRuns(const std::string& parent)
 
 void openCrashedRun(DocumentSession& session, const CrashedRun& run)
 {
-    auto wml = wmlOfRun(session, run.note);
     const auto rules = std::exchange(session.output, OutputRules(run.note.losesNothing));
-    auto& files = session.workFiles;
-    const auto name = files.createFile(kWorkFilePrefix, kWmlFileSuffix);
     try {
-        files.write(files.directory() + name, std::move(wml));
-        const auto& deck = run.note.deck;
-        LoadDeck(session, {deck.name, deck.directory, name, files.directory()});
+        openNoted(session, run.note);
     } catch (...) {
-        files.remove(files.directory() + name);
         session.output = rules;
         throw;
     }
     session.currentArea = 0;
-    takeLayout(session, run.note);
 }
 
 void discardCrashedRun(const CrashedRun& run)

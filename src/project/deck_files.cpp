@@ -128,10 +128,12 @@ RuntimeFailure named(const RuntimeFailure& failure, const std::string& path)
 
 RuntimeFailure tooLong(const DocumentSession& session, const std::string& path)
 {
+    const auto& rules = session.output;
     const auto text = "Das Dokument in der Datei " + quoted(path)
         + " ist zu lang (Überlauf): ein Dokument kann höchstens "
-        + std::to_string(session.output.maxTextLength())
-        + " Zeichen haben. Es wurde nichts geändert.";
+        + std::to_string(rules.maxDeckLength())
+        + (rules.losesNothing() ? " Byte (1 MB)" : " Zeichen")
+        + " haben. Es wurde nichts geändert.";
     return RuntimeFailure{text};
 }
 

@@ -48,13 +48,23 @@ TEST_F(Cli, RepairWithStandardOutputMendsAndTellsIt)
         << told;
     const auto json = cli({"repair", "@d.wml", "--standard-output", "--dry-run", "--json"}).output;
     EXPECT_NE(json.find(", \"mends\": [], "), json.npos) << json;
+    folder.put("e.wml", "<wml><card><p>\xC3\xBC\xE2\x82\xAC</b></p></card></wml>");
+    const auto column = cli({"repair", "@e.wml", "--standard-output", "--report"}).output;
+    EXPECT_NE(column.find("(Zeile 1, Spalte 17): </b>"), column.npos) << column;
     folder.put("u.wml", "\xFF\xFE<\0w\0m\0l\0>\0<\0c\0a\0r\0d\0/\0>\0<\0/\0w\0m\0l\0>\0"s);
     const auto wide = folder.get("u.wml");
     EXPECT_EQ(cli({"repair", "@u.wml", "--standard-output"}).status, 0);
     EXPECT_EQ(folder.get("u.wml"), wide);
     const auto big = "<wml><card><p>" + std::string(1U << 20U, 'x') + "</p></card></wml>";
     folder.put("big.wml", big);
-    EXPECT_EQ(cli({"repair", "@big.wml", "--standard-output"}).status, 3);
+    const auto refused = cli({"repair", "@big.wml", "--standard-output"});
+    EXPECT_EQ(refused.status, 3);
+    EXPECT_NE(
+        refused.errors.find("big.wml: Das Deck ist zu lang: seine Datei kann höchstens 1048576 "
+                            "Byte (1 MB) haben. Es wurde nichts geändert."),
+        refused.errors.npos)
+        << refused.errors;
+    EXPECT_EQ(folder.get("big.wml"), big);
 }
 
 TEST_F(Cli, RepairWritesWhereItIsTold)

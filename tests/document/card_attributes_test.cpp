@@ -88,5 +88,17 @@ TEST(CardAttributes, AreSetInThePlaceOfTheOldOnes)
     }
 }
 
+TEST(CardAttributes, LeaveTheParametersOfAJumpAlone)
+{
+    test::SmallDeck deck(0, true);
+    const std::string head = "<wml>\n<card id=\"a\"><do type=\"accept\"";
+    const std::string tail
+        = " method=\"post\"><postfield name=\"f\" value=\"1\"/></go></do></card>";
+    deck.load(head + "><go href=\"x\"" + tail + "</wml>");
+    EXPECT_EQ(jump(deck.session), "||x");
+    setJump(deck.session);
+    EXPECT_EQ(deck.written(), head + " name=\"n\" label=\"l\"><go href=\"#b\"" + tail + "</wml>");
+}
+
 } // namespace
 } // namespace quillmere

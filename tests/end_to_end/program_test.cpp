@@ -6,6 +6,8 @@
 
 #include <chrono>
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 #include <thread>
 
 namespace quillmere {
@@ -43,27 +45,63 @@ struct WholeProgram : testing::Test {
         rest(); // the title is there a little ahead of the area
         return window;
     }
-    void type()
+    void typeAt(const char* key, const std::string& text)
     {
-        (void)desktop.tell("key ctrl+Home");
-        (void)desktop.tell("type --delay 20 'neu '");
+        press(key);
+        (void)desktop.tell("type --delay 20 '" + text + "'");
         desktop.waitUntil(
             "mark of a change", [this] { return desktop.windows("[*].*Quillmere") == 1; });
     }
+    void type() { typeAt("ctrl+Home", "neu "); }
     void press(const char* key) { (void)desktop.tell(std::string("key ") + key); }
+    /// Saves the deck, which is then this, and ends the program.
+    void saveAndEnd(pid_t program, const std::string& wanted)
+    {
+        const auto before = saved();
+        press("ctrl+s");
+        desktop.waitUntil("saved deck", [&] { return saved() != before; });
+        EXPECT_EQ(saved(), wanted);
+        press("Escape");
+        EXPECT_EQ(desktop.waitForEnd(program), 0);
+    }
+    /// Opens the deck, types, saves it and ends the program.
+    void workOnTheDeck()
+    {
+        const auto program = open();
+        (void)mainWindow();
+        type();
+        EXPECT_EQ(saved(), kDeck);
+        saveAndEnd(program, changed());
+    }
+    /// Opens the deck, types, and kills the program once that was stored by itself.
+    void crash()
+    {
+        const auto program = open();
+        (void)mainWindow();
+        type();
+        std::this_thread::sleep_for(std::chrono::milliseconds(1500));
+        desktop.kill(program);
+    }
+    /// Starts the program anew and takes what it offers.
+    pid_t recover()
+    {
+        const auto program = desktop.start({QUILLMERE});
+        desktop.waitUntil("question over the window",
+            [&] { return desktop.windows("^MORVANE Quillmere$") == 2; });
+        rest();
+        press("Return");
+        (void)mainWindow();
+        return program;
+    }
+    void setting(const std::string& line)
+    {
+        (void)desktop.folder.put("config/MORVANE/Quillmere.conf", "[General]\n" + line + "\n");
+    }
 };
 
 TEST_F(WholeProgram, SavesWhatWasTypedAndNothingElse)
 {
-    const auto program = open();
-    (void)mainWindow();
-    type();
-    EXPECT_EQ(saved(), kDeck);
-    press("ctrl+s");
-    desktop.waitUntil("saved deck", [this] { return saved() != kDeck; });
-    EXPECT_EQ(saved(), changed());
-    press("Escape");
-    EXPECT_EQ(desktop.waitForEnd(program), 0);
+    workOnTheDeck();
     EXPECT_TRUE(std::filesystem::is_empty(desktop.folder.path() + "tmp")) << "work files are left";
 }
 
@@ -138,14 +176,7 @@ TEST_F(WholeProgram, WorksWithoutAStoreOfSettings)
 {
     std::filesystem::remove(desktop.folder.path() + "config");
     (void)desktop.folder.put("config", "a file where the folder should be");
-    const auto program = open();
-    (void)mainWindow();
-    type();
-    press("ctrl+s");
-    desktop.waitUntil("saved deck", [this] { return saved() != kDeck; });
-    EXPECT_EQ(saved(), changed());
-    press("Escape");
-    EXPECT_EQ(desktop.waitForEnd(program), 0);
+    workOnTheDeck();
 }
 
 TEST_F(WholeProgram, WorksWithSkinFilesThatAreDamaged)
@@ -153,16 +184,33 @@ TEST_F(WholeProgram, WorksWithSkinFilesThatAreDamaged)
     for (const char* name : {"Adjust.ini", "AdjuPrev.ini", "AdjPnt.ini", "UserDef.ini",
              "ResWords.res", "ResForms1.res", "ResForms2.res", "splash.bmp"})
         (void)desktop.folder.put(std::string("Skins/") + name, "damaged");
-    (void)desktop.folder.put(
-        "config/MORVANE/Quillmere.conf", "[General]\nSkins=" + desktop.folder.path() + "Skins/\n");
-    const auto program = open();
-    (void)mainWindow();
-    type();
-    press("ctrl+s");
-    desktop.waitUntil("saved deck", [this] { return saved() != kDeck; });
-    EXPECT_EQ(saved(), changed());
-    press("Escape");
-    EXPECT_EQ(desktop.waitForEnd(program), 0);
+    setting("Skins=" + desktop.folder.path() + "Skins/");
+    workOnTheDeck();
+}
+
+/// The deck of the examples with all that the default would drop.
+TEST_F(WholeProgram, LosesNothingOfADeckWithStandardOutput)
+{
+    const auto path = std::string(QUILLMERE_SOURCE_DIR "/examples/pension/index.wml");
+    std::ifstream file(path, std::ios::binary);
+    const std::string text(std::istreambuf_iterator<char>(file), {});
+    const std::string link = "Weiter</a>";
+    auto wanted = text;
+    wanted.insert(text.find(link) + link.size(), " jetzt");
+    for (const bool isSetting : {true, false}) {
+        setting(isSetting ? "StandardOutput=Yes" : "StandardOutput=No");
+        (void)desktop.folder.put("meine decks/index.wml", text);
+        const auto program = open();
+        if (!isSetting) { // the form of what saving would cost
+            desktop.focus(desktop.window("Was das Speichern"));
+            rest();
+            press("Return"); // this deck with standard output
+        }
+        (void)mainWindow();
+        typeAt("ctrl+End", " jetzt");
+        EXPECT_EQ(saved(), text);
+        saveAndEnd(program, wanted);
+    }
 }
 
 TEST_F(WholeProgram, SaysThatADeckOfTheCommandLineIsTooLongAndGoesOn)
@@ -192,29 +240,16 @@ TEST_F(WholeProgram, SavesWithoutADirectoryOfWorkFiles)
     rest();
     press("Return");
     (void)mainWindow();
-    press("ctrl+s");
-    desktop.waitUntil("saved deck", [this] { return saved() != kDeck; });
-    EXPECT_EQ(saved(), changed());
-    press("Escape"); // nothing is told a second time
-    EXPECT_EQ(desktop.waitForEnd(program), 0);
+    saveAndEnd(program, changed()); // nothing is told a second time
 }
 
 TEST_F(WholeProgram, OffersWhatAKilledProgramHadNotSaved)
 {
-    const auto program = open();
-    (void)mainWindow();
-    type();
-    std::this_thread::sleep_for(std::chrono::milliseconds(1500)); // until it was stored by itself
-    desktop.kill(program);
+    crash();
     EXPECT_EQ(saved(), kDeck);
     (void)desktop.folder.put("meine decks/index.wml", "<wml>fremd</wml>");
 
-    const auto next = desktop.start({QUILLMERE});
-    desktop.waitUntil(
-        "question over the window", [&] { return desktop.windows("^MORVANE Quillmere$") == 2; });
-    rest();
-    press("Return");
-    (void)mainWindow();
+    const auto next = recover();
     press("ctrl+s");
     desktop.waitUntil(
         "question of the other text", [&] { return desktop.windows("^MORVANE Quillmere$") == 1; });
@@ -225,6 +260,26 @@ TEST_F(WholeProgram, OffersWhatAKilledProgramHadNotSaved)
     (void)mainWindow();
     press("Escape");
     EXPECT_EQ(desktop.waitForEnd(next), 0);
+}
+
+TEST_F(WholeProgram, MendsARecoveredDeckInTheOpenAndNothingElse)
+{
+    const std::string ahead = "<wml>\n<card  id='a'>\n<p  >", words = "Guten <b>Tag";
+    const std::string behind = "</p></card>\n</wml>";
+    setting("StandardOutput=Yes");
+    (void)desktop.folder.put("meine decks/index.wml", ahead + words + behind);
+    crash();
+    const auto program = recover();
+    EXPECT_EQ(saved(), ahead + words + behind);
+    press("ctrl+s");
+    desktop.focus(desktop.window("Was das Speichern"));
+    rest();
+    press("Return"); // the mends are wanted
+    desktop.waitUntil("saved deck", [&] { return saved() != ahead + words + behind; });
+    EXPECT_EQ(saved(), ahead + "neu " + words + "</b>" + behind);
+    (void)mainWindow();
+    press("Escape");
+    EXPECT_EQ(desktop.waitForEnd(program), 0);
 }
 
 } // namespace

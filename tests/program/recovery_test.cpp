@@ -3,6 +3,7 @@
 #include "cli/core_session.h"
 #include "document/deck_store.h"
 #include "document/design_text.h"
+#include "document/images.h"
 #include "document/platform/disk_work_files.h"
 #include "document/text/failure.h"
 #include "support/scratch_folder.h"
@@ -43,13 +44,25 @@ struct Program {
     DiskWorkFiles files;
     DocumentSession session;
 
-    explicit Program(const std::string& parent)
-        : core(false, &copies)
+    explicit Program(const std::string& parent, bool standardOutput = false)
+        : core(standardOutput, &copies)
         , files(parent)
-        , session{files, copies, core.prompter, core.settings, core.words, OutputRules()}
+        , session{
+              files, copies, core.prompter, core.settings, core.words, OutputRules(standardOutput)}
     {
     }
     std::string area(std::size_t index) { return ReadDesignText(session, index); }
+    void replace(std::size_t index, const std::string& before, const std::string& after)
+    {
+        auto text = area(index);
+        WriteDesignText(session, index, text.replace(text.find(before), before.size(), after));
+    }
+    std::string written()
+    {
+        WriteDeck(session);
+        const auto& first = session.deck.front();
+        return files.read(first.wmlDir + first.wmlFile);
+    }
 };
 
 /// Ends the program but leaves its directory, as a crash does. Returns that.
@@ -63,9 +76,10 @@ std::string crash(std::unique_ptr<Program> program)
     return directory;
 }
 
-std::unique_ptr<Program> programWithDeck(const std::string& parent, const std::string& deckDir)
+std::unique_ptr<Program> programWithDeck(
+    const std::string& parent, const std::string& deckDir, bool standardOutput = false)
 {
-    auto program = std::make_unique<Program>(parent);
+    auto program = std::make_unique<Program>(parent, standardOutput);
     LoadDeck(program->session, {"index.wml", deckDir, {}, {}});
     writeRecoveryNote(program->session, {false});
     return program;
@@ -133,6 +147,50 @@ TEST(Recovery, OffersCrashedRunsWithChangesOnlyAndOpensThem)
     EXPECT_FALSE(std::filesystem::exists(left));
 }
 
+/// What is compared is the file as it was opened, not what was made of it.
+TEST(Recovery, WithoutLossGoesOnWhereTheRunWas)
+{
+    const std::string file = "<wml>\n<card id='a'><p>eins <b>zwei</p></card>\n"
+                             "<card id='b'><p  >drei<timer value='1'/> vier "
+                             "<img alt=\"\" src='x.wbmp' width='9'/></p></card></wml>\n";
+    const auto with = [&](std::string before, const std::string& after) {
+        auto text = file;
+        return text.replace(text.find(before), before.size(), after);
+    };
+    const ScratchFolder folder;
+    (void)folder.put("deck/index.wml", file);
+    auto crashed = programWithDeck(folder.path(), folder.path() + "deck/", true);
+    crashed->replace(1, "drei", "3");
+    crashed->replace(1, "width: 9px", "width: 8px");
+    AddArea(crashed->session, false);
+    RemoveArea(crashed->session, 0, false);
+    const auto wanted = crashed->written();
+    writeRecoveryNote(crashed->session, {true});
+    const auto left = crash(std::move(crashed));
+    const auto runs = takeCrashedRuns(folder.path());
+    ASSERT_EQ(runs.size(), 1U);
+
+    Program next(folder.path());
+    openCrashedRun(next.session, runs[0]);
+    discardCrashedRun(runs[0]);
+    EXPECT_TRUE(next.session.output.losesNothing());
+    EXPECT_EQ(standardMends(next.session).size(), 1U);
+    EXPECT_EQ(next.written(), wanted);
+    const auto& image = next.session.deck.at(0).images.at(1);
+    EXPECT_NE(next.area(0).find(image.displayDir + image.displayFile), std::string::npos);
+    EXPECT_EQ(next.files.read(image.displayDir + image.displayFile), "BM");
+    EXPECT_EQ(next.area(0).find(left), std::string::npos);
+
+    auto again = programWithDeck(folder.path(), folder.path() + "deck/", true);
+    again->replace(1, "drei", "3");
+    writeRecoveryNote(again->session, {true});
+    (void)crash(std::move(again));
+    openCrashedRun(next.session, takeCrashedRuns(folder.path()).at(0));
+    EXPECT_EQ(next.written(), with("drei", "3").replace(file.find("</p>"), 0, "</b>"));
+    next.replace(1, "3", "drei");
+    EXPECT_EQ(next.written(), file) << "the fault as well";
+}
+
 TEST(Recovery, LeavesAloneWhatIsNoRunOfThisPerson)
 {
     const ScratchFolder folder;
@@ -187,14 +245,15 @@ TEST(Recovery, KeepsASourceAndTellsWhatBecameOfTheDecksFile)
 }
 
 /// Lets the program work for a while and kills it at a moment that nobody chose.
-void killAtWork(const std::string& parent, const std::string& deck, int delayUs)
+void killAtWork(const std::string& parent, const std::string& deck, int delayUs, bool isStandard)
 {
     int channel[2];
     ASSERT_EQ(::pipe(channel), 0);
     const auto child = ::fork();
     if (child == 0) {
         ::dup2(channel[1], STDOUT_FILENO);
-        ::execl(QUILLMERE_RECOVERY_VICTIM, "victim", parent.c_str(), deck.c_str(), nullptr);
+        ::execl(QUILLMERE_RECOVERY_VICTIM, "victim", parent.c_str(), deck.c_str(),
+            isStandard ? "standard" : nullptr, nullptr);
         ::_exit(127);
     }
     ::close(channel[1]);
@@ -233,10 +292,8 @@ TEST(Recovery, LosesNothingHoweverOftenTheProgramIsKilled)
     {
         Program program(runsIn);
         LoadDeck(program.session, {"index.wml", folder.path() + "deck/", {}, {}});
-        WriteDeck(program.session);
-        const auto& first = program.session.deck.front();
-        whole = withoutNumbers(program.files.read(first.wmlDir + first.wmlFile));
-        (void)folder.put("deck/index.wml", program.files.read(first.wmlDir + first.wmlFile));
+        whole = withoutNumbers(program.written());
+        (void)folder.put("deck/index.wml", program.written());
     }
     std::mt19937 random(20260);
     std::uniform_int_distribution<int> delayUs(0, 50'000);
@@ -244,7 +301,7 @@ TEST(Recovery, LosesNothingHoweverOftenTheProgramIsKilled)
     int recovered = 0;
     for (int round = 0; round < 220; ++round) {
         SCOPED_TRACE(round);
-        ASSERT_NO_FATAL_FAILURE(killAtWork(runsIn, deck, delayUs(random)));
+        ASSERT_NO_FATAL_FAILURE(killAtWork(runsIn, deck, delayUs(random), round % 2 != 0));
         const auto text = folder.get("deck/index.wml");
         ASSERT_EQ(withoutNumbers(text), whole);
         const auto numbers = numbersIn(text);
@@ -256,6 +313,9 @@ TEST(Recovery, LosesNothingHoweverOftenTheProgramIsKilled)
             Program program(runsIn);
             ASSERT_NO_THROW(openCrashedRun(program.session, run));
             ASSERT_EQ(areaCount(program.session.deck), 2U);
+            if (run.note.losesNothing) {
+                ASSERT_EQ(withoutNumbers(program.written()), whole);
+            }
             const int first = numbersIn(program.area(0)).at(0);
             const int second = numbersIn(program.area(1)).at(0);
             ASSERT_TRUE(first == second || first == second + 1) << first << ' ' << second;

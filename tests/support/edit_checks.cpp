@@ -274,7 +274,7 @@ private:
         return isJoined ? paragraph.whole() : SourceRange{paragraph.start.end, paragraph.end.begin};
     }
 
-    [[nodiscard]] std::string lookOf(const SurfacePage& page, std::size_t index) const
+    [[nodiscard]] static std::string lookOf(const SurfacePage& page, std::size_t index)
     {
         const auto& item = page.items[index];
         const auto& style = page.styles[item.style];

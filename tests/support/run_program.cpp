@@ -18,6 +18,7 @@ RunResult runProgram(
     std::vector<std::string> words{program};
     words.insert(words.end(), arguments.begin(), arguments.end());
     std::vector<char*> values;
+    values.reserve(words.size() + 1);
     for (std::string& word : words)
         values.push_back(word.data());
     values.push_back(nullptr);

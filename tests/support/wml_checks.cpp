@@ -79,7 +79,7 @@ std::string brokenPromise(const std::string& bytes)
     const auto repaired = repairFile(bytes);
     const DeckBytes mended(repaired.bytes);
     if (repaired.mends.empty() && repaired.bytes != bytes) return "another file without mends";
-    if (const auto fault = faultOf(std::string(mended.text())); !fault.empty()) return fault;
+    if (auto fault = faultOf(std::string(mended.text())); !fault.empty()) return fault;
     if (isPlainlyRead(deck.text())) {
         auto letters = lettersOf(deck.text());
         const auto isBeyondAscii = [](char c) { return static_cast<unsigned char>(c) >= 0x80; };

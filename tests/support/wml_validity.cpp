@@ -27,8 +27,8 @@ std::string wmlFaults(std::string_view deck)
     if (type == std::string::npos) return "1: the document type is not that of WML 1.1\n";
     document.replace(type, kDocumentType.size(), kItsCharacters);
     const auto result = runProgram(QUILLMERE_XMLLINT,
-        {"--nonet", "--noent", "--noout", "--relaxng", QUILLMERE_SOURCE_DIR "/tests/data/wml11.rng",
-            "-"},
+        {"--nonet", "--noent", "--noout", "--relaxng",
+            std::string(QUILLMERE_SOURCE_DIR) + "/tests/data/wml11.rng", "-"},
         document);
     if (result.status == 0) return {};
     if (result.status != kNotWellFormed && result.status != kInvalid

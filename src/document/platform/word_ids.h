@@ -130,6 +130,7 @@ inline constexpr int kPictureMissing = 249; ///< gap: file
 inline constexpr int kLinkNeedsCaption = 250;
 inline constexpr int kCannotBecomeLink = 251;
 inline constexpr int kTakesNoFormat = 252;
+inline constexpr int kTakesNoAlignment = 253;
 
 // Picture converter
 inline constexpr int kConverterFolderCaption = 32;

@@ -104,32 +104,22 @@ std::vector<Places> placesOf(std::string_view text, std::span<const TagPair> pai
     return tagPlaces(text, keys);
 }
 
-/// Whether a nested tag may begin at the '<' at `at`, by its first letter. Most tags are others.
-bool mayNest(std::string_view text, std::size_t at)
-{
-    constexpr std::size_t kLongestOpening = 2; // "</"
-    if (at + kLongestOpening >= text.size()) return false;
-    const char letter = lowerCase(text[text[at + 1] == '/' ? at + 2 : at + 1]);
-    return letter == 's' || letter == 'i' || letter == 'u' || letter == 'b';
-}
-
 /// One bit for each pair whose open and close tags do not take turns up to a last close tag.
 unsigned brokenPairs(std::string_view text)
 {
     static constexpr TagKeys<std::size(kNestedTags)> kKeys(kNestedTags);
-    unsigned open = 0;
+    constexpr unsigned kAllPairs = (1U << std::size(kNestedTags) / 2) - 1;
+    unsigned open = 0; // with a bit for all other tags
     unsigned broken = 0;
     CharacterWalk openings(text, '<');
     for (auto at = openings.next(); at != npos; at = openings.next()) {
-        if (!mayNest(text, at)) continue;
         const auto key = kKeys.find(tagCode(text.substr(at)));
-        if (key == std::size(kNestedTags)) continue;
         const auto pair = 1U << key / 2;
-        const auto expected = key % 2 == 0 ? 0U : pair;
-        if ((open & pair) != expected) broken |= pair;
+        const auto isClose = static_cast<unsigned>(key % 2);
+        broken |= (open ^ pair * isClose) & pair;
         open ^= pair;
     }
-    return broken | open;
+    return (broken | open) & kAllPairs;
 }
 
 } // namespace

@@ -105,28 +105,27 @@ bool isParagraphEnd(const std::string& text, std::size_t tag)
     return text[tag + 1] == '/' && lowerCase(text[tag + 2]) == 'p';
 }
 
-/// Whether two paragraphs end without one that begins between them.
-bool hasDoubledEnds(const std::string& text)
+/// The first paragraph's end with another ahead of it and no begin between them.
+std::size_t firstDoubledEnd(const std::string& text)
 {
     bool ended = false;
     CharacterWalk tags(text, '<');
     for (auto at = tags.next(); at != npos; at = tags.next()) {
-        if (isParagraphBegin(text, at)) ended = false;
-        if (!isParagraphEnd(text, at)) continue;
-        if (ended) return true;
-        ended = true;
+        const std::size_t slash = text[at + 1] == '/' ? 1 : 0; // a zero where the text ends
+        if (lowerCase(text[at + 1 + slash]) != 'p') continue;
+        if (ended && slash > 0) return at;
+        ended = slash > 0;
     }
-    return false;
+    return npos;
 }
 
 /// Deletes the ends of paragraphs between which none begins, but for the first one.
 void dropDoubledEnds(std::string& text)
 {
-    if (!hasDoubledEnds(text)) return;
     TextCutter cutter(text);
-    bool ended = false;
+    bool ended = true; // ahead of the first doubled one
     auto resumeAt = npos;
-    for (auto at = text.find('<'); at != npos; at = text.find('<', resumeAt)) {
+    for (auto at = firstDoubledEnd(text); at != npos; at = text.find('<', resumeAt)) {
         resumeAt = at + 1;
         if (isParagraphBegin(text, at)) ended = false;
         if (!isParagraphEnd(text, at)) continue;

@@ -43,21 +43,15 @@ constexpr auto kKeptTags = [] {
     return tags;
 }();
 
-/// Whether any tag with this letter, be it behind a '/', may stay in its line.
-bool mayStayInLine(char letter)
-{
-    return letter == 'b' || letter == 's' || letter == 't' || letter == 'i' || letter == 'u';
-}
-
-/// A key is not looked for where the text ends with it: "</i>" as the last tag gets a line.
+/// A key is not looked for where the text ends with it: "</i>" as the last tag gets a line. All
+/// keys are compared: that costs less than branches on what cannot be foreseen.
 bool getsOwnLine(std::string_view text, std::size_t at)
 {
-    const auto left = text.size() - at;
-    if (left < 3 || !mayStayInLine(text[text[at + 1] == '/' ? at + 2 : at + 1])) return true;
     const auto word = wordAt(text, at);
-    return std::ranges::none_of(kKeptTags, [left, word](const KeptTag& tag) {
-        return (word & tag.mask) == tag.word && left > tag.length + 1;
-    });
+    std::size_t keptLength = 0;
+    for (const KeptTag& tag : kKeptTags)
+        keptLength += (word & tag.mask) == tag.word ? tag.length : 0;
+    return keptLength == 0 || text.size() - at <= keptLength + 1;
 }
 
 /// The indent that the tags ask for.
@@ -67,19 +61,21 @@ public:
     /// over: a tag that begins there gets no line.
     std::size_t countLine(bool isClose)
     {
-        if (!first_ && lastWasOpen_ == isClose) indent_ += isClose ? -2 : 2;
+        const int step = isClose ? -2 : 2;
+        indent_ += step == -lastStep_ ? step : 0;
         const int passed = std::max(indent_, 0);
-        indent_ = passed + (isClose ? -2 : 2);
-        lastWasOpen_ = !isClose;
-        first_ = false;
+        indent_ = passed + step;
+        lastStep_ = step;
         return static_cast<std::size_t>(passed);
     }
-    void countKeptOpen() { first_ = false; }
+    void countKeptOpen()
+    {
+        if (lastStep_ == 0) lastStep_ = -2;
+    }
 
 private:
     int indent_ = 0;
-    bool lastWasOpen_ = false;
-    bool first_ = true;
+    int lastStep_ = 0; // none so far
 };
 
 /// Writes a text with other white space at the ends of its gaps.

@@ -9,6 +9,7 @@
 #include "document/text/windows1252.h"
 
 #include <algorithm>
+#include <ranges>
 #include <set>
 #include <string>
 #include <unordered_map>
@@ -26,6 +27,35 @@ bool isAction(WmlElement element)
     return element == WmlElement::Do || element == WmlElement::Go;
 }
 
+bool isOfList(WmlElement element)
+{
+    return element == WmlElement::Select || element == WmlElement::OptionGroup
+        || element == WmlElement::Option;
+}
+
+/// Whether an element that comes into another one goes, and its text stays: "<a>x<b>y</b></a>".
+bool dissolvesIn(WmlElement parent, WmlElement element)
+{
+    const bool isPlain = isOfList(parent) || parent == WmlElement::Link
+        || parent == WmlElement::Anchor || parent == WmlElement::Pre;
+    const bool mayGo = ruleOf(element).isFormat || element == WmlElement::Link
+        || element == WmlElement::LineBreak;
+    return isPlain && mayGo && !mayContain(parent, element);
+}
+
+/// The element that each piece stands in; Other outside of all.
+std::vector<WmlElement> parentsOf(const std::vector<DesignPiece>& pieces)
+{
+    std::vector<WmlElement> parents;
+    std::vector<WmlElement> open;
+    for (const auto& piece : pieces) {
+        parents.push_back(open.empty() ? WmlElement::Other : open.back());
+        if (piece.kind == Kind::Start) open.push_back(piece.element);
+        if (piece.kind == Kind::End && !open.empty()) open.pop_back();
+    }
+    return parents;
+}
+
 class CardWriter {
 public:
     CardWriter(const DeckOfCards& deck, const CardPieces& card, TokenWriter& result)
@@ -37,6 +67,8 @@ public:
     void write();
 
 private:
+    void writePiece(std::size_t now);
+    void writeDissolved(std::size_t now);
     void keepListText(std::size_t now);
     void followNesting(const DesignPiece& piece);
     void noteAction(const DesignPiece& piece);
@@ -51,18 +83,31 @@ private:
     [[nodiscard]] bool endFollows(std::size_t now, std::size_t then) const;
     [[nodiscard]] bool startIsAhead(std::size_t now, std::size_t then) const;
     [[nodiscard]] bool isDropped(std::size_t now) const;
+    [[nodiscard]] bool dissolves(std::size_t now);
+    [[nodiscard]] bool isMoved(std::size_t now);
     [[nodiscard]] bool standsAlone(const DesignPiece& piece) const;
     [[nodiscard]] std::string sourceOf(const PieceTokens& tokens) const;
     [[nodiscard]] std::string sourceOfSame(const DesignPiece& piece);
     [[nodiscard]] WmlElement parent() const
     {
-        return open_.empty() ? WmlElement::Other : open_.back();
+        const auto open = std::ranges::find(open_ | std::views::reverse, false, &Open::isDissolved);
+        return open == open_.rend() ? WmlElement::Other : open->element;
+    }
+    [[nodiscard]] bool isInAction() const
+    {
+        return std::ranges::any_of(open_, isAction, &Open::element);
     }
 
     const DeckOfCards& deck_;
     const CardPieces& card_;
     TokenWriter& result_;
-    std::vector<WmlElement> open_; ///< as far as written
+    struct Open {
+        WmlElement element;
+        bool isDissolved;
+    };
+    std::vector<Open> open_; ///< as far as written
+    bool dissolves_ = false; ///< the piece at hand
+    std::vector<WmlElement> parents_; ///< of the pieces of `then`, once they are asked for
     bool isInNewOption_ = false;
     bool goesOut_ = false; ///< the new piece at hand may not stand in its action
     std::string behindAction_;
@@ -82,21 +127,63 @@ void CardWriter::write()
         keepListText(i);
         noteAction(card_.now[i]);
         if (i + 1 == card_.now.size()) endAction();
-        if (card_.places[i] != kNoPiece)
-            writeKept(i);
-        else if (card_.changedFrom[i] != kNoPiece)
-            writeChanged(i);
-        else if (!isDropped(i))
-            writeNew(i);
+        writePiece(i);
         followNesting(card_.now[i]);
     }
+}
+
+void CardWriter::writePiece(std::size_t now)
+{
+    dissolves_ = dissolves(now);
+    if (dissolves_)
+        writeDissolved(now);
+    else if (card_.places[now] != kNoPiece)
+        writeKept(now);
+    else if (card_.changedFrom[now] != kNoPiece)
+        writeChanged(now);
+    else if (!isDropped(now))
+        writeNew(now);
+}
+
+/// Whether a tag goes, being put where its element may not stand, or the end of one that went.
+bool CardWriter::dissolves(std::size_t now)
+{
+    const auto& piece = card_.now[now];
+    if (piece.kind == Kind::Start || piece.kind == Kind::Single)
+        return dissolvesIn(parent(), piece.element) && isMoved(now);
+    if (piece.kind != Kind::End) return false;
+    const auto start
+        = std::ranges::find(open_ | std::views::reverse, piece.element, &Open::element);
+    return start != open_.rend() && start->isDissolved;
+}
+
+/// Whether a piece is new where it stands now.
+bool CardWriter::isMoved(std::size_t now)
+{
+    const auto kept = card_.places[now];
+    const auto then = kept != kNoPiece ? kept : card_.changedFrom[now];
+    if (then == kNoPiece) return true;
+    if (parents_.empty()) parents_ = parentsOf(card_.then);
+    return parents_[then] != parent();
+}
+
+/// The layout round a tag that goes, or the blank that a line break becomes.
+void CardWriter::writeDissolved(std::size_t now)
+{
+    const bool isBreak = card_.now[now].element == WmlElement::LineBreak;
+    if (isBreak) addNew(" ");
+    if (card_.places[now] == kNoPiece) return;
+    const auto& tokens = card_.tokens[card_.places[now]];
+    result_.copy(tokens.first, tokens.main);
+    result_.copy(tokens.behindMain, tokens.behind);
 }
 
 /// A list holds entries only: new text between them becomes an entry.
 void CardWriter::keepListText(std::size_t now)
 {
     const auto& piece = card_.now[now];
-    const bool isText = piece.kind == Kind::Word || piece.kind == Kind::Space;
+    const bool isText = piece.kind == Kind::Word || piece.kind == Kind::Space
+        || piece.element == WmlElement::LineBreak;
     if (std::exchange(isInNewOption_, isInNewOption_ && isText) && !isInNewOption_)
         result_.addNew("</option>");
     const bool isInList = parent() == WmlElement::Select || parent() == WmlElement::OptionGroup;
@@ -108,11 +195,12 @@ void CardWriter::keepListText(std::size_t now)
 
 void CardWriter::followNesting(const DesignPiece& piece)
 {
-    if (piece.kind == Kind::Start) open_.push_back(piece.element);
+    if (piece.kind == Kind::Start) open_.push_back({piece.element, dissolves_});
     if (piece.kind != Kind::End) return;
-    const auto start = std::find(open_.rbegin(), open_.rend(), piece.element);
+    const auto start
+        = std::ranges::find(open_ | std::views::reverse, piece.element, &Open::element);
     if (start != open_.rend()) open_.erase(std::prev(start.base()), open_.end());
-    if (std::ranges::none_of(open_, isAction)) endAction();
+    if (!isInAction()) endAction();
 }
 
 /// Actions hold no text: what is typed between their parameters goes behind them.
@@ -120,7 +208,7 @@ void CardWriter::noteAction(const DesignPiece& piece)
 {
     const bool isPart = piece.kind == Kind::Atom ? isAction(parent()) : isAction(piece.element);
     const bool isLayout = piece.kind == Kind::Space && behindAction_.empty();
-    goesOut_ = std::ranges::any_of(open_, isAction) && !isPart && !isLayout;
+    goesOut_ = isInAction() && !isPart && !isLayout;
 }
 
 void CardWriter::addNew(std::string_view text)
@@ -248,8 +336,6 @@ void CardWriter::writeNew(std::size_t now)
 {
     const auto& piece = card_.now[now];
     if (piece.kind == Kind::Space) return writeBlanks(now);
-    const bool isBreak = piece.element == WmlElement::LineBreak && piece.kind == Kind::Single;
-    if (isBreak && parent() == WmlElement::Option) return addNew(" "); // of one line each
     if (const auto same = sourceOfSame(piece); !same.empty()) return addNew(same);
     if (piece.kind == Kind::Atom) return addNew(deck_.bytes.encoded(quillmere::sourceOf(piece)));
     if (piece.kind != Kind::Word) return writeNewTag(piece);

@@ -246,7 +246,8 @@ std::string sourceOf(const DesignPiece& atom)
     const auto ahead = kMarkerBegin.size() + 1 + atom.name.size(); // "<!--#NAME"
     source.remove_prefix(std::min(source.size(), ahead));
     if (source.starts_with(' ')) source.remove_prefix(1);
-    return sourceOfHidden(source);
+    const bool isEntity = source.starts_with('&') && !source.starts_with("&lt;");
+    return sourceOfHidden(isEntity ? source.substr(0, source.find(' ')) : source);
 }
 
 } // namespace quillmere

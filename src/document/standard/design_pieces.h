@@ -43,7 +43,7 @@ struct DeckAttribute {
 
 /// The attributes of a start tag or marker as written, values without quotes.
 [[nodiscard]] std::vector<DeckAttribute> attributesOf(const DesignPiece& piece);
-/// The source that an atom holds, in Windows-1252.
+/// The source that an atom holds, in Windows-1252; of an entity its reference alone.
 [[nodiscard]] std::string sourceOf(const DesignPiece& atom);
 
 } // namespace quillmere

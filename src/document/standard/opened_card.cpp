@@ -3,6 +3,7 @@
 
 #include "document/standard/opened_card.h"
 
+#include "document/standard/own_entities.h"
 #include "document/standard/shown_text.h"
 
 #include <algorithm>
@@ -53,6 +54,7 @@ public:
 private:
     void openToken(std::uint32_t index);
     void openTag(std::uint32_t index);
+    void openWord(std::uint32_t index);
     void openMarkup(std::uint32_t index);
     void openElement(std::uint32_t index);
     void addWhole(std::uint32_t index, const std::string& text);
@@ -102,8 +104,7 @@ void CardOpener::openToken(std::uint32_t index)
     next_ = index + 1;
     const auto& opened = token(index);
     if (isTag(opened)) return openTag(index);
-    if (opened.kind == Kind::Word)
-        return add(index, next_, shownText(bytes_.decoded(opened.source)));
+    if (opened.kind == Kind::Word) return openWord(index);
     if (opened.kind != Kind::Space) return openMarkup(index);
     if (!isLayout(index)) return add(index, next_, std::string(opened.source.size(), ' '));
     const bool belongsToNext = isBlockLike(token(next_)) || !isBlockLike(token(index - 1));
@@ -111,6 +112,16 @@ void CardOpener::openToken(std::uint32_t index)
         layout_ = index;
     else
         card_.pieces.back().tokens.behind = next_;
+}
+
+void CardOpener::openWord(std::uint32_t index)
+{
+    const auto source = token(index).source;
+    const auto meaning = deck_.entities.meaningOf(wml::entityAtBegin(source));
+    if (meaning)
+        add(index, next_, designEntity(source, *meaning, bytes_));
+    else
+        add(index, next_, shownText(bytes_.decoded(source)));
 }
 
 void CardOpener::openMarkup(std::uint32_t index)
@@ -235,7 +246,8 @@ bool CardOpener::isBlockLike(const WmlToken& token) const
 
 DeckTokens withPartners(std::vector<WmlToken> tokens)
 {
-    DeckTokens deck{std::move(tokens), {}};
+    DeckTokens deck{{}, {}, entitiesOf(tokens)};
+    deck.tokens = withOwnEntitiesApart(std::move(tokens), deck.entities);
     deck.partners.resize(deck.tokens.size());
     std::vector<std::uint32_t> open;
     for (std::uint32_t i = 0; i < deck.tokens.size(); ++i) {

@@ -2,6 +2,7 @@
 
 #include "document/standard/design_tags.h"
 #include "document/wml/deck_bytes.h"
+#include "document/wml/deck_entities.h"
 #include "document/wml/wml_token.h"
 
 #include <cstddef>
@@ -14,10 +15,12 @@
 namespace quillmere {
 
 /// The tokens of a deck with the partner of each tag: of a start tag the index of its end tag and
-/// the other way round, else its own index.
+/// the other way round, else its own index. Each reference to an entity of the deck's own is a
+/// token.
 struct DeckTokens {
     std::vector<WmlToken> tokens;
     std::vector<std::uint32_t> partners;
+    wml::DeckEntities entities;
 };
 [[nodiscard]] DeckTokens withPartners(std::vector<WmlToken> tokens);
 

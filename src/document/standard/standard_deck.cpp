@@ -27,6 +27,12 @@ constexpr std::string_view kNewDeck = "<?xml version=\"1.0\"?>\r\n"
 constexpr std::string_view kEmptyCard
     = "<card id=\"Bereich1\" title=\"Nicht festgelegt\"><p></p></card>";
 
+std::string ofAllowedLength(std::string file)
+{
+    requireDeckLength(file.size());
+    return file;
+}
+
 /// The cards of a deck, but for those within others.
 std::vector<std::uint32_t> cardsIn(const DeckTokens& deck)
 {
@@ -157,9 +163,8 @@ StandardDeck::StandardDeck()
 }
 
 StandardDeck::StandardDeck(std::string file)
-    : bytes_(std::move(file))
+    : bytes_(ofAllowedLength(std::move(file)))
 {
-    requireAddressable(bytes_.text(), kMaxLosslessTextLength);
     mend();
     if (cards_.empty()) addMissingCard();
 }
@@ -213,9 +218,9 @@ std::string StandardDeck::written(std::span<const AreaText> areas, const Picture
     const auto count = static_cast<std::uint32_t>(tokens.size());
     auto tree = buildWmlTree(std::move(tokens), bytes_);
     layOutNewElements(tree, count, cards_.empty());
-    const auto text = writeWml(tree, bytes_);
-    requireAddressable(text, kMaxLosslessTextLength);
-    return bytes_.fileOf(text);
+    auto file = bytes_.fileOf(writeWml(tree, bytes_));
+    requireDeckLength(file.size());
+    return file;
 }
 
 } // namespace quillmere

@@ -29,7 +29,7 @@ struct AreaText {
 class StandardDeck {
 public:
     /// Takes any bytes. A broken deck is mended; one without a card gets an empty one. Throws
-    /// Overflow where the text is longer than 1 MB.
+    /// DeckTooLong.
     explicit StandardDeck(std::string file);
     /// A deck that has no file yet: the head and end of a deck, and no card.
     StandardDeck();
@@ -48,7 +48,7 @@ public:
 
     /// The deck with these areas as a file in its own encoding. Without a change it is the file as
     /// it was read, mended or not; else it is mended, and what no change touched is as it was.
-    /// Throws Overflow beyond 1 MB.
+    /// Throws DeckTooLong.
     [[nodiscard]] std::string written(
         std::span<const AreaText> areas, const PictureRoads& roads) const;
 

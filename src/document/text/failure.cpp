@@ -1,5 +1,6 @@
 #include "document/text/failure.h"
 
+#include "document/text/limits.h"
 #include "document/text/windows1252.h"
 
 namespace quillmere {
@@ -12,6 +13,12 @@ Failure::Failure(std::string_view description)
 
 Overflow::Overflow()
     : RuntimeFailure("Überlauf")
+{
+}
+
+DeckTooLong::DeckTooLong()
+    : Overflow("Das Deck ist zu lang: seine Datei kann höchstens "
+        + std::to_string(kMaxLosslessDeckLength) + " Byte (1 MB) haben. Es wurde nichts geändert.")
 {
 }
 

@@ -33,6 +33,15 @@ public:
 class Overflow : public RuntimeFailure {
 public:
     Overflow();
+
+protected:
+    using RuntimeFailure::RuntimeFailure;
+};
+
+/// A deck that is longer than its file may be where nothing is lost.
+class DeckTooLong : public Overflow {
+public:
+    DeckTooLong();
 };
 
 /// A text that has no place for what the operation must do, such as a value without closing quote.

@@ -29,10 +29,15 @@ public:
     /// Decks go to the surface and back with all that is in them: what HTML cannot show travels as
     /// markers that hold it whole.
     [[nodiscard]] bool losesNothing() const { return standard_; }
-    /// How many characters a text of a deck or an area may have.
+    /// How long a deck may be: in characters, and where nothing is lost in bytes of its file.
+    [[nodiscard]] std::size_t maxDeckLength() const
+    {
+        return standard_ ? kMaxLosslessDeckLength : kMaxTextLength;
+    }
+    /// How many characters the text of an area may have.
     [[nodiscard]] std::size_t maxTextLength() const
     {
-        return standard_ ? kMaxLosslessTextLength : kMaxTextLength;
+        return standard_ ? kMaxLosslessDesignLength : kMaxTextLength;
     }
     friend bool operator==(const OutputRules&, const OutputRules&) = default;
 

@@ -71,8 +71,9 @@ constexpr std::size_t nameBegin(std::string_view key)
     const bool isComment = (name & maskOf(kComment.size() - 1, 0)) == kDashes;
     if (isComment) name = wordAt(text, kComment.size());
     const bool isEnd = byteAt(name, 0) == '/';
-    return folded(isEnd ? name >> 8U : name & kAllLetters)
-        | marksIn((isComment ? kCommentBit : 0) | (isEnd ? kEndBit : 0));
+    const unsigned end = isEnd ? kEndBit : 0; // a number: half of the tags are ends, in no order
+    return folded(name >> 8 * end & kAllLetters)
+        | marksIn(static_cast<unsigned char>((isComment ? kCommentBit : 0) | end));
 }
 
 /// What the codes of all tags have in common that begin with a key.

@@ -22,21 +22,13 @@ void TagStack::clear(std::size_t expected)
 
 std::size_t TagStack::countCloser(std::size_t distance) const
 {
-    constexpr std::size_t kNearby = 4;
     if (distance == 0) return 0;
-    auto count = std::min(lastCount_, size());
-    const auto lowest = count - std::min(count, kNearby);
-    const auto highest = std::min(count + kNearby, size());
-    if ((lowest > 0 && tags_[lowest - 1].distance >= distance)
-        || (highest < size() && tags_[highest].distance < distance)) {
-        const auto found = std::ranges::lower_bound(tags_, distance, {}, &Tag::distance);
-        count = static_cast<std::size_t>(found - tags_.begin());
+    // Halves by a number and not by a branch, which could not be foreseen.
+    std::size_t count = 0;
+    for (auto left = size(); left > 0; left /= 2) {
+        const auto half = (left + 1) / 2;
+        count += tags_[count + half - 1].distance < distance ? half : 0;
     }
-    while (count > 0 && tags_[count - 1].distance >= distance)
-        --count;
-    while (count < size() && tags_[count].distance < distance)
-        ++count;
-    lastCount_ = count;
     return count;
 }
 

@@ -30,12 +30,11 @@ public:
     [[nodiscard]] Tag& operator[](std::size_t index) { return tags_[index]; }
     [[nodiscard]] const Tag& operator[](std::size_t index) const { return tags_[index]; }
     [[nodiscard]] const Tag& back() const { return tags_.back(); }
-    /// How many tags are closer than `distance`. Quick where that is about as many as last time.
+    /// How many tags are closer than `distance`.
     [[nodiscard]] std::size_t countCloser(std::size_t distance) const;
 
 private:
     std::vector<Tag> tags_;
-    mutable std::size_t lastCount_ = 0;
 };
 
 /// The places and codes of all '<' of a text. The text itself lies elsewhere; each change of it is

@@ -2,6 +2,7 @@
 
 #include "document/text/tag_code.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <cstdint>
@@ -18,39 +19,45 @@ public:
     template <typename Row, std::size_t rowCount, typename KeyOf = std::identity>
     consteval explicit TagKeys(const Row (&rows)[rowCount], KeyOf keyOf = {})
     {
-        first_.fill(static_cast<std::uint8_t>(count));
-        for (std::size_t i = count; i-- > 0;) {
-            const SearchKey key = std::invoke(keyOf, rows[i]);
-            if (!key.pattern.isWhole) throw std::invalid_argument("not told by its code");
-            auto& first = first_[bucket(key.pattern.wanted)];
-            entries_[i] = {key.pattern, first};
-            first = static_cast<std::uint8_t>(i);
+        std::size_t end = 1; // behind the row of no key
+        for (std::size_t bucket = 0; bucket < first_.size(); ++bucket) {
+            const auto begin = end;
+            for (std::size_t i = 0; i < count; ++i) {
+                const SearchKey key = std::invoke(keyOf, rows[i]);
+                if (!key.pattern.isWhole) throw std::invalid_argument("not told by its code");
+                if (bucketOf(key.pattern.wanted) == bucket) entries_[end++] = {key.pattern, i};
+            }
+            if (end == begin) continue;
+            longest_ = std::max(longest_, end - begin);
+            first_[bucket] = static_cast<std::uint8_t>(begin);
+            ++end; // an entry that any code fits
         }
     }
 
-    /// The index of the first key that fits; `count` where none does.
+    /// The index of the first key that fits; `count` where none does. No branch depends on the tag,
+    /// since what kind the next one is of cannot be foreseen.
     [[nodiscard]] constexpr std::size_t find(TagCode code) const
     {
-        std::size_t i = first_[bucket(code)];
-        while (i < count && !entries_[i].pattern.fits(code))
-            i = entries_[i].next;
-        return i;
+        std::size_t at = first_[bucketOf(code)];
+        for (std::size_t step = 0; step < longest_; ++step)
+            at += entries_[at].pattern.fits(code) ? 0 : 1;
+        return entries_[at].index;
     }
 
 private:
-    static_assert(count < 0x100);
-
-    static constexpr std::size_t bucket(TagCode code)
+    static constexpr std::size_t bucketOf(TagCode code)
     {
         return (code & 31U) | code >> 8 * tag_code::kLetters << 5U;
     }
 
     struct Entry {
-        TagPattern pattern;
-        std::uint8_t next = 0; // of the same bucket
+        TagPattern pattern; // of itself any code fits
+        std::size_t index = count;
     };
-    std::array<Entry, count> entries_{};
-    std::array<std::uint8_t, 4 * 32> first_{};
+    std::array<Entry, 2 * count + 1> entries_{}; // bucket by bucket, behind each one that ends it
+    std::array<std::uint8_t, 4 * 32> first_{}; // the first entry of each bucket
+    std::size_t longest_ = 0; // bucket
+    static_assert(2 * count < 0x100);
 };
 
 } // namespace quillmere

@@ -41,6 +41,41 @@ template <typename Rows> bool has(const Rows& rows, std::string_view name)
     return std::find(std::begin(rows), std::end(rows), name) != std::end(rows);
 }
 
+constexpr std::string_view kEntity = "<!ENTITY";
+
+std::size_t behind(std::string_view text, std::string_view end)
+{
+    const auto at = text.find(end);
+    return at == npos ? text.size() : at + end.size();
+}
+
+/// The declaration, comment or instruction that `text` begins with.
+std::string_view declarationIn(std::string_view text)
+{
+    if (text.starts_with("<!--")) return text.substr(0, behind(text, "-->"));
+    if (text.starts_with("<?")) return text.substr(0, behind(text, "?>"));
+    for (std::size_t at = 0; at < text.size(); ++at) {
+        if (text[at] == '>') return text.substr(0, at + 1);
+        const bool isQuote = text[at] == '"' || text[at] == '\'';
+        if (isQuote) at = std::min(text.find(text[at], at + 1), text.size());
+    }
+    return text;
+}
+
+std::string_view withoutSpaceAhead(std::string_view text)
+{
+    const auto* const begin
+        = std::ranges::find_if_not(text, [](char character) { return is(character, Space); });
+    return {begin, text.end()};
+}
+
+std::string_view nameAhead(std::string_view text)
+{
+    const auto* const end = std::ranges::find_if_not(
+        text, [](char character) { return is(character, ContinuesName); });
+    return {text.begin(), end};
+}
+
 } // namespace
 
 DeckEntities::DeckEntities(std::string_view doctype)
@@ -55,17 +90,36 @@ DeckEntities::DeckEntities(std::string_view doctype)
 
 void DeckEntities::readSubset(std::string_view subset)
 {
-    constexpr std::string_view kEntity = "<!ENTITY";
-    for (auto at = subset.find(kEntity); at != npos; at = subset.find(kEntity, at + 1)) {
-        auto begin = std::min(at + kEntity.size(), subset.size());
-        while (begin < subset.size() && is(subset[begin], Space))
-            ++begin;
-        auto end = begin;
-        while (end < subset.size() && is(subset[end], ContinuesName))
-            ++end;
-        knowsAll_ = knowsAll_ || end == begin; // '%': what it brings in is not read
-        declared_.emplace(subset.substr(begin, end - begin));
+    for (auto at = subset.find('<'); at != npos; at = subset.find('<', at)) {
+        const auto declaration = declarationIn(subset.substr(at));
+        if (declaration.starts_with(kEntity)) readEntity(declaration);
+        at += declaration.size();
     }
+}
+
+/// The first declaration of a name is the one that counts.
+void DeckEntities::readEntity(std::string_view declaration)
+{
+    auto rest = withoutSpaceAhead(declaration.substr(kEntity.size()));
+    const auto name = nameAhead(rest);
+    if (name.empty()) { // '%': what it brings in is not read
+        knowsAll_ = true;
+        return;
+    }
+    rest = withoutSpaceAhead(rest.substr(name.size()));
+    if (rest.ends_with('>')) rest.remove_suffix(1);
+    const bool isQuoted = !rest.empty() && (rest.front() == '"' || rest.front() == '\'');
+    const auto meaning = isQuoted ? rest.substr(1, rest.find(rest.front(), 1) - 1) : rest;
+    declared_.emplace(name, meaning);
+}
+
+std::optional<std::string_view> DeckEntities::meaningOf(std::string_view name) const
+{
+    if (declared_.empty() || has(kXmlEntities, name) || has(kWmlEntities, name))
+        return std::nullopt;
+    const auto found = declared_.find(std::string(name));
+    if (found == declared_.end()) return std::nullopt;
+    return found->second;
 }
 
 bool DeckEntities::knows(std::string_view name) const
@@ -73,6 +127,13 @@ bool DeckEntities::knows(std::string_view name) const
     if (knowsAll_ || has(kXmlEntities, name)) return true;
     if (hasDoctype_ && has(kWmlEntities, name)) return true;
     return !declared_.empty() && declared_.contains(std::string(name));
+}
+
+std::string_view entityAtBegin(std::string_view text)
+{
+    if (!text.starts_with('&')) return {};
+    const auto name = nameAhead(text.substr(1));
+    return text.substr(1 + name.size()).starts_with(';') ? name : std::string_view{};
 }
 
 unsigned htmlEntity(std::string_view name)

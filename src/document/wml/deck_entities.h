@@ -1,8 +1,9 @@
 #pragma once
 
+#include <optional>
 #include <string>
 #include <string_view>
-#include <unordered_set>
+#include <unordered_map>
 
 namespace quillmere::wml {
 
@@ -12,16 +13,26 @@ namespace quillmere::wml {
 class DeckEntities {
 public:
     /// `doctype` is the whole declaration, well-formed; "" for a deck without one.
-    explicit DeckEntities(std::string_view doctype);
+    explicit DeckEntities(std::string_view doctype = {});
     [[nodiscard]] bool knows(std::string_view name) const;
+
+    /// What an entity of the internal subset stands for, as it is declared: references in it are
+    /// not followed, and of one in a file of its own that is told. nullopt for the others.
+    [[nodiscard]] std::optional<std::string_view> meaningOf(std::string_view name) const;
+    [[nodiscard]] bool hasInternalSubset() const { return !declared_.empty(); }
 
 private:
     void readSubset(std::string_view subset);
+    void readEntity(std::string_view declaration);
 
     bool hasDoctype_ = false;
     bool knowsAll_ = false;
-    std::unordered_set<std::string> declared_;
+    std::unordered_map<std::string, std::string> declared_; ///< the meanings by the names
 };
+
+/// The name of the reference that a text begins with, "auml" of "&auml;b"; "" where it begins with
+/// none, or with one of a number.
+[[nodiscard]] std::string_view entityAtBegin(std::string_view text);
 
 /// The number of the character that an entity of HTML 4 names in Latin-1 text, such as "auml"; 0
 /// for others. Authors write them although WML has none of them.

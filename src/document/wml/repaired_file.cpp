@@ -11,7 +11,7 @@ namespace quillmere {
 
 RepairedFile repairFile(std::string bytes)
 {
-    if (bytes.size() > kMaxLosslessTextLength) throw Overflow();
+    requireDeckLength(bytes.size());
     const DeckBytes deck(std::move(bytes));
     WmlTree tree = buildWmlTree(readWmlTokens(deck.text()), deck);
     if (tree.mends.empty()) return {deck.file(), {}};

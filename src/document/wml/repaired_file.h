@@ -12,7 +12,7 @@ struct RepairedFile {
     std::vector<WmlMend> mends; ///< in Windows-1252; places are offsets in the text of the deck
 };
 
-/// Mends a deck file of any bytes. Throws Overflow for one of more than kMaxLosslessTextLength.
+/// Mends a deck file of any bytes. Throws DeckTooLong.
 [[nodiscard]] RepairedFile repairFile(std::string bytes);
 
 } // namespace quillmere

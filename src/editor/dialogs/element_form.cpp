@@ -32,6 +32,11 @@ std::string ElementForm::designText() const
     return ReadDesignText(session().document, area());
 }
 
+OutputRules ElementForm::rules() const
+{
+    return OutputRules(losesNothing(session().document));
+}
+
 int ElementForm::searchPosition(const Hit& hit)
 {
     return hit.position > 1 ? hit.position - 1 : hit.position;

@@ -33,8 +33,8 @@ protected:
     [[nodiscard]] DesignSurface& surface() const { return surface_; }
     [[nodiscard]] std::size_t area() const;
     [[nodiscard]] std::string designText() const;
-    /// Those by which the deck is edited.
-    [[nodiscard]] const OutputRules& rules() const { return session().document.output; }
+    /// Those by which the deck was opened.
+    [[nodiscard]] OutputRules rules() const;
     /// The position from which a found element is searched: one ahead of it.
     [[nodiscard]] static int searchPosition(const Hit& hit);
     [[nodiscard]] QString word(int id) const;

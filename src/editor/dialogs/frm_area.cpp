@@ -260,7 +260,7 @@ void frmArea::renameInHistories(const std::string& oldId)
     for (std::size_t i = 0; i < areaCount(document.deck); ++i) {
         auto& history = histories.emplace_back(document.deck.at(i).history);
         for (auto& state : history)
-            state = stateWithIdRenamed(state, oldId, newId, document.output);
+            state = stateWithIdRenamed(state, oldId, newId, rules());
     }
     for (std::size_t i = 0; i < histories.size(); ++i)
         document.deck.at(i).history.swap(histories[i]);

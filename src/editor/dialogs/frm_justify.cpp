@@ -2,6 +2,8 @@
 
 #include "editor/dialogs/frm_justify.h"
 
+#include "document/platform/word_ids.h"
+
 #include <QIcon>
 #include <QPainter>
 #include <QVBoxLayout>
@@ -74,10 +76,10 @@ SourceRange frmJustify::marked() const
 void frmJustify::SetInitializations()
 {
     loadTexts();
-    const bool isNoted
-        = holdsPicture(designText(), marked()) && isYes(session().settings, "ShowImageMessage");
+    const bool isNoted = holdsPicture(designText(), marked(), rules())
+        && isYes(session().settings, "ShowImageMessage");
     if (isNoted) static_cast<void>(session().messages.showNote(Note::ImageLayout));
-    const auto alignment = alignmentOf(designText(), marked());
+    const auto alignment = alignmentOf(designText(), marked(), rules());
     auto* shown = optSchrift.at(static_cast<std::size_t>(alignment));
     shown->setChecked(true);
     shown->setFocus();
@@ -87,11 +89,18 @@ void frmJustify::btnOk_Click()
 {
     for (std::size_t i = 0; i < optSchrift.size(); ++i) {
         if (!optSchrift.at(i)->isChecked()) continue;
-        const auto text = designText();
-        const auto aligned = alignLines(text, marked(), static_cast<Alignment>(i), rules());
-        if (aligned.text == text) return accept();
-        return apply(aligned.text, aligned.marked);
+        return align(static_cast<Alignment>(i));
     }
+}
+
+void frmJustify::align(Alignment wanted)
+{
+    const auto text = designText();
+    const auto aligned = alignLines(text, marked(), wanted, rules());
+    if (aligned.text != text) return apply(aligned.text, aligned.marked);
+    if (wanted != Alignment::Left && takesNoAlignment(text, marked(), rules()))
+        session().messages.show(word::kTakesNoAlignment, {}, MessageIcon::Warning);
+    accept();
 }
 
 } // namespace quillmere

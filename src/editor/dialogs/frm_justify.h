@@ -25,6 +25,7 @@ private:
     void layOut();
     [[nodiscard]] SourceRange marked() const;
     void btnOk_Click();
+    void align(Alignment wanted);
 
     QGroupBox* const optFrame = named<QGroupBox>("optFrame", this);
     const std::array<QRadioButton*, 3> optSchrift{named<QRadioButton>("optSchrift", optFrame),

@@ -111,7 +111,7 @@ bool frmTextFormat::CheckIfIsValidMarked()
         session().messages.show(wordFor(*pair), {}, MessageIcon::Critical);
         return false;
     }
-    if (!takesNoFormats(text, *range)) return true;
+    if (!takesNoFormats(text, *range, rules())) return true;
     session().messages.show(word::kTakesNoFormat, {}, MessageIcon::Warning);
     return false;
 }
@@ -120,7 +120,7 @@ void frmTextFormat::SetInitializations()
 {
     loadTexts();
     const auto range = marked();
-    const auto formats = range ? formatsOf(designText(), *range) : TextFormats{};
+    const auto formats = range ? formatsOf(designText(), *range, rules()) : TextFormats{};
     setBox(*chkBold, formats.bold);
     setBox(*chkItalic, formats.italic);
     setBox(*chkUnderline, formats.underlined);

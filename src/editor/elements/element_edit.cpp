@@ -5,6 +5,7 @@
 #include "document/text/limits.h"
 #include "document/text/text_search.h"
 #include "editor/page/markup_tags.h"
+#include "editor/page/page_places.h"
 
 #include <algorithm>
 
@@ -19,6 +20,28 @@ std::string withPiece(
     auto changed = result.take();
     requireAddressable(changed, rules.maxTextLength());
     return changed;
+}
+
+WmlElement elementAround(const SurfacePage& page, SourceRange range)
+{
+    auto innermost = WmlElement::Card;
+    for (const auto& element : page.elements) { // by their start
+        const bool isAround = element.start.end <= range.begin && element.end.begin >= range.end;
+        if (isAround && element.kind != PageElement::Kind::Format)
+            innermost = wmlElement(tagName(element.start.in(page.text)));
+    }
+    return innermost;
+}
+
+ElementFrame frameAt(const SurfacePage& page, std::size_t offset)
+{
+    const auto isInCard
+        = [&page](SourceRange range) { return elementAround(page, range) == WmlElement::Card; };
+    if (!page.rules.losesNothing() || !isInCard({offset, offset})) return {};
+    const auto place = placeAt(page, offset);
+    for (const auto* item : {itemAhead(page, place), itemBehind(page, place)})
+        if (item != nullptr && item->kind != ItemKind::Chip && isInCard(item->source)) return {};
+    return {"<p>", "</p>"};
 }
 
 ElementEdit unchanged(std::string_view text, int position)

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/text/output_rules.h"
+#include "document/wml/wml_elements.h"
 #include "editor/page/surface_page.h"
 
 #include <cstddef>
@@ -24,6 +25,17 @@ struct ElementEdit {
 /// The text with `inserted` in the place of a piece of it. Throws Overflow.
 [[nodiscard]] std::string withPiece(
     std::string_view text, SourceRange piece, std::string_view inserted, const OutputRules& rules);
+
+/// The innermost element that is no format and holds a range of a page; Card outside of all.
+[[nodiscard]] WmlElement elementAround(const SurfacePage& page, SourceRange range);
+
+/// What an element goes in with at an offset of a page: where nothing is lost, a paragraph if it
+/// would stand in a card itself, unless it joins text that has none either.
+struct ElementFrame {
+    std::string_view start;
+    std::string_view end;
+};
+[[nodiscard]] ElementFrame frameAt(const SurfacePage& page, std::size_t offset);
 
 /// The edit that changes nothing.
 [[nodiscard]] ElementEdit unchanged(std::string_view text, int position);

@@ -6,6 +6,7 @@
 #include "document/text/edited_text.h"
 #include "document/text/text_search.h"
 #include "document/text/windows1252.h"
+#include "editor/page/attribute_values.h"
 #include "editor/page/going_tags.h"
 
 #include <algorithm>
@@ -75,10 +76,17 @@ FormatBorder formatBorder(const SurfacePage& page, const std::vector<std::size_t
     FormatBorder border;
     for (const auto format : formats) {
         const auto tag = page.elements[format].start.in(page.text);
-        border.starts += tag;
+        border.starts += secondTag(tag, page.rules);
         border.ends.insert(0, endTagFor(tag));
     }
     return border;
+}
+
+std::string secondTag(std::string_view tag, const OutputRules& rules)
+{
+    if (!rules.losesNothing() || !findAttribute(tag, "id")) return std::string(tag);
+    const auto name = tag.substr(0, tag.find_first_of(" \t\r\n/>", 1));
+    return std::string(name) + otherAttributes(tag, {"id"}) + ">";
 }
 
 void DeleteFormatTagsWhoArroundsNoText(std::string& Text, std::size_t limit)

@@ -34,13 +34,18 @@ bool addFormat(FormatFlags& flags, std::string_view startTag);
 /// The formats of a page that are open at an offset, the outermost first, as indices of elements.
 [[nodiscard]] std::vector<std::size_t> formatsOpenAt(const SurfacePage& page, std::size_t offset);
 
-/// Their end tags, the innermost first, and their start tags as written, the outermost first.
+/// Their end tags, the innermost first, and their start tags as written, the outermost first; where
+/// nothing is lost without an id, since no two elements have the same.
 struct FormatBorder {
     std::string ends;
     std::string starts;
 };
 [[nodiscard]] FormatBorder formatBorder(
     const SurfacePage& page, const std::vector<std::size_t>& formats);
+
+/// The start tag of the second half of an element that is cut in two: the same, but where nothing
+/// is lost without an id.
+[[nodiscard]] std::string secondTag(std::string_view tag, const OutputRules& rules);
 
 /// Cuts out the pairs of big, small, i, b and u that enclose nothing but tags and blanks, until
 /// none is left. A picture is no text. Throws Overflow for a text beyond `limit` characters.

@@ -3,6 +3,8 @@
 
 #include "editor/elements/format_units.h"
 
+#include "document/wml/wml_elements.h"
+#include "editor/page/atom_marker.h"
 #include "editor/page/markup_tags.h"
 
 #include <algorithm>
@@ -31,9 +33,13 @@ bool isBorder(std::string_view text, SourceRange gap)
     return false;
 }
 
-bool isObjectWithoutFormat(ItemKind kind)
+/// Whether a format may hold an item: an atom where the rules of WML allow its element there.
+bool takesFormats(const SurfacePage& page, const PageItem& item)
 {
-    return isObject(kind) && kind != ItemKind::Picture;
+    if (!isObject(item.kind) || item.kind == ItemKind::Picture) return true;
+    const auto atom = readAtom(item.source.in(page.text));
+    return !atom.name.empty() && page.rules.losesNothing()
+        && mayContain(WmlElement::Bold, wmlElement(atom.name));
 }
 
 class UnitReader {
@@ -58,6 +64,7 @@ private:
             const auto link = page_.styles[page_.items[item].style].link;
             auto unit = link == kNone ? unitOf(item) : linkUnit(link, item, block.endItem);
             const bool isFirst = item == block.firstItem;
+            if (block.isAside) unit.takesFormats = false;
             unit.startsPiece = isFirst || !unit.takesFormats || !units_.back().takesFormats
                 || isBorder(page_.text, {units_.back().source.end, unit.source.begin});
             item = unit.endItem;
@@ -72,7 +79,8 @@ private:
         unit.firstItem = item;
         unit.endItem = item + 1;
         unit.isBlank = page_.items[item].kind == ItemKind::Blank;
-        unit.takesFormats = !isObjectWithoutFormat(page_.items[item].kind);
+        unit.takesFormats = takesFormats(page_, page_.items[item]);
+        unit.takesSizes = !page_.styles[page_.items[item].style].fixedPitch;
         return unit;
     }
 
@@ -83,12 +91,28 @@ private:
         while (unit.endItem < end && page_.styles[page_.items[unit.endItem].style].link == link)
             ++unit.endItem;
         const auto& element = page_.elements[link];
-        const bool isWhole = !isBorder(page_.text, {element.start.end, unit.source.begin})
-            && !isBorder(page_.text, {page_.items[unit.endItem - 1].source.end, element.end.begin});
-        if (!isWhole) return unitOf(item);
+        if (element.kind == Kind::Link ? !hasPlainTags(unit, element) : !hasAllOf(unit, element))
+            return unitOf(item);
         unit.source = element.whole();
         unit.isBlank = false;
+        unit.takesFormats |= page_.rules.losesNothing(); // an anchor may begin with its action
         return unit;
+    }
+
+    [[nodiscard]] bool hasPlainTags(const FormatUnit& unit, const PageElement& link) const
+    {
+        return !isBorder(page_.text, {link.start.end, unit.source.begin})
+            && !isBorder(page_.text, {page_.items[unit.endItem - 1].source.end, link.end.begin});
+    }
+
+    /// An anchor has its action between its items.
+    [[nodiscard]] bool hasAllOf(const FormatUnit& unit, const PageElement& anchor) const
+    {
+        const bool begins = unit.firstItem == 0
+            || page_.items[unit.firstItem - 1].source.end <= anchor.start.begin;
+        return begins
+            && (unit.endItem == page_.items.size()
+                || page_.items[unit.endItem].source.begin >= anchor.end.end);
     }
 
     void markLists()

@@ -16,6 +16,7 @@ struct FormatUnit {
     bool isBlank = false; ///< white space that saving drops ahead of a tag
     bool startsPiece = false; ///< no pair of tags may hold this and what is ahead of it
     bool takesFormats = true; ///< false in selection lists, and for what is no text
+    bool takesSizes = true; ///< false for preformatted text, which has no big and small
     bool isMarked = false;
     FormatFlags flags;
 };

@@ -121,10 +121,11 @@ ElementEdit SetImage(
     std::string_view text, int position, const ImageSettings& wanted, const OutputRules& rules)
 {
     const auto place = static_cast<std::size_t>(
-        std::max(ValidInsertPosition(position, text, rules.maxTextLength()), 0));
-    const auto markup = imageMarkup(wanted);
-    return {
-        withPiece(text, {place, place}, markup, rules), static_cast<int>(place + markup.size())};
+        std::max(ValidInsertPosition(position, text, WmlElement::Image, rules), 0));
+    const auto [start, end] = frameAt(readSurfacePage(std::string(text), rules), place);
+    const auto markup = std::string(start) + imageMarkup(wanted);
+    return {withPiece(text, {place, place}, markup + std::string(end), rules),
+        static_cast<int>(place + markup.size())};
 }
 
 ElementEdit ReplaceImage(

@@ -77,6 +77,17 @@ bool isMarked(const PageItem& item, SourceRange marked)
     return item.source.begin < marked.end && item.source.end > marked.begin;
 }
 
+/// Whether the rules of WML allow a link where all of the marked items stand: in no entry of a
+/// list, and not over the end of one.
+bool mayHoldLink(const SurfacePage& page, SourceRange marked)
+{
+    const auto parent = elementAround(page, marked);
+    return (parent == WmlElement::Card || mayContain(parent, WmlElement::Link))
+        && std::ranges::all_of(page.items, [&](const PageItem& item) {
+               return !isMarked(item, marked) || elementAround(page, item.source) == parent;
+           });
+}
+
 std::string startTag(const LinkSettings& link, std::string_view otherAttributes = {})
 {
     return std::string("<a href=\"").append(link.target).append("\"").append(otherAttributes) + ">";
@@ -88,11 +99,10 @@ std::string linkMarkup(const LinkSettings& link, const OutputRules& rules)
     return startTag(link) + link.caption + (rules.losesNothing() ? "</a>" : "</a> ");
 }
 
-/// A link at an offset of a text that has none there, with what belongs round it.
-std::string newLink(
-    std::string_view text, std::size_t offset, const LinkSettings& link, const OutputRules& rules)
+/// A link at an offset of a page that has none there, with what belongs round it on its line.
+std::string newLink(const SurfacePage& page, std::size_t offset, const LinkSettings& link)
 {
-    const auto page = readSurfacePage(std::string(text), rules);
+    const auto& rules = page.rules;
     const auto place = placeAt(page, offset);
     auto markup = linkMarkup(link, rules);
     if (!rules.losesNothing())
@@ -104,6 +114,17 @@ ElementEdit putIn(
     std::string_view text, SourceRange piece, const std::string& link, const OutputRules& rules)
 {
     return {withPiece(text, piece, link, rules), static_cast<int>(piece.begin + link.size())};
+}
+
+ElementEdit putInNew(
+    std::string_view text, std::size_t place, const LinkSettings& link, const OutputRules& rules)
+{
+    const auto page = readSurfacePage(std::string(text), rules);
+    const auto [start, end] = frameAt(page, place);
+    const auto markup = std::string(start) + newLink(page, place, link);
+    auto edit = putIn(text, {place, place}, markup + std::string(end), rules);
+    edit.position -= static_cast<int>(end.size());
+    return edit;
 }
 
 } // namespace
@@ -135,6 +156,7 @@ bool canBecomeLink(std::string_view text, SourceRange marked, const OutputRules&
 {
     const auto page = readSurfacePage(std::string(text), rules);
     const auto isInMarked = [marked](const PageItem& item) { return isMarked(item, marked); };
+    if (rules.losesNothing() && !mayHoldLink(page, marked)) return false;
     std::size_t blocks = 0;
     for (const auto& block : page.blocks) {
         const auto items = std::span(page.items).subspan(block.firstItem, itemCount(block));
@@ -159,9 +181,8 @@ std::optional<LinkSettings> GetLink(std::string_view text, int position)
 ElementEdit SetLink(
     std::string_view text, int position, const LinkSettings& wanted, const OutputRules& rules)
 {
-    const auto valid = ValidInsertPosition(position, text, rules.maxTextLength());
-    const auto place = static_cast<std::size_t>(std::max(valid, 0));
-    return putIn(text, {place, place}, newLink(text, place, wanted, rules), rules);
+    const auto valid = ValidInsertPosition(position, text, WmlElement::Link, rules);
+    return putInNew(text, static_cast<std::size_t>(std::max(valid, 0)), wanted, rules);
 }
 
 ElementEdit ReplaceLink(
@@ -171,8 +192,7 @@ ElementEdit ReplaceLink(
     if (!old) return unchanged(text, position);
     if (!rules.losesNothing()) {
         const auto gone = DeleteLink(text, position, rules);
-        const auto place = old->startTag.begin;
-        return putIn(gone.text, {place, place}, newLink(gone.text, place, wanted, rules), rules);
+        return putInNew(gone.text, old->startTag.begin, wanted, rules);
     }
     const auto inner = SourceRange{old->startTag.end, old->captionEnd}.in(text);
     const bool isKept = typedFrom(textOutsideTags(inner)) == typedFrom(wanted.caption);

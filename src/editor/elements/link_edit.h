@@ -27,7 +27,8 @@ struct LinkSettings {
     const LinkSettings& link, const OutputRules& rules = OutputRules());
 
 /// Whether what is marked can become a link: text of one paragraph, without line breaks, pictures,
-/// options and other links, whose look would be lost.
+/// options and other links, whose look would be lost. Where nothing is lost no text of a list
+/// either.
 [[nodiscard]] bool canBecomeLink(
     std::string_view text, SourceRange marked, const OutputRules& rules = OutputRules());
 

@@ -119,11 +119,12 @@ ElementEdit newList(std::string_view text, std::size_t offset, const OptionSetti
     const OutputRules& rules)
 {
     const int number = countOptions(text, 0, offset);
-    auto list = "<!--select-->" + optionMarkup(wanted) + "<!--/select-->";
+    const auto [start, end] = frameAt(readSurfacePage(std::string(text), rules), offset);
+    auto list = std::string(start) + "<!--select-->" + optionMarkup(wanted) + "<!--/select-->";
     if (!rules.losesNothing()) list += "<br/>";
-    const auto changed = withPiece(text, {offset, offset}, list, rules);
-    return withCaretBehindList(
-        renumbered(MoveFormatTagsOutOfSelect(changed, offset, rules), rules), number);
+    const auto changed = withPiece(text, {offset, offset}, list.append(end), rules);
+    const auto moved = MoveFormatTagsOutOfSelect(changed, offset + start.size(), rules);
+    return withCaretBehindList(renumbered(moved, rules), number);
 }
 
 } // namespace
@@ -150,7 +151,7 @@ ElementEdit SetOption(std::string_view text, int position, bool optionFound,
     if (!optionFound) {
         const auto listEnd = joinedListEnd(text, offset);
         if (listEnd == npos) {
-            const auto valid = ValidInsertPosition(position, text, rules.maxTextLength());
+            const auto valid = ValidInsertPosition(position, text, WmlElement::Select, rules);
             return newList(text, static_cast<std::size_t>(std::max(valid, 0)), wanted, rules);
         }
         offset = listEnd;
@@ -206,20 +207,23 @@ std::string MoveFormatTagsOutOfSelect(
 {
     const auto end = findTagFrom(text, kSelectEnd, list);
     if (!end) return std::string(text);
-    const auto page = readSurfacePage(std::string(text));
+    const auto page = readSurfacePage(std::string(text), rules);
     std::vector<std::size_t> around;
     for (const auto format : formatsOpenAt(page, list))
         if (page.elements[format].end.begin >= end->end) around.push_back(format);
     if (around.empty()) return std::string(text);
     const auto border = formatBorder(page, around);
-    const auto behind = behindBreak(text, end->end);
     Rewriter result(text);
     result.insert(list, border.ends);
-    result.insert(behind, border.starts);
+    result.insert(behindBreak(text, end->end), border.starts);
     auto changed = result.take();
     requireAddressable(changed, rules.maxTextLength());
-    DeleteFormatTagsWhoArroundsNoText(changed, rules.maxTextLength());
-    return changed;
+    const auto touched = rules.losesNothing() ? page.elements[around.front()].whole()
+                                              : SourceRange{0, text.size()};
+    const auto length = touched.end - touched.begin + changed.size() - text.size();
+    auto piece = changed.substr(touched.begin, length);
+    DeleteFormatTagsWhoArroundsNoText(piece, rules.maxTextLength());
+    return changed.replace(touched.begin, length, piece);
 }
 
 } // namespace quillmere

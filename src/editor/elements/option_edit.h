@@ -51,7 +51,8 @@ struct OptionSettings {
 
 /// Ends all formats that enclose the list at offset `list` ahead of it and begins them again behind
 /// it and the <br/> that follows, all at once so that they stay nested; a pair that then holds
-/// nothing is left out. "<b>x<!--select-->...<!--/select--><br/>y</b>" becomes
+/// nothing is left out, by the default such pairs elsewhere as well.
+/// "<b>x<!--select-->...<!--/select--><br/>y</b>" becomes
 /// "<b>x</b><!--select-->...<!--/select--><br/><b>y</b>".
 [[nodiscard]] std::string MoveFormatTagsOutOfSelect(
     std::string_view text, std::size_t list, const OutputRules& rules = OutputRules());

@@ -3,6 +3,8 @@
 #include "editor/elements/page_lines.h"
 
 #include <algorithm>
+#include <iterator>
+#include <utility>
 
 namespace quillmere {
 
@@ -10,21 +12,41 @@ namespace {
 
 using Kind = PageElement::Kind;
 
-/// Whether a line break is part of a link, a list or a block of markers.
-bool isWithinElement(const SurfacePage& page, SourceRange lineBreak)
-{
-    return std::ranges::any_of(page.elements, [&](const PageElement& element) {
-        const bool mayHoldBreaks = element.kind == Kind::Format || element.kind == Kind::Paragraph
+/// What is inside of links, lists and blocks of markers, which no line border parts.
+class HeldTogether {
+public:
+    explicit HeldTogether(const SurfacePage& page)
+    {
+        for (const auto& element : page.elements) // by their start
+            if (!mayHoldBreaks(page, element)) add({element.start.end, element.end.begin});
+    }
+    [[nodiscard]] bool holds(SourceRange between) const
+    {
+        const auto behind
+            = std::ranges::upper_bound(inner_, between.begin, {}, &SourceRange::begin);
+        return behind != inner_.begin() && std::prev(behind)->end >= between.end;
+    }
+
+private:
+    static bool mayHoldBreaks(const SurfacePage& page, const PageElement& element)
+    {
+        return element.kind == Kind::Format || element.kind == Kind::Paragraph
             || element.start.begin < page.content.begin;
-        return !mayHoldBreaks && element.start.end <= lineBreak.begin
-            && element.end.begin >= lineBreak.end;
-    });
-}
+    }
+    void add(SourceRange inner)
+    {
+        const auto furthest = inner_.empty() ? 0 : inner_.back().end;
+        inner_.push_back({inner.begin, std::max(inner.end, furthest)});
+    }
+
+    std::vector<SourceRange> inner_; // by their begin, each to the furthest end so far
+};
 
 class LineReader {
 public:
     explicit LineReader(const SurfacePage& page)
         : page_(page)
+        , elements_(page)
     {
     }
 
@@ -41,21 +63,24 @@ public:
         addTables();
         std::ranges::stable_sort(
             lines_, {}, [](const PageLine& line) { return line.source.begin; });
-        return lines_;
+        if (page_.rules.losesNothing()) joinWithinElements();
+        return std::move(lines_);
     }
 
 private:
     void addBlock(const PageBlock& block)
     {
+        const bool mayAlign = !block.isAside && !isPreformatted(page_, block);
         auto begin = block.content.begin;
         for (auto item = block.firstItem; item < block.endItem; ++item) {
             const auto source = page_.items[item].source;
-            if (page_.items[item].kind != ItemKind::LineBreak || isWithinElement(page_, source))
-                continue;
-            lines_.push_back({{begin, source.begin}, block.paragraph, block.alignment, false});
+            if (page_.items[item].kind != ItemKind::LineBreak || elements_.holds(source)) continue;
+            lines_.push_back(
+                {{begin, source.begin}, block.paragraph, block.alignment, false, mayAlign});
             begin = source.end;
         }
-        lines_.push_back({{begin, block.content.end}, block.paragraph, block.alignment, false});
+        lines_.push_back(
+            {{begin, block.content.end}, block.paragraph, block.alignment, false, mayAlign});
     }
 
     void addTables()
@@ -70,7 +95,25 @@ private:
         }
     }
 
+    /// A table ends a line wherever it stands, but it does not part what belongs together.
+    void joinWithinElements()
+    {
+        std::vector<PageLine> joined;
+        for (const auto& line : lines_) {
+            const bool isSecond = !joined.empty() && joined.back().paragraph == line.paragraph
+                && elements_.holds({joined.back().source.end, line.source.begin});
+            if (isSecond) {
+                joined.back().source.end = line.source.end;
+                joined.back().isTable = false;
+            } else {
+                joined.push_back(line);
+            }
+        }
+        lines_ = std::move(joined);
+    }
+
     const SurfacePage& page_;
+    HeldTogether elements_;
     std::vector<PageLine> lines_;
 };
 

@@ -7,6 +7,7 @@
 #include "document/text/text_search.h"
 #include "editor/elements/format_tags.h"
 #include "editor/elements/page_lines.h"
+#include "editor/page/attribute_values.h"
 #include "editor/page/markup_tags.h"
 
 #include <algorithm>
@@ -70,9 +71,10 @@ public:
     {
         for (std::size_t i = first_; i < end_;) {
             auto end = i + 1;
-            while (end < end_ && lines_[end].paragraph == lines_[i].paragraph)
+            while (end < end_ && lines_[end].paragraph == lines_[i].paragraph
+                && lines_[end].mayAlign == lines_[i].mayAlign)
                 ++end;
-            if (lines_[i].alignment != wanted_) align(i, end);
+            if (lines_[i].mayAlign && lines_[i].alignment != wanted_) align(i, end);
             i = end;
         }
         return std::move(splices_);
@@ -82,29 +84,55 @@ private:
     void align(std::size_t first, std::size_t end)
     {
         if (lines_[first].paragraph == kNone) return wrap(first, end);
+        const auto old = startTag(first).in(page_.text);
         if (isInSameParagraph(first - 1, first))
-            cut(first, paragraphTag(wanted_), true);
+            cut(first, secondTag(alignedTag(old), page_.rules), true);
         else if (!joinAhead(first))
-            splices_.push_back({startTag(first), std::string(paragraphTag(wanted_)), true});
+            splices_.push_back({startTag(first), alignedTag(old), true});
         if (isInSameParagraph(end - 1, end))
-            cut(end, startTag(first).in(page_.text), false);
+            cut(end, secondTag(old, page_.rules), false);
         else
             joinBehind(end);
+    }
+
+    /// The start tag of a paragraph as it is to be; where nothing is lost with its other
+    /// attributes.
+    [[nodiscard]] std::string alignedTag(std::string_view old) const
+    {
+        std::string tag(paragraphTag(wanted_));
+        if (!page_.rules.losesNothing()) return tag;
+        return tag.insert(tag.size() - 1, otherAttributes(old, {"align"}));
     }
 
     /// Puts a paragraph round lines that have none. A <br> to a line beside them goes, since the
     /// paragraph's border takes its place.
     void wrap(std::size_t first, std::size_t end)
     {
-        const auto begin = lines_[first].source.begin;
-        const auto last = lines_[end - 1].source.end;
-        const auto ahead
-            = first > 0 && hasBreakBetween(first) ? lines_[first - 1].source.end : begin;
-        const auto behind = hasBreakBetween(end) ? lines_[end].source.begin : last;
+        const auto lines = SourceRange{lines_[first].source.begin, lines_[end - 1].source.end};
+        const auto [begin, last] = page_.rules.losesNothing() ? withoutHalves(lines) : lines;
+        if (begin >= last && begin != lines.begin) return;
+        const bool takesBreakAhead = first > 0 && begin == lines.begin && hasBreakBetween(first);
+        const auto ahead = takesBreakAhead ? lines_[first - 1].source.end : begin;
+        const bool takesBreakBehind = last == lines.end && hasBreakBetween(end);
+        const auto behind = takesBreakBehind ? lines_[end].source.begin : last;
         splices_.push_back({{ahead, begin},
             CloseOpenParagraphs(page_, kNone, begin, paragraphTag(wanted_)), true});
         splices_.push_back(
             {{last, behind}, CloseOpenParagraphs(page_, kNone, last, kParagraphEnd), false});
+    }
+
+    /// A range without the starts and ends of elements whose other half lies outside of it.
+    [[nodiscard]] SourceRange withoutHalves(SourceRange range) const
+    {
+        for (const auto& element : page_.elements) {
+            if (element.kind == PageElement::Kind::Format) continue;
+            const bool starts
+                = element.start.begin >= range.begin && element.start.end <= range.end;
+            const bool ends = element.end.begin >= range.begin && element.end.end <= range.end;
+            if (ends && !starts) range.begin = element.end.end;
+            if (starts && !ends) range.end = element.start.begin;
+        }
+        return range;
     }
 
     /// Whether a <br> or </br> and nothing else parts a line from the one ahead, and neither is
@@ -166,18 +194,22 @@ private:
         return true;
     }
 
+    [[nodiscard]] bool mayJoin() const
+    {
+        return wanted_ == Alignment::Left && !page_.rules.losesNothing();
+    }
+
     [[nodiscard]] bool joinAhead(std::size_t line)
     {
-        const bool fits
-            = wanted_ == Alignment::Left && line > 0 && alignmentAfter(line - 1) == Alignment::Left;
+        const bool fits = mayJoin() && line > 0 && alignmentAfter(line - 1) == Alignment::Left;
         return fits && join(line, true);
     }
 
     /// A paragraph that is aligned as well joins by itself.
     void joinBehind(std::size_t line)
     {
-        const bool fits = wanted_ == Alignment::Left && line < lines_.size()
-            && lines_[line].alignment == Alignment::Left;
+        const bool fits
+            = mayJoin() && line < lines_.size() && lines_[line].alignment == Alignment::Left;
         if (fits) static_cast<void>(join(line, false));
     }
 
@@ -210,16 +242,25 @@ std::string_view paragraphTag(Alignment alignment)
     return kParagraphTags.at(static_cast<std::size_t>(alignment));
 }
 
-Alignment alignmentOf(std::string_view text, SourceRange marked)
+Alignment alignmentOf(std::string_view text, SourceRange marked, const OutputRules& rules)
 {
-    const auto lines = pageLines(readSurfacePage(std::string(text)));
+    const auto lines = pageLines(readSurfacePage(std::string(text), rules));
     const auto [first, end] = markedLines(lines, marked);
     return first < end ? lines[first].alignment : Alignment::Left;
 }
 
-bool holdsPicture(std::string_view text, SourceRange marked)
+bool takesNoAlignment(std::string_view text, SourceRange marked, const OutputRules& rules)
 {
-    const auto page = readSurfacePage(std::string(text));
+    const auto lines = pageLines(readSurfacePage(std::string(text), rules));
+    const auto [first, end] = markedLines(lines, marked);
+    return std::none_of(lines.begin() + static_cast<std::ptrdiff_t>(first),
+        lines.begin() + static_cast<std::ptrdiff_t>(end),
+        [](const PageLine& line) { return line.mayAlign; });
+}
+
+bool holdsPicture(std::string_view text, SourceRange marked, const OutputRules& rules)
+{
+    const auto page = readSurfacePage(std::string(text), rules);
     const auto lines = pageLines(page);
     const auto [first, end] = markedLines(lines, marked);
     if (first >= end) return false;
@@ -234,7 +275,7 @@ AlignedText alignLines(
     std::string_view text, SourceRange marked, Alignment alignment, const OutputRules& rules)
 {
     requireAddressable(text, rules.maxTextLength());
-    const auto page = readSurfacePage(std::string(text));
+    const auto page = readSurfacePage(std::string(text), rules);
     const auto splices = LineAlignment(page, marked, alignment).take();
     Rewriter result(page.text);
     for (const auto& splice : splices) {

@@ -206,13 +206,15 @@ std::optional<TableSettings> GetTable(std::string_view text, int position)
 ElementEdit InsertTable(
     std::string_view text, int position, const TableSettings& wanted, const OutputRules& rules)
 {
-    const auto valid = ValidInsertPosition(position, text, rules.maxTextLength());
+    const auto valid = ValidInsertPosition(position, text, WmlElement::Table, rules);
     const auto place = static_cast<std::size_t>(std::max(valid, 0));
     std::string table = "<table " + quoted("title", wanted.title) + " "
         + quoted("align", wanted.align) + " " + quoted("columns", std::to_string(wanted.columns))
         + " border=\"1\">";
     table += times(wanted.rows, rowOf(wanted.columns)) + "</table>";
     if (!rules.losesNothing()) table += kBehindTable;
+    const auto [start, end] = frameAt(readSurfacePage(std::string(text), rules), place);
+    table.insert(0, start).append(end);
     auto changed = withPiece(text, {place, place}, table, rules);
     const int caret = caretInTable(changed, place);
     return {std::move(changed), caret};

@@ -13,6 +13,7 @@
 
 #include <algorithm>
 #include <functional>
+#include <span>
 #include <utility>
 #include <vector>
 
@@ -54,13 +55,14 @@ void setFormat(int& tag, int& otherTag, bool isOn)
     if (isOn && otherTag == 0) tag = 1;
 }
 
-FormatFlags withFormats(FormatFlags flags, const TextFormats& wanted)
+FormatFlags withFormats(const FormatUnit& unit, const TextFormats& wanted)
 {
+    auto flags = unit.flags;
     int none = 0;
     if (wanted.bold) setFormat(flags.bold, flags.strong, *wanted.bold);
     if (wanted.italic) setFormat(flags.italic, flags.emphasis, *wanted.italic);
     if (wanted.underlined) setFormat(flags.underlined, none, *wanted.underlined);
-    if (wanted.size) {
+    if (wanted.size && unit.takesSizes) {
         flags.big = *wanted.size == LetterSize::Big ? 1 : 0;
         flags.small = *wanted.size == LetterSize::Small ? 1 : 0;
     }
@@ -92,7 +94,7 @@ bool setFlags(std::vector<FormatUnit>& units, const TextFormats& wanted)
 {
     bool changes = false;
     for (auto& unit : units) {
-        const auto flags = unit.isMarked ? withFormats(unit.flags, wanted) : unit.flags;
+        const auto flags = unit.isMarked ? withFormats(unit, wanted) : unit.flags;
         changes |= unit.takesFormats && !unit.isBlank && !(flags == unit.flags);
         unit.flags = unit.takesFormats ? flags : FormatFlags{};
     }
@@ -151,7 +153,7 @@ void requireSameItems(const std::vector<PageItem>& before, const std::vector<Pag
 SourceRange markedIn(const std::string& changed, const SurfacePage& before, SourceRange marked)
 {
     const auto firm = firmItems(before);
-    const auto now = firmItems(readSurfacePage(changed));
+    const auto now = firmItems(readSurfacePage(changed, before.rules));
     requireSameItems(firm, now);
     const auto first = std::ranges::find_if(
         firm, [&](const PageItem& item) { return item.source.end > marked.begin; });
@@ -162,11 +164,17 @@ SourceRange markedIn(const std::string& changed, const SurfacePage& before, Sour
         now[static_cast<std::size_t>(last - firm.begin()) - 1].source.end};
 }
 
+bool holdsText(const SurfacePage& page, const FormatUnit& unit)
+{
+    const auto items = std::span(page.items).subspan(unit.firstItem, unit.endItem - unit.firstItem);
+    return std::ranges::find(items, ItemKind::Character, &PageItem::kind) != items.end();
+}
+
 } // namespace
 
-TextFormats formatsOf(std::string_view text, SourceRange marked)
+TextFormats formatsOf(std::string_view text, SourceRange marked, const OutputRules& rules)
 {
-    const auto page = readSurfacePage(std::string(text));
+    const auto page = readSurfacePage(std::string(text), rules);
     const auto items = markedItems(page, marked);
     TextFormats formats;
     formats.bold = commonOf(page, items, [](const TextStyle& style) { return style.bold; });
@@ -177,12 +185,11 @@ TextFormats formatsOf(std::string_view text, SourceRange marked)
     return formats;
 }
 
-bool takesNoFormats(std::string_view text, SourceRange marked)
+bool takesNoFormats(std::string_view text, SourceRange marked, const OutputRules& rules)
 {
-    const auto page = readSurfacePage(std::string(text));
+    const auto page = readSurfacePage(std::string(text), rules);
     return std::ranges::none_of(formatRegion(page, marked).units, [&page](const FormatUnit& unit) {
-        return unit.isMarked && unit.takesFormats
-            && page.items[unit.firstItem].kind == ItemKind::Character;
+        return unit.isMarked && unit.takesFormats && holdsText(page, unit);
     });
 }
 
@@ -190,12 +197,12 @@ FormattedText formatText(
     std::string_view text, SourceRange marked, const TextFormats& wanted, const OutputRules& rules)
 {
     requireAddressable(text, rules.maxTextLength());
-    const auto page = readSurfacePage(std::string(text));
+    const auto page = readSurfacePage(std::string(text), rules);
     auto region = formatRegion(page, marked);
     if (!setFlags(region.units, wanted)) return {page.text, marked};
     auto changed = rewritten(page.text, region);
     requireAddressable(changed, rules.maxTextLength());
-    DeleteFormatTagsWhoArroundsNoText(changed, rules.maxTextLength());
+    if (!rules.losesNothing()) DeleteFormatTagsWhoArroundsNoText(changed, rules.maxTextLength());
     const auto now = markedIn(changed, page, marked);
     return {std::move(changed), now};
 }

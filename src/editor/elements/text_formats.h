@@ -24,11 +24,13 @@ struct TextFormats {
 
 /// The formats of all that is marked. strong counts as bold, em as italic. Blanks do not count,
 /// unless there is nothing else.
-[[nodiscard]] TextFormats formatsOf(std::string_view text, SourceRange marked);
+[[nodiscard]] TextFormats formatsOf(
+    std::string_view text, SourceRange marked, const OutputRules& rules = OutputRules());
 
 /// Whether nothing of what is marked can have a format: it holds no text, or lies in a selection
 /// list, whose entries have no formats in WML.
-[[nodiscard]] bool takesNoFormats(std::string_view text, SourceRange marked);
+[[nodiscard]] bool takesNoFormats(
+    std::string_view text, SourceRange marked, const OutputRules& rules = OutputRules());
 
 struct FormattedText {
     std::string text;
@@ -39,7 +41,8 @@ struct FormattedText {
 /// strong, b, u from the outermost to the innermost, and none goes over the border of a paragraph,
 /// cell, list or marker, whatever stood there before: tags of formats that lie in part within what
 /// is marked are written anew. A link is a unit, with the tags round it. Text in selection lists
-/// gets no format. Pairs that hold no text go, in all of the text.
+/// gets no format. Pairs that hold no text go, in all of the text; where nothing is lost they stay,
+/// atoms that no format may hold are left out of them, and preformatted text keeps its size.
 /// A blank has the formats of what follows it, so that the tag stands ahead of it, as in
 /// "one<b> two</b> three": saving takes blanks away that stand directly ahead of a tag.
 /// Throws Overflow, and RuntimeFailure where a stray '<' keeps tags from being written anew.

@@ -56,7 +56,12 @@ Atom readAtom(std::string_view atom)
     auto rest = atom.substr(kStart.size(), atom.size() - kStart.size() - kEnd.size());
     const auto name = rest.substr(0, rest.find_first_of(" \t"));
     rest.remove_prefix(std::min(rest.size(), name.size() + 1));
-    return {name, decoded(rest.substr(0, kLongestSource))};
+    Atom read{name, decoded(rest.substr(0, kLongestSource)), {}};
+    const auto end = std::min(read.source.find(' '), read.source.size());
+    if (!read.source.starts_with('&')) return read;
+    read.meaning = read.source.substr(std::min(end + 1, read.source.size()));
+    read.source.resize(end);
+    return read;
 }
 
 } // namespace quillmere

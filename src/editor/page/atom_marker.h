@@ -7,8 +7,9 @@ namespace quillmere {
 
 /// What an atom <!--#NAME SOURCE--> holds.
 struct Atom {
-    std::string_view name; ///< of the element; or "comment", "cdata", "pi"
+    std::string_view name; ///< of the element; or "comment", "cdata", "pi", "entity"
     std::string source; ///< as it stands in the deck
+    std::string meaning; ///< what an entity stands for
     /// The part of it that attributes are looked for in: its first tag.
     [[nodiscard]] std::string_view startTag() const;
 };

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/text/limits.h"
+#include "document/wml/wml_elements.h"
 #include "editor/page/surface_page.h"
 
 #include <optional>
@@ -82,6 +83,12 @@ private:
 /// the text's begin, up to it. A position at or behind the text's end stays.
 [[nodiscard]] int ValidInsertPosition(
     int position, std::string_view text, std::size_t limit = kMaxTextLength);
+
+/// The same for an element of a kind: where nothing is lost it goes into no element either that
+/// may not have it by the rules of WML, such as a link into an anchor or a table into a pre.
+/// Formats count as text, for they can be ended ahead of it and begun again behind it.
+[[nodiscard]] int ValidInsertPosition(
+    int position, std::string_view text, WmlElement wanted, const OutputRules& rules);
 
 /// True where `position` (1 or more) lies inside a table: where a table's end follows it ahead of
 /// any table's begin. The caller shows the message.

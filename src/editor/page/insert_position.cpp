@@ -10,7 +10,7 @@
 #include "editor/page/markup_tags.h"
 
 #include <algorithm>
-#include <array>
+#include <optional>
 #include <utility>
 #include <vector>
 
@@ -40,10 +40,22 @@ std::size_t behindStrayEnds(std::string_view text, std::size_t offset)
     return last == npos ? offset : offset + last + 1;
 }
 
+/// Whether an element may not be put into another one. A card takes all: what needs a paragraph
+/// gets one.
+bool isClosedTo(WmlElement parent, WmlElement wanted)
+{
+    const auto& rule = ruleOf(parent);
+    const bool isOpen = rule.isEmpty || rule.isFormat || parent == WmlElement::Card;
+    return !isOpen && !mayContain(parent, wanted);
+}
+
 class ClosedPieces {
 public:
-    explicit ClosedPieces(std::string_view text)
+    /// `wanted` is what is to go in, where the rules of WML decide as well.
+    ClosedPieces(std::string_view text, std::optional<WmlElement> wanted)
         : text_(text)
+        , wanted_(wanted)
+        , open_(std::size(kClosedElements) + wmlElementRules().size())
     {
     }
 
@@ -76,10 +88,25 @@ private:
         pieces_.push_back({tag.source.begin, behindStrayEnds(text_, tag.source.end)});
         const auto* const element
             = std::ranges::find(kClosedElements, tag.name, &ClosedElement::name);
-        if (element == std::end(kClosedElements)) return;
-        auto& open = open_[static_cast<std::size_t>(element - std::begin(kClosedElements))];
+        if (element != std::end(kClosedElements))
+            noteClosed(tag, static_cast<std::size_t>(element - std::begin(kClosedElements)),
+                element->nests);
+        else if (wanted_)
+            noteByRules(tag);
+    }
+
+    void noteByRules(const MarkupTag& tag)
+    {
+        const auto element = wmlElement(tagName(tag.source.in(text_)));
+        if (isClosedTo(element, *wanted_))
+            noteClosed(tag, std::size(kClosedElements) + static_cast<std::size_t>(element), true);
+    }
+
+    void noteClosed(const MarkupTag& tag, std::size_t kind, bool nests)
+    {
+        auto& open = open_[kind];
         if (tag.isEnd) return end(open, tag.source.end);
-        if (!element->nests) open.clear();
+        if (!nests) open.clear();
         open.push_back(pieces_.size() - 1);
     }
 
@@ -92,8 +119,9 @@ private:
     }
 
     std::string_view text_;
+    std::optional<WmlElement> wanted_;
     std::vector<SourceRange> pieces_;
-    std::array<std::vector<std::size_t>, std::size(kClosedElements)> open_; // their pieces
+    std::vector<std::vector<std::size_t>> open_; // their pieces, of each kind of element
 };
 
 std::size_t behindCardMarker(std::string_view text)
@@ -103,19 +131,31 @@ std::size_t behindCardMarker(std::string_view text)
     return end == npos ? 0 : end + 1;
 }
 
-} // namespace
-
-int ValidInsertPosition(int position, std::string_view text, std::size_t limit)
+int firstPlace(int position, std::string_view text, std::optional<WmlElement> wanted)
 {
-    requireAddressable(text, limit);
     if (position >= static_cast<int>(text.size())) return position;
     auto offset = std::max({static_cast<std::size_t>(std::max(position, 0)), behindCardMarker(text),
         behindStrayEnds(text, 0)});
     // A piece that holds the end of another one and begins ahead of it was met before it, so that
     // one round is enough.
-    for (const SourceRange& piece : ClosedPieces(text).find())
+    for (const SourceRange& piece : ClosedPieces(text, wanted).find())
         if (piece.begin < offset) offset = std::max(offset, piece.end);
     return static_cast<int>(offset);
+}
+
+} // namespace
+
+int ValidInsertPosition(int position, std::string_view text, std::size_t limit)
+{
+    requireAddressable(text, limit);
+    return firstPlace(position, text, std::nullopt);
+}
+
+int ValidInsertPosition(
+    int position, std::string_view text, WmlElement wanted, const OutputRules& rules)
+{
+    requireAddressable(text, rules.maxTextLength());
+    return firstPlace(position, text, rules.losesNothing() ? std::optional(wanted) : std::nullopt);
 }
 
 } // namespace quillmere

@@ -50,8 +50,9 @@ public:
         std::string markup = std::move(ahead_);
         for (const auto& piece : pieces_)
             markup += piece.text;
-        for (auto end = behind_.rbegin(); end != behind_.rend(); ++end)
-            markup += *end;
+        std::ranges::reverse(behind_);
+        for (const auto& end : behind_)
+            markup += end;
         return markup;
     }
 

@@ -114,6 +114,12 @@ MarkupTag comment(SourceRange source, std::string_view written)
     return tag;
 }
 
+std::string_view elementName(std::string_view written)
+{
+    const auto* const begin = written.begin() + (written[1] == '/' ? 2 : 1);
+    return {begin, std::find_if(begin, written.end(), endsName)};
+}
+
 MarkupTag element(SourceRange source, std::string_view written)
 {
     MarkupTag tag{source};
@@ -122,9 +128,7 @@ MarkupTag element(SourceRange source, std::string_view written)
         tag.name = TagName::Declaration;
         return tag;
     }
-    const auto* const begin = written.begin() + (tag.isEnd ? 2 : 1);
-    const auto* const end = std::find_if(begin, written.end(), endsName);
-    tag.name = nameIn(kElements, {begin, end}, TagName::Other);
+    tag.name = nameIn(kElements, elementName(written), TagName::Other);
     return tag;
 }
 
@@ -136,6 +140,11 @@ std::string_view markerName(std::string_view comment)
     if (comment.starts_with('/')) comment.remove_prefix(1);
     const auto* const end = std::ranges::find_if_not(comment, isLetter);
     return {comment.begin(), end};
+}
+
+std::string_view tagName(std::string_view tag)
+{
+    return tag.starts_with(kCommentStart) ? markerName(tag) : elementName(tag);
 }
 
 std::optional<MarkupTag> MarkupScanner::next()

@@ -101,6 +101,9 @@ private:
 /// comment that is no marker.
 [[nodiscard]] std::string_view markerName(std::string_view comment);
 
+/// The name of a whole tag or marker, as written; "" for an atom and a plain comment.
+[[nodiscard]] std::string_view tagName(std::string_view tag);
+
 [[nodiscard]] constexpr bool isWhite(char character)
 {
     return character == ' ' || character == '\t' || character == '\r' || character == '\n';

@@ -54,7 +54,8 @@ struct SurfaceEdit {
 /// - where nothing is lost, markers that show nothing go only from between items;
 /// - a line of atoms and a paragraph do not become one;
 /// - a radio button takes its whole option with it, and the last option its list;
-/// - over the border of two blocks they become one: the first block's paragraph goes on;
+/// - over the border of two blocks they become one: the first block's paragraph goes on; where
+///   nothing is lost not over the border of another element;
 /// - a table goes where both places lie outside of it; where one lies within it, the covered cells
 ///   are emptied and the table stays.
 [[nodiscard]] SurfaceEdit deleteRange(const SurfacePage& page, PagePlace from, PagePlace to);
@@ -65,7 +66,8 @@ struct SurfaceEdit {
 [[nodiscard]] SurfaceEdit deleteForward(const SurfacePage& page, PagePlace caret);
 
 /// Takes b, strong, i, em, u, big and small from the text between two places. A format that reaches
-/// beyond them is closed ahead of the first place and opened again behind the second.
+/// beyond them is closed ahead of the first place and opened again behind the second. Where nothing
+/// is lost, a link that is cut by a place counts as a whole.
 [[nodiscard]] SurfaceEdit removeFormats(const SurfacePage& page, PagePlace from, PagePlace to);
 
 /// What lies between two places as markup that can stand alone: elements that are cut by a place

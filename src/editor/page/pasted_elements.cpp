@@ -57,24 +57,26 @@ ElementPaste insertedAt(std::string_view design, std::size_t offset, std::string
     return paste;
 }
 
-ElementPaste insertedAtValidPosition(
-    std::string_view design, std::size_t place, std::string_view element)
+ElementPaste insertedAtValidPosition(std::string_view design, std::size_t place,
+    std::string_view element, ElementKind kind, const OutputRules& rules)
 {
-    const auto valid = ValidInsertPosition(static_cast<int>(place), design, design.size());
+    const auto valid
+        = ValidInsertPosition(static_cast<int>(place), design, tagsOf(kind).element, rules);
     auto paste = insertedAt(
         design, std::min(static_cast<std::size_t>(std::max(valid, 0)), design.size()), element);
     paste.tableTestAt = std::max(static_cast<int>(place), 1);
     return paste;
 }
 
-ElementPaste pasted(
-    std::string_view design, std::size_t place, std::string_view clip, ElementKind kind)
+ElementPaste pasted(std::string_view design, std::size_t place, std::string_view clip,
+    ElementKind kind, const OutputRules& rules)
 {
-    if (kind != ElementKind::Option) return insertedAtValidPosition(design, place, clip);
+    if (kind != ElementKind::Option)
+        return insertedAtValidPosition(design, place, clip, kind, rules);
     const auto inList = placeInList(design, place);
     if (inList != npos) return insertedAt(design, inList, clip);
     const auto list = std::string("<!--select-->").append(clip).append("<!--/select--><br/>");
-    return insertedAtValidPosition(design, place, list);
+    return insertedAtValidPosition(design, place, list, kind, rules);
 }
 
 } // namespace
@@ -109,10 +111,10 @@ std::string pictureSource(std::string_view clip)
 }
 
 ElementPaste pasteElement(std::string_view design, int position, std::string_view clip,
-    ElementKind kind, std::size_t limit)
+    ElementKind kind, const OutputRules& rules)
 {
-    auto paste = pasted(design, placeOf(design, position), clip, kind);
-    requireAddressable(paste.design, limit);
+    auto paste = pasted(design, placeOf(design, position), clip, kind, rules);
+    requireAddressable(paste.design, rules.maxTextLength());
     return paste;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
-#include "document/text/limits.h"
+#include "document/text/output_rules.h"
+#include "document/wml/wml_elements.h"
 
 #include <cstddef>
 #include <optional>
@@ -18,16 +19,17 @@ enum class ElementKind { Option, Link, Table, Image };
 /// How an element begins and how its end tag does. A picture ends with its tag.
 struct ElementTags {
     ElementKind kind = ElementKind::Option;
+    WmlElement element = WmlElement::Select; ///< that is put into text
     std::string_view start;
     std::string_view end;
 };
 
 /// In the order in which a marked element is looked for.
 inline constexpr ElementTags kElementTags[] = {
-    {ElementKind::Option, "<!--option", "<!--/option"},
-    {ElementKind::Link, "<a", "</a"},
-    {ElementKind::Table, "<table", "</table"},
-    {ElementKind::Image, "<img", ""},
+    {ElementKind::Option, WmlElement::Select, "<!--option", "<!--/option"},
+    {ElementKind::Link, WmlElement::Link, "<a", "</a"},
+    {ElementKind::Table, WmlElement::Table, "<table", "</table"},
+    {ElementKind::Image, WmlElement::Image, "<img", ""},
 };
 [[nodiscard]] const ElementTags& tagsOf(ElementKind kind);
 
@@ -55,8 +57,8 @@ struct ElementPaste {
 /// it, where nothing is broken. A position outside of the text means the place behind the card's
 /// marker. An option goes into the list of the area: ahead of all others, behind the option at the
 /// position, or at the list's end, wherever that position lies; without a list it gets one.
-/// Throws Overflow for a result of more than `limit` characters.
+/// Throws Overflow for a result of more characters than the rules allow.
 [[nodiscard]] ElementPaste pasteElement(std::string_view design, int position,
-    std::string_view clip, ElementKind kind, std::size_t limit = kMaxTextLength);
+    std::string_view clip, ElementKind kind, const OutputRules& rules = OutputRules());
 
 } // namespace quillmere

@@ -123,15 +123,28 @@ void guardBorders(
     }
 }
 
+/// Where nothing is lost, links are taken whole: WML has no formats in them.
+void growToLinks(const SurfacePage& page, std::size_t& first, std::size_t& end)
+{
+    if (!page.rules.losesNothing()) return;
+    const auto linkOf
+        = [&page](std::size_t item) { return page.styles[page.items[item].style].link; };
+    while (first > 0 && linkOf(first) != kNone && linkOf(first - 1) == linkOf(first))
+        --first;
+    while (end < page.items.size() && linkOf(end) != kNone && linkOf(end) == linkOf(end - 1))
+        ++end;
+}
+
 } // namespace
 
 SurfaceEdit removeFormats(const SurfacePage& page, PagePlace from, PagePlace to)
 {
     const auto runs = coveredRuns(page, from, to);
-    const auto first = runs.front().firstItem;
-    const auto end = runs.back().endItem;
+    auto first = runs.front().firstItem;
+    auto end = runs.back().endItem;
     const PagePlace caret = std::max(placeOnPage(page, from), placeOnPage(page, to));
     if (first >= end) return {{}, offsetAt(page, caret)};
+    growToLinks(page, first, end);
     SpliceList changes = FormatRemoval(page, first, end).take();
     SurfaceEdit edit{SpliceList(changes).take()};
     auto after = readSurfacePage(spliced(page.text, edit.splices), page.rules);

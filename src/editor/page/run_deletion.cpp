@@ -84,6 +84,8 @@ private:
         if (run_.from.block == run_.to.block || first == last) return false;
         if (first == kNone && run_.from.offset == 0) return true;
         if (firstBlock().isAside || lastBlock().isAside) return firstBlock().isAside;
+        if (page_.rules.losesNothing() && holderOf(firstBlock()) != holderOf(lastBlock()))
+            return false;
         const bool goesOn = first != kNone && last != kNone && haveEqualEnds(first, last);
         if (first != kNone) fates_[first].end = true;
         if (last != kNone) openLastParagraph(last, goesOn);
@@ -91,6 +93,20 @@ private:
             splices_.insert(
                 lastBlock().content.end, std::string(page_.elements[first].end.in(page_.text)));
         return false;
+    }
+
+    /// The innermost element that a block's paragraph stands in; kNone for none.
+    [[nodiscard]] std::size_t holderOf(const PageBlock& block) const
+    {
+        const auto place = block.paragraph == kNone ? block.content.begin
+                                                    : page_.elements[block.paragraph].start.begin;
+        auto holder = kNone;
+        for (std::size_t i = 0; i < page_.elements.size(); ++i) {
+            const auto& element = page_.elements[i];
+            const bool holds = element.start.end <= place && element.end.begin >= place;
+            if (holds && element.kind != Kind::Format) holder = i;
+        }
+        return holder;
     }
 
     /// A <p> and a pre marker have not.

@@ -166,6 +166,12 @@ SurfacePage readSurfacePage(std::string text, const OutputRules& rules)
     return page;
 }
 
+bool isPreformatted(const SurfacePage& page, const PageBlock& block)
+{
+    return block.paragraph != kNone
+        && page.elements[block.paragraph].start.in(page.text).starts_with("<!--");
+}
+
 std::string_view attributeOf(std::string_view tag, std::string_view name)
 {
     return findAttribute(tag, name).value_or(std::string_view());

@@ -168,6 +168,9 @@ struct SurfacePage {
 /// "" where the tag has no such attribute. `name` is lower case; case in the tag does not matter.
 [[nodiscard]] std::string_view attributeOf(std::string_view tag, std::string_view name);
 
+/// Whether a block is a pre marker's.
+[[nodiscard]] bool isPreformatted(const SurfacePage& page, const PageBlock& block);
+
 /// The number of items of a block.
 [[nodiscard]] inline std::size_t itemCount(const PageBlock& block)
 {

@@ -151,6 +151,7 @@ private:
     void rememberFile();
     void requireOwnFile();
     void lookAtNewDeck();
+    void recallMends(const std::string& file);
     void warnOfCosts();
     void useStandardOutput();
     [[nodiscard]] bool mayMend();

@@ -6,7 +6,9 @@
 #include "document/deck_store.h"
 #include "document/platform/files.h"
 #include "document/platform/word_ids.h"
+#include "document/standard/standard_deck.h"
 #include "document/text/failure.h"
+#include "document/text/limits.h"
 #include "editor/window/deck_mends.h"
 #include "forms/text.h"
 #include "project/deck_files.h"
@@ -113,9 +115,15 @@ void frmPrepare::lookAtNewDeck()
 {
     if (!std::exchange(deckIsNew_, false) || !deckIsOpen()) return;
     const bool isRecovered = losesNothing(session_.document) && docChanged();
-    if (isRecovered && regularFileExists(deckPath()))
-        mendsMade_ = mendsOfFile(readFile(deckPath()));
+    if (isRecovered && regularFileExists(deckPath())) recallMends(readFile(deckPath()));
     warnOfCosts();
+}
+
+/// Where the source of a recovered deck was taken over the mends of its file are made already.
+void frmPrepare::recallMends(const std::string& file)
+{
+    const bool isOpened = session_.document.deck.front().origin.deck->file() == file;
+    if (!isOpened && file.size() <= kMaxLosslessDeckLength) mendsMade_ = mendsOfFile(file);
 }
 
 void frmPrepare::warnOfCosts()

@@ -221,21 +221,23 @@ void frmPrepare::SavePreparedDokumentAndShowArea(bool Show)
 }
 
 /// Loads the deck from the text. Where that fails all files are as before and the view stays. A
-/// deck without loss stays as it was opened where nothing was written.
+/// deck without loss stays as it was opened where nothing was written, and its pristine copy, which
+/// a recovery compares its areas with, goes with them.
 void frmPrepare::takeSource()
 {
     auto& document = session_.document;
     if (losesNothing(document) && !mScriptChanged) return;
-    namePristine(document);
+    const bool isConverted = !losesNothing(document);
+    if (isConverted) namePristine(document);
     const auto first = document.deck.front();
     const KeptFile wml(document.workFiles, first.wmlDir + first.wmlFile);
     const KeptFile pristine(document.workFiles, first.pristineDir + first.pristineFile);
     auto text = textOf(document, *txtScript);
-    if (!losesNothing(document)) text += "\r\n";
+    if (isConverted) text += "\r\n";
     const auto mends = mendsMade(document);
     try {
         document.workFiles.write(first.wmlDir + first.wmlFile, text);
-        document.workFiles.write(first.pristineDir + first.pristineFile, text);
+        if (isConverted) document.workFiles.write(first.pristineDir + first.pristineFile, text);
         LoadDeck(document, {first.deckFile, first.deckDir, first.wmlFile, first.wmlDir},
             first.surfaceKind);
     } catch (...) {

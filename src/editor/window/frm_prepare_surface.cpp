@@ -190,9 +190,10 @@ void frmPrepare::insertAsElement(ElementKind kind, const std::string& clip, cons
 {
     const auto area = static_cast<std::size_t>(CurArea());
     const auto text = ReadDesignText(session_.document, area);
-    const auto limit = session_.document.output.maxTextLength();
-    const auto paste = pasteElement(text, hit.position, clip, kind, limit);
-    if (paste.tableTestAt > 0 && IsInsideTable(text, paste.tableTestAt, limit)) ShowMsg(4);
+    const OutputRules rules(losesNothing(session_.document));
+    const auto paste = pasteElement(text, hit.position, clip, kind, rules);
+    if (paste.tableTestAt > 0 && IsInsideTable(text, paste.tableTestAt, rules.maxTextLength()))
+        ShowMsg(4);
     keepUndoState();
     WriteDesignText(session_.document, area, paste.design);
     setDocChanged(true);

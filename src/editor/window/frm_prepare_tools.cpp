@@ -4,6 +4,7 @@
 #include "editor/window/frm_prepare.h"
 #include "editor/window/frm_prepare_commands.h"
 
+#include "document/deck_store.h"
 #include "document/design_text.h"
 #include "document/platform/word_ids.h"
 #include "forms/text.h"
@@ -143,8 +144,8 @@ bool frmPrepare::refusesTable(const Hit& hit, ElementKind kind)
     const auto text = ReadDesignText(session_.document, static_cast<std::size_t>(CurArea()));
     const bool isInCell = kind == ElementKind::Table && hit.Inside
         && objBrowserCard->selection().type != SurfaceSelection::Type::Control;
-    if (!isInCell && !IsInsideTable(text, hit.position, session_.document.output.maxTextLength()))
-        return false;
+    const OutputRules rules(losesNothing(session_.document));
+    if (!isInCell && !IsInsideTable(text, hit.position, rules.maxTextLength())) return false;
     ShowMsg(4);
     return true;
 }

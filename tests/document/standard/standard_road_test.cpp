@@ -10,8 +10,6 @@
 
 #include <gtest/gtest.h>
 
-#include <array>
-
 namespace quillmere {
 namespace {
 
@@ -171,6 +169,11 @@ const EditRow kNewParts[] = {
     {"text and a break in a list", "<p><select><option>a</option></select></p>", "a<!--/option-->",
         "a<br/>b<!--/option-->c d",
         "<p><select><option>a b</option><option>c d</option></select></p>"},
+    {"formats and a link that were put into a link", "<p><a href=\"#a\">x</a><b>y</b></p>", ">x<",
+        "><b>x</b><a href=\"#b\">z</a><br/><", "<p><a href=\"#a\">xz<br/></a><b>y</b></p>"},
+    {"a break that was moved into an entry", "<p><select><option>ab</option></select>c<br/>d</p>",
+        "b<!--/option--><!--/select-->c<br/>", "<br/>b<!--/option--><!--/select-->c",
+        "<p><select><option>a b</option></select>cd</p>"},
     {"bare signs", "<p>a</p>", "a", "R&D <3 a>b", "<p>R&amp;D &lt;3 a&gt;b</p>"},
 };
 
@@ -259,13 +262,27 @@ TEST(StandardRoad, FindsTheCardsOfADeckAgain)
     crashed.replace(1, "2", "3");
     RemoveArea(crashed.session, 0, false);
     OpenDeck deck("<wml/>");
-    deck.session.deck = crashed.session.deck;
-    const std::array cards{cardOf(crashed.session.deck[0])};
-    deck.files.write(deck.session.deck[0].designFile, crashed.design(0));
-    for (auto& record : deck.session.deck)
-        record.origin = {};
-    reopenCards(deck.session, file, cards);
+    const auto card = cardOf(crashed.session.deck[0]);
+    reopenDeck(
+        deck.session, {{"deck.wml", "/nowhere/", {}, {}}, file, {{crashed.design(0), {}, card}}});
     EXPECT_EQ(deck.written(), "<wml><head/><card id=\"b\"><p>3</p></card></wml>");
+}
+
+TEST(StandardRoad, ShowsTheEntitiesThatADeckDeclares)
+{
+    const std::string head = "<!DOCTYPE wml [<!-- <!ENTITY firma 'x'> --><!ENTITY firma \"A &amp; "
+                             "'B'\"><!ENTITY firma \"C\">\n<!ENTITY ue \"&#252;\"><!ENTITY "
+                             "lt '&#38;#60;'><!ENTITY a '&b;&b;'><!ENTITY b '&a;&a;'><!ENTITY f "
+                             "SYSTEM 'x>y'>]>\n<wml><card title=\"&firma;\"><p>";
+    const std::string tail = "</p></card></wml>";
+    OpenDeck deck(head + "Gr&ue;n bei&firma;! &lt;&a;&f;" + tail);
+    EXPECT_EQ(deck.content(0),
+        "<p>Gr\xFCn bei<!--#entity &amp;firma; A &amp;amp; 'B'-->! &lt;<!--#entity &amp;a; "
+        "&amp;b;&amp;b;--><!--#entity &amp;f; SYSTEM 'x&gt;y'--></p>");
+    deck.replace(0, "bei<!--#entity &amp;firma; A &amp;amp; 'B'-->!", "an");
+    EXPECT_EQ(deck.written(), head + "Gr&ue;n an &lt;&a;&f;" + tail);
+    deck.replace(0, "Gr", "<!--#entity &amp;firma; A--> gr");
+    EXPECT_EQ(deck.written(), head + "&firma; gr&#252;n an &lt;&a;&f;" + tail);
 }
 
 TEST(StandardRoad, MendsABrokenDeckOnlyWithAChange)
@@ -311,12 +328,16 @@ TEST(StandardRoad, HoldsDecksOfOneMegabyte)
             text += "Wort ";
         return text.append(size - text.size() - tail.size(), 'x') + tail;
     };
-    OpenDeck deck(ofSize(kMaxLosslessTextLength - 1));
+    OpenDeck deck(ofSize(kMaxLosslessDeckLength - 1));
     deck.replace(0, "Wort", "Worte");
-    EXPECT_EQ(deck.written().size(), kMaxLosslessTextLength);
+    EXPECT_EQ(deck.written().size(), kMaxLosslessDeckLength);
     deck.replace(0, "Worte", "Worten");
-    EXPECT_THROW(WriteDeck(deck.session), Overflow);
-    EXPECT_THROW(OpenDeck(ofSize(kMaxLosslessTextLength + 1)), Overflow);
+    EXPECT_THROW(WriteDeck(deck.session), DeckTooLong);
+    EXPECT_THROW(OpenDeck(ofSize(kMaxLosslessDeckLength + 1)), DeckTooLong);
+    std::string wide = "\xFF\xFE"; // the file counts
+    for (const char c : ofSize(kMaxLosslessDeckLength / 2))
+        wide.append({c, '\0'});
+    EXPECT_THROW(OpenDeck{wide}, DeckTooLong);
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 #include "document/wml/deck_bytes.h"
 
+#include "document/wml/deck_places.h"
+
 #include "support/small_random.h"
 
 #include <gtest/gtest.h>
@@ -59,6 +61,17 @@ TEST(DeckBytes, ReadsAndWritesCharactersInTheEncodingOfTheFile)
     }
     EXPECT_TRUE(DeckBytes(declared("utf-16", "")).declaresWrongly());
     EXPECT_FALSE(DeckBytes(declared("koi8-r", "")).declaresWrongly());
+}
+
+TEST(DeckPlaces, CountCharacters)
+{
+    const DeckBytes deck("\xC3\xBC\xE2\x82\xACx\n\xC3\xBCy\r\nz");
+    DeckPlaces places(deck);
+    const std::pair<char, TextPlace> rows[]
+        = {{'x', {1, 3}}, {'y', {2, 2}}, {'x', {1, 3}}, {'\r', {2, 3}}, {'z', {3, 1}}};
+    for (const auto& [character, place] : rows)
+        EXPECT_EQ(places.at(deck.text().find(character)), place) << character;
+    EXPECT_EQ(places.at(deck.text().size()), (TextPlace{3, 2}));
 }
 
 } // namespace

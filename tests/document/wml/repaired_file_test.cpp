@@ -81,7 +81,7 @@ TEST(RepairedFile, TakesTimeInProportionToLength)
             EXPECT_LT(ms, 600) << ahead << "... " << shape;
         }
     }
-    EXPECT_THROW((void)repairFile(std::string(kMaxLosslessTextLength + 1, ' ')), Overflow);
+    EXPECT_THROW((void)repairFile(std::string(kMaxLosslessDeckLength + 1, ' ')), DeckTooLong);
 }
 
 } // namespace

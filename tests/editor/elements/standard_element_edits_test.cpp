@@ -1,16 +1,9 @@
-#include "document/changes/deck_changes.h"
-#include "document/design_text.h"
-#include "document/wml/repaired_file.h"
 #include "editor/elements/link_edit.h"
 #include "editor/elements/option_edit.h"
 #include "editor/elements/paragraph_alignment.h"
 #include "editor/elements/table_edit.h"
 #include "editor/elements/text_formats.h"
-#include "generator/deck_generator.h"
-#include "generator/wml_generator.h"
-#include "support/small_deck.h"
-#include "support/small_random.h"
-#include "support/wml_validity.h"
+#include "support/standard_edits.h"
 
 #include <gtest/gtest.h>
 
@@ -26,67 +19,51 @@ const OutputRules kRules(true);
 
 struct Operation {
     const char* name;
-    std::function<std::string(const std::string& text, std::size_t place, std::size_t length)> run;
+    std::function<std::string(const std::string& text, SourceRange marked)> run;
 };
 
-int positionOf(std::size_t place)
+int positionOf(SourceRange marked)
 {
-    return static_cast<int>(place) + 1;
+    return static_cast<int>(marked.begin) + 1;
 }
 
 const std::array kOperations{
     Operation{"InsertTable",
-        [](const auto& text, auto place, auto) {
-            return InsertTable(text, positionOf(place), {"T", "L", 2, 2}, kRules).text;
+        [](const auto& text, auto marked) {
+            return InsertTable(text, positionOf(marked), {"T", "L", 2, 2}, kRules).text;
         }},
     Operation{"SetOption",
-        [](const auto& text, auto place, auto) {
-            return SetOption(text, positionOf(place), false, {"Neu", "#k1"}, kRules).text;
+        [](const auto& text, auto marked) {
+            return SetOption(text, positionOf(marked), false, {"Neu", "#k1"}, kRules).text;
         }},
     Operation{"SetLink",
-        [](const auto& text, auto place, auto) {
-            return SetLink(text, positionOf(place), {"Neu", "#k1"}, kRules).text;
+        [](const auto& text, auto marked) {
+            return SetLink(text, positionOf(marked), {"Neu", "#k1"}, kRules).text;
         }},
     Operation{"alignLines",
-        [](const auto& text, auto place, auto length) {
-            return alignLines(text, {place, place + length}, Alignment::Center, kRules).text;
+        [](const auto& text, auto marked) {
+            return alignLines(text, marked, Alignment::Center, kRules).text;
         }},
     Operation{"formatText",
-        [](const auto& text, auto place, auto length) {
+        [](const auto& text, auto marked) {
             TextFormats bold;
             bold.bold = true;
-            return formatText(text, {place, place + length}, bold, kRules).text;
+            return formatText(text, marked, bold, kRules).text;
         }},
 };
 
-/// `isPlain`: a deck that keeps the rules of WML; else of all elements, with values of any kind.
-void expectGoodDeck(std::uint64_t seed, bool isPlain)
+test::StandardEdit tried(test::SmallRandom& random, const std::string& text)
 {
-    const auto file
-        = isPlain ? bench::generateDeck(seed, {.targetBytes = 900}) : bench::generateWml(seed);
-    test::SmallRandom random(seed);
-    test::SmallDeck deck(0, true);
-    deck.load(file);
-    const auto area = random.below(areaCount(deck.session.deck));
-    const auto text = ReadDesignText(deck.session, area);
-    const auto& operation = kOperations.at(seed % kOperations.size());
-    SCOPED_TRACE(operation.name);
+    const auto& operation = kOperations.at(random.below(kOperations.size()));
     const auto begin = text.find('>', text.find("<BODY")) + 1;
     const auto place = begin + random.below(text.rfind("</BODY>") - begin + 1);
-    const auto length = random.below(text.size() - place);
-    WriteDesignText(deck.session, area, operation.run(text, place, length));
-    const auto written = deck.written();
-    EXPECT_TRUE(repairFile(written).mends.empty()) << written;
-    EXPECT_FALSE(deckFault(written)) << written;
-    EXPECT_EQ(isPlain ? test::wmlFaults(written) : "", "") << file << written;
+    const SourceRange marked{place, place + random.below(text.size() - place)};
+    return {operation.name, operation.run(text, marked)};
 }
 
 TEST(StandardElementEdits, LeaveDecksWellFormedAndValid)
 {
-    for (std::uint64_t seed = 0; seed < 1000 && !HasFailure(); ++seed) {
-        SCOPED_TRACE("seed " + std::to_string(seed));
-        expectGoodDeck(seed, seed % 8 == 0);
-    }
+    test::expectGoodDecks(1000, 4, tried);
 }
 
 } // namespace

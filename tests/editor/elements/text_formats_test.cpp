@@ -29,7 +29,9 @@ TEST(FormatText, PutsTagsRoundWhatIsMarked)
         std::string before;
         TextFormats wanted;
         std::string after;
+        OutputRules rules = OutputRules();
     };
+    const OutputRules lossless(true);
     const std::vector<Case> cases{
         {"a word, with the blank ahead of it", "<p>one [two] three</p>", kBold,
             "<p>one<b> [two]</b> three</p>"},
@@ -51,11 +53,20 @@ TEST(FormatText, PutsTagsRoundWhatIsMarked)
         {"empty pairs go", "<p>[a]<i><b> </b></i></p>", kBold, "<p><b>[a]</b> </p>"},
         {"another size", "<p><big><big>[a]b</big></big></p>", {{}, {}, {}, LetterSize::Small},
             "<p><small>[a]</small><big><big>b</big></big></p>"},
+        {"round atoms that it may not hold", "<p>[a<!--#input 1-->b<!--#comment c-->d]</p>", kBold,
+            "<p><b>[a</b><!--#input 1--><b>b<!--#comment c-->d]</b></p>", lossless},
+        {"round all of an anchor", "<p>x<!--anchor-->[o]n<!--go--><!--/go--><!--/anchor--></p>",
+            kBold, "<p>x<b><!--anchor-->[o]n<!--go--><!--/go--><!--/anchor--></b></p>", lossless},
+        {"no size of preformatted text", "<!--#timer 1--><!--pre-->[a]<!--/pre-->",
+            {true, {}, {}, LetterSize::Big}, "<!--#timer 1--><!--pre--><b>[a]</b><!--/pre-->",
+            lossless},
+        {"empty pairs elsewhere stay", "<p><i></i>x[a]</p>", kBold, "<p><i></i>x<b>[a]</b></p>",
+            lossless},
     };
     for (auto row : cases) {
         SCOPED_TRACE(row.name);
         const auto marked = test::takeMarks(row.before);
-        const auto formatted = formatText(row.before, marked, row.wanted);
+        const auto formatted = formatText(row.before, marked, row.wanted, row.rules);
         EXPECT_EQ(test::withMarks(formatted.text, formatted.marked, false), row.after);
     }
 }

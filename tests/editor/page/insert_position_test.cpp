@@ -14,6 +14,31 @@
 namespace quillmere {
 namespace {
 
+TEST(ValidInsertPosition, KeepsToTheRulesWhereNothingIsLost)
+{
+    const struct {
+        WmlElement wanted;
+        std::string before;
+        std::string after;
+    } rows[] = {
+        {WmlElement::Link, "<!--anchor-->x|<!--#go 1--><!--/anchor-->y",
+            "<!--anchor-->x<!--#go 1--><!--/anchor-->|y"},
+        {WmlElement::Image, "<!--anchor-->x|<!--/anchor-->", "<!--anchor-->x|<!--/anchor-->"},
+        {WmlElement::Table, "<!--pre--><b>x|</b><!--/pre--> y", "<!--pre--><b>x</b><!--/pre-->| y"},
+        {WmlElement::Link, "<!--pre-->x|<!--/pre-->", "<!--pre-->x|<!--/pre-->"},
+        {WmlElement::Select, "<p><!--fieldset--><b>x|</b><!--/fieldset--></p>",
+            "<p><!--fieldset--><b>x|</b><!--/fieldset--></p>"},
+    };
+    for (auto row : rows) {
+        SCOPED_TRACE(row.before);
+        const auto at = row.before.find('|');
+        row.before.erase(at, 1);
+        const auto place
+            = ValidInsertPosition(static_cast<int>(at), row.before, row.wanted, OutputRules(true));
+        EXPECT_EQ(row.before.insert(static_cast<std::size_t>(place), 1, '|'), row.after);
+    }
+}
+
 // Slowly, one rule after the other and one place at a time.
 
 using Pieces = std::vector<SourceRange>;

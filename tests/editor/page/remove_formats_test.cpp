@@ -28,6 +28,9 @@ TEST(RemoveFormats, ClosesAFormatAheadAndOpensItAgainBehind)
             {"blanks that only tags kept apart", "[a <b> b</b>]", "a &nbsp;b|"},
             {"an '&' that only tags kept apart", "[&<b>lt;</b>]", "&amp;lt;|"},
         });
+    test::expectEdits(removeFormats,
+        {{"a link as a whole", "<b>a<a>b[c]d</a>e</b>", "<b>a</b><a>bc|d</a><b>e</b>"}},
+        OutputRules(true));
 }
 
 } // namespace

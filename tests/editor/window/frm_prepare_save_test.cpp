@@ -1,4 +1,5 @@
 #include "document/text/failure.h"
+#include "document/text/limits.h"
 #include "editor/window/deck_costs.h"
 #include "editor/window/window_desk.h"
 #include "gui/modal.h"
@@ -57,24 +58,26 @@ TEST(Saving, SaysSoBeforeItGoesOverAnotherProgramsText)
     EXPECT_EQ(desk.saved(), deckOf({"xyz"}));
 }
 
+void drop(const WindowDesk& desk, QWidget* target, const char* name)
+{
+    QMimeData clip;
+    clip.setUrls({QUrl::fromLocalFile(QString::fromStdString(desk.folder.path() + name))});
+    QDragEnterEvent enter({9, 9}, Qt::CopyAction, &clip, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(target, &enter);
+    EXPECT_TRUE(enter.isAccepted());
+    QDropEvent event({9, 9}, Qt::CopyAction, &clip, Qt::LeftButton, Qt::NoModifier);
+    QApplication::sendEvent(target, &event);
+}
+
 TEST(Dropping, OpensADeckAndRefusesOneThatIsTooLong)
 {
     WindowDesk desk;
     desk.openCards({"x"});
     desk.folder.put("neu.WML", deckOf({"neu"}));
     desk.folder.put("lang.wml", deckOf({std::string(40000, 'x')}));
-    const auto drop = [&](QWidget* target, const char* name) {
-        QMimeData clip;
-        clip.setUrls({QUrl::fromLocalFile(QString::fromStdString(desk.folder.path() + name))});
-        QDragEnterEvent enter({9, 9}, Qt::CopyAction, &clip, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(target, &enter);
-        EXPECT_TRUE(enter.isAccepted());
-        QDropEvent event({9, 9}, Qt::CopyAction, &clip, Qt::LeftButton, Qt::NoModifier);
-        QApplication::sendEvent(target, &event);
-    };
-    drop(desk.surface().viewport(), "neu.WML");
+    drop(desk, desk.surface().viewport(), "neu.WML");
     EXPECT_NE(desk.design(0).find("neu"), std::string::npos);
-    drop(&desk.window, "lang.wml");
+    drop(desk, &desk.window, "lang.wml");
     EXPECT_NE(desk.design(0).find("neu"), std::string::npos);
     ASSERT_EQ(desk.messages.log.size(), 1U);
     EXPECT_NE(desk.messages.log[0].find("zu lang"), std::string::npos);
@@ -164,6 +167,45 @@ struct StandardDesk : WindowDesk {
         open(file);
     }
 };
+
+/// A deck of one card whose file is that long.
+std::string deckOfSize(std::size_t bytes)
+{
+    const std::string head = "<wml><card id=\"a\">\n", tail = "</card></wml>\n";
+    auto deck = head;
+    while (deck.size() < bytes - 100)
+        deck += "<p>Ein Absatz &amp; noch <b>ein</b> Wort</p>\n";
+    deck += "<p></p>" + tail;
+    return deck.insert(deck.rfind("</p>"), bytes - deck.size(), 'x');
+}
+
+TEST(Dropping, TakesADeckOfOneMegabyteAndLosesNothingWhereItGrowsBeyond)
+{
+    const auto full = deckOfSize(kMaxLosslessDeckLength - 1);
+    StandardDesk desk(full);
+    typeAndSave(desk, "xxx");
+    EXPECT_TRUE(desk.messages.log.empty());
+    const auto longest = std::string(full).insert(full.rfind("</p>"), "x");
+    EXPECT_TRUE(desk.saved() == longest);
+
+    typeAndSave(desk, "xxx");
+    ASSERT_EQ(desk.messages.log.size(), 1U);
+    EXPECT_EQ(desk.messages.log[0],
+        "failure: Das Deck ist zu lang: seine Datei kann höchstens 1048576 Byte (1 MB) haben. Es "
+        "wurde nichts geändert.");
+    EXPECT_TRUE(desk.saved() == longest);
+    EXPECT_TRUE(desk.window.docChanged());
+
+    desk.folder.put("lang.wml", longest + ' ');
+    desk.messages.answers = {false};
+    drop(desk, &desk.window, "lang.wml");
+    EXPECT_NE(desk.messages.log.back().find("höchstens 1048576 Byte"), std::string::npos);
+    EXPECT_TRUE(desk.window.docChanged());
+    desk.press(Qt::Key_Backspace);
+    desk.choose("mnuSave");
+    EXPECT_TRUE(desk.saved() == longest);
+    EXPECT_FALSE(desk.window.docChanged());
+}
 
 const std::string kBroken = "<wml>\n<card id=\"a\">\n<p>eins <b>zwei</p>\n</card></wml>\n";
 

@@ -1,6 +1,6 @@
-// recovery_victim PARENT DECK: opens a deck and then edits, stores and saves it for ever, as a
-// person would, only faster. The number behind each "Stand " of the deck goes up with each round.
-// Made to be killed; tells by a byte on its standard output that it has begun.
+// recovery_victim PARENT DECK [standard]: opens a deck and then edits, stores and saves it for
+// ever, as a person would, only faster. The number behind each "Stand " of the deck goes up with
+// each round. Made to be killed; tells by a byte on its standard output that it has begun.
 
 #include "cli/core_session.h"
 #include "document/deck_store.h"
@@ -19,9 +19,10 @@ constexpr std::string_view kMark = "Stand ";
 
 class Victim {
 public:
-    Victim(const std::string& parent, const std::string& deck)
+    Victim(const std::string& parent, const std::string& deck, bool standardOutput)
         : files_(parent)
     {
+        session_.output = OutputRules(standardOutput);
         const auto place = SplitPath(deck);
         LoadDeck(session_, {place.name, place.directory, {}, {}});
         writeRecoveryNote(session_, {false});
@@ -88,8 +89,8 @@ private:
 
 int main(int argumentCount, char** arguments)
 {
-    if (argumentCount != 3) return 2;
-    quillmere::Victim victim(arguments[1], arguments[2]);
+    if (argumentCount < 3) return 2;
+    quillmere::Victim victim(arguments[1], arguments[2], argumentCount > 3);
     if (::write(STDOUT_FILENO, "+", 1) != 1) return 1;
     victim.live();
 }
