@@ -46,7 +46,7 @@ private:
     std::string skinsCopy(const std::string& name) const
     {
         namespace fs = std::filesystem;
-        const auto copy = folder.path() + "Skins/";
+        auto copy = folder.path() + "Skins/";
         fs::create_directory(copy);
         for (const auto& file : fs::directory_iterator(QUILLMERE_SOURCE_DIR "/data/" + name)) {
             const auto target = copy + file.path().filename().string();

@@ -289,10 +289,11 @@ private:
         return look;
     }
 
-    [[nodiscard]] std::vector<std::string> looksOf(
-        const SurfacePage& page, std::size_t first, std::size_t end) const
+    [[nodiscard]] static std::vector<std::string> looksOf(
+        const SurfacePage& page, std::size_t first, std::size_t end)
     {
         std::vector<std::string> looks;
+        looks.reserve(end - first);
         for (; first < end; ++first)
             looks.push_back(lookOf(page, first));
         return looks;

@@ -9,7 +9,6 @@
 #include "document/text/windows1252.h"
 
 #include <algorithm>
-#include <ranges>
 #include <set>
 #include <string>
 #include <unordered_map>
@@ -90,7 +89,8 @@ private:
     [[nodiscard]] std::string sourceOfSame(const DesignPiece& piece);
     [[nodiscard]] WmlElement parent() const
     {
-        const auto open = std::ranges::find(open_ | std::views::reverse, false, &Open::isDissolved);
+        const auto open
+            = std::ranges::find(open_.rbegin(), open_.rend(), false, &Open::isDissolved);
         return open == open_.rend() ? WmlElement::Other : open->element;
     }
     [[nodiscard]] bool isInAction() const
@@ -153,7 +153,7 @@ bool CardWriter::dissolves(std::size_t now)
         return dissolvesIn(parent(), piece.element) && isMoved(now);
     if (piece.kind != Kind::End) return false;
     const auto start
-        = std::ranges::find(open_ | std::views::reverse, piece.element, &Open::element);
+        = std::ranges::find(open_.rbegin(), open_.rend(), piece.element, &Open::element);
     return start != open_.rend() && start->isDissolved;
 }
 
@@ -198,7 +198,7 @@ void CardWriter::followNesting(const DesignPiece& piece)
     if (piece.kind == Kind::Start) open_.push_back({piece.element, dissolves_});
     if (piece.kind != Kind::End) return;
     const auto start
-        = std::ranges::find(open_ | std::views::reverse, piece.element, &Open::element);
+        = std::ranges::find(open_.rbegin(), open_.rend(), piece.element, &Open::element);
     if (start != open_.rend()) open_.erase(std::prev(start.base()), open_.end());
     if (!isInAction()) endAction();
 }

@@ -77,6 +77,7 @@ std::vector<Line> linesOf(std::string_view text)
 std::vector<std::uint64_t> keysOf(const std::vector<Line>& lines, const DeckBytes& deck)
 {
     std::vector<std::uint64_t> keys;
+    keys.reserve(lines.size());
     for (const auto& line : lines)
         keys.push_back(contentHash(shownText(deck, line.text)));
     return keys;
@@ -94,6 +95,7 @@ std::vector<std::string_view> shownLines(std::string_view shown)
 std::vector<std::uint64_t> keysOf(const std::vector<std::string_view>& lines)
 {
     std::vector<std::uint64_t> keys;
+    keys.reserve(lines.size());
     for (const auto line : lines)
         keys.push_back(contentHash(line));
     return keys;

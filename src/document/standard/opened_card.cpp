@@ -69,7 +69,7 @@ private:
     [[nodiscard]] bool isAtom(std::uint32_t index) const;
     [[nodiscard]] bool isSimpleJump(std::uint32_t index) const;
     [[nodiscard]] bool isLayout(std::uint32_t index) const;
-    [[nodiscard]] bool isWordLike(const WmlToken& token) const;
+    [[nodiscard]] static bool isWordLike(const WmlToken& token);
     [[nodiscard]] bool isBlockLike(const WmlToken& token) const;
     [[nodiscard]] bool parentHoldsText() const
     {
@@ -231,9 +231,9 @@ bool CardOpener::isLayout(std::uint32_t index) const
     return hasLineEnd && (isBlockLike(ahead) || isBlockLike(behind));
 }
 
-bool CardOpener::isWordLike(const WmlToken& token) const
+bool CardOpener::isWordLike(const WmlToken& token)
 {
-    return token.kind == Kind::Word || (token.kind == Kind::Section);
+    return token.kind == Kind::Word || token.kind == Kind::Section;
 }
 
 bool CardOpener::isBlockLike(const WmlToken& token) const

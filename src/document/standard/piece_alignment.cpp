@@ -107,7 +107,8 @@ bool Alignment::findShortWay(const Part& part)
         const auto& before = steps == 0 ? none : reached.back();
         for (int k = -steps; k <= steps; k += 2) {
             const int x = furthest(before, steps, k);
-            auto& end = next[static_cast<std::size_t>(k + steps)];
+            const int place = k + steps;
+            auto& end = next[static_cast<std::size_t>(place)];
             end = x <= thenCount && x - k <= nowCount ? slide(part, x, x - k) : x;
             if (end != thenCount || end - k != nowCount) continue;
             reached.push_back(std::move(next));

@@ -11,7 +11,6 @@
 
 #include <algorithm>
 #include <array>
-#include <ranges>
 #include <utility>
 
 namespace quillmere {
@@ -47,8 +46,8 @@ void GetInsertTextFormatTags(const FormatFlags& Flags, bool ends, std::string& T
         for (const auto& format : kFormatTags)
             appendTags(Tags, format, Flags.*format.flag, "<");
     else
-        for (const auto& format : kFormatTags | std::views::reverse)
-            appendTags(Tags, format, Flags.*format.flag, "</");
+        for (auto format = kFormatTags.rbegin(); format != kFormatTags.rend(); ++format)
+            appendTags(Tags, *format, Flags.*format->flag, "</");
 }
 
 bool addFormat(FormatFlags& flags, std::string_view startTag)
