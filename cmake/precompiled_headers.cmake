@@ -1,6 +1,7 @@
 # Headers of the standard library, of Qt and of the test framework are read once for all sources of a
-# kind: to read them anew takes half of a build. A source includes what it uses all the same; the
-# presets debug and fuzz and clang-tidy, which go without, see where it does not.
+# kind: to read them anew takes half of a build. scripts/build asks for it. A source includes what it
+# uses all the same; plain calls of cmake, scripts/fuzz and scripts/check_tidy go without and see
+# where it does not.
 option(QUILLMERE_PRECOMPILE "Read the headers of libraries once for all sources" OFF)
 
 set(quillmere_standard_headers <algorithm> <array> <charconv> <cstddef> <cstdint>
