@@ -113,6 +113,18 @@ void load(cli::CoreSession& core, const std::string& deck)
     LoadDeck(core.session, {"deck.wml", {}, name, files.directory()});
 }
 
+/// Where the deck cannot be loaded the benchmark is skipped.
+bool isLoaded(benchmark::State& state, cli::CoreSession& core, const std::string& deck)
+{
+    try {
+        load(core, deck);
+        return true;
+    } catch (const RuntimeFailure&) {
+        state.SkipWithError("cannot be loaded");
+        return false;
+    }
+}
+
 void measureLoad(benchmark::State& state, const std::string& deck)
 {
     measure(state, deck.size(), [&] {
@@ -124,11 +136,7 @@ void measureLoad(benchmark::State& state, const std::string& deck)
 void measureWrite(benchmark::State& state, const std::string& deck)
 {
     cli::CoreSession core(false);
-    try {
-        load(core, deck);
-    } catch (const RuntimeFailure&) {
-        return state.SkipWithError("cannot be loaded");
-    }
+    if (!isLoaded(state, core, deck)) return;
     measure(state, deck.size(), [&] { WriteDeck(core.session); });
 }
 
@@ -158,7 +166,7 @@ void measureStandardLoad(benchmark::State& state, const std::string& deck)
 void measureStandardWrite(benchmark::State& state, const std::string& deck)
 {
     cli::CoreSession core(true);
-    load(core, deck);
+    if (!isLoaded(state, core, deck)) return;
     auto first = ReadDesignText(core.session, 0);
     WriteDesignText(core.session, 0, first.insert(first.rfind("</BODY>"), "<p>Neu</p>"));
     const auto area = areaCount(core.session.deck) - 1;

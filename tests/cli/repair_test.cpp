@@ -144,10 +144,7 @@ TEST_F(Cli, DryRunWritesNothingAndTellsWhat)
     folder.put("d.wml", kDeck);
     fs::create_directory(folder.path() + "folder");
     const auto path = folder.path();
-    const struct {
-        Call call;
-        std::string told;
-    } rows[] = {
+    const std::tuple<Call, std::string> rows[] = {
         {{"--backup"},
             "„" + path + "d.wml“ würde durch 290 Byte ersetzt.\nDas alte Deck bliebe als „" + path
                 + "d.wml.bak“.\n"},
@@ -156,13 +153,13 @@ TEST_F(Cli, DryRunWritesNothingAndTellsWhat)
             "„" + path + "neu/d.wml“ würde mit 290 Byte angelegt.\nArbeitsdateien: „" + path
                 + "w/Wml0.htm“ bis „" + path + "w/Wml1.htm“.\n"},
     };
-    for (const auto& row : rows) {
+    for (const auto& [more, told] : rows) {
         Call call{"repair", "@d.wml", "--dry-run"};
-        call.insert(call.end(), row.call.begin(), row.call.end());
+        call.insert(call.end(), more.begin(), more.end());
         const auto result = cli(call);
         EXPECT_EQ(result.status, 0) << result.errors;
         EXPECT_TRUE(
-            result.output.ends_with("\n" + row.told + "Geschrieben wurde nichts (--dry-run).\n"))
+            result.output.ends_with("\n" + told + "Geschrieben wurde nichts (--dry-run).\n"))
             << result.output;
     }
     EXPECT_EQ(cli({"repair", "@d.wml", "--dry-run", "-o", "@folder"}).status, 2);

@@ -85,6 +85,7 @@ TEST(WellFormedness, FirstFaultAndItsPlace)
         {BadDoctype, 0, "", "<!doctype a><a/>"}, {BadCharacter, 3, "", "<a>\x02</a>"},
         {CharacterBeyondEncoding, 3, "", "<a>\xE4</a>"}, {BadReference, 3, "", "<a>&b c</a>"},
         {BadReference, 6, "", "<a b='&'/>"}, {UnknownEntity, 3, "nbsp", "<a>&nbsp;</a>"},
+        {UnknownEntity, 15, "nbsp", "<!DOCTYPE a><a>&nbsp;</a>"},
         {SectionEndInText, 4, "", "<a>x]]></a>"}, {TextOutsideRoot, 5, "", "<a/> x"},
         {SecondRoot, 4, "b", "<a/><b/>"}, {NoRoot, 10, "", "<!-- a -->"}, {NoRoot, 0, "", ""},
         {WrongEnd, 7, "b", "<b><i>x</b></i>"}, {WrongEnd, 7, "a", "<a></a></a>"},

@@ -11,11 +11,8 @@ namespace {
 
 TEST(CommandLine, IsOnePathToADeckOrNone)
 {
-    struct Row {
-        const char* line;
-        const char* deck; // "": none
-    };
-    const Row rows[] = {
+    // "" for no deck
+    const char* const rows[][2] = {
         {"\"/home/a b/index.wml\"", "/home/a b/|index.wml"},
         {"  /a/seite.wml ", "/a/|seite.wml"},
         {"/a\"b/se\"ite.wml", "/ab/|seite.wml"},
@@ -32,10 +29,10 @@ TEST(CommandLine, IsOnePathToADeckOrNone)
         {"", ""},
         {"\"\"", ""},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.line);
-        const auto deck = deckOfCommandLine(row.line);
-        EXPECT_EQ(deck ? deck->directory + "|" + deck->name : "", row.deck);
+    for (const auto& [line, wanted] : rows) {
+        SCOPED_TRACE(line);
+        const auto deck = deckOfCommandLine(line);
+        EXPECT_EQ(deck ? deck->directory + "|" + deck->name : "", wanted);
     }
 }
 

@@ -146,10 +146,11 @@ private:
         }
     }
 
-    /// The five entities of XML need no declaration; others may stand in the document type's file.
+    /// The five entities of XML need no declaration; others may stand in the document type's file
+    /// or in its brackets.
     [[nodiscard]] bool isDeclared(const DecodedCharacter& reference, std::string_view source) const
     {
-        if (doctypeSeen_ || source.starts_with("&#")) return true;
+        if (mayDeclare_ || source.starts_with("&#")) return true;
         return reference.form == Form::Known && source != "&nbsp;" && source != "&shy;";
     }
 
@@ -166,6 +167,7 @@ private:
         if (doctypeSeen_ || rootSeen_ || !isDoctype(token.content))
             note(MarkupFault::BadDoctype, token.begin);
         doctypeSeen_ = true;
+        mayDeclare_ = token.content.find_first_of("\"'[") != kNowhere;
     }
 
     [[nodiscard]] std::size_t offsetOf(const char* character) const
@@ -178,6 +180,7 @@ private:
     std::vector<const MarkupToken*> open_;
     bool rootSeen_ = false;
     bool doctypeSeen_ = false;
+    bool mayDeclare_ = false; ///< entities
     std::optional<MarkupFaultAt> fault_;
 };
 

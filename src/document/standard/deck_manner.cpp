@@ -12,15 +12,15 @@ constexpr int kEnoughQuotes = 30;
 
 } // namespace
 
-DeckManner mannerOf(std::span<const WmlToken> tokens)
+DeckManner mannerOf(std::span<const WmlToken> tokens, const wml::DeckEntities& entities)
 {
     DeckManner manner;
+    manner.knowsHardBlank = entities.knows("nbsp");
     int doubles = 0;
     int singles = 0;
     bool hasEmptyTag = false;
     for (const auto& token : tokens) {
         const bool isEmptyTag = token.kind == WmlToken::Kind::EmptyTag;
-        manner.knowsHardBlank |= token.kind == WmlToken::Kind::Declaration;
         if (isEmptyTag && !std::exchange(hasEmptyTag, true))
             manner.hasBlankAheadOfSlash = token.source.ends_with(" />");
         if (!isEmptyTag && token.kind != WmlToken::Kind::StartTag) continue;

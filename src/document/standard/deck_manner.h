@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document/wml/deck_entities.h"
 #include "document/wml/wml_token.h"
 
 #include <span>
@@ -10,10 +11,11 @@ namespace quillmere {
 struct DeckManner {
     char quote = '"'; ///< of most attributes
     bool hasBlankAheadOfSlash = false; ///< <br />
-    bool knowsHardBlank = false; ///< &nbsp; has a meaning, since the document type is named
+    bool knowsHardBlank = false; ///< &nbsp; has a meaning in this deck
 };
 
 /// The manner of the first tags of a deck that tell it.
-[[nodiscard]] DeckManner mannerOf(std::span<const WmlToken> tokens);
+[[nodiscard]] DeckManner mannerOf(
+    std::span<const WmlToken> tokens, const wml::DeckEntities& entities);
 
 } // namespace quillmere

@@ -181,7 +181,7 @@ void StandardDeck::readText(std::string_view text)
 {
     tokens_ = withPartners(readWmlTokens(text));
     cards_ = cardsIn(tokens_);
-    manner_ = mannerOf(tokens_.tokens);
+    manner_ = mannerOf(tokens_.tokens, tokens_.entities);
 }
 
 /// Puts a card in ahead of the deck's end.

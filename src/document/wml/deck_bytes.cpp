@@ -1,6 +1,7 @@
 // The text is the file wherever markup is ASCII in it, so that a slice of it can be written as it
-// is. Only UTF-16 is spelled anew; halves of pairs without their other half and an odd last byte
-// are kept in it as what no UTF-8 has. Held by tests/document/wml/deck_bytes_test.cpp.
+// is. Only UTF-16 and encodings with shifts are spelled anew; halves of pairs without their other
+// half and an odd last byte are kept in it as what no UTF-8 has. Held by
+// tests/document/wml/deck_bytes_test.cpp.
 
 #include "document/wml/deck_bytes.h"
 
@@ -135,6 +136,17 @@ void DeckBytes::takeDeclared(std::string_view name)
     if (!named) return;
     named_ = *named;
     encoding_ = DeckEncoding::Named;
+    if (named_.shifts()) takeShifting();
+}
+
+/// Only where the file comes back as it was.
+void DeckBytes::takeShifting()
+{
+    auto utf8 = named_.utf8Of(text_);
+    isShifting_ = utf8 && named_.fileOf(*utf8) == text_;
+    if (!isShifting_) return;
+    text_ = std::move(*utf8);
+    hasDirectCharacters_ = std::any_of(text_.begin(), text_.end(), isBeyondAscii);
 }
 
 bool DeckBytes::isUtf16() const
@@ -145,6 +157,7 @@ bool DeckBytes::isUtf16() const
 
 std::string DeckBytes::fileOf(std::string_view text) const
 {
+    if (isShifting_) return named_.fileOf(text).value_or(std::string(text));
     if (!isUtf16()) return std::string(hasMark_ ? kUtf8Mark : "").append(text);
     const bool isBigEndian = encoding_ == DeckEncoding::Utf16BigEndian;
     std::string odd;
@@ -171,7 +184,7 @@ DeckCharacter DeckBytes::wideCharacterAt(std::string_view slice, std::size_t off
     const char first = slice[offset];
     if (encoding_ == DeckEncoding::Windows1252)
         return {1, toCodePoint(first), isLatin1_ || !isOpenInWindows1252(first)};
-    if (encoding_ == DeckEncoding::Named) {
+    if (encoding_ == DeckEncoding::Named && !isShifting_) {
         const auto named = named_.first(slice.substr(offset));
         if (!named) return strayByte(first);
         return {named->length, named->point, isXmlCharacter(named->point)};
@@ -198,9 +211,12 @@ std::string DeckBytes::decoded(std::string_view slice) const
 std::optional<std::string> DeckBytes::spelling(char32_t point) const
 {
     if (point < 0x80) return std::string(1, static_cast<char>(point));
-    if (encoding_ == DeckEncoding::Named) return named_.spelled(point);
     std::string utf8;
     appendSpelled(utf8, point);
+    if (encoding_ == DeckEncoding::Named) {
+        auto named = named_.spelled(point);
+        return named && isShifting_ ? utf8 : named;
+    }
     if (encoding_ != DeckEncoding::Windows1252) return utf8;
     if (isLatin1_ && point > 0xFF) return std::nullopt;
     auto character = fromUtf8(utf8);

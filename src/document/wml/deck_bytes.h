@@ -32,9 +32,9 @@ struct DeckCharacter {
 [[nodiscard]] std::string_view declaredEncoding(std::string_view text);
 
 /// A deck file with its encoding. Its text is cut in `text()`, in which all markup is ASCII: the
-/// file as it is, without its byte order mark, or UTF-8 in place of UTF-16. Slices of it are
-/// written back byte for byte; the core's own text is Windows-1252 with character references for
-/// what that has not.
+/// file as it is, without its byte order mark, or UTF-8 in place of UTF-16 and of encodings with
+/// shifts. Slices of it are written back byte for byte; the core's own text is Windows-1252 with
+/// character references for what that has not.
 class DeckBytes {
 public:
     /// Takes any bytes. The encoding is told by the byte order mark, by the zero bytes of UTF-16,
@@ -66,6 +66,7 @@ public:
 private:
     void takeUtf16(std::string_view file, bool hasMark);
     void takeDeclared(std::string_view name);
+    void takeShifting();
     [[nodiscard]] bool isUtf16() const;
     [[nodiscard]] DeckCharacter wideCharacterAt(std::string_view slice, std::size_t offset) const;
     [[nodiscard]] std::optional<std::string> spelling(char32_t point) const;
@@ -76,6 +77,7 @@ private:
     bool hasMark_ = false;
     bool isLatin1_ = false; ///< ISO-8859-1, whose codes from 128 to 159 are not those of Windows
     bool hasDirectCharacters_ = false; ///< beyond ASCII
+    bool isShifting_ = false; ///< the text is UTF-8 in place of the file's named encoding
     bool hasOddByte_ = false; ///< behind the last whole unit of UTF-16
     bool declaresWrongly_ = false;
 };

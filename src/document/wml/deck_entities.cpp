@@ -79,12 +79,11 @@ std::string_view nameAhead(std::string_view text)
 } // namespace
 
 DeckEntities::DeckEntities(std::string_view doctype)
-    : hasDoctype_(!doctype.empty())
 {
     const auto subset = std::min(doctype.find('['), doctype.size());
     const auto head = doctype.substr(0, subset);
-    const bool hasFile = head.find('"') != npos || head.find('\'') != npos;
-    knowsAll_ = hasFile && findIgnoringCase(head, "wapforum") == npos;
+    hasFile_ = head.find('"') != npos || head.find('\'') != npos;
+    knowsAll_ = hasFile_ && findIgnoringCase(head, "wapforum") == npos;
     readSubset(doctype.substr(subset));
 }
 
@@ -125,7 +124,7 @@ std::optional<std::string_view> DeckEntities::meaningOf(std::string_view name) c
 bool DeckEntities::knows(std::string_view name) const
 {
     if (knowsAll_ || has(kXmlEntities, name)) return true;
-    if (hasDoctype_ && has(kWmlEntities, name)) return true;
+    if (hasFile_ && has(kWmlEntities, name)) return true;
     return !declared_.empty() && declared_.contains(std::string(name));
 }
 

@@ -7,9 +7,9 @@
 
 namespace quillmere::wml {
 
-/// The entities that a deck may refer to: the five of XML; those of WML 1.1 where a document type
-/// is named; those of its internal subset; any, where the document type is another than those of
-/// the WAP Forum, whose file nobody reads here.
+/// The entities that a deck may refer to: the five of XML; those of WML 1.1 where the document type
+/// names a file, since a mere `<!DOCTYPE wml>` declares none; those of its internal subset; any,
+/// where the document type is another than those of the WAP Forum, whose file nobody reads here.
 class DeckEntities {
 public:
     /// `doctype` is the whole declaration, well-formed; "" for a deck without one.
@@ -25,7 +25,7 @@ private:
     void readSubset(std::string_view subset);
     void readEntity(std::string_view declaration);
 
-    bool hasDoctype_ = false;
+    bool hasFile_ = false;
     bool knowsAll_ = false;
     std::unordered_map<std::string, std::string> declared_; ///< the meanings by the names
 };

@@ -1,5 +1,5 @@
-// One character at a time: only what is beyond ASCII is asked for, which is little of a deck. Held
-// by tests/document/wml/deck_bytes_test.cpp.
+// One character at a time: only what is beyond ASCII is asked for, which is little of a deck. Files
+// with shifts are converted as a whole. Held by tests/document/wml/deck_bytes_test.cpp.
 
 #include "document/wml/named_encoding.h"
 
@@ -14,6 +14,9 @@ namespace quillmere {
 namespace {
 
 constexpr std::size_t kLongestCharacter = 4;
+constexpr std::size_t kMostGrowth = 8; // a character of two bytes with shifts around it
+constexpr char32_t kCharacterOfShift = 0x4E00; // that encodings with shifts have, behind one
+constexpr char kEscape = '\x1B';
 
 std::shared_ptr<void> openConversion(const std::string& to, const std::string& from)
 {
@@ -35,6 +38,23 @@ std::optional<std::string> converted(void* conversion, std::string_view bytes)
     iconv(conversion, nullptr, nullptr, nullptr, nullptr);
     if (iconv(conversion, &in, &left, &out, &free) != 0 || left != 0) return std::nullopt;
     return std::string(room.data(), room.size() - free);
+}
+
+/// Converts a whole text, with the shift back to ASCII at its end.
+std::optional<std::string> convertedWhole(void* conversion, std::string_view bytes)
+{
+    if (conversion == nullptr) return std::nullopt;
+    std::string source(bytes);
+    std::string result(bytes.size() * kMostGrowth + kMostGrowth, '\0');
+    char* in = source.data();
+    std::size_t left = source.size();
+    char* out = result.data();
+    std::size_t free = result.size();
+    const bool isWhole = iconv(conversion, &in, &left, &out, &free) == 0
+        && iconv(conversion, nullptr, nullptr, &out, &free) == 0;
+    if (!isWhole) return std::nullopt;
+    result.resize(result.size() - free);
+    return result;
 }
 
 std::string inUtf32(char32_t point)
@@ -63,6 +83,7 @@ std::optional<NamedEncoding> NamedEncoding::find(std::string_view name)
     };
     if (name.empty() || !std::all_of(name.begin(), name.end(), isPlain)) return std::nullopt;
     NamedEncoding encoding;
+    encoding.name_ = name;
     encoding.reading_ = openConversion("UTF-32BE", std::string(name));
     encoding.writing_ = openConversion(std::string(name), "UTF-32BE");
     if (!encoding.reading_ || !encoding.writing_) return std::nullopt;
@@ -86,6 +107,21 @@ std::optional<NamedEncoding::Decoded> NamedEncoding::first(std::string_view byte
 std::optional<std::string> NamedEncoding::spelled(char32_t point) const
 {
     return converted(writing_.get(), inUtf32(point));
+}
+
+bool NamedEncoding::shifts() const
+{
+    return spelled(kCharacterOfShift).value_or("").find(kEscape) != std::string::npos;
+}
+
+std::optional<std::string> NamedEncoding::utf8Of(std::string_view file) const
+{
+    return convertedWhole(openConversion("UTF-8", name_).get(), file);
+}
+
+std::optional<std::string> NamedEncoding::fileOf(std::string_view utf8) const
+{
+    return convertedWhole(openConversion(name_, "UTF-8").get(), utf8);
 }
 
 } // namespace quillmere

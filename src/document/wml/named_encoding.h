@@ -24,7 +24,14 @@ public:
     /// A character as it is spelled; nullopt for one that the encoding has not.
     [[nodiscard]] std::optional<std::string> spelled(char32_t point) const;
 
+    /// Whether bytes mean something else behind an escape (ISO-2022-JP), so that a '<' is no '<'.
+    [[nodiscard]] bool shifts() const;
+    /// A whole file in UTF-8, and UTF-8 as a file; nullopt where some of it has no counterpart.
+    [[nodiscard]] std::optional<std::string> utf8Of(std::string_view file) const;
+    [[nodiscard]] std::optional<std::string> fileOf(std::string_view utf8) const;
+
 private:
+    std::string name_;
     std::shared_ptr<void> reading_; ///< to UTF-32
     std::shared_ptr<void> writing_;
 };

@@ -237,11 +237,24 @@ std::string respelled(std::string_view source)
     return isDoctype(text) && !text.empty() ? text : wmlDoctype(source);
 }
 
-std::optional<MendedToken> replaced(std::string_view source, std::string text)
+std::optional<MendedToken> replaced(
+    std::string_view source, std::string text, MendRule rule = MendRule::BadDeclaration)
 {
     MendedToken token{std::move(text), {}, false};
-    token.faults.push_back({MendRule::BadDeclaration, std::string(source), token.text});
+    token.faults.push_back({rule, std::string(source), token.text});
     return token;
+}
+
+/// A right document type with its name spelled as the element of the deck is: `<!DOCTYPE WML>`.
+std::string withLowerName(std::string_view source)
+{
+    std::string text(source);
+    const auto name = std::string_view("<!DOCTYPE ").size();
+    const auto at = text.find_first_not_of(" \t\r\n", name - 1);
+    const auto behind = at + std::string_view("wml").size();
+    const bool isWhole = behind < text.size() && !is(text[behind], ContinuesName);
+    if (isWhole && standsAt(text, at, "wml")) text.replace(at, behind - at, "wml");
+    return text;
 }
 
 } // namespace
@@ -259,7 +272,11 @@ std::optional<MendedToken> mendXmlDeclaration(
 
 std::optional<MendedToken> mendDoctype(std::string_view source, const DeckBytes& deck)
 {
-    if (isDoctype(source) && deck.isValid(source)) return std::nullopt;
+    if (isDoctype(source) && deck.isValid(source)) {
+        auto text = withLowerName(source);
+        if (text == source) return std::nullopt;
+        return replaced(source, std::move(text), MendRule::WrongCase);
+    }
     auto text = respelled(source);
     if (!deck.isValid(text)) text = wmlDoctype(source);
     return replaced(source, std::move(text));

@@ -6,6 +6,7 @@
 #include "document/wml/tag_reader.h"
 
 #include "document/text/windows1252.h"
+#include "document/wml/copied_characters.h"
 #include "document/wml/wml_characters.h"
 
 #include <algorithm>
@@ -57,7 +58,7 @@ void TagReader::skipSpace()
 std::string_view TagReader::takeName()
 {
     const auto begin = at_;
-    while (at_ < text_.size() && is(text_[at_], ContinuesName))
+    while (at_ < text_.size() && is(text_[at_], ContinuesName) && hardBlankAt(text_, at_) == 0)
         ++at_;
     return text_.substr(begin, at_ - begin);
 }
@@ -93,12 +94,13 @@ bool TagReader::findAttribute()
         const auto behindLast = at_;
         skipSpace();
         if (endsHere(behindLast)) return false;
-        if (is(text_[at_], BeginsName)) {
+        const auto blank = hardBlankAt(text_, at_);
+        if (blank == 0 && is(text_[at_], BeginsName)) {
             isFaulty_ = isFaulty_ || at_ == behindLast || isEnd_;
             return true;
         }
         isFaulty_ = true;
-        ++at_;
+        at_ += blank == 0 ? 1 : blank;
     }
 }
 
@@ -159,6 +161,11 @@ void TagReader::takeValue(WmlAttribute& attribute)
 void TagReader::takeBareValue(WmlAttribute& attribute)
 {
     isFaulty_ = true;
+    if (const auto curly = curlyValueAt(text_, at_); curly.length != 0) {
+        attribute.value = curly.value;
+        at_ += curly.length;
+        return;
+    }
     const auto begin = at_;
     for (; at_ < text_.size() && !is(text_[at_], Space); ++at_) {
         const char character = text_[at_];
@@ -174,8 +181,9 @@ void TagReader::takeQuotedValue(WmlAttribute& attribute)
     attribute.quote = text_[at_];
     const auto begin = ++at_;
     auto tagEnd = kNowhere;
-    for (; at_ < text_.size() && text_[at_] != attribute.quote && text_[at_] != '<'; ++at_) {
+    for (; at_ < text_.size() && text_[at_] != attribute.quote; ++at_) {
         if (text_[at_] == '>' && tagEnd == kNowhere) tagEnd = at_;
+        if (text_[at_] == '<' && (tagEnd != kNowhere || !passServerCode())) break;
         valueKinds_ |= kindOf(text_[at_]);
     }
     auto end = at_;
@@ -189,6 +197,16 @@ void TagReader::takeQuotedValue(WmlAttribute& attribute)
         return takeUnendedValue(attribute, begin, std::min(tagEnd, end));
     attribute.value = text_.substr(begin, end - begin);
     at_ = end + 1;
+}
+
+/// Goes to the last character of a script that begins here.
+bool TagReader::passServerCode()
+{
+    const auto length = serverCodeAt(text_, at_);
+    if (length == 0) return false;
+    at_ += length - 1;
+    isFaulty_ = true;
+    return true;
 }
 
 void TagReader::takeUnendedValue(WmlAttribute& attribute, std::size_t begin, std::size_t end)

@@ -39,6 +39,7 @@ private:
     void takeValue(WmlAttribute& attribute);
     void takeBareValue(WmlAttribute& attribute);
     void takeQuotedValue(WmlAttribute& attribute);
+    bool passServerCode();
     void takeUnendedValue(WmlAttribute& attribute, std::size_t begin, std::size_t end);
     void noteName(std::string_view name);
     void skipSpace();

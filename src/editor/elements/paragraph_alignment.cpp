@@ -110,7 +110,7 @@ private:
     {
         const auto lines = SourceRange{lines_[first].source.begin, lines_[end - 1].source.end};
         const auto [begin, last] = page_.rules.losesNothing() ? withoutHalves(lines) : lines;
-        if (begin >= last && begin != lines.begin) return;
+        if (begin >= last && !lines.empty()) return;
         const bool takesBreakAhead = first > 0 && begin == lines.begin && hasBreakBetween(first);
         const auto ahead = takesBreakAhead ? lines_[first - 1].source.end : begin;
         const bool takesBreakBehind = last == lines.end && hasBreakBetween(end);

@@ -62,20 +62,11 @@ private:
     std::optional<Edit> tried()
     {
         at_ = 1 + random_.below(pieces_.size() - 1);
-        switch (random_.below(6)) {
-        case 0:
-            return insertWord();
-        case 1:
-            return removeWord();
-        case 2:
-            return insertParagraph();
-        case 3:
-            return removeElement();
-        case 4:
-            return changeAttribute();
-        default:
-            return replaceWord();
-        }
+        using Try = std::optional<Edit> (Editor::*)();
+        constexpr Try kTries[]
+            = {&Editor::insertWord, &Editor::removeWord, &Editor::insertParagraph,
+                &Editor::removeElement, &Editor::changeAttribute, &Editor::replaceWord};
+        return (this->*kTries[random_.below(std::size(kTries))])();
     }
     [[nodiscard]] std::size_t beginOf(std::size_t piece) const
     {

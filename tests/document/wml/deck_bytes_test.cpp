@@ -13,10 +13,11 @@ using namespace std::string_literals;
 
 TEST(DeckBytes, AnyFileComesBackAsItWas)
 {
+    const auto shifting = "<?xml encoding='iso-2022-jp'?>\x1B$B<+"s; // and back, or not
     for (std::uint64_t seed = 0; seed < 400; ++seed) {
         const auto bytes = test::randomBytes(seed % 41, seed);
-        for (const auto& mark :
-            {""s, "\xFF\xFE"s, "\xFE\xFF"s, "\xEF\xBB\xBF"s, "<\0?\0"s, "\0<\0?"s})
+        for (const auto& mark : {""s, "\xFF\xFE"s, "\xFE\xFF"s, "\xEF\xBB\xBF"s, "<\0?\0"s,
+                 "\0<\0?"s, shifting, shifting + "\x1B(B"})
             ASSERT_EQ(DeckBytes(mark + bytes).file(), mark + bytes) << "seed " << seed;
     }
 }
@@ -46,6 +47,8 @@ TEST(DeckBytes, ReadsAndWritesCharactersInTheEncodingOfTheFile)
             "\xFC\x80", false},
         {declared("iso-8859-15", "\xA4"), Named, declared("iso-8859-15", "\x80"), "\xFC\xA4"},
         {declared("koi8-r", "\xF0"), Named, declared("koi8-r", "&#1055;"), "&#252;&#8364;"},
+        {declared("iso-2022-jp", "\x1B$B<+\x1B(B"), Named, declared("iso-2022-jp", "&#33258;"),
+            "&#252;&#8364;"},
         {declared("us-ascii", "\xFC"), Named, declared("us-ascii", "\xFC"), "&#252;&#8364;", false},
         {declared("utf-16", "\xC3\xBC"), Utf8, declared("utf-16", "\xFC"), utf8Both},
         {declared("klingon", "\xC3\xBC"), Utf8, declared("klingon", "\xFC"), utf8Both},

@@ -19,11 +19,7 @@ TableSettings table(std::string title, std::string align, int rows, int columns)
 
 TEST(GetTable, ReadsTablesOfAllSpellings)
 {
-    struct Case {
-        std::string text;
-        TableSettings shown;
-    };
-    const std::vector<Case> cases{
+    const std::tuple<std::string, TableSettings> cases[] = {
         {"<p><table title=\"A b\" align=\"C\" columns=\"2\" "
          "border=\"1\"><tr><td>a</td><td>b</td></tr>"
          "<tr><td>c</td></tr></table>",
@@ -31,14 +27,14 @@ TEST(GetTable, ReadsTablesOfAllSpellings)
         {"<P><TABLE border=1 align=R title=Ab><TR><TD>a</TD></TR></TABLE>", table("Ab", "R", 1, 1)},
         {"<table><tr><td>a<tr><td>b</table><tr>", table("", "", 2, 2)}, // no end of a row
     };
-    for (const auto& row : cases) {
-        SCOPED_TRACE(row.text);
-        const auto shown = GetTable(row.text, 0);
+    for (const auto& [text, wanted] : cases) {
+        SCOPED_TRACE(text);
+        const auto shown = GetTable(text, 0);
         ASSERT_TRUE(shown);
-        EXPECT_EQ(shown->title, row.shown.title);
-        EXPECT_EQ(shown->align, row.shown.align);
-        EXPECT_EQ(shown->rows, row.shown.rows);
-        EXPECT_EQ(shown->columns, row.shown.columns);
+        EXPECT_EQ(shown->title, wanted.title);
+        EXPECT_EQ(shown->align, wanted.align);
+        EXPECT_EQ(shown->rows, wanted.rows);
+        EXPECT_EQ(shown->columns, wanted.columns);
     }
     EXPECT_FALSE(GetTable("<p>x</p>", 1));
 }

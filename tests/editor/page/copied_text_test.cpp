@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <tuple>
 
 namespace quillmere {
 namespace {
@@ -17,11 +18,7 @@ TEST(MarkupBetween, CompletesWhatIsCut)
         return std::string(list).insert(end, "]").insert(begin, "[");
     };
     const auto at = [&](const char* key) { return list.find(key); };
-    const struct {
-        const char* name;
-        std::string marked;
-        std::string markup;
-    } rows[] = {
+    const std::string rows[][3] = {
         {"in formats", "<b>a<i>b[c]d</i></b>", "<b><i>c</i></b>"},
         {"ends and starts of formats", "<b>a[b</b>c<i>d]e</i>", "<b>b</b>c<i>d</i>"},
         {"a format that is never ended", "<B>a[b]c", "<B>b</B>"},
@@ -34,30 +31,26 @@ TEST(MarkupBetween, CompletesWhatIsCut)
             "<!--select--><!--option x--><input type=radio>bc<!--/option--><!--/select-->"},
         {"a list", with(at("a<!"), at("e</p>")), list.substr(3, list.size() - 8)},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        const test::MarkedPage marked(row.marked);
-        EXPECT_EQ(markupBetween(marked.page, marked.from, marked.to), row.markup);
+    for (const auto& [name, source, markup] : rows) {
+        SCOPED_TRACE(name);
+        const test::MarkedPage marked(source);
+        EXPECT_EQ(markupBetween(marked.page, marked.from, marked.to), markup);
     }
 }
 
 TEST(TextBetween, HasLinesForBlocksAndTabsBetweenCells)
 {
-    const struct {
-        const char* name;
-        std::string marked;
-        std::u16string text;
-    } rows[] = {
+    const std::tuple<const char*, std::string, std::u16string> rows[] = {
         {"characters", "[a&auml;  &nbsp;\x80&lt;]b", u"a\u00E4 \u00A0\u20AC<"},
         {"breaks and blocks", "<p>a[b<br/>c</p><p></p><p>d]e</p>", u"b\nc\n\nd"},
         {"objects", "[<img src=\"x\" alt=\"B&amp;W\"></img><input type=radio>a<font>]", u"B&Wa"},
         {"a table", "x[y" + std::string(kTable) + "z]", u"y\na\tb\nc\nz"},
         {"cells", "<table><tr><td>a[b</td><td></td><td>c]d</td></tr></table>", u"ab\t\tcd"},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        const test::MarkedPage marked(row.marked);
-        EXPECT_EQ(textBetween(marked.page, marked.from, marked.to), row.text);
+    for (const auto& [name, source, text] : rows) {
+        SCOPED_TRACE(name);
+        const test::MarkedPage marked(source);
+        EXPECT_EQ(textBetween(marked.page, marked.from, marked.to), text);
     }
 }
 

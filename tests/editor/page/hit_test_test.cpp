@@ -181,10 +181,8 @@ TEST(HitTest, KeepsWhatItFoundUntilItLooksAgain)
 
 TEST(FindMarkedRange, TellsTheElementThatTheSurfaceNames)
 {
-    const struct {
-        const char* drawn;
-        std::string_view range; ///< "" where nothing is found
-    } rows[] = {
+    // "" where nothing is found
+    const std::string rows[][2] = {
         {"x^<img 1></img>y", "<img 1></img>"},
         {"<img 1></img>^<img 1>", "<img 1>"},
         {"^<img 1>x<img 2></img>y", "<img 1>x<img 2></img>"}, // the unbounded search
@@ -197,17 +195,17 @@ TEST(FindMarkedRange, TellsTheElementThatTheSurfaceNames)
         {"^<a 1>x</a", "<a 1>x<"},
         {"x^<hr 1>y", ""},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.drawn);
-        const auto [text, selection] = drawn(row.drawn);
+    for (const auto& [sketch, wanted] : rows) {
+        SCOPED_TRACE(sketch);
+        const auto [text, selection] = drawn(sketch);
         const auto range = FindMarkedRange(text, selection);
-        ASSERT_EQ(range.has_value(), !row.range.empty());
+        ASSERT_EQ(range.has_value(), !wanted.empty());
         if (!range) continue;
         EXPECT_TRUE(range->IsElement);
-        EXPECT_EQ(range->IsImage, lowerCase(row.range).starts_with("<img"));
+        EXPECT_EQ(range->IsImage, lowerCase(wanted).starts_with("<img"));
         const auto begin = static_cast<std::size_t>(range->Start) - 1;
         EXPECT_EQ(begin, (selection.control ? selection.control : selection.event)->source.begin);
-        EXPECT_EQ(text.substr(begin, static_cast<std::size_t>(range->End) - begin), row.range);
+        EXPECT_EQ(text.substr(begin, static_cast<std::size_t>(range->End) - begin), wanted);
     }
 }
 
@@ -260,12 +258,7 @@ TEST(MovedIntoTable, ComparesWithTheTextAtThePress)
     const auto around = [](const std::string& element) {
         return "<table><tr><td>" + element + "</td></tr></table>";
     };
-    const struct {
-        const char* name;
-        std::string atPress;
-        std::string now;
-        bool moved;
-    } rows[] = {
+    const std::tuple<const char*, std::string, std::string, bool> rows[] = {
         {"put in", "^" + picture + table, around(moved), true},
         {"was in it", around("^" + picture) + "x", "x" + around(moved), false},
         {"another one was in it", around(picture) + "^" + picture, around(picture + moved), true},
@@ -277,11 +270,11 @@ TEST(MovedIntoTable, ComparesWithTheTextAtThePress)
         {"tables nested before", "^" + around(table) + "x", "x" + around(table), false},
         {"a link", "^<a 1>x</a>" + table, around("<a 1>x</a>"), false},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        const auto [text, selection] = drawn(row.atPress);
+    for (const auto& [name, atPress, now, isMoved] : rows) {
+        SCOPED_TRACE(name);
+        const auto [text, selection] = drawn(atPress);
         const auto& element = selection.control ? selection.control : selection.event;
-        EXPECT_EQ(movedIntoTable(text, row.now, element.value()), row.moved);
+        EXPECT_EQ(movedIntoTable(text, now, element.value()), isMoved);
     }
 }
 

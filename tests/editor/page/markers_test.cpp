@@ -28,11 +28,7 @@ std::string spelled(std::string text)
 
 TEST(Markers, ShowAtomsAnchorsAndGroups)
 {
-    const struct {
-        const char* name;
-        const char* text;
-        const char* page;
-    } rows[] = {
+    const char* const rows[][3] = {
         {"an atom in text", "<p>a$Tb</p>", "P:a$Tb"},
         {"atoms outside of paragraphs", "$T $T<p>a</p>$T", "A:$T_$T P:a A:$T"},
         {"with text", "$Ta<p>b</p>", "-:$Ta P:b"},
@@ -49,10 +45,10 @@ TEST(Markers, ShowAtomsAnchorsAndGroups)
         {"within a paragraph", "<p>a<!--pre-->b<!--/pre-->c</p>", "P:a|f|b||c"},
         {"with paragraphs in it", "<!--pre-->b<p>c</p><!--/pre-->d", "-:|f|b P:|f|c -:d"},
     };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.name);
-        const auto page = readSurfacePage(spelled(row.text), kLossless);
-        EXPECT_EQ(test::drawn(page), spelled(row.page));
+    for (const auto& [name, text, wanted] : rows) {
+        SCOPED_TRACE(name);
+        const auto page = readSurfacePage(spelled(text), kLossless);
+        EXPECT_EQ(test::drawn(page), spelled(wanted));
     }
 }
 

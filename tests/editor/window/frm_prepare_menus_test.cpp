@@ -13,44 +13,26 @@ TEST(Keys, DoWhatPeopleExpect)
 {
     WindowDesk desk;
     desk.openCards({"eins", "zwei"});
-    desk.press(Qt::Key_PageDown, kControl);
-    EXPECT_EQ(desk.window.CurArea(), 1);
-    desk.press(Qt::Key_PageDown, kControl); // there is no further area
-    EXPECT_EQ(desk.window.CurArea(), 1);
-    desk.press(Qt::Key_PageUp, kControl);
-    EXPECT_EQ(desk.window.CurArea(), 0);
     desk.click("btnScript");
     desk.press(Qt::Key_F, kControl);
     desk.control<QPushButton>("btnAreaOne").setFocus();
     desk.press(Qt::Key_Escape); // closes the search alone
-    EXPECT_TRUE(desk.window.isVisible());
-    EXPECT_FALSE(desk.isShown("objSourceSearch"));
-    desk.press(Qt::Key_PageDown, kControl); // as the button
-    EXPECT_EQ(desk.window.CurArea(), 1);
-    EXPECT_TRUE(desk.surface().isVisible());
-    desk.press(Qt::Key_PageUp, kControl);
-
-    desk.caretBehind("eins");
-    desk.type("!");
-    desk.press(Qt::Key_S, kControl);
-    EXPECT_EQ(desk.saved(), deckOf({"eins!", "zwei"}));
-
-    const auto other = QString::fromStdString(desk.folder.put("other.wml", deckOf({"anders"})));
-    desk.dialogs.paths = {other};
-    desk.press(Qt::Key_O, kControl);
-    EXPECT_NE(desk.surface().DocumentHTML().find("anders"), std::string::npos);
+    EXPECT_TRUE(desk.window.isVisible() && !desk.isShown("objSourceSearch"));
+    for (const auto& [key, area] : {std::pair(Qt::Key_PageDown, 1), {Qt::Key_PageDown, 1},
+             {Qt::Key_PageUp, 0}, {Qt::Key_PageUp, 0}}) {
+        desk.press(key, kControl); // as the button, in the source view too, and not beyond the ends
+        EXPECT_EQ(desk.window.CurArea(), area);
+        EXPECT_TRUE(desk.surface().isVisible());
+    }
     desk.dialogs.paths = {QString::fromStdString(desk.folder.path() + "kopie.wml")};
     desk.press(Qt::Key_S, kControl | Qt::ShiftModifier);
-    EXPECT_EQ(desk.folder.get("kopie.wml"), deckOf({"anders"}));
+    EXPECT_EQ(desk.folder.get("kopie.wml"), deckOf({"eins", "zwei"}));
     EXPECT_EQ(desk.window.windowTitle(), "kopie.wml - MORVANE Quillmere");
 
-    std::vector<std::string> opened;
-    desk.window.registerForm(
-        "frmAskProjektDir", [&](const FormCall&) { opened.emplace_back("new"); });
-    desk.window.registerForm("Help", [&](const FormCall&) { opened.emplace_back("help"); });
-    desk.press(Qt::Key_N, kControl);
+    int helps = 0;
+    desk.window.registerForm("Help", [&](const FormCall&) { ++helps; });
     desk.press(Qt::Key_F1);
-    EXPECT_EQ(opened, (std::vector<std::string>{"new", "help"}));
+    EXPECT_EQ(helps, 1);
     QKeyEvent held(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier, {}, true);
     QApplication::sendEvent(&desk.window, &held); // it closed a dialog
     EXPECT_TRUE(desk.window.isVisible());

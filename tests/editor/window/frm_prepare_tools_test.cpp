@@ -71,26 +71,6 @@ TEST(Tools, SayWhyTheyCannotAct)
     EXPECT_EQ(desk.window.findChild<ToolPicture*>("picButtonMorvane"), nullptr);
 }
 
-TEST(Tools, OpenTheirFormsWithTheSurfaceStored)
-{
-    ToolDesk desk;
-    desk.openCards({"vor<a href=\"#a\">Sprung</a>nach"});
-    desk.caretBehind("vor");
-    desk.type("!");
-    const char* const rows[][2] = {{"Area", "frmArea new"}, {"Table", "frmTable new"},
-        {"Option", "frmOption new"}, {"Link", "frmLinks new"}, {"Justify", "frmJustify new"}};
-    for (const auto& [tool, form] : rows) {
-        desk.click((std::string("lblButton") + tool).c_str());
-        EXPECT_EQ(desk.taken(), std::vector<std::string>{form});
-    }
-    EXPECT_NE(desk.design(0).find("vor!"), std::string::npos);
-    desk.click("lblButtonTextFormat");
-    EXPECT_EQ(desk.messages.taken(), std::vector<std::string>{"show 44"});
-    desk.mark("vor", 1);
-    desk.click("lblButtonTextFormat");
-    EXPECT_EQ(desk.taken(), std::vector<std::string>{"frmTextFormat new"});
-}
-
 TEST(Tools, NothingGoesIntoATable)
 {
     ToolDesk desk;
