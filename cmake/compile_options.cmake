@@ -4,9 +4,8 @@ target_compile_options(quillmere_options INTERFACE
     -Wall -Wextra -Wpedantic -Wconversion -Wshadow -Wnon-virtual-dtor -Wold-style-cast
     -Woverloaded-virtual -Wimplicit-fallthrough -Werror)
 if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
-    # g++ 12 warns of an overlap and of lengths that cannot be in its own string operator+ (GCC bug
-    # 105651), of the latter with precompiled headers.
-    target_compile_options(quillmere_options INTERFACE -Wno-restrict -Wno-stringop-overflow)
+    # g++ 12 warns of an overlap in its own string operator+ (GCC bug 105651).
+    target_compile_options(quillmere_options INTERFACE -Wno-restrict)
 endif()
 if(QUILLMERE_SANITIZE)
     if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
