@@ -6,7 +6,8 @@ option(QUILLMERE_PRECOMPILE "Read the headers of libraries once for all sources"
 if(QUILLMERE_PRECOMPILE AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     # With them g++ 12 also takes the lengths in its own string operator+ for ones that cannot be (GCC
     # bug 105651). A build without them has these warnings.
-    target_compile_options(quillmere_options INTERFACE -Wno-array-bounds -Wno-stringop-overflow)
+    target_compile_options(quillmere_options INTERFACE
+        -Wno-array-bounds -Wno-stringop-overflow -Wno-stringop-overread)
 endif()
 
 set(quillmere_standard_headers <algorithm> <array> <charconv> <cstddef> <cstdint>
