@@ -9,8 +9,8 @@
 // A card's id and title and its jump, which stand in the markers of its design work file. Values
 // are taken as they stand between double quotes; what a value may hold is the dialogs' business.
 // All throw InvalidArgument for an area that there is not, and FileFailure where its file cannot be
-// read or written; those that set throw Overflow where the text would be longer than 32767
-// characters. The file is then as it was.
+// read or written; those that set throw Overflow where the text would be longer than
+// maxDesignLength(). The file is then as it was.
 
 namespace quillmere {
 

@@ -25,8 +25,8 @@ void useSpareRecord(DocumentSession& session);
 /// The text of the work file that the location names.
 [[nodiscard]] std::string readWorkFile(
     const DocumentSession& session, const DeckLocation& location);
-/// Makes the work file that the location names, which belongs to neither deck, or else a new one of
-/// `text`, the deck as generated.
+/// Names the deck as generated: the work file that the location names, which is neither deck's to
+/// remove, or else a new one of `text`.
 void nameWmlFile(DocumentSession& session, DeckReplacement& replacement,
     const DeckLocation& location, std::string text);
 
@@ -42,7 +42,7 @@ struct DesignFrame {
 [[nodiscard]] std::string designFileOf(std::string_view marker, std::string_view doBlock,
     const DesignFrame& frame, std::string_view body);
 
-// The two roads. Both do as LoadDeck has it.
+// The two roads. What goes in and what is thrown tells LoadDeck (deck_store.h).
 
 /// By the conversions.
 void loadConvertedDeck(

@@ -14,7 +14,7 @@ namespace quillmere {
 /// that cannot be converted, such as a value without its closing quote. The deck that was open is
 /// then gone all the same.
 /// Where nothing is lost, the deck is mended as repairFile() does it and the session stays as it
-/// is; Overflow is then thrown for a deck beyond 1 MB only.
+/// is; all that is thrown then is DeckTooLong.
 [[nodiscard]] std::string repairedDeck(
     DocumentSession& session, const std::string& text, const std::string& deckDir = {});
 

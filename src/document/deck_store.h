@@ -32,7 +32,7 @@ void AddArea(DocumentSession& session, bool isFirst, const std::string& deckFile
 
 /// Replaces the session's deck by the one at `location`: one area for each card, each with its
 /// design work file. Any text gives at least one area. The old deck's work files are removed but
-/// for its pristine copy, which the new deck takes over.
+/// for its pristine copy, which the new deck takes over; without loss that gets one of its own.
 /// Throws FileFailure, and RuntimeFailure for a deck that is too long or cannot be converted; the
 /// session's deck is then as it was.
 void LoadDeck(DocumentSession& session, const DeckLocation& location, std::int16_t surfaceKind = 0);

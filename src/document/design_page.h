@@ -14,8 +14,8 @@ namespace quillmere {
 inline constexpr std::int32_t kDefaultPageColour = 2391815;
 
 enum class PageSection { Head = 1, Tail = 2 };
-inline constexpr int kHeadLineCount = 5; ///< headLineCount: head lines of a design work file
-inline constexpr int kTailLineCount = 3; ///< tailLineCount
+inline constexpr int kHeadLineCount = 5; ///< of a design work file
+inline constexpr int kTailLineCount = 3; ///< of a design work file
 
 /// Line `index`, from 1, of a design work file's frame; "" for any other index. The font family of
 /// the current device is trimmed in its field.

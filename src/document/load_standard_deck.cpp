@@ -15,7 +15,7 @@ namespace quillmere {
 namespace {
 
 /// Takes a card into the last area. The actions stand in its content.
-void openCard(DocumentSession& session, const DesignFrame& frame, std::uint32_t card)
+void loadCard(DocumentSession& session, const DesignFrame& frame, std::uint32_t card)
 {
     const auto index = areaCount(session.deck) - 1;
     auto& origin = session.deck[index].origin;
@@ -31,13 +31,13 @@ void openCard(DocumentSession& session, const DesignFrame& frame, std::uint32_t 
     origin.card = opened;
 }
 
-void openCards(DocumentSession& session, const std::shared_ptr<const StandardDeck>& deck)
+void loadCards(DocumentSession& session, const std::shared_ptr<const StandardDeck>& deck)
 {
     session.deck.front().origin.deck = deck;
     const auto frame = frameOf(session);
     for (std::uint32_t card = 0; card < deck->cardCount(); ++card) {
         if (card > 0) useSpareRecord(session);
-        openCard(session, frame, card);
+        loadCard(session, frame, card);
     }
 }
 
@@ -54,7 +54,7 @@ void loadStandardDeck(
     nameWmlFile(session, replacement, location, file);
     first.pristineFile = writeWorkCopy(session.workFiles, std::move(file));
     first.pristineDir = session.workFiles.directory();
-    openCards(session, deck);
+    loadCards(session, deck);
     replacement.commit();
 }
 

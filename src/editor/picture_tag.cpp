@@ -3,6 +3,7 @@
 #include "editor/picture_tag.h"
 
 #include "document/text/text_search.h"
+#include "editor/page/attribute_values.h"
 #include "editor/page/surface_page.h"
 
 #include <charconv>
@@ -39,19 +40,12 @@ std::optional<int> side(std::string_view tag, std::string_view property, std::st
     return number == 0 ? std::nullopt : number;
 }
 
-std::string_view withoutScheme(std::string_view path)
-{
-    constexpr std::string_view kScheme = "file://";
-    const auto place = findIgnoringCase(path, kScheme);
-    return place == npos ? path : path.substr(place + kScheme.size());
-}
-
 } // namespace
 
 PictureTag readPictureTag(std::string_view tag)
 {
     PictureTag picture;
-    picture.path = withoutScheme(attributeOf(tag, "src"));
+    picture.path = picturePath(attributeOf(tag, "src"));
     picture.alternativeText = attributeOf(tag, "alt");
     picture.widthPx = side(tag, "width:", "width");
     picture.heightPx = side(tag, "height:", "height");

@@ -35,7 +35,6 @@ public:
     /// One step back, or forth, from `text`; nullopt where there is none.
     [[nodiscard]] std::optional<State> undo(std::string_view text, std::size_t caret);
     [[nodiscard]] std::optional<State> redo(std::string_view text, std::size_t caret);
-    [[nodiscard]] bool canUndo() const { return !back_.empty(); }
 
 private:
     using Step = std::vector<SurfaceEdit>; // to be made from the last to the first

@@ -1,7 +1,6 @@
 // One pass from left to right; each character is passed over once. After the first search for an
-// end
-// ("-->" and the like) that finds none there is no further one, so that a thousand unended comments
-// cost no thousand searches. Tags are read by MarkupTagReader. Held by
+// end ("-->" and the like) that finds none there is no further one, so that a thousand unended
+// comments cost no thousand searches. Tags are read by MarkupTagReader. Held by
 // markup_document_test.cpp.
 
 #include "document/changes/markup_document.h"

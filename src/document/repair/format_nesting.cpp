@@ -116,7 +116,7 @@ unsigned brokenPairs(std::string_view text)
         const auto key = kKeys.find(tagCode(text.substr(at)));
         const auto pair = 1U << key / 2;
         const auto isClose = static_cast<unsigned>(key % 2);
-        broken |= (open ^ pair * isClose) & pair;
+        broken |= (open ^ pair * isClose) & pair; // an end tag wants it open, a start tag does not
         open ^= pair;
     }
     return (broken | open) & kAllPairs;

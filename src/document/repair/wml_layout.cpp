@@ -68,6 +68,7 @@ public:
         lastStep_ = step;
         return static_cast<std::size_t>(passed);
     }
+    /// A tag that stays in its line. As the first of all it makes the next count as behind an end.
     void countKeptOpen()
     {
         if (lastStep_ == 0) lastStep_ = -2;

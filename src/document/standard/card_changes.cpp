@@ -9,6 +9,7 @@
 #include "document/text/windows1252.h"
 
 #include <algorithm>
+#include <iterator>
 #include <set>
 #include <string>
 #include <unordered_map>

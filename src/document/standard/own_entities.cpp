@@ -56,7 +56,7 @@ wml::DeckEntities entitiesOf(std::span<const WmlToken> tokens)
 std::vector<WmlToken> withOwnEntitiesApart(
     std::vector<WmlToken> tokens, const wml::DeckEntities& entities)
 {
-    if (!entities.hasInternalSubset()) return tokens;
+    if (!entities.declaresAny()) return tokens;
     std::vector<WmlToken> result;
     for (const auto& token : tokens) {
         if (token.kind == Kind::Word)

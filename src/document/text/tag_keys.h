@@ -30,7 +30,7 @@ public:
             if (end == begin) continue;
             longest_ = std::max(longest_, end - begin);
             first_[bucket] = static_cast<std::uint8_t>(begin);
-            ++end; // an entry that any code fits
+            ++end; // the entry that ends it
         }
     }
 
@@ -51,12 +51,13 @@ private:
     }
 
     struct Entry {
-        TagPattern pattern; // of itself any code fits
+        TagPattern pattern; // as it is made here every code fits
         std::size_t index = count;
     };
-    std::array<Entry, 2 * count + 1> entries_{}; // bucket by bucket, behind each one that ends it
+    std::array<Entry, 2 * count + 1>
+        entries_{}; // each bucket with one that every code fits as its end
     std::array<std::uint8_t, 4 * 32> first_{}; // the first entry of each bucket
-    std::size_t longest_ = 0; // bucket
+    std::size_t longest_ = 0; // number of keys in a bucket
     static_assert(2 * count < 0x100);
 };
 

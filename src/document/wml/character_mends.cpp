@@ -20,13 +20,6 @@ std::string reference(char32_t point)
     return "&#" + std::to_string(static_cast<std::uint32_t>(point)) + ";";
 }
 
-bool isXmlCharacter(std::uint32_t point)
-{
-    if (point < 0x20) return point == '\t' || point == '\n' || point == '\r';
-    const bool isHalf = point >= 0xD800 && point <= 0xDFFF;
-    return !isHalf && point <= 0x10FFFF && point != 0xFFFE && point != 0xFFFF;
-}
-
 /// Of "#228" and "#xE4".
 bool isCharacterNumber(std::string_view number)
 {

@@ -8,6 +8,7 @@
 #include "document/text/text_search.h"
 #include "document/text/windows1252.h"
 #include "document/wml/utf16_text.h"
+#include "document/wml/wml_characters.h"
 
 #include <algorithm>
 #include <array>
@@ -54,13 +55,6 @@ bool looksLikeUtf16(std::string_view file, bool isBigEndian)
     return true;
 }
 
-bool isXmlCharacter(char32_t point)
-{
-    if (point < 0x20) return point == '\t' || point == '\n' || point == '\r';
-    const bool isHalf = point >= 0xD800 && point <= 0xDFFF;
-    return !isHalf && point != 0xFFFE && point != 0xFFFF;
-}
-
 /// A byte that the encoding has not.
 DeckCharacter strayByte(char byte)
 {
@@ -72,7 +66,7 @@ DeckCharacter utf8Character(std::string_view slice, std::size_t offset)
     const auto spelled = spelledPoint(slice, offset);
     const bool isHalf = spelled.point >= 0xD800 && spelled.point <= 0xDFFF;
     if (spelled.length == 0 || isHalf) return strayByte(slice[offset]);
-    return {spelled.length, spelled.point, isXmlCharacter(spelled.point)};
+    return {spelled.length, spelled.point, wml::isXmlCharacter(spelled.point)};
 }
 
 /// The codes that Windows-1252 leaves open stand for the control characters of the same number.
@@ -175,7 +169,7 @@ DeckCharacter DeckBytes::characterAt(std::string_view slice, std::size_t offset)
 {
     const char first = slice[offset];
     const auto point = static_cast<unsigned char>(first);
-    if (point < 0x80) return {1, point, isXmlCharacter(point)};
+    if (point < 0x80) return {1, point, wml::isXmlCharacter(point)};
     return wideCharacterAt(slice, offset);
 }
 
@@ -187,11 +181,11 @@ DeckCharacter DeckBytes::wideCharacterAt(std::string_view slice, std::size_t off
     if (encoding_ == DeckEncoding::Named && !isShifting_) {
         const auto named = named_.first(slice.substr(offset));
         if (!named) return strayByte(first);
-        return {named->length, named->point, isXmlCharacter(named->point)};
+        return {named->length, named->point, wml::isXmlCharacter(named->point)};
     }
     const auto spelled = spelledPoint(slice, offset);
     if (isUtf16() && spelled.length != 0)
-        return {spelled.length, spelled.point, isXmlCharacter(spelled.point)};
+        return {spelled.length, spelled.point, wml::isXmlCharacter(spelled.point)};
     return utf8Character(slice, offset);
 }
 

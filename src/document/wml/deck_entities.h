@@ -17,9 +17,10 @@ public:
     [[nodiscard]] bool knows(std::string_view name) const;
 
     /// What an entity of the internal subset stands for, as it is declared: references in it are
-    /// not followed, and of one in a file of its own that is told. nullopt for the others.
+    /// not followed, and an entity in a file is what names the file, `SYSTEM "x.ent"`. nullopt for
+    /// the others.
     [[nodiscard]] std::optional<std::string_view> meaningOf(std::string_view name) const;
-    [[nodiscard]] bool hasInternalSubset() const { return !declared_.empty(); }
+    [[nodiscard]] bool declaresAny() const { return !declared_.empty(); }
 
 private:
     void readSubset(std::string_view subset);

@@ -67,4 +67,12 @@ inline constexpr auto kKinds = [] {
     return name < text.size() && (text[name] == '>' || is(text[name], BeginsName));
 }
 
+/// Whether XML 1.0 (2.2) allows a character.
+[[nodiscard]] constexpr bool isXmlCharacter(char32_t point)
+{
+    if (point < 0x20) return point == '\t' || point == '\n' || point == '\r';
+    const bool isHalf = point >= 0xD800 && point <= 0xDFFF;
+    return !isHalf && point <= 0x10FFFF && point != 0xFFFE && point != 0xFFFF;
+}
+
 } // namespace quillmere::wml

@@ -33,7 +33,7 @@ WmlElement elementAround(const SurfacePage& page, SourceRange range)
     return innermost;
 }
 
-ElementFrame frameAt(const SurfacePage& page, std::size_t offset)
+NeededParagraph neededParagraphAt(const SurfacePage& page, std::size_t offset)
 {
     const auto isInCard
         = [&page](SourceRange range) { return elementAround(page, range) == WmlElement::Card; };

@@ -31,11 +31,11 @@ struct ElementEdit {
 
 /// What an element goes in with at an offset of a page: where nothing is lost, a paragraph if it
 /// would stand in a card itself, unless it joins text that has none either.
-struct ElementFrame {
+struct NeededParagraph {
     std::string_view start;
     std::string_view end;
 };
-[[nodiscard]] ElementFrame frameAt(const SurfacePage& page, std::size_t offset);
+[[nodiscard]] NeededParagraph neededParagraphAt(const SurfacePage& page, std::size_t offset);
 
 /// The edit that changes nothing.
 [[nodiscard]] ElementEdit unchanged(std::string_view text, int position);

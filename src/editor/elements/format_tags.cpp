@@ -46,8 +46,8 @@ void GetInsertTextFormatTags(const FormatFlags& Flags, bool ends, std::string& T
         for (const auto& format : kFormatTags)
             appendTags(Tags, format, Flags.*format.flag, "<");
     else
-        for (auto format = kFormatTags.rbegin(); format != kFormatTags.rend(); ++format)
-            appendTags(Tags, *format, Flags.*format->flag, "</");
+        std::for_each(kFormatTags.rbegin(), kFormatTags.rend(),
+            [&](const FormatTag& format) { appendTags(Tags, format, Flags.*format.flag, "</"); });
 }
 
 bool addFormat(FormatFlags& flags, std::string_view startTag)

@@ -122,7 +122,7 @@ ElementEdit SetImage(
 {
     const auto place = static_cast<std::size_t>(
         std::max(ValidInsertPosition(position, text, WmlElement::Image, rules), 0));
-    const auto [start, end] = frameAt(readSurfacePage(std::string(text), rules), place);
+    const auto [start, end] = neededParagraphAt(readSurfacePage(std::string(text), rules), place);
     const auto markup = std::string(start) + imageMarkup(wanted);
     return {withPiece(text, {place, place}, markup + std::string(end), rules),
         static_cast<int>(place + markup.size())};

@@ -120,7 +120,7 @@ ElementEdit putInNew(
     std::string_view text, std::size_t place, const LinkSettings& link, const OutputRules& rules)
 {
     const auto page = readSurfacePage(std::string(text), rules);
-    const auto [start, end] = frameAt(page, place);
+    const auto [start, end] = neededParagraphAt(page, place);
     const auto markup = std::string(start) + newLink(page, place, link);
     auto edit = putIn(text, {place, place}, markup + std::string(end), rules);
     edit.position -= static_cast<int>(end.size());

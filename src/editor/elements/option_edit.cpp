@@ -119,7 +119,7 @@ ElementEdit newList(std::string_view text, std::size_t offset, const OptionSetti
     const OutputRules& rules)
 {
     const int number = countOptions(text, 0, offset);
-    const auto [start, end] = frameAt(readSurfacePage(std::string(text), rules), offset);
+    const auto [start, end] = neededParagraphAt(readSurfacePage(std::string(text), rules), offset);
     auto list = std::string(start) + "<!--select-->" + optionMarkup(wanted) + "<!--/select-->";
     if (!rules.losesNothing()) list += "<br/>";
     const auto changed = withPiece(text, {offset, offset}, list.append(end), rules);

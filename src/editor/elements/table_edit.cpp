@@ -213,7 +213,7 @@ ElementEdit InsertTable(
         + " border=\"1\">";
     table += times(wanted.rows, rowOf(wanted.columns)) + "</table>";
     if (!rules.losesNothing()) table += kBehindTable;
-    const auto [start, end] = frameAt(readSurfacePage(std::string(text), rules), place);
+    const auto [start, end] = neededParagraphAt(readSurfacePage(std::string(text), rules), place);
     table.insert(0, start).append(end);
     auto changed = withPiece(text, {place, place}, table, rules);
     const int caret = caretInTable(changed, place);

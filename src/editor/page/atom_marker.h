@@ -5,7 +5,8 @@
 
 namespace quillmere {
 
-/// What an atom <!--#NAME SOURCE--> holds.
+/// What an atom <!--#NAME SOURCE--> holds, or <!--#entity SOURCE MEANING--> for an entity that the
+/// deck declares.
 struct Atom {
     std::string_view name; ///< of the element; or "comment", "cdata", "pi", "entity"
     std::string source; ///< as it stands in the deck

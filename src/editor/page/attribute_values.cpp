@@ -2,6 +2,7 @@
 
 #include "editor/page/attribute_values.h"
 
+#include "document/text/text_search.h"
 #include "document/text/windows1252.h"
 #include "editor/page/markup_tags.h"
 
@@ -83,6 +84,13 @@ std::string otherAttributes(std::string_view tag, std::initializer_list<std::str
             others.append(" ").append(attributes.source);
     }
     return others;
+}
+
+std::string_view picturePath(std::string_view source)
+{
+    constexpr std::string_view kScheme = "file://";
+    const auto scheme = findIgnoringCase(source, kScheme);
+    return scheme == npos ? source : source.substr(scheme + kScheme.size());
 }
 
 } // namespace quillmere

@@ -18,4 +18,7 @@ namespace quillmere {
 [[nodiscard]] std::string otherAttributes(
     std::string_view tag, std::initializer_list<std::string_view> names);
 
+/// The path that a picture's source names: what stands behind "file://", or without that all of it.
+[[nodiscard]] std::string_view picturePath(std::string_view source);
+
 } // namespace quillmere

@@ -6,6 +6,7 @@
 #include "document/text/limits.h"
 #include "document/text/tag_scanner.h"
 #include "document/text/text_search.h"
+#include "editor/page/attribute_values.h"
 
 namespace quillmere {
 
@@ -38,17 +39,10 @@ private:
     ForwardFinder ends_;
 };
 
-std::string_view withoutScheme(std::string_view path)
-{
-    constexpr std::string_view kScheme = "file://";
-    const auto found = findIgnoringCase(path, kScheme);
-    return found == npos ? path : path.substr(found + kScheme.size());
-}
-
 /// What tells pictures, or radio buttons, apart.
 std::string_view keyOf(std::string_view tag, bool isPicture)
 {
-    return isPicture ? withoutScheme(attributeOf(tag, "src")) : attributeOf(tag, "onclick");
+    return isPicture ? picturePath(attributeOf(tag, "src")) : attributeOf(tag, "onclick");
 }
 
 int countInTables(std::string_view text, bool isPicture, std::string_view key)

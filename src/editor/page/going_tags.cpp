@@ -15,11 +15,6 @@ namespace {
 
 using Kind = PageElement::Kind;
 
-bool lies(SourceRange inner, SourceRange outer)
-{
-    return inner.begin >= outer.begin && inner.end <= outer.end;
-}
-
 /// Elements that stay however empty they are, unless they lie between the places.
 bool isFrame(Kind kind)
 {

@@ -25,6 +25,12 @@ struct ItemSpan {
 /// all of the option belongs to it.
 [[nodiscard]] CoveredRun withWholeOptions(const SurfacePage& page, CoveredRun run);
 
+/// Whether a range lies within another one; both may be the same.
+[[nodiscard]] constexpr bool lies(SourceRange inner, SourceRange outer)
+{
+    return inner.begin >= outer.begin && inner.end <= outer.end;
+}
+
 /// The offsets of a run's places in the text.
 [[nodiscard]] SourceRange offsetsOf(const SurfacePage& page, const CoveredRun& run);
 

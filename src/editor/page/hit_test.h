@@ -11,7 +11,7 @@
 // Finding the marked element in the text of an area's design work file, as ReadDesignText gives it.
 // Positions here are told as the file's users do: 1-based; 0 is ahead of the text. What goes in
 // "behind" position n has n characters ahead of it. All functions throw Overflow for a text of more
-// characters than OutputRules::maxTextLength(), which is given as `limit`.
+// characters than OutputRules::maxTextLength(), given as `limit` or by `rules`.
 
 namespace quillmere {
 

@@ -20,11 +20,6 @@ using Kind = PageElement::Kind;
 
 constexpr std::string_view kLineBreak = "<br/>";
 
-bool lies(SourceRange inner, SourceRange outer)
-{
-    return inner.begin >= outer.begin && inner.end <= outer.end;
-}
-
 bool isFormatOrLink(Kind kind)
 {
     return kind == Kind::Format || kind == Kind::Link;

@@ -46,10 +46,8 @@ struct SurfaceEdit {
     const SurfacePage& page, PagePlace from, PagePlace to, std::string_view markup);
 
 /// Takes out what lies between two places:
-/// - items with their source; an element goes where all that it shows goes, and an element whose
-/// tags
-///   both lie between the places goes as well; else its tags stay, so that no half of a pair is
-///   lost;
+/// - items with their source; an element goes where all that it shows goes, and where both of its
+///   tags lie between the places; else its tags stay, so that no half of a pair is lost;
 /// - one end of a group that is shown takes the other one with it;
 /// - where nothing is lost, markers that show nothing go only from between items;
 /// - a line of atoms and a paragraph do not become one;

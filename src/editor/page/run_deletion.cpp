@@ -24,11 +24,6 @@ struct Fate {
     bool end = false;
 };
 
-bool lies(SourceRange inner, SourceRange outer)
-{
-    return inner.begin >= outer.begin && inner.end <= outer.end;
-}
-
 class Deletion {
 public:
     Deletion(const SurfacePage& page, const CoveredRun& run, FirstFormats formats)

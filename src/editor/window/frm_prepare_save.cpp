@@ -119,7 +119,7 @@ void frmPrepare::lookAtNewDeck()
     warnOfCosts();
 }
 
-/// Where the source of a recovered deck was taken over the mends of its file are made already.
+/// In a recovered deck whose source was taken over, the mends of its file are made and not told.
 void frmPrepare::recallMends(const std::string& file)
 {
     const bool isOpened = session_.document.deck.front().origin.deck->file() == file;

@@ -221,13 +221,13 @@ void frmPrepare::SavePreparedDokumentAndShowArea(bool Show)
 }
 
 /// Loads the deck from the text. Where that fails all files are as before and the view stays. A
-/// deck without loss stays as it was opened where nothing was written, and its pristine copy, which
-/// a recovery compares its areas with, goes with them.
+/// deck without loss stays as it was opened where nothing was written. Its pristine copy, which its
+/// areas are compared with, is made by LoadDeck.
 void frmPrepare::takeSource()
 {
     auto& document = session_.document;
-    if (losesNothing(document) && !mScriptChanged) return;
     const bool isConverted = !losesNothing(document);
+    if (!isConverted && !mScriptChanged) return;
     if (isConverted) namePristine(document);
     const auto first = document.deck.front();
     const KeptFile wml(document.workFiles, first.wmlDir + first.wmlFile);

@@ -5,6 +5,7 @@
 #include "document/deck_store.h"
 #include "document/design_text.h"
 #include "document/text/windows1252.h"
+#include "editor/page/attribute_values.h"
 #include "editor/surface_clipboard.h"
 #include "forms/text.h"
 
@@ -42,13 +43,6 @@ QString droppedDeck(const QMimeData* clip)
         if (url.isLocalFile() && url.toLocalFile().endsWith(".wml", Qt::CaseInsensitive))
             return url.toLocalFile();
     return {};
-}
-
-std::string_view withoutScheme(std::string_view path)
-{
-    constexpr std::string_view kScheme = "file://";
-    const auto at = lowerCase(path).find(kScheme);
-    return at == std::string::npos ? path : path.substr(at + kScheme.size());
 }
 
 std::string displayPath(const ImageEntry& image)
@@ -116,7 +110,7 @@ void frmPrepare::markElement(const Element& source)
     if (source.tag == "table") mMarkedTable = source;
     if (source.tag != "img") return;
     const auto& text = objBrowserCard->DocumentHTML();
-    const auto path = lowerCase(withoutScheme(pictureSource(source.source.in(text))));
+    const auto path = lowerCase(picturePath(pictureSource(source.source.in(text))));
     const auto& images = shownArea().images;
     const auto found = std::ranges::find_if(images, [&](const ImageEntry& image) {
         return !image.displayFile.empty() && lowerCase(displayPath(image)) == path;
@@ -216,7 +210,7 @@ void frmPrepare::insertClip()
 /// handed it over last. Without one the picture goes in all the same.
 void frmPrepare::takePicture(const std::string& clip)
 {
-    const auto source = std::string(withoutScheme(pictureSource(clip)));
+    const auto source = std::string(picturePath(pictureSource(clip)));
     if (source.empty()) return;
     std::optional<ImageEntry> entry;
     for (const auto& area : session_.document.deck)
