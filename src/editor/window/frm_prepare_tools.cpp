@@ -278,6 +278,7 @@ void frmPrepare::lblButtonHelp()
     popUp(*mnuContextHelp, "Help");
 }
 
+// NOLINTNEXTLINE(readability-make-member-function-const): the table's routines are of one type
 void frmPrepare::lblButtonMorvane()
 {
     const auto page = session_.settings.ReadSetting("MorvaneHomepage");
