@@ -50,12 +50,28 @@ void GetInsertTextFormatTags(const FormatFlags& Flags, bool ends, std::string& T
             [&](const FormatTag& format) { appendTags(Tags, format, Flags.*format.flag, "</"); });
 }
 
-bool addFormat(FormatFlags& flags, std::string_view startTag)
+void appendStartTags(const FormatFlags& flags, const FormatStarts& starts, std::string& tags,
+    std::set<const char*>& written)
+{
+    for (std::size_t i = 0; i < kFormatTags.size(); ++i) {
+        const auto& format = kFormatTags.at(i);
+        const auto start = starts.at(i);
+        if (start.empty()) appendTags(tags, format, flags.*format.flag, "<");
+        for (int count = start.empty() ? 0 : flags.*format.flag; count > 0; --count)
+            tags += written.insert(start.data()).second ? std::string(start)
+                                                        : secondTag(start, OutputRules(true));
+    }
+}
+
+bool addFormat(FormatFlags& flags, std::string_view startTag, FormatStarts* starts)
 {
     const auto name = lowerCase(startTag.substr(1, startTag.find_first_of(" \t\r\n/>", 1) - 1));
     const auto* const format = std::ranges::find(kFormatTags, name, &FormatTag::name);
     if (format == kFormatTags.end()) return false;
     ++(flags.*format->flag);
+    const bool hasAttributes = startTag.find('=') != std::string_view::npos;
+    if (starts != nullptr && hasAttributes)
+        starts->at(static_cast<std::size_t>(format - kFormatTags.begin())) = startTag;
     return true;
 }
 
@@ -79,13 +95,6 @@ FormatBorder formatBorder(const SurfacePage& page, const std::vector<std::size_t
         border.ends.insert(0, endTagFor(tag));
     }
     return border;
-}
-
-std::string secondTag(std::string_view tag, const OutputRules& rules)
-{
-    if (!rules.losesNothing() || !findAttribute(tag, "id")) return std::string(tag);
-    const auto name = tag.substr(0, tag.find_first_of(" \t\r\n/>", 1));
-    return std::string(name) + otherAttributes(tag, {"id"}) + ">";
 }
 
 void DeleteFormatTagsWhoArroundsNoText(std::string& Text, std::size_t limit)

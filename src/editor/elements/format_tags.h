@@ -3,7 +3,9 @@
 #include "document/text/limits.h"
 #include "editor/page/surface_page.h"
 
+#include <array>
 #include <cstddef>
+#include <set>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -28,8 +30,17 @@ struct FormatFlags {
 /// tags in the opposite order, so that the pairs nest.
 void GetInsertTextFormatTags(const FormatFlags& Flags, bool ends, std::string& Tags);
 
-/// Adds the format that the start tag of an element is; false where it is none.
-bool addFormat(FormatFlags& flags, std::string_view startTag);
+/// The start tag of each flag with its attributes, in the order of the tags; "" for a plain one.
+using FormatStarts = std::array<std::string_view, 7>;
+
+/// Appends the start tags as GetInsertTextFormatTags does, with their attributes. Of those that
+/// were `written` before the id is left out, since no two elements have the same.
+void appendStartTags(const FormatFlags& flags, const FormatStarts& starts, std::string& tags,
+    std::set<const char*>& written);
+
+/// Adds the format that the start tag of an element is; false where it is none. A tag with
+/// attributes goes into `starts`, if given.
+bool addFormat(FormatFlags& flags, std::string_view startTag, FormatStarts* starts = nullptr);
 
 /// The formats of a page that are open at an offset, the outermost first, as indices of elements.
 [[nodiscard]] std::vector<std::size_t> formatsOpenAt(const SurfacePage& page, std::size_t offset);
@@ -42,10 +53,6 @@ struct FormatBorder {
 };
 [[nodiscard]] FormatBorder formatBorder(
     const SurfacePage& page, const std::vector<std::size_t>& formats);
-
-/// The start tag of the second half of an element that is cut in two: the same, but where nothing
-/// is lost without an id.
-[[nodiscard]] std::string secondTag(std::string_view tag, const OutputRules& rules);
 
 /// Cuts out the pairs of big, small, i, b and u that enclose nothing but tags and blanks, until
 /// none is left. A picture is no text. Throws Overflow for a text beyond `limit` characters.

@@ -165,7 +165,8 @@ void addFormat(FormatRegion& region, const SurfacePage& page, const PageElement&
     for (auto& unit : region.units) {
         const SourceRange items{
             page.items[unit.firstItem].source.begin, page.items[unit.endItem - 1].source.end};
-        if (holds(format, items)) addFormat(unit.flags, format.start.in(page.text));
+        auto* const starts = page.rules.losesNothing() ? &unit.starts : nullptr;
+        if (holds(format, items)) addFormat(unit.flags, format.start.in(page.text), starts);
     }
 }
 

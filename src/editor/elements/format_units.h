@@ -19,6 +19,7 @@ struct FormatUnit {
     bool takesSizes = true; ///< false for preformatted text, which has no big and small
     bool isMarked = false;
     FormatFlags flags;
+    FormatStarts starts{}; ///< where nothing is lost; they stand in the page's text
 };
 
 /// The part of a text whose formats are written anew: its units, and the tags that go.

@@ -30,10 +30,13 @@ struct LinkParts {
 
 std::optional<LinkParts> linkFrom(std::string_view text, std::size_t from)
 {
-    const auto start = findTagFrom(text, kLink, from);
+    auto start = findTagFrom(text, kLink, from);
     if (!start) return std::nullopt;
     const auto end = findTagFrom(text, kLinkEnd, start->begin);
     if (!end) return LinkParts{*start, start->end, start->end};
+    for (auto inner = start; inner && inner->begin < end->begin;
+         inner = findTagFrom(text, kLink, inner->end))
+        start = inner; // of links in one another it is the innermost that ends there
     return LinkParts{*start, std::max(end->begin, start->end), end->end};
 }
 

@@ -12,7 +12,9 @@
 #include "editor/page/splice_list.h"
 
 #include <algorithm>
+#include <array>
 #include <functional>
+#include <set>
 #include <span>
 #include <utility>
 #include <vector>
@@ -70,14 +72,17 @@ FormatFlags withFormats(const FormatUnit& unit, const TextFormats& wanted)
 }
 
 /// What stays open between two units: tags are nested in the order of the flags.
-FormatFlags commonFlags(const FormatFlags& one, const FormatFlags& other)
+FormatFlags commonFlags(const FormatUnit& one, const FormatUnit& other)
 {
+    constexpr std::array kFlags{&FormatFlags::big, &FormatFlags::small, &FormatFlags::emphasis,
+        &FormatFlags::italic, &FormatFlags::strong, &FormatFlags::bold, &FormatFlags::underlined};
     FormatFlags common;
-    for (const auto flag :
-        {&FormatFlags::big, &FormatFlags::small, &FormatFlags::emphasis, &FormatFlags::italic,
-            &FormatFlags::strong, &FormatFlags::bold, &FormatFlags::underlined}) {
-        common.*flag = std::min(one.*flag, other.*flag);
-        if (one.*flag != other.*flag) break;
+    for (std::size_t i = 0; i < kFlags.size(); ++i) {
+        const auto flag = kFlags.at(i);
+        const auto least = std::min(one.flags.*flag, other.flags.*flag);
+        const bool areUnlike = least > 0 && one.starts.at(i) != other.starts.at(i);
+        if (!areUnlike) common.*flag = least;
+        if (areUnlike || one.flags.*flag != other.flags.*flag) break;
     }
     return common;
 }
@@ -102,30 +107,38 @@ bool setFlags(std::vector<FormatUnit>& units, const TextFormats& wanted)
         if (!units[i].isBlank) continue;
         const bool isLast = i + 1 == units.size() || units[i + 1].startsPiece;
         units[i].flags = isLast ? FormatFlags{} : units[i + 1].flags;
+        if (!isLast) units[i].starts = units[i + 1].starts;
     }
     return changes;
 }
 
-void addTags(SpliceList& splices, std::size_t offset, const FormatFlags& flags, bool ends)
+void addEnds(SpliceList& splices, std::size_t offset, const FormatFlags& flags)
 {
     std::string tags;
-    GetInsertTextFormatTags(flags, ends, tags);
+    GetInsertTextFormatTags(flags, true, tags);
     splices.insert(offset, std::move(tags));
+}
+
+void addStarts(SpliceList& splices, const FormatUnit& unit, const FormatFlags& kept,
+    std::set<const char*>& written)
+{
+    std::string tags;
+    appendStartTags(without(unit.flags, kept), unit.starts, tags, written);
+    splices.insert(unit.source.begin, std::move(tags));
 }
 
 std::string rewritten(std::string_view text, const FormatRegion& region)
 {
     SpliceList splices;
-    FormatFlags open;
-    std::size_t end = 0;
+    FormatUnit open;
+    std::set<const char*> written;
     for (const auto& unit : region.units) {
-        const auto kept = unit.startsPiece ? FormatFlags{} : commonFlags(open, unit.flags);
-        addTags(splices, end, without(open, kept), true);
-        addTags(splices, unit.source.begin, without(unit.flags, kept), false);
-        open = unit.flags;
-        end = unit.source.end;
+        const auto kept = unit.startsPiece ? FormatFlags{} : commonFlags(open, unit);
+        addEnds(splices, open.source.end, without(open.flags, kept));
+        addStarts(splices, unit, kept, written);
+        open = unit;
     }
-    addTags(splices, end, open, true);
+    addEnds(splices, open.source.end, open.flags);
     for (const auto tag : region.oldTags)
         splices.remove(tag);
     return spliced(text, std::move(splices).take());

@@ -42,7 +42,8 @@ struct FormattedText {
 /// cell, list or marker, whatever stood there before: tags of formats that lie in part within what
 /// is marked are written anew. A link is a unit, with the tags round it. Text in selection lists
 /// gets no format. Pairs that hold no text go, in all of the text; where nothing is lost they stay,
-/// atoms that no format may hold are left out of them, and preformatted text keeps its size.
+/// atoms that no format may hold are left out of them, preformatted text keeps its size, and tags
+/// that are written anew keep their attributes.
 /// A blank has the formats of what follows it, so that the tag stands ahead of it, as in
 /// "one<b> two</b> three": saving takes blanks away that stand directly ahead of a tag.
 /// Throws Overflow, and RuntimeFailure where a stray '<' keeps tags from being written anew.

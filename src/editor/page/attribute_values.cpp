@@ -86,6 +86,13 @@ std::string otherAttributes(std::string_view tag, std::initializer_list<std::str
     return others;
 }
 
+std::string secondTag(std::string_view tag, const OutputRules& rules)
+{
+    if (!rules.losesNothing() || !findAttribute(tag, "id")) return std::string(tag);
+    const auto name = tag.substr(0, tag.find_first_of(" \t\r\n/>", 1));
+    return std::string(name) + otherAttributes(tag, {"id"}) + ">";
+}
+
 std::string_view picturePath(std::string_view source)
 {
     constexpr std::string_view kScheme = "file://";

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "document/text/output_rules.h"
+
 #include <initializer_list>
 #include <optional>
 #include <string>
@@ -17,6 +19,10 @@ namespace quillmere {
 /// each with a blank ahead of it.
 [[nodiscard]] std::string otherAttributes(
     std::string_view tag, std::initializer_list<std::string_view> names);
+
+/// The start tag of the second half of an element that is cut in two: the same, but where nothing
+/// is lost without an id.
+[[nodiscard]] std::string secondTag(std::string_view tag, const OutputRules& rules);
 
 /// The path that a picture's source names: what stands behind "file://", or without that all of it.
 [[nodiscard]] std::string_view picturePath(std::string_view source);

@@ -118,6 +118,8 @@ void EditDraft::putText(std::u16string_view typed)
         || endsWhite(text.substr(0, part.between.begin));
     borders.blankBehind = (behind != nullptr && behind->kind == ItemKind::Blank)
         || beginsWhite(text.substr(part.between.end));
+    borders.takesBreaks
+        = !page_.rules.losesNothing() || mayStand(page_, part.round, WmlElement::LineBreak);
     auto put = typedText(typed, borders);
     shown_ = std::move(put.shown);
     if (standsAside() && !put.markup.empty())

@@ -4,6 +4,7 @@
 
 #include "editor/page/fitting_markup.h"
 
+#include "editor/page/attribute_values.h"
 #include "editor/page/card_head.h"
 #include "editor/page/clip_tags.h"
 #include "editor/page/format_cut.h"
@@ -207,7 +208,8 @@ private:
         if (place.behind == kNone) return {};
         for (auto level = top(); level != place.level; level = levels_[level].parent) {
             if (!ruleOf(levels_[level].element).isFormat) return {};
-            starts.insert(0, written(levels_[level], levels_[level].start));
+            const auto start = written(levels_[level], levels_[level].start);
+            starts.insert(0, secondTag(start, page_.rules));
             ends += written(levels_[level], levels_[level].end);
         }
         if (cut_.starts.empty() && levels_[top()].sink == kNone)
@@ -261,6 +263,12 @@ std::vector<std::size_t> elementsRound(const SurfacePage& page, std::size_t offs
         if (holds) round.push_back(i);
     }
     return round;
+}
+
+bool mayStand(const SurfacePage& page, const std::vector<std::size_t>& round, E element)
+{
+    const OpenLevels levels(page, round);
+    return levels.mayStand(levels.top(), element);
 }
 
 FittingMarkup fittingMarkup(const SurfacePage& page, std::size_t offset,

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document/wml/wml_elements.h"
 #include "editor/page/format_cut.h"
 #include "editor/page/surface_page.h"
 
@@ -22,6 +23,10 @@ struct FittingMarkup {
 
 /// The elements of the content that hold an offset, as indices, the outermost first.
 [[nodiscard]] std::vector<std::size_t> elementsRound(const SurfacePage& page, std::size_t offset);
+
+/// Whether an element may stand within the elements `round`.
+[[nodiscard]] bool mayStand(
+    const SurfacePage& page, const std::vector<std::size_t>& round, WmlElement element);
 
 /// Markup as it may stand at an offset within the elements `round`. All of its text comes along:
 /// - a format or link that may not stand there gives its text, so that a link in a link is text of

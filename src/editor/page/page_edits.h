@@ -37,11 +37,12 @@ struct SurfaceEdit {
 /// escaped; a hard blank becomes &nbsp;, a line end <br/>, a character that Windows-1252 has not a
 /// decimal reference. A blank that would not be seen, next to white space or where a line begins,
 /// becomes &nbsp; as well. In a line of atoms (PageBlock::isAside) it comes as a paragraph behind
-/// them.
+/// them. Where nothing is lost a line end in an entry of a list, which holds none, is a blank.
 [[nodiscard]] SurfaceEdit typeText(
     const SurfacePage& page, PagePlace from, PagePlace to, std::u16string_view typed);
 
-/// Puts markup in place of what lies between two places, as it is.
+/// Puts markup in place of what lies between two places, as it is; where nothing is lost made to
+/// fit the place (fitting_markup.h).
 [[nodiscard]] SurfaceEdit pasteMarkup(
     const SurfacePage& page, PagePlace from, PagePlace to, std::string_view markup);
 

@@ -64,6 +64,7 @@ public:
         : typed_(typed)
         , hides_(borders.blankHidesAhead)
         , blankBehind_(borders.blankBehind)
+        , takesBreaks_(borders.takesBreaks)
     {
     }
 
@@ -85,6 +86,7 @@ private:
     void lineBreak(char32_t point)
     {
         if (point == '\r' && position_ < typed_.size() && typed_[position_] == '\n') ++position_;
+        if (!takesBreaks_) return blank();
         text_.markup += kLineBreak;
         text_.shown += static_cast<char16_t>(kLineBreakShown);
         hides_ = true;
@@ -109,6 +111,7 @@ private:
     std::size_t position_ = 0;
     bool hides_; // a plain blank would not be seen here
     bool blankBehind_;
+    bool takesBreaks_;
     TypedText text_;
 };
 

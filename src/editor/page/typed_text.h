@@ -9,6 +9,7 @@ namespace quillmere {
 struct TypedBorders {
     bool blankHidesAhead = false; ///< a line begins, or a blank stands ahead
     bool blankBehind = false; ///< a blank stands behind
+    bool takesBreaks = true; ///< else a line end is a blank
 };
 
 /// Typed text as markup, and what the surface shows for it: one item for each character.

@@ -119,6 +119,10 @@ TEST(Markers, ArePastedAndCopiedAsWholes)
         };
     };
     expectEdits(paste("$I"), {{"an atom", "<p>a|b</p>", "<p>a$I|b</p>"}});
+    const auto type = [](const SurfacePage& page, PagePlace from, PagePlace to) {
+        return typeText(page, from, to, u"x\r\ny");
+    };
+    expectEdits(type, {{"an entry has one line", "<p>$Oa|$E</p>", "<p>$Oax y|$E</p>"}});
     expectEdits(paste("$T"), {{"a card has one timer", "|$T", "|$T"}});
     expectEdits(
         paste("<b>x</b>$I"), {{"text to atoms", "|$T<p>a</p>", "$T<p><b>x</b>$I|</p><p>a</p>"}});
