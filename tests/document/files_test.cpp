@@ -147,24 +147,6 @@ TEST(Files, ReplacingLeavesNoNeighbourWhereTheProgramIsEnded)
     }
 }
 
-TEST(Files, CreatingTakesNoNameThatThereIs)
-{
-    const ScratchFolder folder;
-    const auto model = folder.put("deck.wml", "alt");
-    ::chmod(model.c_str(), 0640);
-    createFile(model + ".bak", "kopie", model);
-    EXPECT_EQ(modeOf(model + ".bak"), 0640U);
-    fs::create_symlink("fehlt", folder.path() + "leer");
-    for (const char* name : {"deck.wml.bak", "leer"})
-        EXPECT_NE(failureOf([&] {
-            createFile(folder.path() + name, "x", model);
-        }).find("es gibt schon eine Datei mit diesem Namen"),
-            std::string::npos);
-    EXPECT_EQ(folder.get("deck.wml.bak"), "kopie");
-    failureOnASmallDisk(2, [&] { createFile(folder.path() + "voll", "xyz", model); });
-    EXPECT_EQ(namesIn(folder), 3);
-}
-
 TEST(Files, ReplacingKeepsModeAndLinksAndWriteProtection)
 {
     const ScratchFolder folder;
@@ -189,31 +171,6 @@ TEST(Files, ReplacingKeepsModeAndLinksAndWriteProtection)
     ::chmod(target.c_str(), 0440);
     EXPECT_THROW(replaceFile(target, "x"), FileFailure);
     EXPECT_EQ(folder.get("ziel/deck.wml"), "neu");
-}
-
-TEST(Files, ReplacementsGoOnSideBySide)
-{
-    const ScratchFolder folder;
-    for (const auto* const name : {"a", "b", "c"})
-        folder.put(name, "alt");
-    {
-        FileReplacements all;
-        std::vector<FileReplacement> files;
-        for (const auto* const name : {"a", "b", "c"})
-            files.emplace_back(folder.path() + name, "neu");
-        files.erase(files.begin() + 1); // given up
-        EXPECT_EQ(folder.get("a") + folder.get("b") + folder.get("c"), "altaltalt");
-        for (auto& file : files) {
-            file.flush();
-            all.finish(file);
-        }
-        replaceFile(folder.path() + "d", "neu"); // finds a name beside those
-    }
-    EXPECT_EQ(folder.get("a") + folder.get("b") + folder.get("c"), "neualtneu");
-    EXPECT_EQ(namesIn(folder), 4);
-    sigset_t held{};
-    ::pthread_sigmask(SIG_BLOCK, nullptr, &held);
-    EXPECT_EQ(sigismember(&held, SIGINT), 0);
 }
 
 TEST(DiskFileSystem, TellsFilesFromDirectoriesAndMakesThem)
