@@ -1,4 +1,4 @@
-// Held by frm_image_test.cpp.
+// Held by link_edit_test.cpp.
 
 #include "editor/elements/image_edit.h"
 

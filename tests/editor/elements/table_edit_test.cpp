@@ -1,8 +1,5 @@
 #include "editor/elements/table_edit.h"
 
-#include "document/text/failure.h"
-#include "document/text/limits.h"
-
 #include <gtest/gtest.h>
 
 #include <string>
@@ -103,23 +100,6 @@ TEST(DeleteTable, TakesTheTableButNotItsLineBreak)
     EXPECT_EQ(gone.position, 4);
     EXPECT_EQ(DeleteTable("x<TABLE><TR></TABLE >y", 0).text, "x<TABLE><TR></TABLE >y");
     EXPECT_EQ(DeleteTable("x<TABLE><TR></TABLE>y", 0).text, "xy");
-}
-
-TEST(TableEdits, StayWithinTheLimitOfTexts)
-{
-    const std::string full(kMaxTextLength - 10, 'x');
-    EXPECT_THROW(static_cast<void>(InsertTable(full, 5, table("T", "L", 30, 10))), Overflow);
-    EXPECT_NO_THROW(
-        static_cast<void>(InsertTable(full, 5, table("T", "L", 30, 10), OutputRules(true))));
-}
-
-TEST(TableAlign, KnowsTheGermanTextsOnly)
-{
-    EXPECT_EQ(tableAlignCode("Mittig"), "C");
-    EXPECT_EQ(tableAlignCode("Centre"), "");
-    EXPECT_EQ(tableAlignIndex("c"), 1);
-    EXPECT_EQ(tableAlignIndex("right"), 2);
-    EXPECT_EQ(tableAlignIndex(""), 0);
 }
 
 } // namespace
