@@ -111,18 +111,6 @@ TEST(OpenDocument, LeavesTheOpenDeckAloneWhereItFails)
             EXPECT_EQ(stateOf(desk), before);
         }
     }
-    desk.folder.put("decks/riese.wml", std::string(3'000'000, ' '));
-    desk.settings.WriteSetting("StandardOutput", "Yes");
-    desk.messages.answers = {false};
-    try {
-        OpenDocument(desk.session, "riese.wml", folder);
-        ADD_FAILURE() << "was opened";
-    } catch (const Failure& failure) {
-        EXPECT_TRUE(failure.utf8().ends_with("riese.wml“ ist zu lang (Überlauf): ein Dokument kann "
-                                             "höchstens 1048576 Byte (1 MB) haben. Es wurde nichts "
-                                             "geändert."))
-            << failure.utf8();
-    }
     EXPECT_EQ(desk.window.shown, 1);
     desk.window.AskAndSaveTmpWmlDocToWmlDoc(false); // and it can still be saved
     EXPECT_NE(desk.folder.get("decks/gut.wml").find("gut und neu"), std::string::npos);
