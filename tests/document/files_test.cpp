@@ -147,6 +147,24 @@ TEST(Files, ReplacingLeavesNoNeighbourWhereTheProgramIsEnded)
     }
 }
 
+TEST(Files, CreatingTakesNoNameThatThereIs)
+{
+    const ScratchFolder folder;
+    const auto model = folder.put("deck.wml", "alt");
+    ::chmod(model.c_str(), 0640);
+    createFile(model + ".bak", "kopie", model);
+    EXPECT_EQ(modeOf(model + ".bak"), 0640U);
+    fs::create_symlink("fehlt", folder.path() + "leer");
+    for (const char* name : {"deck.wml.bak", "leer"})
+        EXPECT_NE(failureOf([&] {
+            createFile(folder.path() + name, "x", model);
+        }).find("es gibt schon eine Datei mit diesem Namen"),
+            std::string::npos);
+    EXPECT_EQ(folder.get("deck.wml.bak"), "kopie");
+    failureOnASmallDisk(2, [&] { createFile(folder.path() + "voll", "xyz", model); });
+    EXPECT_EQ(namesIn(folder), 3);
+}
+
 TEST(Files, ReplacingKeepsModeAndLinksAndWriteProtection)
 {
     const ScratchFolder folder;
