@@ -36,5 +36,19 @@ TEST(FrmLinks, TellsWhatIsMissing)
     EXPECT_EQ(desk.content(), before);
 }
 
+TEST(FrmLinks, AsksNothingOfAnAddressThatStays)
+{
+    ElementDesk desk;
+    desk.settings.WriteSetting("StandardOutput", "Yes");
+    desk.openCards({"<a href=\"../x.php?a=1&amp;b\">Wort</a>"});
+    desk.mark("Wort");
+    desk.use("mnuContext2PrepareElement", [](QWidget& form) {
+        type(form, "txtCaption", "Neu");
+        click(form, "btnNew");
+    });
+    EXPECT_NE(desk.content().find("<a href=\"../x.php?a=1&amp;b\">Neu</a>"), std::string::npos);
+    EXPECT_TRUE(desk.messages.taken().empty());
+}
+
 } // namespace
 } // namespace quillmere::test
