@@ -175,6 +175,30 @@ void measureStandardWrite(benchmark::State& state, const std::string& deck)
     measure(state, deck.size(), [&] { WriteDeck(core.session); });
 }
 
+std::string times(std::size_t count, std::string_view piece)
+{
+    std::string text;
+    text.reserve(count * piece.size());
+    for (; count > 0; --count)
+        text += piece;
+    return text;
+}
+
+/// Writes a card of elements that nest as deep as it is long, with as many new ones put into the
+/// innermost, and behind them ends of elements that are not open.
+void measureNestedWrite(benchmark::State& state, std::size_t size)
+{
+    constexpr std::string_view kFrame = "<wml><card><p></p></card></wml>";
+    const auto depth = size / std::string_view("<b></b><u></u></i>").size();
+    auto deck = times(depth, "<b>").append("x").append(times(depth, "</b>"));
+    cli::CoreSession core(true);
+    load(core, std::string(kFrame).insert(kFrame.find("</p>"), deck));
+    auto text = ReadDesignText(core.session, 0);
+    text.insert(text.find("x</b>"), times(depth, "<u>").append(times(depth, "</i>")));
+    WriteDesignText(core.session, 0, text);
+    measure(state, size, [&] { WriteDeck(core.session); });
+}
+
 using DeckMeasure = void (*)(benchmark::State&, const std::string&);
 
 struct DeckOperation {
@@ -187,16 +211,16 @@ constexpr DeckOperation kDeckOperations[]
 constexpr DeckOperation kStandardOperations[]
     = {{"StandardLoadDeck", measureStandardLoad}, {"StandardWriteDeck", measureStandardWrite}};
 
-std::string benchmarkName(const char* operation, const Shape& shape, std::size_t size)
+std::string benchmarkName(const char* operation, std::string_view shape, std::size_t size)
 {
     std::string name = operation;
-    return name.append("/").append(shape.name).append("/").append(std::to_string(size));
+    return name.append("/").append(shape).append("/").append(std::to_string(size));
 }
 
 void registerDecks(std::span<const DeckOperation> operations, const Shape& shape, std::size_t size)
 {
     for (const auto& operation : operations) {
-        benchmark::RegisterBenchmark(benchmarkName(operation.name, shape, size).c_str(),
+        benchmark::RegisterBenchmark(benchmarkName(operation.name, shape.name, size).c_str(),
             [&operation, &shape, size](
                 benchmark::State& state) { operation.measure(state, deckOf(shape, size)); });
     }
@@ -206,12 +230,18 @@ void registerAll(const Shape& shape, std::size_t size)
 {
     static const auto operations = textOperations();
     for (const auto& operation : operations) {
-        benchmark::RegisterBenchmark(benchmarkName(operation.name, shape, size).c_str(),
+        benchmark::RegisterBenchmark(benchmarkName(operation.name, shape.name, size).c_str(),
             [&operation, &shape, size](benchmark::State& state) {
                 measureText(state, operation, inputOf(shape, operation.stage, size));
             });
     }
     registerDecks(kDeckOperations, shape, size);
+}
+
+void registerNestedWrite(std::size_t size)
+{
+    benchmark::RegisterBenchmark(benchmarkName("StandardWriteDeck", "nested", size).c_str(),
+        [size](benchmark::State& state) { measureNestedWrite(state, size); });
 }
 
 } // namespace
@@ -226,6 +256,8 @@ int main(int argc, char** argv)
         for (const auto size : quillmere::bench::kStandardSizes)
             quillmere::bench::registerDecks(quillmere::bench::kStandardOperations, shape, size);
     }
+    for (const auto size : quillmere::bench::kStandardSizes)
+        quillmere::bench::registerNestedWrite(size);
     benchmark::Initialize(&argc, argv);
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 1;
     benchmark::RunSpecifiedBenchmarks();

@@ -23,15 +23,27 @@ std::vector<PlacedMend> placed(std::vector<WmlMend> mends, const DeckBytes& deck
     return result;
 }
 
+/// The decks were compared as Windows-1252, in which characters may be references.
+void placeInFiles(DeckChangesReport& report, const DeckBytes& read, const DeckBytes& written)
+{
+    if (report.changes.empty()) return;
+    const DecodedPlaces readPlaces(read);
+    const DecodedPlaces writtenPlaces(written);
+    for (DeckChange& change : report.changes) {
+        if (change.readAt) change.readAt = readPlaces.inDeck(*change.readAt);
+        if (change.writtenAt) change.writtenAt = writtenPlaces.inDeck(*change.writtenAt);
+    }
+}
+
 } // namespace
 
 StandardRepair repairStandard(const std::string& bytes)
 {
     auto repaired = repairFile(bytes);
-    const DeckBytes deck(bytes);
     StandardRepair result;
-    result.read = deck.decoded(deck.text());
-    if (!repaired.mends.empty()) result.mends = placed(std::move(repaired.mends), deck);
+    result.deck = DeckBytes(bytes);
+    result.read = result.deck.decoded(result.deck.text());
+    if (!repaired.mends.empty()) result.mends = placed(std::move(repaired.mends), result.deck);
     result.written = std::move(repaired.bytes);
     result.fault = deckFault(DeckBytes(result.written).text());
     return result;
@@ -39,8 +51,9 @@ StandardRepair repairStandard(const std::string& bytes)
 
 DeckChangesReport changesOf(const StandardRepair& repair)
 {
-    const DeckBytes deck(repair.written);
-    DeckChangesReport report = DeckChanges(repair.read, deck.decoded(deck.text()));
+    const DeckBytes written(repair.written);
+    DeckChangesReport report = DeckChanges(repair.read, written.decoded(written.text()));
+    placeInFiles(report, repair.deck, written);
     report.fault = repair.fault;
     report.stable = repairFile(repair.written).bytes == repair.written;
     return report;

@@ -2,6 +2,7 @@
 
 #include "document/changes/deck_changes.h"
 #include "document/text/text_place.h"
+#include "document/wml/deck_bytes.h"
 #include "document/wml/wml_mends.h"
 
 #include <optional>
@@ -18,8 +19,9 @@ struct PlacedMend {
 };
 
 struct StandardRepair {
+    DeckBytes deck; ///< that was read
     std::string written; ///< the bytes of the file
-    std::string read; ///< the deck's text, Windows-1252
+    std::string read; ///< the text of `deck`, Windows-1252
     std::vector<PlacedMend> mends;
     std::optional<DeckFault> fault; ///< of what is written; there should be none
 };

@@ -149,22 +149,24 @@ std::optional<AcceptDo> acceptDoIn(std::string_view text, const DocumentSession&
         begin, losesNothing(session) ? std::min(text.find("-->", begin), end) : end, end};
 }
 
-/// Sets an attribute of the jump; a missing one is put in behind the type.
-void setDoAttribute(
-    std::string& text, const DocumentSession& session, std::string_view key, std::string_view value)
+/// Sets an attribute of the jump, whose ends move with it; a missing one is put in behind the type.
+void setDoAttribute(std::string& text, AcceptDo& jump, std::string_view key, std::string_view value)
 {
-    const auto jump = *acceptDoIn(text, session);
+    const auto sizeBefore = text.size();
     if (const auto old = attributeIn(text, jump, key))
         text.replace(old->begin, old->end - old->begin, value);
     else
         text.insert(jump.begin + kAcceptDo.size(), attribute(key, value).append(" "));
+    if (jump.end == jump.begin) return;
+    jump.behindAttributes = jump.behindAttributes + text.size() - sizeBefore;
+    jump.end = jump.end + text.size() - sizeBefore;
 }
 
-void changeJump(std::string& text, const DocumentSession& session, const Jump& jump, bool keepsName)
+void changeJump(std::string& text, AcceptDo found, const Jump& jump, bool keepsName)
 {
-    setDoAttribute(text, session, "label=", jump.label);
-    if (!keepsName) setDoAttribute(text, session, "name=", jump.name);
-    if (const auto old = targetIn(text, *acceptDoIn(text, session)))
+    setDoAttribute(text, found, "label=", jump.label);
+    if (!keepsName) setDoAttribute(text, found, "name=", jump.name);
+    if (const auto old = targetIn(text, found))
         text.replace(old->begin, old->end - old->begin, jump.target);
 }
 
@@ -227,8 +229,8 @@ void SetJump(DocumentSession& session, std::size_t areaIndex, const Jump& jump)
     auto text = ReadDesignText(session, areaIndex);
     const Jump named{
         unusedJumpName(text, jump.name, losesNothing(session)), jump.label, jump.target};
-    if (acceptDoIn(text, session))
-        changeJump(text, session, named, losesNothing(session) && jump.name.empty());
+    if (const auto found = acceptDoIn(text, session))
+        changeJump(text, *found, named, losesNothing(session) && jump.name.empty());
     else
         insertJump(text, named);
     WriteDesignText(session, areaIndex, text);

@@ -33,11 +33,6 @@ std::string_view viewOf(const QByteArray& bytes)
     return {bytes.data(), static_cast<std::size_t>(bytes.size())};
 }
 
-QFont smallFont(const SurfaceStyle& style, int percent)
-{
-    return pageFont(style, std::max(9, style.fontSizePx * percent / 100));
-}
-
 // Not by a cursor: those lay out the document, which asks for the sizes of objects.
 bool isMarker(const QTextBlock& block, int position)
 {

@@ -26,13 +26,6 @@ constexpr double kFrameEndPx = 12; // the height of the line that ends a group o
 constexpr double kShortLinePx = 40;
 constexpr double kQuiet = 0.75; // of the ink
 
-QFont smallFont(const SurfaceStyle& style, int percent, QFont::Weight weight)
-{
-    auto font = pageFont(style, std::max(9, style.fontSizePx * percent / 100));
-    font.setWeight(weight);
-    return font;
-}
-
 bool isAtom(std::string_view source)
 {
     return source.starts_with("<!--#");
@@ -192,6 +185,13 @@ void drawFrame(QPainter& painter, const FieldGroup& group, const SurfaceStyle& s
 }
 
 } // namespace
+
+QFont smallFont(const SurfaceStyle& style, int percent, QFont::Weight weight)
+{
+    auto font = pageFont(style, std::max(9, style.fontSizePx * percent / 100));
+    font.setWeight(weight);
+    return font;
+}
 
 QSizeF markerSize(
     std::string_view source, const SurfaceStyle& style, std::optional<double> lineWidth)

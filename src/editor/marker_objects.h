@@ -3,6 +3,7 @@
 #include "editor/page/surface_page.h"
 #include "editor/surface_style.h"
 
+#include <QFont>
 #include <QPainter>
 #include <QTextDocument>
 
@@ -12,6 +13,11 @@
 // How chips, the fields of inputs and the ends of groups look.
 
 namespace quillmere {
+
+/// The font of words that objects show: so many percent of the page's size, and never too small to
+/// be read.
+[[nodiscard]] QFont smallFont(
+    const SurfaceStyle& style, int percent, QFont::Weight weight = QFont::Normal);
 
 /// The size of an item with this source. `lineWidth` is that of the lines of the page, in which the
 /// end of a group has a line of its own; nullopt in a table, where lines are as long as their text.

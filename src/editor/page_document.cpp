@@ -10,6 +10,7 @@
 #include <QTextCursor>
 #include <QTextTable>
 
+#include <algorithm>
 #include <vector>
 
 namespace quillmere {
@@ -159,9 +160,9 @@ CaretPosition positionOf(const QTextDocument& document, PagePlace place)
 bool isLineNextToTable(const SurfacePage& page, std::size_t block)
 {
     if (itemCount(page.blocks[block]) > 0) return false;
-    for (const auto& table : page.tables)
-        if (table.blockAhead == block || table.blockBehind == block) return true;
-    return false;
+    return std::ranges::any_of(page.tables, [block](const PageTable& table) {
+        return table.blockAhead == block || table.blockBehind == block;
+    });
 }
 
 void setCaretInBlock(QTextDocument& document, const SurfacePage& page, std::size_t block,

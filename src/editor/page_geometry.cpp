@@ -68,8 +68,8 @@ QRectF tableRect(const QTextDocument& document, const SurfacePage& page, std::si
     const auto format = shown->format();
     const auto corner = format.cellPadding() + format.cellSpacing();
     const auto told = layoutOf(document).frameBoundingRect(shown);
-    return QRectF(
-        told.topLeft() - QPointF(corner, corner), told.size() - QSizeF(0, format.bottomMargin()));
+    return {
+        told.topLeft() - QPointF(corner, corner), told.size() - QSizeF(0, format.bottomMargin())};
 }
 
 TableLines tableLines(const QTextDocument& document, const SurfacePage& page, std::size_t table)
@@ -79,7 +79,7 @@ TableLines tableLines(const QTextDocument& document, const SurfacePage& page, st
     TableLines lines;
     lines.rows.resize(static_cast<std::size_t>(shown.rows) + 1, outer.bottom() - kTableLinePx);
     lines.columns.resize(static_cast<std::size_t>(shown.columns) + 1, outer.right() - kTableLinePx);
-    const auto first = textTable(document, shown);
+    auto* const first = textTable(document, shown);
     if (first == nullptr) return lines;
     const auto ahead = first->format().cellPadding() + first->format().cellSpacing();
     for (const auto& cell : page.cells) {

@@ -12,7 +12,7 @@ namespace quillmere {
 namespace {
 
 constexpr int kMaxSidePx = 4096;
-constexpr qint64 kMaxFileBytes = 64 * 1024 * 1024;
+constexpr qint64 kMaxFileBytes = qint64{64} * 1024 * 1024;
 
 QImage readPicture(QIODevice& file)
 {

@@ -19,7 +19,7 @@ std::optional<int> leadingNumber(std::string_view text)
     if (begin == npos) return std::nullopt;
     text.remove_prefix(begin);
     int number = 0;
-    const auto end = text.data() + text.size();
+    const auto* const end = text.data() + text.size();
     if (std::from_chars(text.data(), end, number).ec != std::errc()) return std::nullopt;
     if (number < 0 || number > kMaxSidePx) return std::nullopt;
     return number;

@@ -4,6 +4,7 @@
 
 #include "editor/page/splice_list.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace quillmere {
@@ -34,11 +35,11 @@ void SurfaceUndo::clear()
 
 SurfaceUndo::State SurfaceUndo::make(const Step& step, State state, Step& opposite)
 {
-    for (auto edit = step.rbegin(); edit != step.rend(); ++edit) {
-        opposite.push_back(reverse(state.text, *edit, state.caret));
-        state.text = spliced(state.text, edit->splices); // as it was, however long
-        state.caret = edit->caret;
-    }
+    std::for_each(step.rbegin(), step.rend(), [&](const SurfaceEdit& edit) {
+        opposite.push_back(reverse(state.text, edit, state.caret));
+        state.text = spliced(state.text, edit.splices); // as it was, however long
+        state.caret = edit.caret;
+    });
     return state;
 }
 

@@ -40,8 +40,8 @@ bool isDark(const QColor& colour)
 QColor blended(const QColor& from, const QColor& to, double share)
 {
     const auto part = [share](int a, int b) { return int(std::lround(a + (b - a) * share)); };
-    return QColor(
-        part(from.red(), to.red()), part(from.green(), to.green()), part(from.blue(), to.blue()));
+    return {
+        part(from.red(), to.red()), part(from.green(), to.green()), part(from.blue(), to.blue())};
 }
 
 Theme themeOf(const SkinRecord& skin)

@@ -14,7 +14,7 @@
 
 #include <QApplication>
 
-#include <cstdio>
+#include <iostream>
 
 namespace quillmere {
 namespace {
@@ -45,7 +45,7 @@ int run(const QStringList& arguments)
         return 0;
     }
     if (!shots && arguments.size() == 2) return showArea(arguments.at(1));
-    std::fputs("quillmere-gallery FILE | --shots DIR [SAMPLES]\n", stderr);
+    std::cerr << "quillmere-gallery FILE | --shots DIR [SAMPLES]\n";
     return 2;
 }
 
@@ -58,7 +58,7 @@ int main(int argumentCount, char** arguments)
     try {
         return quillmere::run(QApplication::arguments());
     } catch (const quillmere::Failure& failure) {
-        std::fprintf(stderr, "%s\n", quillmere::toUtf8(failure.description()).c_str());
+        std::cerr << quillmere::toUtf8(failure.description()) << '\n';
         return 1;
     }
 }

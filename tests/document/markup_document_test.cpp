@@ -99,6 +99,23 @@ TEST(WellFormedness, FirstFaultAndItsPlace)
     }
 }
 
+TEST(WellFormedness, NamesAreThoseOfTheEncoding)
+{
+    const std::string declared = "<?xml version='1.0' encoding='";
+    const struct {
+        bool isWellFormed;
+        std::string text;
+    } rows[] = {{true, "<a><\xC3\xA4\xE6\x97\xA5-\xC2\xB7 \xCE\xB1='x'/></a>"},
+        {false, "<a><\xC3\x97/></a>"}, {false, "<a b\xE2\x88\x92='x'/>"},
+        {false, "<a><\xCC\x80/></a>"}, {true, "<a\xCC\x80/>"}, {true, "<a\xF0\x90\x80\x80/>"},
+        {true, "<!DOCTYPE a SYSTEM 'a'><a>&\xC3\xA4;</a>"},
+        {true, declared + "windows-1252'?><\x8A\xE4/>"},
+        {false, declared + "iso-8859-1'?><a\xD7/>"}, {true, declared + "koi8-r'?><a\xF7/>"},
+        {true, declared + "iso-8859-15'?><\xA6/>"}};
+    for (const auto& row : rows)
+        EXPECT_EQ(!firstFault(row.text, readMarkup(row.text)), row.isWellFormed) << row.text;
+}
+
 void expectVerdictOfReader(const std::string& text, const MarkupVerdict& verdict)
 {
     const auto fault = firstFault(text, readMarkup(text));

@@ -18,9 +18,10 @@ using Kind = PageElement::Kind;
 constexpr auto kTyped = std::to_array<std::u16string_view>({u"a", u"Z", u" ", u" ", u"  ", u"x y",
     u"\n", u"&", u"<", u">", u"l", u"amp;", u"65", u";", u"#", u"\u00A0", u"\u20AC", u"\u2212"});
 constexpr auto kMarkup = std::to_array<std::string_view>(
-    {"<b>x</b>", "x", "<br/>", "<!--go/-->", "<a href=\"#\">x</a>", "<img src=\"x\"></img>",
-        "<table><tr><td>x</td></tr></table>", "<!--option--><input type=radio>x<!--/option-->",
-        "<!--#x y-->", "<!--fieldset--><!--/fieldset-->"});
+    {"<b>x</b>", "x", "<br/>", "<!--go/-->", "<a href=\"#\">x</a>",
+        "<img src=\"x\" alt=\"y\"></img>", "<table columns=\"1\"><tr><td>x</td></tr></table>",
+        "<!--option--><input type=radio>x<!--/option-->", "<!--#x y-->",
+        "<!--fieldset--><!--/fieldset-->"});
 
 bool covers(const SurfaceEdit& edit, SourceRange piece)
 {
@@ -200,7 +201,27 @@ private:
         while (behind < page_.items.size() - ahead
             && page_.items[page_.items.size() - 1 - behind].source.begin >= touched.end)
             ++behind;
-        return startsAlike(ahead) && endsAlike(behind);
+        return mayComeElsewhere() ? comeInOrder(ahead, behind)
+                                  : startsAlike(ahead) && endsAlike(behind);
+    }
+
+    /// Markup that may not stand at the place goes behind elements round it.
+    [[nodiscard]] bool mayComeElsewhere() const
+    {
+        return tried_.operation == Operation::Paste && page_.rules.losesNothing();
+    }
+
+    [[nodiscard]] bool comeInOrder(std::size_t ahead, std::size_t behind) const
+    {
+        auto now = after_.items.begin();
+        for (std::size_t i = 0; i < page_.items.size(); ++i) {
+            if (i >= ahead && i < page_.items.size() - behind) continue;
+            now = std::find_if(now, after_.items.end(),
+                [&](const PageItem& item) { return looksLike(item, page_.items[i]); });
+            if (now == after_.items.end()) return mayTakeOptions();
+            ++now;
+        }
+        return true;
     }
 
     /// Of the items ahead of the places, those of an option may go with its radio button, and one
@@ -241,7 +262,7 @@ private:
     [[nodiscard]] bool isLocal() const
     {
         // a format may reach beyond the paragraph, and a group of fields as well
-        if (tried_.keepsItems() || takesGroup()) return true;
+        if (tried_.keepsItems() || takesGroup() || mayComeElsewhere()) return true;
         if (page_.blocks[from_.block].cell != page_.blocks[to_.block].cell) return true;
         const auto first = frameOf(blockBefore(from_.block)).begin;
         const auto last = frameOf(blockBehind(to_.block)).end;

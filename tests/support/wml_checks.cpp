@@ -47,27 +47,11 @@ std::string lostOf(const std::string& letters, const std::string& all)
     return letters.substr(at);
 }
 
-/// Each byte beyond ASCII as two letters, so that names that differ still do.
-std::string inAscii(const std::string& deck)
-{
-    std::string text;
-    for (const char character : deck) {
-        const auto byte = static_cast<unsigned char>(character);
-        if (byte < 0x80)
-            text += character;
-        else
-            text.append({static_cast<char>('A' + byte / 16), static_cast<char>('a' + byte % 16)});
-    }
-    return text;
-}
-
-/// "" for a well-formed deck. Which letters beyond ASCII a name may have the judge does not know.
+/// "" for a well-formed deck.
 std::string faultOf(const std::string& deck)
 {
     const auto fault = deckFault(deck);
-    if (!fault || fault->fault == MarkupFault::CharacterBeyondEncoding)
-        return fault ? describeFault(*fault) : "";
-    return deckFault(inAscii(deck)) ? describeFault(*fault) : "";
+    return fault ? describeFault(*fault) : "";
 }
 
 /// Whether both readers see the same tokens: of faults in declarations the judge knows little.

@@ -3,10 +3,8 @@
 
 #include "document/changes/character_references.h"
 
-#include "document/changes/markup_document.h"
 #include "document/text/windows1252.h"
 
-#include <algorithm>
 #include <charconv>
 #include <optional>
 
@@ -57,13 +55,8 @@ std::string inWindows1252(char32_t point)
     return kept.append(std::to_string(static_cast<std::uint32_t>(point))).append(";");
 }
 
-bool isName(std::string_view text)
-{
-    return !text.empty() && beginsName(text.front())
-        && std::all_of(text.begin(), text.end(), continuesName);
-}
-
-DecodedCharacter decodeReference(std::string_view name) // what stands between '&' and ';'
+/// `name` is what stands between '&' and ';'.
+DecodedCharacter decodeReference(std::string_view name, MarkupBytes bytes)
 {
     const auto length = name.size() + 2;
     if (name.starts_with('#')) {
@@ -74,19 +67,19 @@ DecodedCharacter decodeReference(std::string_view name) // what stands between '
     for (const auto& entity : kEntities) {
         if (entity.name == name) return {Form::Known, length, inWindows1252(entity.point)};
     }
-    if (!isName(name)) return {Form::Broken, 1, "&"};
+    if (name.empty() || nameLength(name, bytes) != name.size()) return {Form::Broken, 1, "&"};
     return {Form::Unknown, length, kKeptReference + std::string(name) + ";"};
 }
 
 } // namespace
 
-DecodedCharacter decodeCharacter(std::string_view text, std::size_t offset)
+DecodedCharacter decodeCharacter(std::string_view text, std::size_t offset, MarkupBytes bytes)
 {
     if (text[offset] != '&') return {Form::Plain, 1, std::string(1, text[offset])};
     const auto rest = text.substr(offset + 1, kLongestReference);
     const auto end = rest.find(';');
     if (end == std::string_view::npos) return {Form::Broken, 1, "&"};
-    return decodeReference(rest.substr(0, end));
+    return decodeReference(rest.substr(0, end), bytes);
 }
 
 std::string decodeReferences(std::string_view text)

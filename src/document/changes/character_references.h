@@ -1,5 +1,7 @@
 #pragma once
 
+#include "document/changes/markup_names.h"
+
 #include <cstddef>
 #include <string>
 #include <string_view>
@@ -20,8 +22,9 @@ inline constexpr char kKeptReference = '\x01';
 
 /// The character at `offset`, which must lie within `text`. References that XML 1.0 and WML 1.1
 /// define are undone; a character that Windows-1252 has not is kept as a decimal reference and an
-/// unknown entity by its name, both with kKeptReference.
-[[nodiscard]] DecodedCharacter decodeCharacter(std::string_view text, std::size_t offset);
+/// unknown entity by its name, both with kKeptReference. `bytes` tells which names there are.
+[[nodiscard]] DecodedCharacter decodeCharacter(
+    std::string_view text, std::size_t offset, MarkupBytes bytes = MarkupBytes::Windows1252);
 
 /// All of `text` decoded, for example the value of an attribute.
 [[nodiscard]] std::string decodeReferences(std::string_view text);

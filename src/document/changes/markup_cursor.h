@@ -2,6 +2,7 @@
 
 #include "document/changes/markup_document.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <string_view>
 
@@ -12,6 +13,7 @@ struct MarkupCursor {
     explicit MarkupCursor(std::string_view markup)
         : text(markup)
     {
+        document.bytes = markupBytesOf(markup);
     }
 
     std::string_view text;
@@ -31,14 +33,21 @@ struct MarkupCursor {
             ++at;
     }
 
+    /// Whether a name begins at `offset`.
+    [[nodiscard]] bool beginsNameAt(std::size_t offset) const
+    {
+        const auto rest = text.substr(std::min(offset, text.size()));
+        if (rest.empty() || static_cast<unsigned char>(rest.front()) < 0x80)
+            return !rest.empty() && beginsName(rest.front());
+        return wideNameCharacter(rest, document.bytes, true) != 0;
+    }
+
     /// Passes over a name; "" where none begins.
     std::string_view takeName()
     {
-        const auto begin = at;
-        if (!beginsName(peek())) return {};
-        while (continuesName(peek()))
-            ++at;
-        return text.substr(begin, at - begin);
+        const auto name = text.substr(at, nameLength(text.substr(at), document.bytes));
+        at += name.size();
+        return name;
     }
 
     /// Keeps a fault if it is the first one.

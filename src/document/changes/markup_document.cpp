@@ -47,7 +47,7 @@ private:
     {
         if (in_.text[at] != '<' || at + 1 >= in_.text.size()) return false;
         const char next = in_.text[at + 1];
-        return next == '/' || next == '!' || next == '?' || beginsName(next);
+        return next == '/' || next == '!' || next == '?' || in_.beginsNameAt(at + 1);
     }
 
     void add(Kind kind, std::size_t begin, std::string_view name, std::string_view content)

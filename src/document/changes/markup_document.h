@@ -1,6 +1,7 @@
 #pragma once
 
-#include <array>
+#include "document/changes/markup_names.h"
+
 #include <cstddef>
 #include <optional>
 #include <span>
@@ -72,6 +73,7 @@ struct MarkupDocument {
     std::vector<MarkupToken> tokens;
     std::vector<MarkupAttribute> attributes;
     std::optional<MarkupFaultAt> firstFault; ///< within tags, comments and the like
+    MarkupBytes bytes = MarkupBytes::Utf8; ///< of the text
 
     [[nodiscard]] std::span<const MarkupAttribute> attributesOf(const MarkupToken& token) const
     {
@@ -86,32 +88,6 @@ struct MarkupDocument {
 [[nodiscard]] constexpr bool isMarkupSpace(char character)
 {
     return character == ' ' || character == '\t' || character == '\r' || character == '\n';
-}
-
-/// Characters that may begin a name (Windows-1252), and those that may stand in it.
-inline constexpr auto kNameCharacters = [] {
-    struct {
-        std::array<bool, 256> beginning{};
-        std::array<bool, 256> continuing{};
-    } names;
-    for (unsigned code = 0; code < 256; ++code) {
-        const bool letter = (code >= 'a' && code <= 'z') || (code >= 'A' && code <= 'Z')
-            || (code >= 0xC0 && code != 0xD7 && code != 0xF7);
-        names.beginning[code] = letter || code == '_' || code == ':';
-        names.continuing[code] = names.beginning[code] || (code >= '0' && code <= '9')
-            || code == '-' || code == '.' || code == 0xB7;
-    }
-    return names;
-}();
-
-[[nodiscard]] constexpr bool beginsName(char character)
-{
-    return kNameCharacters.beginning[static_cast<unsigned char>(character)];
-}
-
-[[nodiscard]] constexpr bool continuesName(char character)
-{
-    return kNameCharacters.continuing[static_cast<unsigned char>(character)];
 }
 
 } // namespace quillmere

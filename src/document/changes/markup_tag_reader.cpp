@@ -48,8 +48,9 @@ bool MarkupTagReader::readAttribute(Kind kind, std::size_t tagBegin, std::string
     in_.skipSpace();
     if (in_.atEnd() || in_.peek() == '>' || in_.peek() == '<') return false;
     if (kind == Kind::Start && in_.peek() == '/' && in_.peek(1) == '>') return false;
-    if (!beginsName(in_.peek()) || kind == Kind::End) in_.note(MarkupFault::BadTag, tagBegin, tag);
-    if (!beginsName(in_.peek())) {
+    const bool isName = in_.beginsNameAt(in_.at);
+    if (!isName || kind == Kind::End) in_.note(MarkupFault::BadTag, tagBegin, tag);
+    if (!isName) {
         ++in_.at;
         return true;
     }

@@ -137,7 +137,7 @@ private:
     void checkReferences(std::string_view content)
     {
         for (auto at = content.find('&'); at != kNowhere; at = content.find('&', at + 1)) {
-            const auto reference = decodeCharacter(content, at);
+            const auto reference = decodeCharacter(content, at, document_.bytes);
             const auto offset = offsetOf(content.data()) + at;
             if (reference.form == Form::Broken) return note(MarkupFault::BadReference, offset);
             if (!isDeclared(reference, content.substr(at, reference.length)))
@@ -184,23 +184,14 @@ private:
     std::optional<MarkupFaultAt> fault_;
 };
 
-/// Whether the bytes are to be read as one character each.
-bool declaresSingleBytes(const MarkupDocument& document)
-{
-    if (document.tokens.empty() || document.tokens.front().name != "xml") return false;
-    const auto declaration = lowerCase(document.tokens.front().content);
-    return declaration.find("encoding") != kNowhere && declaration.find("utf") == kNowhere;
-}
-
 std::optional<MarkupFaultAt> characterFault(std::string_view text, const MarkupDocument& document)
 {
     if (isPlainText(text)) return std::nullopt;
-    const bool isReadable = declaresSingleBytes(document) || validUtf8(text) == text;
     for (std::size_t at = 0; at < text.size(); ++at) {
         const auto code = static_cast<unsigned char>(text[at]);
         if (code < 0x20 && !isMarkupSpace(text[at]))
             return MarkupFaultAt{MarkupFault::BadCharacter, at, {}};
-        if (code >= 0x80 && !isReadable)
+        if (code >= 0x80 && document.bytes == MarkupBytes::Undeclared)
             return MarkupFaultAt{MarkupFault::CharacterBeyondEncoding, at, {}};
     }
     return std::nullopt;

@@ -1,23 +1,13 @@
 #pragma once
 
-#include "document/standard/deck_manner.h"
-#include "document/standard/opened_card.h"
+#include "document/standard/deck_of_cards.h"
 #include "document/standard/token_writer.h"
 
-#include <cstddef>
 #include <string_view>
 
 // A card as it is now, out of the card as it was opened.
 
 namespace quillmere {
-
-/// What cards are changed against.
-struct DeckOfCards {
-    const DeckTokens& tokens;
-    const DeckBytes& bytes;
-    const DeckManner& manner;
-    const PictureRoads& roads;
-};
 
 /// Writes the card whose design text is now `design`, and tells whether it is other than it was.
 /// `opened` is null for a new area. What was not touched is written with the tokens that it had;

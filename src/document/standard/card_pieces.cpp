@@ -35,8 +35,8 @@ bool isMarkerOfCard(const DesignPiece& piece)
 Pieces readCard(std::string_view design, const DesignPiece& lostMarker)
 {
     auto pieces = readDesignPieces(design);
-    while (!pieces.empty() && pieces.front().kind == Kind::Space)
-        pieces.erase(pieces.begin());
+    const auto isSpace = [](const DesignPiece& piece) { return piece.kind == Kind::Space; };
+    pieces.erase(pieces.begin(), std::ranges::find_if_not(pieces, isSpace));
     const auto marker = std::ranges::find_if(pieces, isMarkerOfCard);
     if (marker == pieces.end())
         pieces.insert(pieces.begin(), lostMarker);

@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <set>
+#include <unordered_map>
 
 namespace quillmere {
 
@@ -14,11 +15,24 @@ namespace {
 
 using Attributes = std::span<const DeckAttribute>;
 
-const DeckAttribute* find(Attributes attributes, std::string_view name)
-{
-    const auto found = std::ranges::find(attributes, name, &DeckAttribute::name);
-    return found == attributes.end() ? nullptr : &*found;
-}
+/// Attributes by their names; of two with one name the first.
+class NamedAttributes {
+public:
+    explicit NamedAttributes(Attributes attributes)
+    {
+        for (const auto& attribute : attributes)
+            byName_.emplace(attribute.name, &attribute);
+    }
+    /// Null for one that there is not.
+    [[nodiscard]] const DeckAttribute* find(std::string_view name) const
+    {
+        const auto found = byName_.find(name);
+        return found == byName_.end() ? nullptr : found->second;
+    }
+
+private:
+    std::unordered_map<std::string_view, const DeckAttribute*> byName_;
+};
 
 bool isWritten(WmlElement element, const DeckAttribute& attribute)
 {
@@ -89,14 +103,16 @@ std::string changedTag(std::string_view source, WmlElement element, Attributes t
     const DeckBytes& deck, const DeckManner& manner)
 {
     TagWriter result(deck, manner);
+    const NamedAttributes before(then);
+    const NamedAttributes after(now);
     std::set<std::string> written;
     const auto* copied = source.data() + nameLength(source);
     result.append({source.data(), copied});
     for (const auto& attribute : attributesOf(source)) {
         const auto name = deck.decoded(attribute.name);
         written.insert(name);
-        const auto* const wanted = find(now, name);
-        const auto* const shown = find(then, name);
+        const auto* const wanted = after.find(name);
+        const auto* const shown = before.find(name);
         const auto* const end = attribute.source.data() + attribute.source.size();
         const std::string_view ahead(copied, attribute.source.data());
         if (wanted == nullptr) {
@@ -111,7 +127,7 @@ std::string changedTag(std::string_view source, WmlElement element, Attributes t
         copied = end;
     }
     for (const auto& attribute : now) {
-        const auto* const shown = find(then, attribute.name);
+        const auto* const shown = before.find(attribute.name);
         const bool isSame = shown != nullptr && *shown == attribute;
         if (isSame || written.contains(attribute.name) || !isWritten(element, attribute)) continue;
         result.appendNew(attribute);

@@ -54,8 +54,8 @@ private:
         TagPattern pattern; // as it is made here every code fits
         std::size_t index = count;
     };
-    std::array<Entry, 2 * count + 1>
-        entries_{}; // each bucket with one that every code fits as its end
+    // Each bucket has one that every code fits as its end.
+    std::array<Entry, 2 * count + 1> entries_{};
     std::array<std::uint8_t, 4 * 32> first_{}; // the first entry of each bucket
     std::size_t longest_ = 0; // number of keys in a bucket
     static_assert(2 * count < 0x100);

@@ -53,7 +53,7 @@ bool beginsName(char32_t point)
 {
     const bool isMark
         = point == 0xB7 || (point >= 0x300 && point <= 0x36F) || point == 0x203F || point == 0x2040;
-    return !isMark && continuesName(point) && (point > '9' || point == ':');
+    return !isMark && continuesName(point) && point > '9';
 }
 
 } // namespace

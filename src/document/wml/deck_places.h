@@ -4,6 +4,7 @@
 #include "document/wml/deck_bytes.h"
 
 #include <cstddef>
+#include <vector>
 
 namespace quillmere {
 
@@ -19,6 +20,24 @@ private:
     TextPlaces lines_;
     std::size_t reached_ = 0; ///< an offset
     std::size_t column_ = 1; ///< its column
+};
+
+/// Turns places in the decoded text of a deck, where each character that Windows-1252 has not is a
+/// reference of several, into those in the deck.
+class DecodedPlaces {
+public:
+    explicit DecodedPlaces(const DeckBytes& deck);
+    /// `decoded` lies within no such reference.
+    [[nodiscard]] TextPlace inDeck(TextPlace decoded) const;
+
+private:
+    struct Reference {
+        TextPlace decoded;
+        std::size_t surplus = 0; ///< the columns up to its end that its line of the deck has not
+    };
+    void add(TextPlace decoded, std::size_t surplus);
+
+    std::vector<Reference> references_; ///< in the order of the text
 };
 
 } // namespace quillmere

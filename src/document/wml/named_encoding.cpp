@@ -21,7 +21,8 @@ constexpr char kEscape = '\x1B';
 std::shared_ptr<void> openConversion(const std::string& to, const std::string& from)
 {
     iconv_t conversion = iconv_open(to.c_str(), from.c_str());
-    if (conversion == reinterpret_cast<iconv_t>(-1)) return nullptr; // how iconv says so
+    // How iconv says so. NOLINTNEXTLINE(performance-no-int-to-ptr)
+    if (conversion == reinterpret_cast<iconv_t>(-1)) return nullptr;
     return {conversion, [](void* open) { iconv_close(open); }};
 }
 

@@ -57,7 +57,8 @@ enum class SurfaceLook : std::uint8_t {
     Aside, ///< not at all: it belongs to the deck and to no card
 };
 
-struct WmlElementRule {
+// In the order in which the rows read best.
+struct WmlElementRule { // NOLINT(clang-analyzer-optin.performance.Padding)
     WmlElement element = WmlElement::Other;
     std::string_view name;
     SurfaceLook look = SurfaceLook::Marker;

@@ -77,15 +77,22 @@ bool isMarked(const PageItem& item, SourceRange marked)
     return item.source.begin < marked.end && item.source.end > marked.begin;
 }
 
-/// Whether the rules of WML allow a link where all of the marked items stand: in no entry of a
-/// list, and not over the end of one.
+/// Whether an element that is no format begins or ends within a range.
+bool partsRange(const PageElement& element, SourceRange range)
+{
+    const bool isAround = element.start.end <= range.begin && element.end.begin >= range.end;
+    const bool isApart = element.end.end <= range.begin || element.start.begin >= range.end;
+    return element.kind != PageElement::Kind::Format && !isAround && !isApart;
+}
+
+/// Whether the rules of WML allow a link round what is marked: in no entry of a list, and not over
+/// the end of one.
 bool mayHoldLink(const SurfacePage& page, SourceRange marked)
 {
     const auto parent = elementAround(page, marked);
     return (parent == WmlElement::Card || mayContain(parent, WmlElement::Link))
-        && std::ranges::all_of(page.items, [&](const PageItem& item) {
-               return !isMarked(item, marked) || elementAround(page, item.source) == parent;
-           });
+        && std::ranges::none_of(page.elements,
+            [marked](const PageElement& element) { return partsRange(element, marked); });
 }
 
 std::string startTag(const LinkSettings& link, std::string_view otherAttributes = {})

@@ -8,6 +8,7 @@
 #include "editor/elements/format_tags.h"
 #include "editor/elements/page_lines.h"
 #include "editor/page/attribute_values.h"
+#include "editor/page/card_head.h"
 #include "editor/page/markup_tags.h"
 
 #include <algorithm>
@@ -108,7 +109,9 @@ private:
     /// paragraph's border takes its place.
     void wrap(std::size_t first, std::size_t end)
     {
-        const auto lines = SourceRange{lines_[first].source.begin, lines_[end - 1].source.end};
+        auto lines = SourceRange{lines_[first].source.begin, lines_[end - 1].source.end};
+        if (page_.rules.losesNothing()) // events may stand ahead of text without a paragraph
+            lines.begin = std::min(std::max(lines.begin, headOf(page_).end), lines.end);
         const auto [begin, last] = page_.rules.losesNothing() ? withoutHalves(lines) : lines;
         if (begin >= last && !lines.empty()) return;
         const bool takesBreakAhead = first > 0 && begin == lines.begin && hasBreakBetween(first);

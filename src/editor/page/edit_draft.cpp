@@ -129,10 +129,33 @@ void EditDraft::putText(std::u16string_view typed)
 void EditDraft::putMarkup(std::string_view markup)
 {
     shown_.reset();
-    if (standsAside() && !needsNoParagraph(markup, page_.rules))
-        putAsParagraph(std::string(markup));
+    const auto& part = parts_.front();
+    FittingMarkup fitting{{{part.pasteAt, std::string(markup)}}, {}};
+    if (page_.rules.losesNothing())
+        fitting = fittingMarkup(page_, part.pasteAt, part.round, markup);
+    const auto& here = fitting.here.front().markup;
+    if (standsAside() && !here.empty() && !needsNoParagraph(here, page_.rules))
+        putAsParagraph(here);
     else
-        changes_.insert(parts_.front().pasteAt, std::string(markup));
+        for (auto& piece : fitting.here)
+            changes_.insert(piece.offset, std::move(piece.markup));
+    elsewhere_ = std::move(fitting.elsewhere);
+}
+
+/// The caret is an offset behind the changes alone.
+SurfaceEdit EditDraft::withElsewhere(SpliceList changes, std::size_t caret) const
+{
+    if (elsewhere_.empty()) return {std::move(changes).take(), caret};
+    SpliceList all;
+    for (const auto& placed : elsewhere_) {
+        all.insert(placed.offset, placed.markup);
+        if (placed.offset <= parts_.front().pasteAt) caret += placed.markup.size();
+    }
+    all.append(changes);
+    SurfaceEdit edit{std::move(all).take()};
+    const auto after = readSurfacePage(spliced(page_.text, edit.splices), page_.rules);
+    edit.caret = offsetAt(after, placeAt(after, caret));
+    return edit;
 }
 
 SurfaceEdit EditDraft::finish() const
@@ -143,9 +166,9 @@ SurfaceEdit EditDraft::finish() const
         SpliceList changes = changes_;
         for (const auto& part : parts_)
             addGuard(changes, page_, part.run, guard);
-        SurfaceEdit edit{std::move(changes).take()};
-        const auto after = readSurfacePage(spliced(page_.text, edit.splices), page_.rules);
-        edit.caret = offsetAt(after, caretOn(after));
+        const auto after
+            = readSurfacePage(spliced(page_.text, SpliceList(changes).take()), page_.rules);
+        auto edit = withElsewhere(std::move(changes), offsetAt(after, caretOn(after)));
         if (isAsWanted(after)) return edit;
         if (!unguarded) unguarded = std::move(edit);
     }

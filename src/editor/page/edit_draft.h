@@ -1,5 +1,6 @@
 #pragma once
 
+#include "editor/page/fitting_markup.h"
 #include "editor/page/going_tags.h"
 #include "editor/page/run_deletion.h"
 #include "editor/page/splice_list.h"
@@ -23,7 +24,7 @@ public:
     /// all that is there.
     void putText(std::u16string_view typed);
     /// Puts markup in, of which is not known what it shows; in a paragraph as text is, unless it
-    /// is atoms.
+    /// is atoms. Where nothing is lost it is made to fit the place.
     void putMarkup(std::string_view markup);
 
     /// The edit, with the caret behind what was put in.
@@ -34,6 +35,7 @@ private:
     [[nodiscard]] std::size_t endItem() const { return parts_.back().run.endItem; }
     [[nodiscard]] bool standsAside() const;
     void putAsParagraph(const std::string& markup);
+    [[nodiscard]] SurfaceEdit withElsewhere(SpliceList changes, std::size_t caret) const;
     [[nodiscard]] std::vector<ItemSpan> stayingItems() const;
     [[nodiscard]] std::size_t stayingCount() const;
     [[nodiscard]] std::size_t outsideAhead(std::size_t item) const;
@@ -45,6 +47,7 @@ private:
     const SurfacePage& page_;
     std::vector<RunDeletion> parts_; // never empty
     SpliceList changes_;
+    std::vector<PlacedMarkup> elsewhere_; // put in away from the places
     std::vector<std::size_t> itemsOutside_; // that go with those between the places
     std::size_t putAt_ = 0; // the item of the page ahead of which something is put in
     std::optional<std::u16string> shown_ = std::u16string(); // nullopt: not known

@@ -6,6 +6,7 @@
 
 #include "document/text/limits.h"
 #include "document/text/text_search.h"
+#include "editor/page/card_head.h"
 #include "editor/page/character_entities.h"
 #include "editor/page/markup_tags.h"
 
@@ -155,7 +156,9 @@ int ValidInsertPosition(
     int position, std::string_view text, WmlElement wanted, const OutputRules& rules)
 {
     requireAddressable(text, rules.maxTextLength());
-    return firstPlace(position, text, rules.losesNothing() ? std::optional(wanted) : std::nullopt);
+    if (!rules.losesNothing()) return firstPlace(position, text, std::nullopt);
+    const auto head = headOf(readSurfacePage(std::string(text), rules)).end;
+    return firstPlace(std::max(position, static_cast<int>(head)), text, wanted);
 }
 
 } // namespace quillmere

@@ -5,7 +5,9 @@
 
 #include "document/text/limits.h"
 #include "document/text/text_search.h"
+#include "editor/page/fitting_markup.h"
 #include "editor/page/hit_test.h"
+#include "editor/page/splice_list.h"
 
 #include <algorithm>
 
@@ -57,13 +59,39 @@ ElementPaste insertedAt(std::string_view design, std::size_t offset, std::string
     return paste;
 }
 
+/// The same where nothing is lost: what may not stand there goes elsewhere.
+ElementPaste insertedFitting(
+    std::string_view design, std::size_t offset, std::string_view clip, const OutputRules& rules)
+{
+    const auto page = readSurfacePage(std::string(design), rules);
+    const auto fitting = fittingMarkup(page, offset, elementsRound(page, offset), clip);
+    SpliceList changes;
+    auto end = fitting.here.back().offset;
+    for (const auto& placed : fitting.elsewhere) {
+        changes.insert(placed.offset, placed.markup);
+        if (placed.offset <= offset) end += placed.markup.size();
+    }
+    for (const auto& placed : fitting.here) {
+        changes.insert(placed.offset, placed.markup);
+        end += placed.markup.size();
+    }
+    return {spliced(design, std::move(changes).take()), end};
+}
+
+ElementPaste inserted(
+    std::string_view design, std::size_t offset, std::string_view clip, const OutputRules& rules)
+{
+    return rules.losesNothing() ? insertedFitting(design, offset, clip, rules)
+                                : insertedAt(design, offset, clip);
+}
+
 ElementPaste insertedAtValidPosition(std::string_view design, std::size_t place,
     std::string_view element, ElementKind kind, const OutputRules& rules)
 {
     const auto valid
         = ValidInsertPosition(static_cast<int>(place), design, tagsOf(kind).element, rules);
-    auto paste = insertedAt(
-        design, std::min(static_cast<std::size_t>(std::max(valid, 0)), design.size()), element);
+    auto paste = inserted(design,
+        std::min(static_cast<std::size_t>(std::max(valid, 0)), design.size()), element, rules);
     paste.tableTestAt = std::max(static_cast<int>(place), 1);
     return paste;
 }
@@ -74,7 +102,7 @@ ElementPaste pasted(std::string_view design, std::size_t place, std::string_view
     if (kind != ElementKind::Option)
         return insertedAtValidPosition(design, place, clip, kind, rules);
     const auto inList = placeInList(design, place);
-    if (inList != npos) return insertedAt(design, inList, clip);
+    if (inList != npos) return inserted(design, inList, clip, rules);
     const auto list = std::string("<!--select-->").append(clip).append("<!--/select--><br/>");
     return insertedAtValidPosition(design, place, list, kind, rules);
 }

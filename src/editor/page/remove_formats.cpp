@@ -40,8 +40,8 @@ public:
         for (std::size_t i = 0; i < reformatted_.size(); ++i)
             if (reformatted_[i]) rewrite(page_.elements[i]);
         SpliceList splices;
-        for (auto end = ends_.rbegin(); end != ends_.rend(); ++end)
-            splices.insert(end->removed.begin, std::move(end->inserted));
+        std::for_each(ends_.rbegin(), ends_.rend(),
+            [&](auto& end) { splices.insert(end.removed.begin, std::move(end.inserted)); });
         for (auto& start : starts_)
             splices.insert(start.removed.begin, std::move(start.inserted));
         for (const auto tag : removed_)

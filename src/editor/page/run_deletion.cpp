@@ -3,6 +3,7 @@
 
 #include "editor/page/run_deletion.h"
 
+#include "editor/page/fitting_markup.h"
 #include "editor/page/going_tags.h"
 #include "editor/page/markup_tags.h"
 #include "editor/page/page_places.h"
@@ -40,8 +41,10 @@ public:
     RunDeletion take()
     {
         RunDeletion result{{}, run_, goingItemsOutside(page_, run_, going_), between_,
-            between_.begin, firstPlaceOfText()};
+            between_.begin, {}, firstPlaceOfText()};
         if (joinsParagraphs()) result.pasteAt = result.typeAt = between_.end;
+        result.round = elementsRound(page_, result.pasteAt);
+        std::erase_if(result.round, [this](auto element) { return fates_[element].start; });
         takeTags();
         takeBetween();
         result.splices = std::move(splices_);
@@ -213,7 +216,7 @@ RunDeletion deletionOf(const SurfacePage& page, const CoveredRun& run, FirstForm
 {
     if (run.from != run.to) return Deletion(page, run, formats).take();
     const auto place = offsetAt(page, run.from);
-    return {{}, run, {}, {place, place}, place, place};
+    return {{}, run, {}, {place, place}, place, elementsRound(page, place), place};
 }
 
 } // namespace quillmere

@@ -17,6 +17,7 @@ struct RunDeletion {
     std::vector<std::size_t> itemsOutside; ///< that go as well: other ends of markers
     SourceRange between; ///< what it takes from the text, but for tags that stay
     std::size_t pasteAt = 0; ///< where markup goes in instead
+    std::vector<std::size_t> round; ///< the elements round it that stay, the outermost first
     std::size_t typeAt = 0; ///< where text goes in that takes the place of the run's first item
 };
 

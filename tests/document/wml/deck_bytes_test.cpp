@@ -77,5 +77,19 @@ TEST(DeckPlaces, CountCharacters)
     EXPECT_EQ(places.at(deck.text().size()), (TextPlace{3, 2}));
 }
 
+TEST(DecodedPlaces, CountReferencesAsTheirCharacters)
+{
+    const DeckBytes deck("a\xE2\x88\x92 b\xE2\x88\x92\xE2\x88\x92"
+                         "c\n\xC3\xBCy\xE2\x88\x92z");
+    const auto text = deck.decoded(deck.text());
+    ASSERT_TRUE(text.starts_with("a&#8722; b"));
+    const TextPlaces places(text);
+    const DecodedPlaces decoded(deck);
+    const std::pair<char, TextPlace> rows[] = {{'a', {1, 1}}, {'&', {1, 2}}, {' ', {1, 3}},
+        {'b', {1, 4}}, {'c', {1, 7}}, {'y', {2, 2}}, {'z', {2, 4}}};
+    for (const auto& [character, place] : rows)
+        EXPECT_EQ(decoded.inDeck(places.at(text.find(character))), place) << character;
+}
+
 } // namespace
 } // namespace quillmere

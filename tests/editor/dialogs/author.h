@@ -10,6 +10,7 @@
 #include <functional>
 #include <stdexcept>
 #include <string>
+#include <utility>
 
 namespace quillmere::test {
 
@@ -62,7 +63,7 @@ struct Author : ElementDesk {
     /// A tool whose click opens a form.
     void tool(const char* name, std::function<void(QWidget&)> form)
     {
-        withNextModal(std::move(form));
+        withNextModal(std::exchange(form, nullptr));
         clickOn(control<QWidget>((std::string("lblButton") + name).c_str()));
         backToWindow();
     }

@@ -19,7 +19,7 @@ namespace quillmere::test {
 namespace {
 
 constexpr auto kControl = Qt::ControlModifier;
-const QString kObject(QChar(QChar::ObjectReplacementCharacter));
+const QString kObject(1, QChar::ObjectReplacementCharacter);
 
 // A picture of 12 by 16 pixels.
 const std::string kPicture = std::string("\x00\x00\x0C\x10", 4) + std::string(32, '\x55');

@@ -13,13 +13,14 @@ namespace {
 const OutputRules kLossless(true);
 constexpr auto kTimer = "<!--#timer &lt;timer value=\"9\"/&gt;-->";
 
-/// A text with signs in it: $T for an atom, $F and $f round a group of fields, $G and $g round one
-/// of options, $O and $E round an option.
+/// A text with signs in it: $T for a timer, $I for a field, $F and $f round a group of fields, $G
+/// and $g round one of options, $O and $E round an option.
 std::string spelled(std::string text)
 {
-    const std::pair<const char*, std::string> kSigns[] = {{"$T", kTimer}, {"$F", "<!--fieldset-->"},
-        {"$f", "<!--/fieldset-->"}, {"$G", "<!--optgroup a-->"}, {"$g", "<!--/optgroup-->"},
-        {"$O", "<!--option--><input type=radio>"}, {"$E", "<!--/option-->"}};
+    const std::pair<const char*, std::string> kSigns[]
+        = {{"$T", kTimer}, {"$F", "<!--fieldset-->"}, {"$f", "<!--/fieldset-->"},
+            {"$G", "<!--optgroup a-->"}, {"$g", "<!--/optgroup-->"}, {"$I", "<!--#input x-->"},
+            {"$O", "<!--option--><input type=radio>"}, {"$E", "<!--/option-->"}};
     for (const auto& [sign, markup] : kSigns)
         for (auto at = text.find(sign); at != std::string::npos; at = text.find(sign, at))
             text.replace(at, std::string_view(sign).size(), markup);
@@ -117,10 +118,10 @@ TEST(Markers, ArePastedAndCopiedAsWholes)
             return pasteMarkup(page, from, to, spelled(markup));
         };
     };
+    expectEdits(paste("$I"), {{"an atom", "<p>a|b</p>", "<p>a$I|b</p>"}});
+    expectEdits(paste("$T"), {{"a card has one timer", "|$T", "|$T"}});
     expectEdits(
-        paste("$T"), {{"an atom", "<p>a|b</p>", "<p>a$T|b</p>"}, {"to others", "|$T", "$T|$T"}});
-    expectEdits(
-        paste("<b>x</b>$T"), {{"text to atoms", "|$T<p>a</p>", "$T<p><b>x</b>$T|</p><p>a</p>"}});
+        paste("<b>x</b>$I"), {{"text to atoms", "|$T<p>a</p>", "$T<p><b>x</b>$I|</p><p>a</p>"}});
     const test::EditRow rows[] = {
         {"an atom", "<p>a[$T]b</p>", "$T"},
         {"the start and a part", "<p>a[$Fb]c$fd</p>", "$Fb$f"},

@@ -1,0 +1,19 @@
+#pragma once
+
+#include "editor/page/surface_page.h"
+
+#include <cstddef>
+
+namespace quillmere {
+
+/// What a card begins with.
+struct CardHead {
+    std::size_t eventsEnd = 0; ///< offset behind its last onevent, or where its content begins
+    std::size_t end = 0; ///< behind its events and its timer
+    bool hasTimer = false;
+};
+
+/// The head of a page's card. A timer counts wherever it stands.
+[[nodiscard]] CardHead headOf(const SurfacePage& page);
+
+} // namespace quillmere
