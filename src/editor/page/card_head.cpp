@@ -16,11 +16,6 @@ bool isBlank(std::string_view text)
     return std::ranges::all_of(text, isWhite);
 }
 
-bool isOfHead(WmlElement element)
-{
-    return element == WmlElement::OnEvent || element == WmlElement::Timer;
-}
-
 } // namespace
 
 CardHead headOf(const SurfacePage& page)

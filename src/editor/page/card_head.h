@@ -1,10 +1,17 @@
 #pragma once
 
+#include "document/wml/wml_elements.h"
 #include "editor/page/surface_page.h"
 
 #include <cstddef>
 
 namespace quillmere {
+
+/// Whether an element belongs to a card's head.
+[[nodiscard]] constexpr bool isOfHead(WmlElement element)
+{
+    return element == WmlElement::OnEvent || element == WmlElement::Timer;
+}
 
 /// What a card begins with.
 struct CardHead {

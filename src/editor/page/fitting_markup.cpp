@@ -1,15 +1,12 @@
-// The elements round the place and those of the markup that are open stand on one stack of levels,
-// each with the level that it stands in and the text that it is written to. Held by
+// Each tag of the markup is asked for the innermost open element that it may stand in. Held by
 // fitting_markup_test.cpp.
 
 #include "editor/page/fitting_markup.h"
 
-#include "editor/page/attribute_values.h"
 #include "editor/page/card_head.h"
 #include "editor/page/clip_tags.h"
-#include "editor/page/format_cut.h"
+#include "editor/page/fitting_text.h"
 #include "editor/page/markup_tags.h"
-#include "editor/page/open_levels.h"
 
 #include <algorithm>
 #include <optional>
@@ -43,11 +40,6 @@ bool givesText(E element)
         || isParagraph(element);
 }
 
-bool isOfHead(E element)
-{
-    return element == E::OnEvent || element == E::Timer;
-}
-
 bool isText(std::string_view atom)
 {
     return atom.starts_with("<!--#entity") || atom.starts_with("<!--#cdata");
@@ -66,19 +58,16 @@ public:
         , offset_(offset)
         , markup_(markup)
         , tags_(readClipTags(markup))
-        , levels_(page, round)
+        , text_(page, round, markup)
     {
     }
 
     FittingMarkup take()
     {
         takeMarkup();
-        result_.here = piecesOf(here_, cut_, page_.text, offset_);
-        putHead();
-        for (std::size_t level = 0; level <= top(); ++level)
-            if (!levels_[level].behind.empty())
-                result_.elsewhere.push_back({levels_[level].end.end, levels_[level].behind});
-        return std::move(result_);
+        FittingMarkup fitting{text_.here(offset_), text_.elsewhere()};
+        putHead(fitting);
+        return fitting;
     }
 
 private:
@@ -112,19 +101,19 @@ private:
         if (tag.name == TagName::Input || isText(sourceOf(index)))
             takeText(sourceOf(index));
         else if (element == E::Other)
-            write(sourceOf(index));
+            text_.write(sourceOf(index));
         else if (tags_[index].isSingle())
             takeSingle(index);
         else if (tag.isEnd)
-            close(index);
+            takeEnd(index);
         else if (tag.partner != kNoTag)
             takeStart(index);
     }
 
     void takeText(std::string_view text)
     {
-        if (levels_.holdsText(top()) || isBlank(text)) return write(text);
-        levels_[levels_.closedToText()].behind += text;
+        if (levels_.holdsText(top()) || isBlank(text)) return text_.write(text);
+        text_.writeBehind(levels_.closedToText(), text);
     }
 
     void takeSingle(std::uint32_t index)
@@ -134,12 +123,8 @@ private:
         if (isOfHead(element) && !(isInMarkup() && levels_.mayStand(top(), element)))
             return noteForHead(element, source);
         const bool isHere = levels_.mayStand(top(), element);
-        if (element == E::LineBreak && !isHere && levels_.holdsText(top())) return write(" ");
-        auto place = levels_.placeFor(element);
-        if (!place) return;
-        const auto reopened = endFormats(*place);
-        textAt(*place) += source;
-        beginFormats(textAt(*place), reopened);
+        if (element == E::LineBreak && !isHere && levels_.holdsText(top())) return text_.write(" ");
+        if (const auto place = levels_.placeFor(element)) text_.put(source, *place);
     }
 
     void takeStart(std::uint32_t index)
@@ -148,31 +133,22 @@ private:
         const bool joinsList = element == E::Select && levels_.isWithin(top(), E::Select);
         const bool isText
             = givesText(element) && levels_.holdsText(top()) && !levels_.mayStand(top(), element);
-        if (isText && isParagraph(element) && !here_.empty())
-            write(levels_.mayStand(top(), E::LineBreak) ? kLineBreak : " ");
-        auto place = joinsList || isText ? std::nullopt : levels_.placeFor(element);
-        if (place) open(index, *place);
-    }
-
-    void open(std::uint32_t index, MarkupPlace place)
-    {
-        Level level{.element = tags_[index].element, .parent = place.level};
-        level.reopened = endFormats(place);
-        level.sink = sinkOf(place);
+        if (isText && isParagraph(element) && !text_.isEmpty())
+            text_.write(levels_.mayStand(top(), E::LineBreak) ? kLineBreak : " ");
+        const auto place = joinsList || isText ? std::nullopt : levels_.placeFor(element);
+        if (!place) return;
+        const auto end = tags_[index].tag.partner;
+        Level level{.element = element};
         level.start = tags_[index].tag.source;
-        level.endTag = tags_[index].tag.partner;
-        level.end = tags_[level.endTag].tag.source;
-        textAt(place) += sourceOf(index);
-        levels_.open(std::move(level));
+        level.end = tags_[end].tag.source;
+        level.endTag = end;
+        text_.open(std::move(level), *place);
     }
 
-    void close(std::uint32_t index)
+    /// The end of an element that gave its text alone is that of no level.
+    void takeEnd(std::uint32_t index)
     {
-        if (levels_[top()].endTag != index) return; // its element gave its text alone
-        const auto closed = levels_.close();
-        auto& text = textOf(closed.sink).append(sourceOf(index));
-        beginFormats(text, closed.reopened);
-        text += closed.behind;
+        if (levels_[top()].endTag == index) text_.close();
     }
 
     void noteForHead(E element, const std::string& source)
@@ -181,13 +157,12 @@ private:
         if (element == E::Timer && timer_.empty()) timer_ = source;
     }
 
-    void putHead()
+    void putHead(FittingMarkup& fitting) const
     {
         if (events_.empty() && timer_.empty()) return;
         const auto head = headOf(page_);
-        if (head.hasTimer) timer_.clear();
-        if (!(events_ + timer_).empty())
-            result_.elsewhere.push_back({head.eventsEnd, events_ + timer_});
+        const auto markup = head.hasTimer ? events_ : events_ + timer_;
+        if (!markup.empty()) fitting.elsewhere.push_back({head.eventsEnd, markup});
     }
 
     [[nodiscard]] std::string_view sourceOf(std::uint32_t index) const
@@ -199,54 +174,12 @@ private:
 
     [[nodiscard]] std::size_t top() const { return levels_.top(); }
 
-    /// Ends the formats that alone keep something from where it may stand; it goes there then.
-    /// Returns the tags that begin them again.
-    std::string endFormats(MarkupPlace& place)
-    {
-        std::string starts;
-        std::string ends;
-        if (place.behind == kNone) return {};
-        for (auto level = top(); level != place.level; level = levels_[level].parent) {
-            if (!ruleOf(levels_[level].element).isFormat) return {};
-            const auto start = written(levels_[level], levels_[level].start);
-            starts.insert(0, secondTag(start, page_.rules));
-            ends += written(levels_[level], levels_[level].end);
-        }
-        if (cut_.starts.empty() && levels_[top()].sink == kNone)
-            cut_ = {ends, starts, here_.size(), 0};
-        write(ends);
-        place.behind = kNone;
-        return starts;
-    }
-
-    void beginFormats(std::string& text, const std::string& starts)
-    {
-        if (&text == &here_ && starts == cut_.starts) cut_.lastStart = text.size();
-        text += starts;
-    }
-
-    [[nodiscard]] std::string_view written(const Level& level, SourceRange tag) const
-    {
-        return tag.in(level.endTag == kNoTag ? std::string_view(page_.text) : markup_);
-    }
-
-    [[nodiscard]] std::size_t sinkOf(MarkupPlace place) const
-    {
-        return place.behind == kNone ? levels_[top()].sink : place.behind;
-    }
-
-    std::string& textOf(std::size_t sink) { return sink == kNone ? here_ : levels_[sink].behind; }
-    std::string& textAt(MarkupPlace place) { return textOf(sinkOf(place)); }
-    void write(std::string_view text) { textOf(levels_[top()].sink) += text; }
-
     const SurfacePage& page_;
     std::size_t offset_;
     std::string_view markup_;
     std::vector<ClipTag> tags_;
-    OpenLevels levels_;
-    FittingMarkup result_;
-    std::string here_;
-    FormatCut cut_;
+    FittingText text_;
+    const OpenLevels& levels_ = text_.levels();
     std::string events_;
     std::string timer_;
 };
