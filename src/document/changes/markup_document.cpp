@@ -141,7 +141,7 @@ private:
     /// The closing quote. Outside of the subset one that is missing does not reach beyond the tag.
     [[nodiscard]] std::size_t literalEnd(std::size_t at, bool inSubset) const
     {
-        const char stops[] = {in_.text[at], '<', '>', '\0'};
+        const char stops[] = {in_.text[at], '>', '\0'};
         if (inSubset) return in_.text.find(in_.text[at], at + 1);
         const auto end = in_.text.find_first_of(stops, at + 1);
         return end != kNowhere && in_.text[end] == in_.text[at] ? end : at;
