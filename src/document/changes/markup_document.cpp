@@ -138,13 +138,20 @@ private:
         return kNowhere;
     }
 
-    /// The closing quote. Outside of the subset one that is missing does not reach beyond the tag.
+    /// The closing quote. Outside of the subset one that is missing does not reach beyond the tag:
+    /// of '<' and '>' only one may stand in a literal.
     [[nodiscard]] std::size_t literalEnd(std::size_t at, bool inSubset) const
     {
-        const char stops[] = {in_.text[at], '>', '\0'};
-        if (inSubset) return in_.text.find(in_.text[at], at + 1);
-        const auto end = in_.text.find_first_of(stops, at + 1);
-        return end != kNowhere && in_.text[end] == in_.text[at] ? end : at;
+        const auto& text = in_.text;
+        const char quote = text[at];
+        if (inSubset) return text.find(quote, at + 1);
+        const char brackets[] = {quote, '<', '>', '\0'};
+        auto end = text.find_first_of(brackets, at + 1);
+        if (end != kNowhere && text[end] != quote) {
+            const char others[] = {quote, text[end] == '<' ? '>' : '<', '\0'};
+            end = text.find_first_of(others, end + 1);
+        }
+        return end != kNowhere && text[end] == quote ? end : at;
     }
 
     MarkupCursor in_;
