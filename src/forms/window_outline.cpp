@@ -1,4 +1,4 @@
-// tests/forms/window_outline_test.cpp holds this.
+// tests/forms/skin_application_test.cpp holds this.
 
 #include "forms/window_outline.h"
 

@@ -1,4 +1,4 @@
-// Held by command_line_deck_test.cpp.
+// Held by start_test.cpp.
 
 #include "program/command_line_deck.h"
 

@@ -60,20 +60,5 @@ TEST(EnsureDefaultSettings, SeedsWhatIsMissingAndReplacesWhatHasVanished)
     EXPECT_EQ(windows.ensure(), Changed{R"(ConnectFile=C:\Q\Connect\Connect.ini)"});
 }
 
-TEST(EnsureDefaultSettings, TemplatesGoToTheFirstCdRomTogether)
-{
-    Machine machine;
-    (void)machine.ensure();
-    machine.settings.WriteSetting("ImageTemplate", "X:\\mine");
-    machine.drives.kinds = {{"A:\\", DriveKind::Removable}, {"C:\\", DriveKind::Fixed}};
-    EXPECT_EQ(machine.ensure(), Changed{}); // no CD-ROM
-    machine.drives.kinds.emplace_back("E:\\", DriveKind::CdRom);
-    machine.drives.kinds.emplace_back("F:\\", DriveKind::CdRom);
-    EXPECT_EQ(machine.ensure(),
-        (Changed{R"(ImageTemplate=E:\Template\Cliparts)", R"(WmlTemplate=E:\Template\Pages)"}));
-    machine.drives.kinds.erase(machine.drives.kinds.begin() + 2);
-    EXPECT_EQ(machine.ensure(), Changed{}); // both are set
-}
-
 } // namespace
 } // namespace quillmere

@@ -2,9 +2,7 @@
 #include "app/word_list.h"
 #include "app/word_table.h"
 #include "document/platform/files.h"
-#include "document/platform/path_checks.h"
 #include "document/text/text_lines.h"
-#include "document/text/windows1252.h"
 
 #include <gtest/gtest.h>
 
@@ -70,18 +68,6 @@ TEST(ShippedWords, FitTheirUse)
             expectFittingWord(use, words.at(static_cast<std::size_t>(use.id)));
         }
     }
-}
-
-TEST(ShippedWords, WorkWhereTheyAreParts)
-{
-    const auto words = wordsFromText(fileOf("Skins"));
-    const auto textOf = [&](int id) { return toUtf8(filledWord(words, id, {"1", "30"})); };
-    EXPECT_EQ(textOf(word::kNumberRange), "Bitte geben Sie eine Zahl von 1 bis 30 ein.");
-    EXPECT_EQ(textOf(word::kSizeLimits), "(1 bis 30)");
-    EXPECT_EQ(textOf(word::kAreaCaption) + " 1" + textOf(word::kAreaCaptionEnd) + " Titel",
-        "Bereich 1: Titel");
-    EXPECT_EQ(textOf(word::kWmlFilter) + "(*.wml)|*.wml", "WML-Dateien\u00a0(*.wml)|*.wml");
-    EXPECT_TRUE(CheckFileName(filledWord(words, word::kNewFolderName, {})));
 }
 
 } // namespace

@@ -55,16 +55,6 @@ TEST_F(Cli, RepairWithStandardOutputMendsAndTellsIt)
     const auto wide = folder.get("u.wml");
     EXPECT_EQ(cli({"repair", "@u.wml", "--standard-output"}).status, 0);
     EXPECT_EQ(folder.get("u.wml"), wide);
-    const auto big = "<wml><card><p>" + std::string(1U << 20U, 'x') + "</p></card></wml>";
-    folder.put("big.wml", big);
-    const auto refused = cli({"repair", "@big.wml", "--standard-output"});
-    EXPECT_EQ(refused.status, 3);
-    EXPECT_NE(
-        refused.errors.find("big.wml: Das Deck ist zu lang: seine Datei kann höchstens 1048576 "
-                            "Byte (1 MB) haben. Es wurde nichts geändert."),
-        refused.errors.npos)
-        << refused.errors;
-    EXPECT_EQ(folder.get("big.wml"), big);
 }
 
 TEST_F(Cli, RepairWritesWhereItIsTold)

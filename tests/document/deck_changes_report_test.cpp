@@ -1,11 +1,8 @@
 #include "document/changes/deck_change_counts.h"
 #include "document/changes/deck_changes_json.h"
 #include "document/changes/deck_changes_report.h"
-#include "document/changes/markup_fault_texts.h"
 
 #include <gtest/gtest.h>
-
-#include <set>
 
 namespace quillmere {
 namespace {
@@ -63,17 +60,6 @@ TEST(DeckChangesReport, IsWholeAsJson)
   {"kind": "changed", "subject": "attribute", "element": "p", "attribute": "a", "before": "ü", "after": "ue", "count": 1, "readAt": [1, 4], "writtenAt": [1, 4]},
   {"kind": "moved", "subject": "words", "element": "p", "before": "1", "after": "1", "count": 1, "readAt": [1, 10], "writtenAt": [1, 15]},
   {"kind": "added", "subject": "words", "element": "", "after": "<", "count": 1, "writtenAt": [1, 20]}]})");
-}
-
-TEST(DeckChangesReport, HasASentenceForEachFault)
-{
-    std::set<std::string> sentences;
-    const auto last = static_cast<int>(MarkupFault::UnendedElement);
-    for (int fault = 0; fault <= last; ++fault) {
-        const auto sentence = describeFault(static_cast<MarkupFault>(fault), "xyz");
-        EXPECT_TRUE(sentences.insert(sentence).second) << sentence;
-        EXPECT_EQ(sentence.find('%'), std::string::npos) << sentence;
-    }
 }
 
 } // namespace

@@ -144,19 +144,6 @@ TEST(AddArea, LinksNewAreasForwardAndWriteDeckJoinsThem)
     EXPECT_EQ(history.front() + history.back(), "2439");
 }
 
-TEST(AddArea, AFailureLeavesTheDeck)
-{
-    SmallDeck deck;
-    AddArea(deck.session, true, "neu.wml", "/decks/");
-    for (int i = 1; i < 32767; ++i)
-        deck.files.write("Wml" + std::to_string(i) + ".htm", {});
-    AddArea(deck.session, false);
-    EXPECT_EQ(deck.session.deck[1].designFile, "Wml32767.htm");
-    EXPECT_THROW(AddArea(deck.session, false), Overflow); // no name is left
-    EXPECT_EQ(areaCount(deck.session.deck), 2U);
-    EXPECT_NO_THROW(WriteDeck(deck.session));
-}
-
 TEST(WriteDeck, GivesBackTheLayoutAsOpenedAndNothingWhereItFails)
 {
     SmallDeck deck;

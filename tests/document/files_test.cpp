@@ -191,31 +191,6 @@ TEST(Files, ReplacingKeepsModeAndLinksAndWriteProtection)
     EXPECT_EQ(folder.get("ziel/deck.wml"), "neu");
 }
 
-TEST(Files, ReplacementsGoOnSideBySide)
-{
-    const ScratchFolder folder;
-    for (const auto* const name : {"a", "b", "c"})
-        folder.put(name, "alt");
-    {
-        FileReplacements all;
-        std::vector<FileReplacement> files;
-        for (const auto* const name : {"a", "b", "c"})
-            files.emplace_back(folder.path() + name, "neu");
-        files.erase(files.begin() + 1); // given up
-        EXPECT_EQ(folder.get("a") + folder.get("b") + folder.get("c"), "altaltalt");
-        for (auto& file : files) {
-            file.flush();
-            all.finish(file);
-        }
-        replaceFile(folder.path() + "d", "neu"); // finds a name beside those
-    }
-    EXPECT_EQ(folder.get("a") + folder.get("b") + folder.get("c"), "neualtneu");
-    EXPECT_EQ(namesIn(folder), 4);
-    sigset_t held{};
-    ::pthread_sigmask(SIG_BLOCK, nullptr, &held);
-    EXPECT_EQ(sigismember(&held, SIGINT), 0);
-}
-
 TEST(DiskFileSystem, TellsFilesFromDirectoriesAndMakesThem)
 {
     const ScratchFolder folder;

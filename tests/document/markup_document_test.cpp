@@ -3,8 +3,6 @@
 #include "document/changes/plain_markup.h"
 #include "document/changes/well_formedness.h"
 #include "document/text/text_place.h"
-#include "generator/deck_generator.h"
-#include "support/small_random.h"
 #include "support/token_soup.h"
 
 #include <gtest/gtest.h>
@@ -130,37 +128,6 @@ void expectVerdictOfReader(const std::string& text, const MarkupVerdict& verdict
 constexpr std::string_view kWmlHead
     = "<?xml version=\"1.0\"?>\r\n<!DOCTYPE wml PUBLIC \"-//WAPFORUM//DTD WML 1.1//EN\""
       " \"http://www.wapforum.org/DTD/wml_1.1.xml\">\r\n";
-
-/// A deck with some of its characters replaced, dropped or doubled by those that matter in markup.
-std::string mutated(std::string text, test::SmallRandom& random)
-{
-    constexpr std::string_view kCharacters = "<>/=\"'& ]-!?;:a1\n\t\x01\xE4";
-    for (auto changes = random.below(4); changes-- > 0;) {
-        const auto at = random.below(text.size());
-        const auto length = random.below(3);
-        text.replace(at, length, random.below(2), kCharacters[random.below(kCharacters.size())]);
-    }
-    return text;
-}
-
-TEST(PlainMarkup, AgreesWithTheReaderOnMutatedDecks)
-{
-    test::SmallRandom random(11);
-    std::size_t known = 0;
-    constexpr std::uint64_t kDecks = 4000;
-    for (std::uint64_t seed = 0; seed < kDecks; ++seed) {
-        const bool isWhole = seed % 2 == 0;
-        auto deck = bench::generateDeck(
-            seed, {.targetBytes = 400, .brokenness = isWhole ? 0.0 : 0.2, .eightBit = false});
-        deck.replace(0, deck.find("<wml"), kWmlHead);
-        const auto text = mutated(std::move(deck), random);
-        const auto verdict = verdictOnPlainMarkup(text);
-        if (!verdict) continue;
-        ASSERT_NO_FATAL_FAILURE(expectVerdictOfReader(text, *verdict));
-        ++known;
-    }
-    EXPECT_GT(known, kDecks / 4);
-}
 
 TEST(PlainMarkup, AgreesWithTheReaderOnSmallTexts)
 {

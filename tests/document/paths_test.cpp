@@ -3,7 +3,6 @@
 #include "app/settings.h"
 #include "document/complete_url.h"
 #include "document/last_path.h"
-#include "document/platform/mount_table.h"
 #include "document/platform/path_checks.h"
 #include "document/text/number_texts.h"
 #include "document/text/windows1252.h"
@@ -107,30 +106,6 @@ TEST(LastPath, KeepsRootsWholeAndFallsBackToTheDeckAndThePersonsFolder)
     }
     SetLastPath("/a/", "Last", settings, kPosix);
     EXPECT_EQ(last(kPosix), "/a");
-}
-
-TEST(DriveType, IsTheKindOfTheNearestMountOrOfTheDrivesLetter)
-{
-    const MountTable table(
-        "/dev/sda2 / ext4 rw 0 0\n"
-        "proc /proc proc rw 0 0\n"
-        "tmpfs /tmp tmpfs rw 0 0\nhalf line\n\n"
-        "/dev/sr0 /media/CD\\040eins iso9660 ro 0 0\n"
-        "/dev/sdb1 /media/stick vfat rw 0 0\n"
-        "/dev/sda3 /media/stick/in ext4 rw 0 0\n"
-        "srv:/x /media/st nfs4 rw 0 0\n"
-        "/dev/sda4 /tmp ext4 rw 0 0\n"
-        "bad\\04 /bad\\ x rw 0 0\n",
-        [](std::string_view device) { return device == "/dev/sdb1"; }, "/home/me");
-    const std::pair<const char*, DriveKind> rows[] = {{"/home", DriveKind::Fixed},
-        {"/proc/1", DriveKind::Unknown}, {"/media/CD eins/Template", DriveKind::CdRom},
-        {"/media/stick/", DriveKind::Removable}, {"/media/stick/in/x", DriveKind::Fixed},
-        {"/media/st/x", DriveKind::Network}, {"/media/sticker", DriveKind::Fixed},
-        {"/tmp/x", DriveKind::Fixed}, {"relative", DriveKind::Missing}};
-    for (const auto& [path, kind] : rows)
-        EXPECT_EQ(DriveType(path, table), kind) << path;
-    EXPECT_EQ(table.roots().at(3), "/media/CD eins/");
-    EXPECT_NE(MountTable().kindOf("/"), DriveKind::Missing); // of the running system
 }
 
 // The characters of code page 850 that stand in names, written as Windows-1252.

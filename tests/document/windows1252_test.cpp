@@ -40,14 +40,6 @@ TEST(Windows1252, ReadsUtf8)
         EXPECT_EQ(fromUtf8(row[0]), row[1]);
 }
 
-TEST(Windows1252, NamesOfFilesBecomeUtf8)
-{
-    const char* const rows[][2] = {{"a\u00E4\u2603\U0001F600", "a\u00E4\u2603\U0001F600"},
-        {"\xFC\u2603\x80", "\u00FC\u2603\u20AC"}, {"\xE2\x98", "\u00E2\u02DC"}};
-    for (const auto& row : rows)
-        EXPECT_EQ(validUtf8(row[0]), row[1]);
-}
-
 TEST(Windows1252, DeckBytesDecideTheirEncoding)
 {
     EXPECT_EQ(textFromDeckBytes("\xEF\xBB\xBF<wml>\u00E4"), "<wml>\xE4");

@@ -5,7 +5,6 @@
 #include "editor/page_geometry.h"
 #include "editor/surface_clipboard.h"
 
-#include <QContextMenuEvent>
 #include <QDropEvent>
 #include <QMouseEvent>
 
@@ -176,19 +175,6 @@ TEST(SurfaceMouse, DoubleClickSelectsAWordAndFindsTheLinkRoundIt)
         list.mouse(QEvent::MouseButtonDblClick, list.pointOf(option));
         EXPECT_EQ(list.selectedText(), option); // the radio buttons are no letters of the word
     }
-}
-
-TEST(SurfaceMouse, AsksForTheMenuWithTheEventAndKeepsTheSelection)
-{
-    Moused surface;
-    std::string tag;
-    QObject::connect(&surface, &DesignSurface::ShowContextMenu, &surface,
-        [&] { tag = surface.selection().event->tag; });
-    const auto point = surface.pointOf("Ziel");
-    QContextMenuEvent event(
-        QContextMenuEvent::Mouse, point, surface.viewport()->mapToGlobal(point));
-    QApplication::sendEvent(surface.viewport(), &event);
-    EXPECT_EQ(tag, "a");
 }
 
 TEST(SurfaceMouse, MovesMarkedTextInOneStep)

@@ -168,23 +168,6 @@ TEST(DesignSurface, PutsMarkupInPlaceOfWhatIsMarked)
     EXPECT_GT(surface.selection().limit, 40007U);
 }
 
-TEST(DesignSurface, LooksAsItsStyleSays)
-{
-    ShownSurface surface;
-    surface.give("<p>|a <a href=\"#x\">b</a></p>");
-    surface.setFgColor(Qt::white);
-    surface.setBgColor(Qt::darkBlue);
-    surface.setFontFamily(" Inter   ");
-    surface.setFontSizePx(30);
-    EXPECT_EQ(surface.palette().color(QPalette::Base), QColor(Qt::darkBlue));
-    EXPECT_EQ(surface.palette().color(QPalette::Text), QColor(Qt::white));
-    EXPECT_EQ(surface.document()->defaultFont().pixelSize(), 30);
-    EXPECT_EQ(surface.look().fontFamily, "Inter");
-    EXPECT_EQ(surface.told(), "<p>|a <a href=\"#x\">b</a></p>");
-    surface.setFontSizePx(0);
-    EXPECT_EQ(surface.look().fontSizePx, 1);
-}
-
 TEST(DesignSurface, KeepsNoDocumentThatItShowsNoMore)
 {
     ShownSurface surface;

@@ -1,6 +1,7 @@
 #include "editor/marker_texts.h"
 
 #include "editor/page/atom_marker.h"
+#include "support/row_file.h"
 
 #include <gtest/gtest.h>
 
@@ -11,39 +12,12 @@ namespace {
 
 TEST(MarkerTexts, NameWhatStandsThereAndTellWhatItMeans)
 {
-    const struct {
-        std::string source;
-        const char* label;
-        const char* meaning; ///< the begin of the tool tip
-    } rows[] = {
-        {"<timer value=\"10\">", "timer", "<timer"},
-        {"</p>", "/p", "</p>"},
-        {"<>", ">", "<>"},
-        {"< b & c >", "b & c >", "< b"},
-        {"<aaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaaa>", "aaaaaaaaaaaaaaaaaaaaaaaaaaa…", "<a"},
-        {"<!--#timer &lt;timer name=\"t\" value=\"15\"/&gt;-->", "Zeitgeber 1,5 s",
-            "Nach 1,5 s folgt"},
-        {"<!--#timer &lt;timer value=\"$(t)\"/&gt;-->", "Zeitgeber $(t)", "Nach $(t) folgt"},
-        {"<!--#onevent &lt;onevent type=\"ontimer\"&gt;&lt;go href=\"#a\"/&gt;&lt;/onevent&gt;-->",
-            "Ereignis ontimer", "Nach Ablauf des Zeitgebers: weiter zu #a."},
-        {"<!--#do &lt;DO TYPE='prev' label='a>b'&gt;&lt;prev/&gt;&lt;/DO&gt;-->", "Aktion a>b",
-            "Taste oder Menüpunkt „a>b“: zurück"},
-        {"<!--#do &lt;do type=\"help\"/&gt;-->", "Aktion Hilfe", "Taste oder"},
-        {"<!--#comment a &#45;&#45; b-->", "Kommentar", "Eine Bemerkung"},
-        {"<!--#entity &amp;firma; Muster &amp;amp; Sohn-->", "Textbaustein firma",
-            "Das Deck setzt hier ein: Muster & Sohn"},
-        {"<!--#entity &amp;x; &lt;b&gt;a&lt;/b&gt;-->", "Textbaustein x",
-            "Das Deck setzt hier ein: <b>a</b>"},
-        {"<!--#neu:es &lt;neu:es/&gt;-->", "neu:es", "Kann hier nicht"},
-        {"<!--fieldset title=\"A &amp; B\"-->", "A & B", "Hier beginnt eine Gruppe"},
-        {"<!--#-->", "!--#--", "<!--#-->"},
-    };
-    for (const auto& row : rows) {
-        SCOPED_TRACE(row.source);
-        EXPECT_EQ(markerLabel(row.source), QString::fromUtf8(row.label));
-        const auto meaning = QString::fromUtf8(row.meaning).toHtmlEscaped();
-        EXPECT_TRUE(markerToolTip(row.source).startsWith("<p>" + meaning))
-            << markerToolTip(row.source).toStdString();
+    for (const auto& row : test::rowsOf("marker_texts.txt")) {
+        SCOPED_TRACE(row.at(0));
+        EXPECT_EQ(markerLabel(row.at(0)).toStdString(), row.at(1));
+        const auto meaning = QString::fromStdString(row.at(2)).toHtmlEscaped();
+        EXPECT_TRUE(markerToolTip(row.at(0)).startsWith("<p>" + meaning))
+            << markerToolTip(row.at(0)).toStdString();
     }
 }
 

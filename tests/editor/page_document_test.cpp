@@ -101,22 +101,5 @@ TEST(PageDocument, ShowsAChangeAsThePageAnewWould)
     }
 }
 
-TEST(PageDocument, LowersAnEmptyLineNextToATableWhileTheCaretIsElsewhere)
-{
-    const auto page = readSurfacePage("<table><tr><td></td></tr></table>x");
-    QTextDocument document;
-    showPage(document, page, {});
-    const auto heightOf = [&](int block) {
-        return document.findBlockByNumber(block).blockFormat().lineHeightType();
-    };
-    EXPECT_EQ(heightOf(0), QTextBlockFormat::FixedHeight);
-    EXPECT_NE(heightOf(1), QTextBlockFormat::FixedHeight) << "an empty cell";
-    EXPECT_NE(heightOf(2), QTextBlockFormat::FixedHeight) << "a line with text";
-    setCaretInBlock(document, page, 0, true, {});
-    EXPECT_NE(heightOf(0), QTextBlockFormat::FixedHeight);
-    setCaretInBlock(document, page, 0, false, {});
-    EXPECT_EQ(heightOf(0), QTextBlockFormat::FixedHeight);
-}
-
 } // namespace
 } // namespace quillmere

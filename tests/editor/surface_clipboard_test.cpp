@@ -2,6 +2,7 @@
 
 #include "document/text/failure.h"
 #include "document/text/limits.h"
+#include "support/row_file.h"
 #include "support/stopwatch.h"
 
 #include <QImage>
@@ -13,28 +14,8 @@ namespace {
 
 TEST(SurfaceClipboard, BringsHtmlInAsTheFormatsOfAnArea)
 {
-    const char* const rows[][3] = {
-        {"paragraphs", "<p>eins</p><p>zwei<br>drei</p>", "eins<br/>zwei<br/>drei"},
-        {"formats", "<b>a</b><em>b</em><u>c</u><small>d</small>",
-            "<b>a</b><i>b</i><u>c</u><small>d</small>"},
-        {"formats of a style sheet",
-            "<style>.x{font-weight:700}</style><span class=x>a</span><span "
-            "style='font-style:italic'>b</span>",
-            "<b>a</b><i>b</i>"},
-        {"a heading", "<h1>Titel</h1>Text", "<b><big>Titel</big></b><br/>Text"},
-        {"a link", "<a href='x?a=1&amp;b=\"'><b>w</b></a>",
-            "<a href=\"x?a=1&amp;b=&quot;\"><b>w</b></a>"},
-        {"a list", "<ul><li>a<li>b</ul>", "a<br/>b"},
-        {"a table", "<table><tr><td>a<td>b<tr><td>c<td>d</table>", "a b<br/>c d"},
-        {"entities", "&lt;&amp;&nbsp;&euro;&rarr;", "&lt;&amp;&nbsp;\x80&#8594;"},
-        {"what an area has not",
-            "<script>x</script><img src='file:///etc/passwd'>"
-            "<form>a<!--StartFragment--><font color=red>b</font>",
-            "b"},
-        {"nothing", "<html><body></body></html>", ""},
-    };
-    for (const auto& [name, html, markup] : rows)
-        EXPECT_EQ(designMarkupOf(html), markup) << name;
+    for (const auto& row : test::rowsOf("html_of_others.txt"))
+        EXPECT_EQ(designMarkupOf(QString::fromStdString(row.at(1))), row.at(2)) << row.at(0);
 }
 
 TEST(SurfaceClipboard, GivesOthersTheFormatsWithoutMarkersAndChips)

@@ -3,6 +3,7 @@
 #include "document/text/limits.h"
 #include "editor/page/page_places.h"
 #include "support/area_texts.h"
+#include "support/row_file.h"
 
 #include <QClipboard>
 #include <QInputMethodEvent>
@@ -24,9 +25,9 @@ void putIntoClipboard(const QString& text)
 }
 
 /// Presses keys by their names, each with the text that it brings along.
-void pressKeys(ShownSurface& surface, const char* names)
+void pressKeys(ShownSurface& surface, const std::string& names)
 {
-    for (const auto& name : QString(names).split(u' ')) {
+    for (const auto& name : QString::fromStdString(names).split(u' ')) {
         const auto key = QKeySequence::fromString(name)[0];
         const auto held = key.keyboardModifiers();
         const bool isAltGr = held == (kControl | Qt::AltModifier);
@@ -39,28 +40,12 @@ void pressKeys(ShownSurface& surface, const char* names)
 
 TEST(SurfaceTyping, PutsIntoTheTextWhatKeysMean)
 {
-    const char* const rows[][4] = {
-        {"Return twice", "<p>a|b</p>", "Return Num+Enter", "<p>a<br/><br/>|b</p>"},
-        {"Ctrl and Backspace", "<p>eins zwei|</p>", "Ctrl+Backspace", "<p>eins |</p>"},
-        {"Ctrl and Delete", "<p>|eins zwei</p>", "Ctrl+Del", "<p>|zwei</p>"},
-        {"Shift, arrows and Delete", "<p>a|bcd</p>", "Shift+Right Shift+Right Del", "<p>a|d</p>"},
-        {"End and Home", "<p>a|b</p>", "End x Home y", "<p>y|abx</p>"},
-        {"keys that are no text", "<p>a|b</p>", "Esc Ctrl+K F5 Ctrl+B", "<p>a|b</p>"},
-        {"AltGr", "<p>|</p>", "Ctrl+Alt+@", "<p>@|</p>"},
-        {"undo of all, then redo", "<p>a|b|</p>", "x y z Ctrl+Z Ctrl+Z Ctrl+Shift+Z",
-            "<p>axyz|</p>"},
-        {"what is typed elsewhere is a step of its own", "<p>a|b</p>", "x End y Ctrl+Z",
-            "<p>axb|</p>"},
-        {"no redo behind another edit", "<p>a|b</p>", "x Ctrl+Z y Ctrl+Shift+Z", "<p>ay|b</p>"},
-        {"cut and paste", "<p>a|b|<b>c</b></p>", "Ctrl+X End Ctrl+V", "<p>a<b>cb|</b></p>"},
-        {"all", "<p>a|b</p><p>c</p>", "Ctrl+A x", "<p>x|</p>"},
-    };
-    for (const auto& [name, before, keys, after] : rows) {
-        SCOPED_TRACE(name);
+    for (const auto& row : test::rowsOf("typed_keys.txt")) {
+        SCOPED_TRACE(row.at(0));
         ShownSurface surface;
-        surface.give(before);
-        pressKeys(surface, keys);
-        EXPECT_EQ(surface.told(), after);
+        surface.give(row.at(1));
+        pressKeys(surface, row.at(2));
+        EXPECT_EQ(surface.told(), row.at(3));
         EXPECT_TRUE(surface.failures.isEmpty());
     }
 }

@@ -213,22 +213,6 @@ TEST_F(WholeProgram, LosesNothingOfADeckWithStandardOutput)
     }
 }
 
-TEST_F(WholeProgram, SaysThatADeckOfTheCommandLineIsTooLongAndGoesOn)
-{
-    const auto text = std::string(kDeck).replace(
-        std::string_view(kDeck).find("Guten"), 5, std::string(40000, 'x'));
-    (void)desktop.folder.put("meine decks/index.wml", text);
-    const auto program = open();
-    desktop.waitUntil(
-        "message over the window", [&] { return desktop.windows("^MORVANE Quillmere$") == 2; });
-    std::this_thread::sleep_for(std::chrono::milliseconds(500));
-    press("Return");
-    desktop.focus(desktop.window("^MORVANE Quillmere$"));
-    press("Escape");
-    EXPECT_EQ(desktop.waitForEnd(program), 0);
-    EXPECT_EQ(saved(), text);
-}
-
 TEST_F(WholeProgram, SavesWithoutADirectoryOfWorkFiles)
 {
     const auto program = open();

@@ -62,30 +62,5 @@ TEST_F(Assistant, IsSilencedHoweverItIsLeft)
     EXPECT_EQ(leave([](QWidget& form) { click(form, "btnNew"); }), "No");
 }
 
-TEST_F(Assistant, HighlightsTheOneChoiceThatTheMouseIsOver)
-{
-    (void)run([](QWidget& form) {
-        const auto shown = [&] {
-            std::string names;
-            for (const char* name : {"picNew", "picOpen", "picAssistant"})
-                if (control(form, name).isVisible()) names += name;
-            return names;
-        };
-        const auto enter = [&](const char* name) {
-            QEnterEvent over({}, {}, {});
-            QApplication::sendEvent(&control(form, name), &over);
-        };
-        enter("btnOpen");
-        EXPECT_EQ(shown(), "picOpen");
-        EXPECT_EQ(control(form, "picOpen").size(), control(form, "btnOpen").size());
-        enter("btnAssistant");
-        EXPECT_EQ(shown(), "picAssistant");
-        QEvent out(QEvent::Leave);
-        QApplication::sendEvent(&control(form, "btnAssistant"), &out);
-        EXPECT_EQ(shown(), "");
-        QTest::keyClick(&form, Qt::Key_Escape);
-    });
-}
-
 } // namespace
 } // namespace quillmere

@@ -1,4 +1,3 @@
-#include "forms/frm_input.h"
 #include "forms/frm_message.h"
 #include "forms/message_icon.h"
 #include "forms/window_messages.h"
@@ -119,26 +118,6 @@ TEST_F(Notes, QuestionsAreAnsweredByTheKeyboardAndTextsAreShownAsTheyAre)
         click(window, "btnOk");
     });
     messages.show(word::kNoDeckOpen, {}, MessageIcon::None);
-}
-
-TEST_F(Notes, AnInputGivesItsLineOnOkOnly)
-{
-    const auto ask = [&](const std::function<void(QWidget&)>& use) {
-        frmInput form(program.session);
-        form.SetParameters({"Neuer Ordner", "Wohin?", "&Name:", "Ordner"});
-        withNextModal(use);
-        form.showModally();
-        return form.input();
-    };
-    EXPECT_EQ(ask([](QWidget& form) {
-        EXPECT_EQ(form.windowTitle(), QString("Neuer Ordner"));
-        QTest::keyClicks(form.focusWidget(), "Bilder");
-        QTest::keyClick(&form, Qt::Key_Return);
-    }),
-        QString("Bilder"));
-    EXPECT_EQ(ask([](QWidget& form) { click(form, "btnOk"); }), QString("Ordner"));
-    EXPECT_EQ(ask([](QWidget& form) { QTest::keyClick(&form, Qt::Key_Escape); }), QString());
-    EXPECT_EQ(ask([](QWidget& form) { click(form, "btnCancel"); }), QString());
 }
 
 } // namespace

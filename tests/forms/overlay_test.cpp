@@ -102,14 +102,5 @@ TEST_F(Overlay, AFormKeepsItsTextsWithoutAnEntryOfItsVariant)
     EXPECT_EQ(form.windowTitle() + lblText->text(), "andersanders");
 }
 
-TEST_F(Overlay, OneControlTakesTheTextOfAnEntry)
-{
-    read("<Form id=frmProbe skip=-1><control id=lblOther tooltip=t>neu</control>"
-         "<control id=empty></control></Form>");
-    EXPECT_TRUE(OverlayControlText(form, *lblText, "lblOther", program.session));
-    EXPECT_FALSE(OverlayControlText(form, *lblText, "empty", program.session));
-    EXPECT_EQ(lblText->text() + lblText->toolTip(), "neu");
-}
-
 } // namespace
 } // namespace quillmere

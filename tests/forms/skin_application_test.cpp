@@ -2,12 +2,11 @@
 
 #include "forms/skin_picture.h"
 #include "forms/skinned_window.h"
+#include "forms/window_outline.h"
 #include "support/scratch_folder.h"
 
-#include <QDir>
 #include <QFile>
 #include <QImage>
-#include <QTest>
 
 #include <gtest/gtest.h>
 
@@ -93,29 +92,6 @@ TEST(ApplyItem, SetsWhatTheControlHas)
     EXPECT_EQ(text.palette().color(QPalette::Base), QColor(Qt::red));
 }
 
-TEST(ApplyItem, BlanksLeaveWhatIsThere)
-{
-    const SkinFolder skins;
-    QWidget window;
-    QLabel label(&window);
-    auto item = someItem();
-    item.Picture.set("a.png");
-    ApplyItem(label, item, skins.path());
-    auto font = label.font();
-    for (const auto* name : {"", "missing.png", "../", "broken.png"}) {
-        SCOPED_TRACE(name);
-        skins.file("broken.png", bytesOf(kSkins + "papier-window.png").left(200));
-        item.Picture.set(name);
-        item.FontName.set("");
-        item.FontSize = 0;
-        item.Left = 11; // all ahead of the picture is still set
-        ApplyItem(label, item, skins.path());
-        EXPECT_EQ(label.pixmap(Qt::ReturnByValue).size(), QSize(30, 30));
-        EXPECT_EQ(label.font(), font);
-        EXPECT_EQ(label.x(), 11);
-    }
-}
-
 TEST(SkinPicture, ComesAtDoubleSizeWhereTheScreenHasIt)
 {
     const SkinFolder skins;
@@ -163,54 +139,6 @@ TEST(ApplyEditorSkin, KeepsTheWindowsPlaceAndFillsAllControls)
     }
 }
 
-TEST(ApplyEditorSkin, ASmallSurfaceStandsInTheMiddleOfItsPlace)
-{
-    const SkinSettings store(kSkins);
-    SkinTables tables;
-    ReadEditorSkins(tables, store.settings);
-    auto skin = tables.EditorSkins.front();
-    const auto whole = surfacePlace(skin, 14);
-    EXPECT_EQ(whole.width(), 782);
-    auto& surface = skin.items[std::size_t(SkinPart::Surface)];
-    surface.Width = 100;
-    surface.Height = 100;
-    const auto small = surfacePlace(skin, 14);
-    EXPECT_EQ(small.size(), QSize(114, 100));
-    EXPECT_TRUE(whole.contains(small));
-    surface.Width = 30000;
-    EXPECT_EQ(surfacePlace(skin, 14).width(), whole.width());
-}
-
-TEST(ApplyPreviewSkin, DressesThePreviewInEachTelephone)
-{
-    const SkinSettings store(kSkins);
-    SkinTables tables;
-    ReadPreviewSkins(tables, store.settings, false);
-    ASSERT_EQ(tables.PreviewSkins.size(), 4U);
-    for (std::size_t i = 0; i < 3; ++i) {
-        SCOPED_TRACE(std::string(tables.PreviewSkins[i].Model.text()));
-        select(tables.PreviewSkins, i);
-        SkinnedPreview window;
-        PageLook page;
-        ApplyPreviewSkin(
-            window, tables, store.settings, [&](const PageLook& look) { page = look; });
-        EXPECT_EQ(page.fontSizePx, 12);
-        const auto* body = window.findChild<QLabel*>("picSkin");
-        EXPECT_EQ(body->pixmap(Qt::ReturnByValue).size(), body->size());
-        for (const auto* inside : {"lblCardCaption", "lblTaskCaption", "lblButtonSelect",
-                 "lblButtonBack", "lblButtonCommit"}) {
-            const auto place = window.findChild<QWidget*>(inside)->geometry();
-            EXPECT_TRUE(body->geometry().contains(place)) << inside;
-            EXPECT_FALSE(place.intersects(page.place)) << inside;
-        }
-        EXPECT_TRUE(window.findChild<QWidget*>("picButtonBack")->isHidden());
-        window.show();
-        const auto rest = window.grab().toImage();
-        QTest::mousePress(window.findChild<ToolLabel*>("lblButtonCommit"), Qt::LeftButton);
-        EXPECT_NE(window.grab().toImage(), rest) << "a key is lit while it is held";
-    }
-}
-
 TEST(ApplyEditorSkin, AnySkinFileLeavesAWindow)
 {
     const auto good = bytesOf(kSkins + "Adjust.ini");
@@ -238,6 +166,42 @@ TEST(ApplyEditorSkin, AnySkinFileLeavesAWindow)
         const bool hasSkin = !tables.EditorSkins.front().Model.text().empty();
         EXPECT_TRUE(hasSkin || window.tool("Help").geometry() == place);
     }
+}
+
+QByteArray pointsOf(const std::vector<std::pair<qint32, qint32>>& points)
+{
+    QByteArray bytes;
+    for (const auto& [x, y] : points) {
+        for (const auto value : {x, y}) {
+            for (int shift = 0; shift < 32; shift += 8)
+                bytes += char(quint32(value) >> shift & 0xFF);
+        }
+    }
+    return bytes;
+}
+
+QRegion outlineOf(QWidget& window, const QByteArray& file)
+{
+    const test::ScratchFolder folder;
+    folder.put("AdjPnt.ini", file.toStdString());
+    const SkinSettings store(folder.path());
+    QRegion region(1, 2, 3, 4);
+    SetWindowOutline(window, store.settings, region);
+    return region;
+}
+
+TEST(WindowOutline, TheSpareCornerIsAVertex)
+{
+    QWidget window;
+    window.resize(100, 100);
+    const auto region = outlineOf(window, pointsOf({{100, 50}, {100, 100}, {50, 100}}));
+    EXPECT_TRUE(region.contains({20, 20})) << "towards (0, 0)";
+    EXPECT_FALSE(region.contains({90, 20}));
+    EXPECT_EQ(window.mask(), region);
+    QRegion taken = region;
+    ClearWindowOutline(window, taken);
+    EXPECT_TRUE(taken.isEmpty());
+    EXPECT_TRUE(window.mask().isEmpty());
 }
 
 } // namespace

@@ -8,7 +8,6 @@
 #include "skins/skin_files.h"
 
 #include <QLabel>
-#include <QLineEdit>
 #include <QPlainTextEdit>
 #include <QPushButton>
 
@@ -49,22 +48,6 @@ private:
     {
         auto* picture = name == "Morvane" ? nullptr : new ToolPicture("picButton" + name, this);
         new ToolLabel("lblButton" + name, picture, this);
-    }
-};
-
-/// A preview with all controls that a telephone dresses.
-class SkinnedPreview : public QWidget {
-public:
-    SkinnedPreview()
-    {
-        for (const auto* name : {"picSkin", "lblCardCaption", "lblTaskCaption", "lblAddress"})
-            (new QLabel(this))->setObjectName(name);
-        (new QLineEdit(this))->setObjectName("txtAdress");
-        (new QPushButton(this))->setObjectName("btnSearchFile");
-        for (const auto key : kPreviewKeys) {
-            const auto name = QString::fromLatin1(key.data(), qsizetype(key.size()));
-            new ToolLabel("lblButton" + name, new ToolPicture("picButton" + name, this), this);
-        }
     }
 };
 

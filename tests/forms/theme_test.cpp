@@ -6,11 +6,8 @@
 #include <QCheckBox>
 #include <QComboBox>
 #include <QDialog>
-#include <QDialogButtonBox>
 #include <QImage>
 #include <QLineEdit>
-#include <QScrollBar>
-#include <QStyleOption>
 #include <QTest>
 
 #include <gtest/gtest.h>
@@ -95,48 +92,6 @@ TEST_F(ThemedControls, OneButtonIsTheDefaultOneAndEdgesAreSeen)
     EXPECT_EQ(at(plain, 50, 0), theme.edge);
     EXPECT_EQ(at(remove, 50, 0), theme.danger);
     EXPECT_EQ(at(field, 100, 0), theme.accent) << "the field that the person writes in";
-}
-
-TEST_F(ThemedControls, TheRingIsTheKeyboards)
-{
-    plain.setAutoDefault(false);
-    QTest::mouseClick(&plain, Qt::LeftButton);
-    EXPECT_EQ(at(plain, 50, 0), theme.edge);
-    field.setFocus();
-    QTest::keyClick(&field, Qt::Key_Tab); // the last field of the form, so round to the first
-    ASSERT_TRUE(plain.hasFocus());
-    EXPECT_EQ(at(plain, 50, 1), theme.accent);
-}
-
-TEST_F(ThemedControls, AScrollBarHasNoArrowsAndMovesOverAllOfItsLength)
-{
-    QScrollBar bar(Qt::Vertical, &window);
-    bar.setGeometry(380, 0, bar.sizeHint().width(), 200);
-    EXPECT_EQ(bar.width(), 14);
-    bar.setRange(0, 1000000);
-    bar.setPageStep(10);
-    QStyleOptionSlider option;
-    option.initFrom(&bar);
-    option.orientation = Qt::Vertical;
-    option.maximum = bar.maximum();
-    option.pageStep = bar.pageStep();
-    const auto slider = [&](int position) {
-        option.sliderPosition = position;
-        return bar.style()->subControlRect(
-            QStyle::CC_ScrollBar, &option, QStyle::SC_ScrollBarSlider, &bar);
-    };
-    EXPECT_EQ(slider(0).top(), 0);
-    EXPECT_EQ(slider(bar.maximum()).bottom(), 199);
-    EXPECT_GE(slider(0).height(), 28) << "can be taken with the mouse";
-}
-
-TEST_F(ThemedControls, TheAcceptingButtonStandsAtTheRight)
-{
-    QDialogButtonBox box(QDialogButtonBox::Ok | QDialogButtonBox::Cancel, &window);
-    box.setGeometry(0, 200, 400, 60);
-    box.show();
-    QApplication::processEvents();
-    EXPECT_GT(box.button(QDialogButtonBox::Ok)->x(), box.button(QDialogButtonBox::Cancel)->x());
 }
 
 } // namespace

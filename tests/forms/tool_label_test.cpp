@@ -1,6 +1,5 @@
 #include "forms/tool_label.h"
 
-#include <QFocusEvent>
 #include <QImage>
 #include <QSignalSpy>
 #include <QTest>
@@ -73,47 +72,6 @@ TEST_F(ToolLabelTest, KeysActAndADisabledToolDoesNot)
     tool.setEnabled(false);
     QTest::mouseClick(&tool, Qt::LeftButton, {}, inside);
     EXPECT_EQ(clicked.count(), 2);
-}
-
-TEST_F(ToolLabelTest, EachStateIsSeen)
-{
-    tool.clearFocus(); // which the window gave it when it came up
-    const auto rest = shot();
-    tool.setFocus(Qt::TabFocusReason);
-    const auto ring = shot();
-    EXPECT_EQ(ring.pixelColor(35, 1), QColor(Qt::red));
-    EXPECT_NE(rest.pixelColor(35, 1), QColor(Qt::red));
-    QFocusEvent left(QEvent::FocusOut, Qt::ActiveWindowFocusReason);
-    QFocusEvent back(QEvent::FocusIn, Qt::ActiveWindowFocusReason);
-    QApplication::sendEvent(&tool, &left);
-    QApplication::sendEvent(&tool, &back);
-    EXPECT_EQ(shot(), ring) << "another window was used meanwhile";
-    tool.clearFocus();
-    tool.setFocus(Qt::MouseFocusReason);
-    EXPECT_EQ(shot(), rest) << "the ring is the keyboard's";
-    tool.setEnabled(false);
-    EXPECT_NE(shot(), rest);
-    tool.setEnabled(true);
-    QTest::mousePress(&tool, Qt::LeftButton, {}, inside);
-    EXPECT_NE(shot(), rest);
-    QTest::mouseRelease(&tool, Qt::LeftButton, {}, outside);
-
-    ToolLabel plain("lblButtonMorvane", nullptr, &window);
-    plain.setText("Quillmere");
-    const auto plainRest = plain.grab().toImage();
-    plain.setAttribute(Qt::WA_UnderMouse);
-    QTest::mousePress(&plain, Qt::LeftButton, {}, QPoint(5, 5));
-    EXPECT_NE(plain.grab().toImage(), plainRest);
-}
-
-TEST_F(ToolLabelTest, ACaptionIsNeverClipped)
-{
-    tool.setText("Bildkonverterfenster");
-    const auto image = shot();
-    for (int y = 0; y < image.height(); ++y) { // nothing of the text at the edges
-        EXPECT_EQ(image.pixelColor(0, y), image.pixelColor(0, 0));
-        EXPECT_EQ(image.pixelColor(69, y), image.pixelColor(69, 0));
-    }
 }
 
 } // namespace

@@ -48,12 +48,6 @@ TEST_F(AlternativeText, IsDrawnWholeWithAMargin)
     }
 }
 
-TEST_F(AlternativeText, KnowsTheLettersOfWindows1252)
-{
-    EXPECT_GT(pixelsOf(painter.paint("\xE4"), 100), pixelsOf(painter.paint("a"), 100)) << "dots";
-    EXPECT_EQ(pixelsOf(painter.paint(" "), 1), 0U);
-}
-
 QImage imageOf(const std::string& bmp)
 {
     return QImage::fromData(QByteArray(bmp.data(), qsizetype(bmp.size())), "BMP");

@@ -2,12 +2,9 @@
 
 #include "document/text/failure.h"
 #include "imageconv/bmp_writer.h"
-#include "support/scratch_folder.h"
 #include "support/token_soup.h"
 
 #include <gtest/gtest.h>
-
-#include <tuple>
 
 namespace quillmere {
 namespace {
@@ -119,25 +116,6 @@ TEST(ReadWbmp, RefusesByTheStandardWhatIsNone)
     EXPECT_THROW((void)readWbmp(endless, kStandard), BadPicture);
 }
 
-TEST(WriteWbmp, WritesTheUsualForms)
-{
-    const std::tuple<std::size_t, std::size_t, std::string, std::size_t> rows[]
-        = {{8, 1, {"\0\0\x08\x01", 4}, 2}, // a byte of 0 behind full bytes
-            {51, 21, {"\0\0\x33\x15", 4}, 7}, {128, 128, {"\0\0\x80\x80", 4}, 17},
-            {129, 1, {"\0\0\x81\x00\x80\x00", 6}, 17}, // the largest index and not the count
-            {201, 51, {"\0\0\x81\x48\x80\x32", 6}, 26}};
-    for (const auto& [width, height, header, rowBytes] : rows) {
-        Drawing drawing(Rows(height, std::string(width, '.')));
-        const auto bytes = wbmpBytes(drawing, kUsual);
-        EXPECT_EQ(bytes.substr(0, header.size()), header);
-        EXPECT_EQ(bytes.size(), header.size() + height * rowBytes);
-        EXPECT_EQ(std::size_t(drawing.yields), width * height);
-    }
-    Drawing drawing({"#.#.#.#.#", "?.??#...."}); // what cannot be read is missing in its row
-    EXPECT_EQ(wbmpBytes(drawing, kUsual), std::string("\0\0\x09\x02\x55\x00\xBC", 7));
-    EXPECT_EQ(wbmpBytes(drawing, kStandard), std::string("\0\0\x09\x02\x55\x00\xF7\x80", 8));
-}
-
 TEST(WriteWbmp, ComesBackWholeButForTheUsualWidthsOneShortOfEight)
 {
     constexpr std::string_view kPixels[] = {"#", "."};
@@ -154,24 +132,6 @@ TEST(WriteWbmp, ComesBackWholeButForTheUsualWidthsOneShortOfEight)
             const auto read = rowsOf(readWbmp(wbmpBytes(drawing, kUsual), kUsual));
             EXPECT_EQ(read == rows, width % 8 != 7 || height == 1);
         }
-    }
-}
-
-TEST(ReadWbmpFile, NamesTheFileThatItCannotRead)
-{
-    const test::ScratchFolder folder;
-    const auto path = folder.put("kurz.wbmp", "");
-    EXPECT_EQ(readWbmpSize(path, kUsual).widthPx, 0);
-    EXPECT_THROW((void)ReadWbmpFile(folder.path() + "fehlt.wbmp", kUsual), FileFailure);
-    EXPECT_THROW((void)readWbmpSize(folder.path(), kUsual), FileFailure);
-    try {
-        (void)ReadWbmpFile(path, kStandard);
-        FAIL() << "read";
-    } catch (const BadPicture& bad) {
-        EXPECT_EQ(bad.description(),
-            "Das Bild \x84" + path
-                + "\x93 kann nicht gelesen werden. "
-                  "Das Bild ist unvollst\xE4ndig: Die Datei endet zu fr\xFCh.");
     }
 }
 

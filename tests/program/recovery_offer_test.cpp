@@ -10,15 +10,13 @@ namespace quillmere {
 namespace {
 
 using namespace test;
-using Log = std::vector<std::string>;
 
 struct Offers : testing::Test {
     DeckDesk program;
     ScratchFolder runs;
 
-    /// What a run left that had one area of this text in a deck, and maybe a source.
-    void crash(
-        const std::string& name, const std::string& text, int time, const std::string& source = {})
+    /// What a run left that had one area of this text in a deck.
+    void crash(const std::string& name, const std::string& text, int time)
     {
         const auto path = runs.path() + "quillmere-" + name + "/";
         const auto area = runs.put("quillmere-" + name + "/Wml0.htm", text);
@@ -27,9 +25,6 @@ struct Offers : testing::Test {
         note.time = time;
         note.isChanged = true;
         note.areas = {{{path, "Wml0.htm"}, 0, {}}};
-        if (!source.empty()) note.source = {path, "Source0.txt"};
-        if (!source.empty()) (void)runs.put("quillmere-" + name + "/Source0.txt", source);
-        if (!source.empty()) note.seen = SeenDeckFile{true, 1, 1, 1};
         (void)runs.put("quillmere-" + name + "/Sicherung.txt", textOfNote(note));
         ::chmod(path.c_str(), 0700);
     }
@@ -68,16 +63,6 @@ TEST_F(Offers, OpenTheNewestThatIsWantedAndKeepTheOthers)
     EXPECT_FALSE(runs.has("quillmere-zweite"));
     EXPECT_FALSE(runs.has("quillmere-erster"));
     EXPECT_FALSE(offer({}));
-}
-
-TEST_F(Offers, OpenASourceAsItStoodAndAskBeforeASaveGoesOverAnothersText)
-{
-    crash("quelle", kArea, 1000, "<wml>halb ge");
-    (void)program.folder.put("quelle.wml", "<wml>fremd</wml>");
-    EXPECT_TRUE(offer({true}));
-    EXPECT_TRUE(program.messages.log.at(0).starts_with("ask 202: "));
-    EXPECT_EQ(program.window.source, "<wml>halb ge");
-    EXPECT_EQ(program.session.deckFile.change(), DeckFileChange::Altered);
 }
 
 TEST_F(Offers, SayWhatCannotBeOpenedAndKeepIt)

@@ -43,19 +43,6 @@ TEST(Registry, GivesEveryValueBackAsItWasGiven)
     EXPECT_EQ(store.ReadSetting("LastPath1"), "");
 }
 
-TEST(Registry, WithoutAStoreReadsNothingAndWritesInSilence)
-{
-    const ScratchFolder folder;
-    (void)folder.put("a", "a file where the folder should be");
-    clsRegistry store(storeIn(folder));
-    store.WriteSetting("ShowStartDialog", "Yes");
-    EXPECT_EQ(store.ReadSetting("ShowStartDialog"), "");
-    DiskFileSystem disk;
-    const test::FakeDrives drives;
-    EXPECT_NO_THROW(EnsureDefaultSettings(store, {"/opt/q/", disk, drives}));
-    EXPECT_EQ(store.ReadSetting("Skins"), "");
-}
-
 TEST(DataDirectories, AreCopiedOnceWhereTheProgramsOwnCannotBeWritten)
 {
     const ScratchFolder folder;

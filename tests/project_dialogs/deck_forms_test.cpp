@@ -99,34 +99,6 @@ TEST(frmAskProjektDir, MakesTheDirectoryAndOffersTheStartPage)
     EXPECT_EQ(desk.settings.ReadSetting("LastPath1"), folder);
 }
 
-TEST(frmAskProjektDir, StaysOpenWhereNothingWasMade)
-{
-    DeckDesk desk;
-    const auto folder = desk.folder.path();
-    desk.settings.WriteSetting("LastPath1", folder);
-    desk.folder.put("index.wml", deckOf("alt"));
-    desk.folder.put("datei", "");
-    Shown<frmAskProjektDir> shown(desk);
-    shown.fill("txtFileName", QStringLiteral("index"));
-    desk.messages.answers = {false};
-    shown.click("btnOk");
-    EXPECT_EQ(desk.messages.taken(), Log{"ask 10: index.wml"});
-    EXPECT_TRUE(shown.form.isVisible());
-    shown.fill("txtPath", qt(folder + "datei/x")); // below a file
-    desk.messages.answers = {true};
-    shown.click("btnOk");
-    const auto told = desk.messages.taken();
-    ASSERT_EQ(told.size(), 2U);
-    EXPECT_TRUE(told.back().starts_with("failure: Der Ordner")) << told.back();
-    EXPECT_TRUE(shown.form.isVisible() && desk.deck().empty());
-    shown.click("btnHelp");
-    QTest::keyClick(&shown.control<QLineEdit>("txtPath"), Qt::Key_F1);
-    EXPECT_EQ(desk.window.helps, 2);
-    QTest::keyClick(&shown.form, Qt::Key_Escape);
-    EXPECT_FALSE(shown.form.isVisible());
-    EXPECT_EQ(desk.folder.get("index.wml"), deckOf("alt"));
-}
-
 TEST(frmOpenFromProjektDir, OpensWhatIsSelected)
 {
     DeckDesk desk;
@@ -156,7 +128,7 @@ TEST(frmOpenFromProjektDir, OpensWhatIsSelected)
     EXPECT_NE(desk.area(0).find("SEITE.WML"), std::string::npos);
 }
 
-TEST(frmDeckOpen, DoesItsThreeTasksInOneDirectory)
+TEST(frmDeckOpen, OpensADeckAndMakesAnother)
 {
     DeckDesk desk;
     const auto folder = desk.folder.path();
@@ -184,14 +156,6 @@ TEST(frmDeckOpen, DoesItsThreeTasksInOneDirectory)
         shown.click("btnOpen");
         EXPECT_TRUE(shown.isDone());
         EXPECT_EQ(desk.deck().front().deckDir, folder + "b/");
-    }
-    {
-        Shown<frmDeckOpen> shown(desk);
-        shown.form.ShowTab(QStringLiteral("as"));
-        EXPECT_EQ(shown.text("txtSaveAsFileName"), "zwei.wml");
-        shown.fill("txtSaveAsFileName", QStringLiteral("drei"));
-        shown.click("btnSaveCurProjectAs");
-        EXPECT_TRUE(shown.isDone() && desk.folder.has("b/drei.wml"));
     }
     Shown<frmDeckOpen> shown(desk);
     shown.form.ShowTab(QStringLiteral("new"));

@@ -53,25 +53,5 @@ TEST(SkinTokens, EveryEditorSkinCanBeReadInEveryState)
     }
 }
 
-TEST(SkinTokens, EveryTelephoneCanBeRead)
-{
-    constexpr StageTokens kStage;
-    expectContrasts({
-        {"label round the telephone", kStage.ink, kStage.ground, kTextContrast},
-        {"address", kStage.fieldInk, kStage.field, kTextContrast},
-    });
-    for (const auto* t : {&kNordlicht, &kWeitblick, &kFalter}) {
-        expectContrasts({
-            {"page", t->displayInk, t->display, kTextContrast},
-            {"key", t->keyInk, t->key, kTextContrast},
-            {"lit key", t->litInk, t->lit, kTextContrast},
-            {"lit against rest", t->lit, t->key, 1.5},
-            {"number", t->padInk, t->pad, kTextContrast},
-            {"engraving on the light side", t->engraving, t->bodyLight, kTextContrast},
-            {"engraving on the dark side", t->engraving, t->bodyDark, kTextContrast},
-        });
-    }
-}
-
 } // namespace
 } // namespace quillmere

@@ -190,28 +190,5 @@ TEST(UserDevices, AreReadLineByLine)
     EXPECT_EQ(devices[2].Name, "");
 }
 
-TEST(UserDevices, SizesThatAreNoNumbersOf16BitsFail)
-{
-    const std::string device = "<Geraet Name=x>\n<Min Height=";
-    for (const char* size : {"a Width=1>", "1>", "1 Width=2/>"})
-        EXPECT_THROW((void)readUserDevices(device + size), TypeMismatch) << size;
-    for (const char* size : {"32768 Width=1>", "99999999999 Width=1>"})
-        EXPECT_THROW((void)readUserDevices(device + size), Overflow) << size;
-    EXPECT_NO_THROW((void)readUserDevices(device + "-32768 Width=32767>"));
-}
-
-TEST_F(SkinFiles, AFailureLeavesTheListOfDevices)
-{
-    std::vector<UserDevice> devices(3);
-    EXPECT_THROW(ReadUserDevices(devices, settings), FileFailure);
-    folder.put("UserDef.ini", "<Geraet Name=a>\n<Max Height=x>");
-    EXPECT_THROW(ReadUserDevices(devices, settings), TypeMismatch);
-    ReadUserDevices(devices, MemorySettings());
-    EXPECT_EQ(devices.size(), 3U);
-    folder.put("UserDef.ini", "<Geraet Name=a>");
-    ReadUserDevices(devices, settings);
-    EXPECT_EQ(devices.size(), 2U);
-}
-
 } // namespace
 } // namespace quillmere

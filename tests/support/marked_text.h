@@ -2,6 +2,7 @@
 
 #include "editor/page/page_edits.h"
 #include "editor/page/page_places.h"
+#include "support/row_file.h"
 
 #include <gtest/gtest.h>
 
@@ -57,10 +58,19 @@ struct MarkedPage {
 
 /// A text with the caret or what is marked in it, and what becomes of it.
 struct EditRow {
-    const char* name;
+    std::string name;
     std::string before;
     std::string after;
 };
+
+/// The rows of a file, each with its three fields.
+inline std::vector<EditRow> editRowsOf(const std::string& file)
+{
+    std::vector<EditRow> rows;
+    for (const auto& row : rowsOf(file))
+        rows.push_back({row.at(0), row.at(1), row.at(2)});
+    return rows;
+}
 
 /// Each row after `operation` between its two places.
 template <class Operation>

@@ -19,24 +19,6 @@ TEST(Profiles, KeepEveryByteOfAnyFile)
     EXPECT_EQ(profileBytes(profiles), bytes);
 }
 
-TEST(Profiles, HaveTheirMembersAtTheirOffsets)
-{
-    std::vector<ProfileRecord> profiles(2);
-    auto& profile = profiles.front();
-    profile.profileName.set("Büro");
-    profile.url.set("ftp.example.org");
-    profile.accessType = 3;
-    profile.port = 2121;
-    profile.savePassword = ProfileRecord::kPasswordSaved;
-    const auto bytes = profileBytes(profiles);
-    ASSERT_EQ(bytes.size(), ProfileRecord::kSize);
-    EXPECT_EQ(bytes.substr(0, 3), "B\xC3\xBC");
-    EXPECT_EQ(bytes.substr(300, 600), std::string(600, ' '));
-    EXPECT_EQ(bytes.substr(900, 16), "ftp.example.org ");
-    EXPECT_EQ(bytes.substr(1500, 4), std::string("\x03\0\0\0", 4));
-    EXPECT_EQ(bytes.substr(1804), std::string("\x49\x08\0\0\xFF\xFF", 6));
-}
-
 TEST(Profiles, AreSavedForTheirOwnerOnly)
 {
     const test::ScratchFolder folder;

@@ -1,5 +1,5 @@
 // All that may be refused is looked at first; the files are written then. Held by
-// tests/editor/dialogs/frm_area_test.cpp.
+// tests/editor/dialogs/element_forms_test.cpp.
 
 #include "editor/dialogs/frm_area.h"
 

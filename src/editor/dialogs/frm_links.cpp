@@ -1,4 +1,4 @@
-// Held by tests/editor/dialogs/frm_links_test.cpp.
+// Held by tests/editor/dialogs/element_forms_test.cpp.
 
 #include "editor/dialogs/frm_links.h"
 

@@ -1,4 +1,4 @@
-// Held by frm_area_test.cpp and link_edit_test.cpp.
+// Held by tests/editor/dialogs/bad_input_test.cpp.
 
 #include "editor/elements/typed_values.h"
 

@@ -1,4 +1,4 @@
-// Held by remove_formats_test.cpp.
+// Held by delete_edits_test.cpp.
 
 #include "editor/page/format_pieces.h"
 

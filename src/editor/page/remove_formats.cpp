@@ -1,6 +1,6 @@
 // A format's part ahead of the first place and its part behind the second are put in tags of their
 // own. Where a link or a paragraph is cut by a place, such a part ends at its tag and begins again
-// behind it: <b>x<a>y[z]</a></b> becomes <b>x</b><a><b>y</b>z</a>. Held by remove_formats_test.cpp.
+// behind it: <b>x<a>y[z]</a></b> becomes <b>x</b><a><b>y</b>z</a>. Held by delete_edits_test.cpp.
 
 #include "editor/page/covered_runs.h"
 #include "editor/page/format_pieces.h"

@@ -1,33 +1,17 @@
 #include "document/standard/design_pieces.h"
 
 #include "document/standard/shown_text.h"
+#include "support/row_file.h"
 
 #include <gtest/gtest.h>
-
-#include <array>
 
 namespace quillmere {
 namespace {
 
 TEST(ShownText, SpellsWhatWindows1252HasAndKeepsTheRest)
 {
-    const std::array<std::array<std::string, 2>, 13> rows{{
-        {"K&#228;se", "K\xE4se"},
-        {"K&#xE4;se&#8364;", "K\xE4se\x80"},
-        {"&#x2192;&#8594;", "&#8594;&#8594;"},
-        {"a&amp;b&#38;&lt;&#x3c;&gt;>", "a&amp;b&amp;&lt;&lt;&gt;&gt;"},
-        {"&quot;it&apos;s&quot;", "\"it's\""},
-        {"\xA0&nbsp;&#160;", "&nbsp;&nbsp;&nbsp;"},
-        {"\xAD&shy;&#173;", "&shy;&shy;&shy;"},
-        {"&#10;&#32;&#9;", "&#10;&#32;&#9;"}, // no white space comes about
-        {"&firma;", "&firma;"},
-        {"R&D", "R&D"},
-        {"&#150;&#0;", "&#150;&#0;"},
-        {"$(name:e)$$", "$(name:e)$$"},
-        {"&;&#;&#x;&", "&;&#;&#x;&"},
-    }};
-    for (const auto& [source, shown] : rows)
-        EXPECT_EQ(shownText(source), shown) << source;
+    for (const auto& row : test::rowsOf("shown_texts.txt"))
+        EXPECT_EQ(shownText(row.at(0)), row.at(1)) << row.at(0);
     EXPECT_EQ(shownValue("a\r\n\tb \"c\" 'd' > &gt;"), "a   b &quot;c&quot; 'd' &gt; &gt;");
     EXPECT_EQ(plainValue("a&amp;b &quot;&#8594;&lt;"), "a&b \"&#8594;<");
     EXPECT_EQ(writtenText("1<2&nbsp;&shy;", false), "1&lt;2&#160;&#173;");

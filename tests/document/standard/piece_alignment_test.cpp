@@ -51,22 +51,6 @@ TEST(AlignPieces, KeepsAsMuchAsCanBe)
     }
 }
 
-TEST(AlignPieces, HoldsWhatIsUniqueWhereMuchHasChanged)
-{
-    test::SmallRandom random(1);
-    Keys then(30000);
-    for (std::size_t i = 0; i < then.size(); ++i)
-        then[i] = i % 7 == 0 ? 1000 + i : i % 5;
-    auto now = then;
-    for (std::size_t i = 0; i < now.size(); i += 3)
-        if (i % 7 != 0) now[i] = 7 + random.below(3);
-    EXPECT_GT(kept(then, now, alignPieces(then, now)), then.size() / 2);
-    EXPECT_EQ(kept(then, randomKeys(random, 30000, 3), Places(30000, kNoPiece)), 0U);
-    const auto same = randomKeys(random, 30000, 3); // in some seconds if it grew with the square
-    const auto others = randomKeys(random, 30000, 3);
-    EXPECT_GT(kept(same, others, alignPieces(same, others)), 0U);
-}
-
 TEST(SettleRuns, MovesANewRunToWhereItIsAnElement)
 {
     const auto turnsOf = [](const std::string& text) {

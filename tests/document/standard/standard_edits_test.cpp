@@ -15,7 +15,6 @@
 #include <algorithm>
 #include <cstdlib>
 #include <filesystem>
-#include <functional>
 #include <regex>
 
 // Decks are opened, edited at random places and saved: the files differ there and nowhere else.
@@ -36,109 +35,89 @@ struct Edit {
     std::size_t mostInserted = 0;
 };
 
-class Editor {
-public:
-    Editor(std::string text, test::SmallRandom& random)
-        : text_(std::move(text))
-        , pieces_(readDesignPieces(text_))
-        , random_(random)
-    {
-    }
-    /// An edit at a random piece; nothing where there are hardly any pieces for it.
-    std::optional<Edit> next()
-    {
-        if (pieces_.size() < 2) return std::nullopt;
-        for (int tries = 0; tries < 20; ++tries)
-            if (auto edit = tried()) return edit;
-        return std::nullopt;
-    }
-    [[nodiscard]] std::string edited(const Edit& edit) const
-    {
-        auto text = text_;
-        return text.replace(edit.begin, edit.end - edit.begin, edit.inserted);
-    }
+/// An area's text and one of its pieces.
+struct Place {
+    const std::string& text;
+    const std::vector<DesignPiece>& pieces;
+    std::size_t at;
 
-private:
-    std::optional<Edit> tried()
+    [[nodiscard]] const DesignPiece& piece() const { return pieces[at]; }
+    [[nodiscard]] std::size_t begin() const
     {
-        at_ = 1 + random_.below(pieces_.size() - 1);
-        using Try = std::optional<Edit> (Editor::*)();
-        constexpr Try kTries[]
-            = {&Editor::insertWord, &Editor::removeWord, &Editor::insertParagraph,
-                &Editor::removeElement, &Editor::changeAttribute, &Editor::replaceWord};
-        return (this->*kTries[random_.below(std::size(kTries))])();
+        return static_cast<std::size_t>(piece().text.data() - text.data());
     }
-    [[nodiscard]] std::size_t beginOf(std::size_t piece) const
-    {
-        return static_cast<std::size_t>(pieces_[piece].text.data() - text_.data());
-    }
-    [[nodiscard]] std::size_t endOf(std::size_t piece) const
-    {
-        return beginOf(piece) + pieces_[piece].text.size();
-    }
-    [[nodiscard]] bool isWord() const { return pieces_[at_].kind == Kind::Word; }
-
-    std::optional<Edit> insertWord()
-    {
-        if (!isWord()) return std::nullopt;
-        return Edit{"insert a word", endOf(at_), endOf(at_), " Zusatz", 0, 7};
-    }
-    std::optional<Edit> removeWord()
-    {
-        if (!isWord()) return std::nullopt;
-        return Edit{"remove a word", beginOf(at_), endOf(at_), "", 8 * pieces_[at_].text.size(), 0};
-    }
-    std::optional<Edit> replaceWord()
-    {
-        if (!isWord()) return std::nullopt;
-        return Edit{
-            "replace a word", beginOf(at_), endOf(at_), "anders", 8 * pieces_[at_].text.size(), 6};
-    }
-    std::optional<Edit> insertParagraph()
-    {
-        const auto& piece = pieces_[at_];
-        if (piece.kind != Kind::End || piece.element != WmlElement::Paragraph) return std::nullopt;
-        return Edit{"insert a paragraph", endOf(at_), endOf(at_), "<p>Neu hier</p>", 0, 100};
-    }
-    std::optional<Edit> removeElement()
-    {
-        if (pieces_[at_].kind != Kind::Start || !isRemovable(pieces_[at_].element))
-            return std::nullopt;
-        int depth = 0;
-        for (auto i = at_; i < pieces_.size(); ++i) {
-            depth += pieces_[i].kind == Kind::Start ? 1 : pieces_[i].kind == Kind::End ? -1 : 0;
-            if (depth > 0) continue;
-            const auto length = endOf(i) - beginOf(at_);
-            return Edit{"remove an element", beginOf(at_), endOf(i), "", 8 * length + 99, 4};
-        }
-        return std::nullopt;
-    }
-    /// What a valid deck can do without.
-    static bool isRemovable(WmlElement element)
-    {
-        return element == WmlElement::Paragraph || element == WmlElement::Bold
-            || element == WmlElement::Link || element == WmlElement::Table
-            || element == WmlElement::Select || element == WmlElement::Do;
-    }
-    std::optional<Edit> changeAttribute()
-    {
-        const auto& piece = pieces_[at_];
-        if (piece.kind != Kind::Start) return std::nullopt;
-        for (const auto& name : {"title=\"", "href=\"", "onpick=\"", "label=\""}) {
-            const auto found = piece.text.find(name);
-            if (found == std::string_view::npos) continue;
-            const auto begin = beginOf(at_) + found + std::string(name).size();
-            const auto end = text_.find('"', begin);
-            return Edit{"change an attribute", begin, end, "neu", 8 * (end - begin), 3};
-        }
-        return std::nullopt;
-    }
-
-    std::string text_;
-    std::vector<DesignPiece> pieces_;
-    test::SmallRandom& random_;
-    std::size_t at_ = 0;
+    [[nodiscard]] std::size_t end() const { return begin() + piece().text.size(); }
 };
+
+std::optional<Edit> insertWord(const Place& place)
+{
+    if (place.piece().kind != Kind::Word) return std::nullopt;
+    return Edit{"insert a word", place.end(), place.end(), " Zusatz", 0, 7};
+}
+
+template <std::size_t length> std::optional<Edit> replaceWord(const Place& place)
+{
+    if (place.piece().kind != Kind::Word) return std::nullopt;
+    const auto most = 8 * place.piece().text.size();
+    return Edit{
+        "replace a word", place.begin(), place.end(), std::string("anders", length), most, 6};
+}
+
+std::optional<Edit> insertParagraph(const Place& place)
+{
+    const auto& piece = place.piece();
+    if (piece.kind != Kind::End || piece.element != WmlElement::Paragraph) return std::nullopt;
+    return Edit{"insert a paragraph", place.end(), place.end(), "<p>Neu hier</p>", 0, 100};
+}
+
+/// What a valid deck can do without.
+bool isRemovable(WmlElement element)
+{
+    using enum WmlElement;
+    return element == Paragraph || element == Bold || element == Link || element == Table
+        || element == Select || element == Do;
+}
+
+std::optional<Edit> removeElement(Place place)
+{
+    if (place.piece().kind != Kind::Start || !isRemovable(place.piece().element))
+        return std::nullopt;
+    const auto begin = place.begin();
+    for (int depth = 0; place.at < place.pieces.size(); ++place.at) {
+        const auto kind = place.piece().kind;
+        depth += kind == Kind::Start ? 1 : kind == Kind::End ? -1 : 0;
+        if (depth > 0) continue;
+        return Edit{"remove an element", begin, place.end(), "", 8 * (place.end() - begin) + 99, 4};
+    }
+    return std::nullopt;
+}
+
+std::optional<Edit> changeAttribute(const Place& place)
+{
+    if (place.piece().kind != Kind::Start) return std::nullopt;
+    for (const std::string_view name : {"title=\"", "href=\"", "onpick=\"", "label=\""}) {
+        const auto found = place.piece().text.find(name);
+        if (found == std::string_view::npos) continue;
+        const auto begin = place.begin() + found + name.size();
+        const auto end = place.text.find('"', begin);
+        return Edit{"change an attribute", begin, end, "neu", 8 * (end - begin), 3};
+    }
+    return std::nullopt;
+}
+
+/// An edit at a random piece; nothing where there are hardly any pieces for it.
+std::optional<Edit> randomEdit(const std::string& text, test::SmallRandom& random)
+{
+    using Try = std::optional<Edit> (*)(const Place&);
+    constexpr Try kTries[] = {insertWord, replaceWord<0>, insertParagraph,
+        [](const Place& place) { return removeElement(place); }, changeAttribute, replaceWord<6>};
+    const auto pieces = readDesignPieces(text);
+    for (int tries = 0; pieces.size() > 1 && tries < 20; ++tries) {
+        const Place place{text, pieces, 1 + random.below(pieces.size() - 1)};
+        if (auto edit = kTries[random.below(std::size(kTries))](place)) return edit;
+    }
+    return std::nullopt;
+}
 
 /// What lies between the common beginning and the common end of two files.
 struct Difference {
@@ -208,11 +187,11 @@ void expectEditStaysInPlace(const std::string& file, std::uint64_t seed, bool ch
     ASSERT_EQ(deck.written(), file);
     const auto area = random.below(areaCount(deck.session.deck));
     expectPiecesAsRead(*deck.session.deck[area].origin.card);
-    Editor editor(ReadDesignText(deck.session, area), random);
-    const auto edit = editor.next();
+    auto text = ReadDesignText(deck.session, area);
+    const auto edit = randomEdit(text, random);
     if (!edit) return;
     SCOPED_TRACE(edit->name + " in area " + std::to_string(area));
-    const auto text = editor.edited(*edit);
+    text.replace(edit->begin, edit->end - edit->begin, edit->inserted);
     WriteDesignText(deck.session, area, text);
     const auto written = deck.written();
     const auto sound = repairFile(file).bytes;

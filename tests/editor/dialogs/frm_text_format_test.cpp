@@ -1,18 +1,12 @@
 #include "editor/dialogs/element_desk.h"
 
 #include <QCheckBox>
-#include <QRadioButton>
 
 #include <algorithm>
 #include <set>
 
 namespace quillmere::test {
 namespace {
-
-QRadioButton& choice(QWidget& form, int index)
-{
-    return *form.findChildren<QRadioButton*>("optSchrift").at(index);
-}
 
 TEST(FrmTextFormat, ShowsWhatAPartOfTheMarkedHasAndLeavesIt)
 {
@@ -49,23 +43,6 @@ TEST(FrmTextFormat, RefusesBordersThatAFormatMustNotCross)
     EXPECT_TRUE(told[0] == "show 64" || told[0] == "show 63") << told[0];
     EXPECT_EQ(told[1], "show 252");
     EXPECT_EQ(told[2], "show 44");
-}
-
-TEST(FrmJustify, ShowsTheLineOfTheCaretAndTellsOfPictures)
-{
-    ElementDesk desk;
-    desk.openCards({"eins</p><p align=\"center\">zw<img src=\"x.wbmp\" alt=\"x\"/>ei"});
-    desk.settings.WriteSetting("ShowImageMessage", "Yes");
-    desk.caretBehind("zw");
-    desk.messages.answers = {true};
-    desk.use("lblButtonJustify", [](QWidget& form) {
-        EXPECT_TRUE(choice(form, 1).isChecked());
-        choice(form, 0).click();
-        QTest::keyClick(&form, Qt::Key_Return);
-    });
-    EXPECT_EQ(desk.messages.taken(), std::vector<std::string>{"note 4"});
-    EXPECT_NE(desk.contentWithCaret().find("eins<br/>zw|<img"), std::string::npos)
-        << desk.contentWithCaret();
 }
 
 /// The letters that Alt and a key reach in a form; each must be there once.

@@ -1,6 +1,5 @@
 #include "editor/elements/jump_edit.h"
 #include "editor/elements/number_rules.h"
-#include "editor/elements/typed_values.h"
 
 #include <gtest/gtest.h>
 
@@ -32,6 +31,9 @@ TEST(WithTargetsRenamed, ChangesWholeTargetsOnly)
                   "a", "neu"),
         "<!--option onpick=\"#neu\"--><input type=radio name=\"TempName1\" "
         "onclick=\"javascript:navigate('#neu')\">");
+    EXPECT_EQ(withTargetsRenamed("<!--#do &lt;do&gt;&lt;go href='#a'/&gt;&lt;/do&gt;-->", "a",
+                  "neu", OutputRules(true)),
+        "<!--#do &lt;do&gt;&lt;go href='#neu'/&gt;&lt;/do&gt;-->");
 }
 
 TEST(CardIdFault, TellsWhatNoLinkCanLeadTo)
@@ -64,19 +66,6 @@ TEST(NumberRules, AreThoseOfTheFields)
     EXPECT_EQ(NumberFilter("12a3"), "123");
     EXPECT_EQ(NumberFilter("1.234"), "1234");
     EXPECT_EQ(NumberFilter("1234567890"), "12345678");
-}
-
-TEST(TypedValues, ComeBackAsTheyWereTyped)
-{
-    EXPECT_EQ(captionMarkup(u"A & B <c> \"d\" $(x) ü"), "A &amp; B &lt;c&gt; \"d\" $(x) \xFC");
-    EXPECT_EQ(valueMarkup(u"\"x\" → &amp;"), "&quot;x&quot; &#8594; &amp;amp;");
-    for (const std::u16string typed :
-        {u"", u"A & B <c> \"d\" $5 ü", u"a.wml?x=1&copy=2", u"&amp;", u"→€", u"it's"}) {
-        EXPECT_EQ(typedFrom(valueMarkup(typed)), typed);
-        EXPECT_EQ(typedFrom(captionMarkup(typed)), typed);
-    }
-    EXPECT_EQ(typedFrom("a.wml?x=1&copy=2"), u"a.wml?x=1&copy=2");
-    EXPECT_EQ(typedFrom("&uuml;&#228;"), u"üä");
 }
 
 } // namespace

@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <string>
-#include <vector>
 
 namespace quillmere {
 namespace {
@@ -77,15 +76,13 @@ TEST(LinkEdits, KeepWhatStandsAround)
 
 TEST(GetLink, ReadsAllSpellings)
 {
-    const auto quoted = GetLink("<p><a href=\"a b.wml\">x<p>y</a>", 3);
-    ASSERT_TRUE(quoted);
-    EXPECT_EQ(quoted->target, "a b.wml");
-    EXPECT_EQ(quoted->caption, "xy");
-    const auto bare = GetLink("<A HREF=#a>x</A>", 0);
-    ASSERT_TRUE(bare);
-    EXPECT_EQ(bare->target, "#a");
-    EXPECT_EQ(bare->caption, "x");
-    EXPECT_FALSE(GetLink("<p>", 0));
+    const char* const rows[][3]
+        = {{"<a href=\"a b.wml\">x<p>y</a>", "a b.wml", "xy"}, {"<A HREF=#a>x</A>", "#a", "x"}};
+    for (const auto& [text, target, caption] : rows) {
+        const auto link = GetLink(text, 0).value_or(LinkSettings{});
+        EXPECT_EQ(link.target, target);
+        EXPECT_EQ(link.caption, caption);
+    }
 }
 
 TEST(ImageEdits, WriteBothForms)
@@ -103,6 +100,14 @@ TEST(ImageEdits, WriteBothForms)
                   {"b", "c", false, "top", "", ""}, kLossless)
                   .text,
         "<img src=\"b\" alt=\"c\" id=i localsrc=\"l\">");
+    const auto changed = [](const std::string& attributes, const ImageSettings& wanted) {
+        return ReplaceImage("<img src=\"a\" alt=\"x\"" + attributes + ">", 1, wanted, kLossless)
+            .text;
+    };
+    EXPECT_EQ(changed(" align=\"middle\"", {"a", "y", false, "middle", "", ""}),
+        "<img src=\"a\" alt=\"y\" align=\"middle\">");
+    EXPECT_EQ(changed(" style=\"height: 3px\"", {"a", "y", true, "top", "3", "4"}),
+        "<img src=\"a\" alt=\"y\" style=\"height: 3px; width: 4px\">");
     EXPECT_EQ(withCaret(DeleteImage(old, 1)), "x|y");
     EXPECT_EQ(FindImage(old), 1);
     EXPECT_EQ(FindImage(old, 3), std::nullopt);

@@ -9,74 +9,25 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <map>
 #include <string>
-#include <vector>
 
 namespace quillmere {
 namespace {
 
 TEST(AlignLines, CutsParagraphsAtLines)
 {
-    constexpr auto kLeft = Alignment::Left;
-    constexpr auto kCenter = Alignment::Center;
-    constexpr auto kRight = Alignment::Right;
-    struct Case {
-        std::string name;
-        std::string before;
-        Alignment wanted;
-        std::string after;
-        OutputRules rules = OutputRules();
-    };
-    const OutputRules lossless(true);
-    const std::string table = "<table><tr><td>t</td></tr></table>";
-    const std::vector<Case> cases{
-        {"and back", "<p>a</p><p align=\"center\">b|</p><p>c</p>", kLeft, "<p>a<br/>b|<br/>c</p>"},
-        {"the first lines", "<p align=\"right\">a[<br/>b<br/>c]<br>d</p>", kCenter,
-            "<p align=\"right\">a[</p><p align=\"center\">b<br/>c]</p><p align=\"right\">d</p>"},
-        {"formats at the cuts", "<p><i>a<br/>|b</i></p>", kRight,
-            "<p><i>a</i></p><p align=\"right\"><i>|b</i></p>"},
-        {"several paragraphs to the left",
-            "<p align=\"center\">[a</p>\r\n<p>b</p><p align=\"right\">c]</p><p>d</p>", kLeft,
-            "<p>[a<br/>b<br/>c]<br/>d</p>"},
-        {"a break that is an end tag", "a</br>b|", kCenter, "a<p align=\"center\">b|</p>"},
-        {"in a table: all of it", "<p>x<table><tr><td>a|b</td></tr></table>y</p>", kCenter,
-            "<p>x</p><p align=\"center\"><table><tr><td>a|b</td></tr></table></p><p>y</p>"},
-        {"next to a table, and back",
-            "<p>x</p><p align=\"center\">|<table><tr><td>a</td></tr></table></p><p>y</p>", kLeft,
-            "<p>x|<table><tr><td>a</td></tr></table>y</p>"},
-        {"breaks of lists end no line",
-            "<p>a<br/><!--select--><!--option-->b<br/>|c<!--/option--><!--/select--><br/>d</p>",
-            kCenter,
-            "<p>a</p><p "
-            "align=\"center\"><!--select--><!--option-->b<br/>|c<!--/option--><!--/select--></"
-            "p><p>d</p>"},
-        {"other attributes stay, the id once",
-            "<p mode=\"nowrap\" id=\"x\"><b id=\"y\">a<br/>|b<br/>c</b></p>", kCenter,
-            "<p mode=\"nowrap\" id=\"x\"><b id=\"y\">a</b></p>"
-            "<p align=\"center\" mode=\"nowrap\"><b>|b</b></p><p mode=\"nowrap\"><b>c</b></p>",
-            lossless},
-        {"paragraphs stay apart", "<p>a</p><p align=\"center\" mode=\"wrap\">b|</p><p>c</p>", kLeft,
-            "<p>a</p><p mode=\"wrap\">b|</p><p>c</p>", lossless},
-        {"atoms are no text, pre has no alignment",
-            "<!--#timer 1-->[<!--pre-->a<!--/pre--><p>b]</p><!--#do 2-->", kRight,
-            "<!--#timer 1-->[<!--pre-->a<!--/pre--><p align=\"right\">b]</p><!--#do 2-->",
-            lossless},
-        {"text that an element begins behind", "[<!--x-->a<!--/x--><!--y--><p>b]</p><!--/y-->",
-            kCenter,
-            "<p align=\"center\">[<!--x-->a<!--/x--></p>"
-            "<!--y--><p align=\"center\">b]</p><!--/y-->",
-            lossless},
-        {"a group of fields is one line",
-            "<p>a<br/><!--fieldset-->b<br/>" + table + "c|<!--/fieldset--></p>", kCenter,
-            "<p>a</p><p align=\"center\"><!--fieldset-->b<br/>" + table + "c|<!--/fieldset--></p>",
-            lossless},
-    };
-    for (auto row : cases) {
-        SCOPED_TRACE(row.name);
-        const bool isCaret = row.before.find('|') != std::string::npos;
-        const auto marked = test::takeMarks(row.before);
-        const auto aligned = alignLines(row.before, marked, row.wanted, row.rules);
-        EXPECT_EQ(test::withMarks(aligned.text, aligned.marked, isCaret), row.after);
+    const std::map<std::string, Alignment> alignments{
+        {"left", Alignment::Left}, {"center", Alignment::Center}, {"right", Alignment::Right}};
+    for (const auto& row : test::rowsOf("aligned_lines.txt")) {
+        SCOPED_TRACE(row.at(0));
+        auto text = row.at(2);
+        const bool isCaret = text.find('|') != std::string::npos;
+        const auto marked = test::takeMarks(text);
+        const auto wanted = alignments.at(row.at(1).substr(0, row.at(1).find(' ')));
+        const OutputRules rules(row.at(1).ends_with(" lossless"));
+        const auto aligned = alignLines(text, marked, wanted, rules);
+        EXPECT_EQ(test::withMarks(aligned.text, aligned.marked, isCaret), row.at(3));
     }
 }
 

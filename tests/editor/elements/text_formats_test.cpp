@@ -1,4 +1,3 @@
-#include "document/design_text.h"
 #include "document/text/failure.h"
 #include "editor/elements/crossed_pairs.h"
 #include "editor/elements/format_tags.h"
@@ -6,7 +5,6 @@
 #include "editor/page/markup_tags.h"
 #include "support/area_texts.h"
 #include "support/marked_text.h"
-#include "support/small_deck.h"
 #include "support/small_random.h"
 
 #include <gtest/gtest.h>
@@ -211,50 +209,6 @@ TEST(FormatText, NestsWhateverIsMarked)
             EXPECT_EQ(back.text, plain);
         }
     });
-}
-
-// A deck of text that saving keeps: paragraphs, breaks, links, a table and a list.
-std::string randomDeck(test::SmallRandom& random)
-{
-    const std::vector<std::string_view> pieces{"wort", "zwei", " ", " drei ", "<b>vier</b>",
-        "<i>f<u>uenf</u></i>", "<br/>", "<a href=\"#a\">ziel</a>", "</p><p align=\"center\">",
-        "<big>gross</big>",
-        "<table title=\"t\" columns=\"2\"><tr><td>l</td><td>r</td></tr></table>",
-        "<select><option onpick=\"#a\">wahl</option></select>", "&amp;"};
-    std::string body = "anfang";
-    for (auto count = random.below(20); count > 0; --count)
-        body += pieces[random.below(pieces.size())];
-    return "<wml><card id=\"a\" title=\"t\"><p align=\"right\">" + body + "ende</p></card></wml>";
-}
-
-TEST(FormatText, SurvivesSavingAndLoading)
-{
-    for (std::uint64_t seed = 0; seed < 400; ++seed) {
-        test::SmallRandom random(seed);
-        test::SmallDeck deck;
-        deck.load(randomDeck(random));
-        const auto text = ReadDesignText(deck.session, 0);
-        const auto page = readSurfacePage(text);
-        const auto formatted = formatText(text, randomItems(random, page), randomFormats(random));
-        SCOPED_TRACE(std::to_string(seed) + ": " + formatted.text);
-        WriteDesignText(deck.session, 0, formatted.text);
-        const auto saved = deck.written();
-        deck.load(saved);
-        EXPECT_EQ(seen(ReadDesignText(deck.session, 0)), seen(formatted.text)) << saved;
-    }
-}
-
-TEST(FormatText, RefusesTextsThatGetTooLong)
-{
-    std::string text = "<p>";
-    while (text.size() < 32700)
-        text += "<br/>x";
-    EXPECT_NO_THROW(static_cast<void>(formatText(text, {3, text.size()}, kBold)));
-    std::string cells = "<table>";
-    while (cells.size() < 32600)
-        cells += "<tr><td>x</td></tr>";
-    cells += "</table>";
-    EXPECT_THROW(static_cast<void>(formatText(cells, {0, cells.size()}, kBold)), Overflow);
 }
 
 } // namespace

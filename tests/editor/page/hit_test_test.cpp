@@ -2,17 +2,14 @@
 
 #include "document/text/failure.h"
 #include "document/text/limits.h"
-#include "document/text/text_lines.h"
 #include "document/text/windows1252.h"
-#include "generator/deck_generator.h"
-#include "support/small_deck.h"
+#include "support/row_file.h"
 #include "support/token_soup.h"
 
 #include <gtest/gtest.h>
 
 #include <algorithm>
 #include <tuple>
-#include <utility>
 
 namespace quillmere {
 namespace {
@@ -129,38 +126,6 @@ TEST(HitTest, AgreesWithTheRuleWordForWord)
     });
 }
 
-TEST(HitTest, IsInsideWhereTheSurfaceShowsTheElement)
-{
-    using Kind = PageElement::Kind;
-    constexpr std::pair<Element, Kind> kKinds[] = {
-        {kLink, Kind::Link}, {kTable, Kind::Table}, {kOption, Kind::Option}, {kList, Kind::Select}};
-    std::size_t inside = 0;
-    for (std::uint64_t seed = 0; seed < 10; ++seed) {
-        SCOPED_TRACE(seed);
-        test::SmallDeck deck;
-        deck.load(bench::generateDeck(seed, {.oneCard = true}));
-        const auto page = readSurfacePage(joinLines(deck.design(0)));
-        for (const PageItem& item : page.items) {
-            SurfaceSelection selection;
-            selection.marked = {item.source.begin, item.source.begin};
-            for (const auto& row : kKinds) {
-                const auto& [wanted, kind] = row;
-                const auto hit = HitTester().HitTest(
-                    wanted.startTag, wanted.endTag, page.text, selection, true);
-                const auto element = std::ranges::find_if(page.elements, [&](const auto& each) {
-                    return each.kind == row.second && each.start.begin < item.source.begin
-                        && item.source.begin < each.end.end;
-                });
-                ASSERT_EQ(hit.Inside, element != page.elements.end()) << item.source.begin;
-                if (!hit.Inside) continue;
-                ++inside;
-                ASSERT_EQ(hit.position, static_cast<int>(element->start.begin) + 1);
-            }
-        }
-    }
-    EXPECT_GT(inside, 500);
-}
-
 TEST(HitTest, KeepsWhatItFoundUntilItLooksAgain)
 {
     HitTester tester;
@@ -181,23 +146,10 @@ TEST(HitTest, KeepsWhatItFoundUntilItLooksAgain)
 
 TEST(FindMarkedRange, TellsTheElementThatTheSurfaceNames)
 {
-    // "" where nothing is found
-    const std::string rows[][2] = {
-        {"x^<img 1></img>y", "<img 1></img>"},
-        {"<img 1></img>^<img 1>", "<img 1>"},
-        {"^<img 1>x<img 2></img>y", "<img 1>x<img 2></img>"}, // the unbounded search
-        {"^<img 1></IMG>", "<img 1>"}, // the one end tag that is compared exactly
-        {"^<IMG 1></img>", "<IMG 1></img>"},
-        {"^<table 1><tr></tr></TABLE>y", "<table 1><tr></tr></TABLE>"},
-        {"^<input 1>A<!--/option-->", "<input 1>"},
-        {"^<input 1>A</option>y", "<input 1>A</option>"},
-        {"<a 1>x</a>^<a 1>y</A >z", "<a 1>y</A >"},
-        {"^<a 1>x</a", "<a 1>x<"},
-        {"x^<hr 1>y", ""},
-    };
-    for (const auto& [sketch, wanted] : rows) {
-        SCOPED_TRACE(sketch);
-        const auto [text, selection] = drawn(sketch);
+    for (const auto& row : test::rowsOf("marked_ranges.txt")) {
+        const auto& wanted = row.at(1);
+        SCOPED_TRACE(row.at(0));
+        const auto [text, selection] = drawn(row.at(0));
         const auto range = FindMarkedRange(text, selection);
         ASSERT_EQ(range.has_value(), !wanted.empty());
         if (!range) continue;

@@ -150,41 +150,6 @@ TEST(ValidInsertPosition, IsTheFirstPlaceInAreasOfDecks)
     EXPECT_EQ(ValidInsertPosition(99, "<a>"), 99);
 }
 
-/// What the surface shows of a text, white space left out.
-std::u16string shownOf(const std::string& text)
-{
-    std::u16string shown;
-    for (const PageItem& item : readSurfacePage(text).items)
-        if (item.kind != ItemKind::Blank) shown += item.shown;
-    return shown;
-}
-
-bool hasOpenTable(const std::string& text)
-{
-    return std::ranges::any_of(readSurfacePage(text).elements, [](const PageElement& element) {
-        return element.kind == PageElement::Kind::Table && element.end.empty();
-    });
-}
-
-TEST(ValidInsertPosition, LetsMarkupInThatBreaksNothing)
-{
-    constexpr std::string_view kTag = "<hr/>"; // shown as one object
-    forEachArea([&](const std::string& text) {
-        if (hasOpenTable(text)) return; // between its rows any place is as good as another
-        const auto before = shownOf(text);
-        for (std::size_t place = 0; place < text.size(); place += 7) {
-            const auto position = ValidInsertPosition(static_cast<int>(place), text);
-            auto changed = text;
-            const auto after = shownOf(changed.insert(static_cast<std::size_t>(position), kTag));
-            const auto same = std::ranges::mismatch(before, after).in1 - before.begin();
-            auto expected = before;
-            expected.insert(static_cast<std::size_t>(same), 1, u'\uFFFC');
-            // Nothing is shown of the frame around the content.
-            ASSERT_TRUE(after == expected || after == before) << changed;
-        }
-    });
-}
-
 TEST(ValidInsertPosition, TakesNoLongerForHostileTexts)
 {
     for (const std::string_view piece :

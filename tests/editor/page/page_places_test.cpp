@@ -1,5 +1,7 @@
 #include "editor/page/page_places.h"
 
+#include "support/row_file.h"
+
 #include <gtest/gtest.h>
 
 #include <string>
@@ -27,34 +29,8 @@ std::string withoutBars(std::string text)
 
 TEST(PagePlaces, LieWhereTypedTextBelongs)
 {
-    constexpr std::pair<const char*, const char*> kRows[] = {
-        {"nothing", "|"},
-        {"plain text", "|a|&auml;| \t|b|"},
-        {"the frame", "<BODY>\r\n<p>|a|</p>\r\n</BODY></HTML>"},
-        {"formats", "<p><b>|a|</b><i>b|</i></p>"},
-        {"behind the last letter of a format and ahead of the next", "<p>|a|<b>b|</b>c|</p>"},
-        {"links", "<p>|<a href=\"x\">a|b</a>|c|<a><b>d</b></a>|</p>"},
-        {"links in formats", "<p><b>|<a>a</a>|</b><a></a></p>"},
-        {"links in links", "|<a><a>a|b</a></a>|c|"},
-        {"a link that goes on", "<p>|<a>a|</p><p>|b</a>|</p>"},
-        {"a link never ended", "|<a>a|b|"},
-        {"options",
-            "<p>|a|<!--select--><!--option--><input type=radio>|b|<!--/option--><!--option-->"
-            "<input type=radio>|<!--/option--><!--/select--></p>"},
-        {"at the start ahead of markers", "<p><b>|<!--select--><!--option--><input type=radio>|b|"},
-        {"pictures and breaks", "|<img></img>|<br/>|<img>|"},
-        {"chips", "|<font>|a|</font>|"},
-        {"empty blocks",
-            "<p>|</p><p><b><i>|</i></b></p><p>\r\n|</p><p>|<a></a></p><p>|<!--x--></p>"},
-        {"layout", "<p>\r\n|a|\r\n</p>"},
-        {"layout in an empty block", "<p>\r\n<b>|\r\n</p>"},
-        {"tables",
-            "|<table><tr><td>|a|</td><td>\r\n|</td></tr></table>|<table><tr><td>|<td><p>|b|"
-            "<tr></table>\r\n|"},
-        {"a table without end", "<p>|<table><tr><td>|</td></tr>|b|</p>"},
-    };
-    for (const auto& [name, text] : kRows)
-        EXPECT_EQ(withPlaces(withoutBars(text)), text) << name;
+    for (const auto& row : test::rowsOf("page_places.txt"))
+        EXPECT_EQ(withPlaces(withoutBars(row.at(1))), row.at(1)) << row.at(0);
 }
 
 TEST(PagePlaces, KnowTheTextAsItIsReadAgain)

@@ -38,19 +38,6 @@ TEST(Keys, DoWhatPeopleExpect)
     EXPECT_TRUE(desk.window.isVisible());
 }
 
-TEST(Menus, TakeTheirTextsFromTheResources)
-{
-    const char* const rows[][3]
-        = {{"Skins", "Speichern", "1 von 2"}, {"Skins.en", "Save", "1 of 2"}};
-    for (const auto& [skins, save, of] : rows) {
-        SCOPED_TRACE(skins);
-        WindowDesk desk(skins);
-        desk.openCards({"eins", "zwei"});
-        EXPECT_EQ(desk.control<QAction>("mnuSave").text(), save);
-        EXPECT_EQ(desk.control<QPushButton>("btnAreaOne").text(), of);
-    }
-}
-
 TEST(Menus, OfferTheDecksThatWereOpenLast)
 {
     WindowDesk desk;

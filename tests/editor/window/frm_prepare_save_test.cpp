@@ -1,12 +1,11 @@
 #include "document/text/failure.h"
-#include "document/text/limits.h"
 #include "editor/window/deck_costs.h"
 #include "editor/window/window_desk.h"
 #include "gui/modal.h"
+#include "support/stopwatch.h"
 
 #include <QDragEnterEvent>
 #include <QDropEvent>
-#include <QElapsedTimer>
 #include <QMimeData>
 #include <QUrl>
 
@@ -77,6 +76,7 @@ TEST(Dropping, OpensADeckAndRefusesOneThatIsTooLong)
     desk.folder.put("lang.wml", deckOf({std::string(40000, 'x')}));
     drop(desk, desk.surface().viewport(), "neu.WML");
     EXPECT_NE(desk.design(0).find("neu"), std::string::npos);
+    desk.messages.answers = {false}; // without loss it could be opened
     drop(desk, &desk.window, "lang.wml");
     EXPECT_NE(desk.design(0).find("neu"), std::string::npos);
     ASSERT_EQ(desk.messages.log.size(), 1U);
@@ -142,8 +142,8 @@ TEST(Costs, AreAvoidedForOneDeckOrForAllByTheFormsButtons)
         EXPECT_EQ(desk.saved(), with(kForm, "Caf", "Cafx"));
         desk.folder.put("fort.wml", std::string(40000, 'x'));
         if (!isAlways) { // a deck that cannot be opened leaves this one and its rules
-            EXPECT_THROW(
-                OpenDocument(desk.session, "fort.wml", desk.folder.path()), RuntimeFailure);
+            desk.messages.answers = {false};
+            OpenDocument(desk.session, "fort.wml", desk.folder.path());
         }
         EXPECT_TRUE(desk.session.document.output.losesNothing());
         if (!isAlways) withNextModal([](QWidget& form) { click(form, "btnKeep"); });
@@ -167,45 +167,6 @@ struct StandardDesk : WindowDesk {
         open(file);
     }
 };
-
-/// A deck of one card whose file is that long.
-std::string deckOfSize(std::size_t bytes)
-{
-    const std::string head = "<wml><card id=\"a\">\n", tail = "</card></wml>\n";
-    auto deck = head;
-    while (deck.size() < bytes - 100)
-        deck += "<p>Ein Absatz &amp; noch <b>ein</b> Wort</p>\n";
-    deck += "<p></p>" + tail;
-    return deck.insert(deck.rfind("</p>"), bytes - deck.size(), 'x');
-}
-
-TEST(Dropping, TakesADeckOfOneMegabyteAndLosesNothingWhereItGrowsBeyond)
-{
-    const auto full = deckOfSize(kMaxLosslessDeckLength - 1);
-    StandardDesk desk(full);
-    typeAndSave(desk, "xxx");
-    EXPECT_TRUE(desk.messages.log.empty());
-    const auto longest = std::string(full).insert(full.rfind("</p>"), "x");
-    EXPECT_TRUE(desk.saved() == longest);
-
-    typeAndSave(desk, "xxx");
-    ASSERT_EQ(desk.messages.log.size(), 1U);
-    EXPECT_EQ(desk.messages.log[0],
-        "failure: Das Deck ist zu lang: seine Datei kann höchstens 1048576 Byte (1 MB) haben. Es "
-        "wurde nichts geändert.");
-    EXPECT_TRUE(desk.saved() == longest);
-    EXPECT_TRUE(desk.window.docChanged());
-
-    desk.folder.put("lang.wml", longest + ' ');
-    desk.messages.answers = {false};
-    drop(desk, &desk.window, "lang.wml");
-    EXPECT_NE(desk.messages.log.back().find("höchstens 1048576 Byte"), std::string::npos);
-    EXPECT_TRUE(desk.window.docChanged());
-    desk.press(Qt::Key_Backspace);
-    desk.choose("mnuSave");
-    EXPECT_TRUE(desk.saved() == longest);
-    EXPECT_FALSE(desk.window.docChanged());
-}
 
 const std::string kBroken = "<wml>\n<card id=\"a\">\n<p>eins <b>zwei</p>\n</card></wml>\n";
 
@@ -231,19 +192,6 @@ TEST(Mends, AreAskedForBeforeASaveThatMakesThemAndOnceOnly)
     EXPECT_FALSE(desk.window.docChanged());
     typeAndSave(desk, "einsxx");
     EXPECT_EQ(desk.mends.size(), 2U);
-}
-
-TEST(Mends, AreAskedForByTheForm)
-{
-    StandardDesk desk(kBroken);
-    desk.window.askAboutMends = [&](const QStringList& told) {
-        return frmDeckChanges::mayMend(desk.session, told, &desk.window);
-    };
-    for (const auto* button : {"btnLeave", "btnMend"}) {
-        withNextModal([&](QWidget& form) { click(form, button); });
-        typeAndSave(desk, "eins");
-        EXPECT_EQ(desk.saved() == kBroken, button == std::string("btnLeave"));
-    }
 }
 
 TEST(Mends, OfTheSurfacesTextAreNotForgottenInTheSourceView)
@@ -277,10 +225,10 @@ TEST(Costs, OfALargeDeckAreKnownInABlink)
         cards.push_back("M\xF6hren, <b>ein</b> B\xFCndchen<br/>" + std::string(1400, 'm'));
     const auto deck = deckOf(cards);
     ASSERT_GT(deck.size(), 29000U);
-    QElapsedTimer time;
-    time.start();
-    EXPECT_FALSE(costsOfSaving(desk.session.document, deck, desk.folder.path()).empty());
-    EXPECT_LT(time.elapsed(), 100);
+    const auto tell = [&] {
+        EXPECT_FALSE(costsOfSaving(desk.session.document, deck, desk.folder.path()).empty());
+    };
+    EXPECT_LT(millisecondsOf(tell, 5), 100);
 }
 
 TEST(Speed, TheNextAreaIsPaintedWithin30Milliseconds)
@@ -290,17 +238,15 @@ TEST(Speed, TheNextAreaIsPaintedWithin30Milliseconds)
     for (int i = 0; i < 60; ++i)
         card += "Zeile mit <b>Text</b> und <a href=\"#a\">Sprung</a>, noch mehr Text<br/>";
     desk.openCards({card, card, card, card, card});
-    std::vector<qint64> microseconds;
-    for (int i = 0; i < 20; ++i) {
-        QElapsedTimer time;
-        time.start();
+    const auto showNext = [&] {
         desk.click(desk.isEnabled("btnAreaNext") ? "btnAreaNext" : "btnAreaPrev");
         desk.window.repaint();
-        microseconds.push_back(time.nsecsElapsed() / 1000);
-    }
-    std::ranges::sort(microseconds);
-    RecordProperty("median_us", static_cast<int>(microseconds[10]));
-    EXPECT_LT(microseconds[10], 30000);
+    };
+    std::vector<double> milliseconds; // of the processor, so that a busy machine changes little
+    while (milliseconds.size() < 20)
+        milliseconds.push_back(millisecondsOf(showNext));
+    std::ranges::sort(milliseconds);
+    EXPECT_LT(milliseconds[10], 30);
 }
 
 } // namespace

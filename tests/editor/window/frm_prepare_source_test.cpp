@@ -35,20 +35,6 @@ struct SourceDesk : WindowDesk {
     }
 };
 
-TEST(WindowSource, ShowsTheDeckAsItWouldBeSaved)
-{
-    SourceDesk desk;
-    const auto& button = desk.control<QPushButton>("btnScript");
-    EXPECT_EQ(desk.source.wml(), deckOf({"eins", "zwei"}));
-    EXPECT_TRUE(desk.source.isVisible() && !desk.surface().isVisible());
-    EXPECT_EQ(button.text() + button.toolTip(), "Grafische AnsichtGrafische Ansicht");
-    EXPECT_TRUE(desk.control<QPushButton>("btnAreaOne").hasFocus());
-    desk.click("btnScript"); // back again; nothing was typed, so nothing is asked
-    EXPECT_TRUE(desk.surface().isVisible() && !desk.source.isVisible());
-    EXPECT_TRUE(button.text() == "Quelltext" && button.toolTip().contains("WML-Text"));
-    EXPECT_FALSE(desk.window.docChanged());
-}
-
 TEST(WindowSource, AnEditReplacesAllAreasOnceItIsAssentedTo)
 {
     SourceDesk desk;
@@ -114,20 +100,6 @@ TEST(WindowSource, GoesOnWithATextThatWasNeverTaken)
     EXPECT_EQ(desk.workFiles.read(desk.session.sourcePath), "<wml>halb ge\r\n");
     desk.click("lblButtonUndo");
     EXPECT_EQ(desk.source.wml(), deckOf({"eins", "zwei"}));
-}
-
-TEST(WindowSource, FewerCardsLeaveTheLastOneShown)
-{
-    SourceDesk desk({"eins", "zwei", "drei"});
-    desk.click("btnScript");
-    desk.click("btnAreaNext");
-    desk.click("btnAreaNext");
-    desk.click("btnScript");
-    desk.setSource({"nur"});
-    desk.messages.answers = {true};
-    desk.click("btnScript");
-    EXPECT_EQ(desk.window.CurArea(), 0);
-    EXPECT_NE(desk.surface().DocumentHTML().find("nur"), std::string::npos);
 }
 
 TEST(WindowSource, UndoTakesWordsBackAndKeepsTheFirstTwoPlaces)

@@ -140,21 +140,6 @@ TEST(SurfaceMenu, CopiesAnElementAsTextAndPastesItAsAnElement)
     EXPECT_NE(desk.design(1).find(">leer<"), std::string::npos) << desk.design(1);
 }
 
-TEST(SurfaceMenu, UndoOfAPastedElementKeepsWhatTheMousePutIn)
-{
-    ToolDesk desk;
-    desk.openCards({"x"});
-    desk.caretBehind(">x");
-    desk.surface().pasteHTML("maus");
-    QApplication::clipboard()->setText("<a href=\"#a\">Sprung</a>");
-    desk.choose("mnuContext1Insert");
-    EXPECT_NE(desk.design(0).find("xmaus<a "), std::string::npos);
-    for (const char* left : {">xmaus</", ">x</"}) {
-        desk.click("lblButtonUndo");
-        EXPECT_NE(desk.design(0).find(left), std::string::npos) << desk.design(0);
-    }
-}
-
 TEST(SurfaceMenu, APictureOfAnotherAreaComesWithItsEntry)
 {
     ToolDesk desk;

@@ -127,19 +127,6 @@ TEST(SourceSearchBar, ReplacesOneAfterTheOtherAndAllInOneStep)
     EXPECT_EQ(desk.edit.wml(), "<b>a</b> <b>c</b> <b>d</b>");
 }
 
-TEST(SourceSearchBar, TakesWhatIsMarkedAndMakesRoomForItself)
-{
-    Desk desk("eins zwei");
-    desk.edit.moveCursor(QTextCursor::EndOfWord, QTextCursor::KeepAnchor);
-    const int top = desk.edit.viewport()->geometry().top();
-    desk.key(Qt::Key_F, Qt::ControlModifier);
-    EXPECT_EQ(desk.control<QLineEdit>("txtFind").text(), QStringLiteral("eins"));
-    EXPECT_EQ(desk.told(), "1 von 1");
-    EXPECT_GT(desk.edit.viewport()->geometry().top(), top + 20);
-    desk.click("btnCloseSearch");
-    EXPECT_EQ(desk.edit.viewport()->geometry().top(), top);
-}
-
 TEST(SourceSearchBar, ComesByItsKeyFromAnywhereInTheWindowWhileTheSourceIsShown)
 {
     QWidget window;
