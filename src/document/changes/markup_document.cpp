@@ -139,19 +139,16 @@ private:
     }
 
     /// The closing quote. Outside of the subset one that is missing does not reach beyond the tag:
-    /// of '<' and '>' only one may stand in a literal.
+    /// where brackets stand ahead of the quote, the declaration must go on behind it.
     [[nodiscard]] std::size_t literalEnd(std::size_t at, bool inSubset) const
     {
-        const auto& text = in_.text;
-        const char quote = text[at];
-        if (inSubset) return text.find(quote, at + 1);
-        const char brackets[] = {quote, '<', '>', '\0'};
-        auto end = text.find_first_of(brackets, at + 1);
-        if (end != kNowhere && text[end] != quote) {
-            const char others[] = {quote, text[end] == '<' ? '>' : '<', '\0'};
-            end = text.find_first_of(others, end + 1);
-        }
-        return end != kNowhere && text[end] == quote ? end : at;
+        const auto end = in_.text.find(in_.text[at], at + 1);
+        if (inSubset || end == kNowhere) return inSubset ? end : at;
+        const auto literal = in_.text.substr(at, end - at);
+        const auto behind = in_.text.find_first_not_of(" \t\r\n", end + 1);
+        const bool goesOn
+            = behind != kNowhere && std::string_view("\"'[>").find(in_.text[behind]) != kNowhere;
+        return goesOn || literal.find_first_of("<>") == kNowhere ? end : at;
     }
 
     MarkupCursor in_;
