@@ -54,17 +54,29 @@ std::string faultOf(const std::string& deck)
     return fault ? describeFault(*fault) : "";
 }
 
-/// Whether a value may hold a script, `<img src="<?= "x" ?>.wbmp"/>`, which the judge does not pass
-/// over as a whole.
-bool hasScriptInValue(std::string_view text)
+bool endsInQuotes(std::string_view tag)
 {
-    for (const std::string_view script : {"<?", "<%"}) {
-        for (auto at = text.find(script); at != npos; at = text.find(script, at + 1)) {
-            const auto ahead = text.substr(0, at);
-            const auto bracket = ahead.find_last_of("<>");
-            const bool isInTag = bracket != npos && ahead[bracket] == '<';
-            if (isInTag && ahead.find_first_of("\"'", bracket) != npos) return true;
-        }
+    char open = '\0';
+    for (const char character : tag) {
+        const bool isQuote = character == '"' || character == '\'';
+        if (open == '\0' && isQuote)
+            open = character;
+        else if (character == open)
+            open = '\0';
+    }
+    return open != '\0';
+}
+
+/// Whether a '<' may stand in a value: where the tag around it ends can then be seen in two ways if
+/// it is broken, and the text of one reader is a value of the other, with its quotes and brackets:
+/// `<img src="<?= "x" ?>.wbmp"/>`, `<b x e="<i f="<"`.
+bool hasBracketInValue(std::string_view text)
+{
+    auto tag = npos; // begins ahead, without a '>' since
+    for (auto at = text.find_first_of("<>"); at != npos; at = text.find_first_of("<>", at + 1)) {
+        const bool begins = text[at] == '<';
+        if (begins && tag != npos && endsInQuotes(text.substr(tag, at - tag))) return true;
+        tag = begins ? at : npos;
     }
     return false;
 }
@@ -72,7 +84,7 @@ bool hasScriptInValue(std::string_view text)
 /// Whether both readers see the same tokens: of faults in declarations the judge knows little.
 bool isPlainlyRead(std::string_view text)
 {
-    if (hasScriptInValue(text)) return false;
+    if (hasBracketInValue(text)) return false;
     constexpr std::string_view kXml = "<?xml";
     for (auto at = findIgnoringCase(text, kXml); at != npos;
          at = findIgnoringCase(text, kXml, at + 1))

@@ -138,13 +138,17 @@ private:
         return kNowhere;
     }
 
-    /// The closing quote. Outside of the subset one that is missing does not reach beyond the tag.
+    /// The closing quote. Outside of the subset one that is missing does not reach beyond the tag:
+    /// where brackets stand ahead of the quote, the declaration must go on behind it.
     [[nodiscard]] std::size_t literalEnd(std::size_t at, bool inSubset) const
     {
-        const char stops[] = {in_.text[at], '<', '>', '\0'};
-        if (inSubset) return in_.text.find(in_.text[at], at + 1);
-        const auto end = in_.text.find_first_of(stops, at + 1);
-        return end != kNowhere && in_.text[end] == in_.text[at] ? end : at;
+        const auto end = in_.text.find(in_.text[at], at + 1);
+        if (inSubset || end == kNowhere) return inSubset ? end : at;
+        const auto literal = in_.text.substr(at, end - at);
+        const auto behind = in_.text.find_first_not_of(" \t\r\n", end + 1);
+        const bool goesOn
+            = behind != kNowhere && std::string_view("\"'[>").find(in_.text[behind]) != kNowhere;
+        return goesOn || literal.find_first_of("<>") == kNowhere ? end : at;
     }
 
     MarkupCursor in_;

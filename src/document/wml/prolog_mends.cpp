@@ -233,6 +233,7 @@ std::string respelled(std::string_view source)
     const auto second = in.literal();
     const auto quoted = [](std::string_view value) { return "\"" + std::string(value) + "\""; };
     if (!first || !second || publicAt > begin) return wmlDoctype(source);
+    if (second->find_first_of("<>") != npos) return wmlDoctype(source); // a tag might end there
     text += "PUBLIC " + quoted(*first) + " " + quoted(*second) + ">";
     return isDoctype(text) && !text.empty() ? text : wmlDoctype(source);
 }
