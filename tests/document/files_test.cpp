@@ -71,6 +71,9 @@ TEST(Files, ReadWhatWasWrittenByteForByteUpToALimit)
         replaceFile(path, bytes);
         EXPECT_EQ(readFile(path, size), bytes) << size;
     }
+    sigset_t held{};
+    ::pthread_sigmask(SIG_BLOCK, nullptr, &held);
+    EXPECT_EQ(sigismember(&held, SIGINT), 0) << "while a file is replaced only";
     EXPECT_THROW(static_cast<void>(readFile(path, 99999)), Overflow);
     EXPECT_THROW(static_cast<void>(readFile("/dev/zero", 1000)), Overflow);
     EXPECT_EQ(namesIn(folder), 1);

@@ -7,6 +7,9 @@ namespace quillmere::test {
 
 namespace {
 
+constexpr std::array kKinds{
+    "Paragraph", "Format", "Link", "Table", "Row", "Cell", "Select", "Option", "Marker"};
+
 std::string utf8(char16_t character)
 {
     const auto byte = [](unsigned bits) { return static_cast<char>(bits); };
@@ -128,6 +131,18 @@ std::string Drawing::blocks(std::size_t block, std::size_t end, std::size_t cell
 std::string drawn(const SurfacePage& page)
 {
     return Drawing(page).blocks(0, page.blocks.size(), kNone);
+}
+
+std::string drawnElements(const SurfacePage& page)
+{
+    std::string result;
+    for (const auto& element : page.elements) {
+        if (!result.empty()) result += ' ';
+        result.append(kKinds.at(static_cast<std::size_t>(element.kind))).append("[");
+        result.append(element.start.in(page.text)).append("..");
+        result.append(element.end.in(page.text)).append("]");
+    }
+    return result;
 }
 
 } // namespace quillmere::test

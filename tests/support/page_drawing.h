@@ -14,4 +14,7 @@ namespace quillmere::test {
 /// with "x2" ahead of a cell that spans two columns and "#" behind '{' where it has a border.
 [[nodiscard]] std::string drawn(const SurfacePage& page);
 
+/// The elements of a page, "Format[<b>..</b>]", with "" for the tag of an end that is missing.
+[[nodiscard]] std::string drawnElements(const SurfacePage& page);
+
 } // namespace quillmere::test

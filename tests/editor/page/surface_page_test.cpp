@@ -31,6 +31,12 @@ TEST(SurfacePage, NestsTablesToALimit)
     EXPECT_EQ(innermost.content.in(text), "<table><tr><td>x</td></tr></table>");
 }
 
+TEST(SurfacePage, TellsWhatBelongsTogether)
+{
+    for (const auto& row : test::rowsOf("page_elements.txt"))
+        EXPECT_EQ(test::drawnElements(readSurfacePage(row.at(0))), row.at(1)) << row.at(0);
+}
+
 TEST(SurfacePage, FindsAttributes)
 {
     const char* const tag
