@@ -26,7 +26,7 @@ void frmLinks::SetInitializations(bool newElement, const Hit& hit)
     mLinkPos = searchPosition(hit);
     const auto marked = surface().selectedText().simplified();
     txtCaption->setText(markedText().empty() || marked.isEmpty() ? word(word::kLinkText) : marked);
-    const auto link = NewElement ? std::nullopt : GetLink(designText(), mLinkPos);
+    const auto link = NewElement ? std::nullopt : GetLink(designText(), mLinkPos, rules());
     if (link) showElement(link->caption, link->target);
     txtCaption->selectAll();
 }
@@ -49,8 +49,8 @@ void frmLinks::btnNew_Click()
     if (wanted.target.empty()) return complain(word::kTargetMissing, objFrmLink->address());
     const auto text = designText();
     if (!NewElement)
-        return applyToFound(
-            ReplaceLink(text, mLinkPos, wanted, rules()), GetLink(text, mLinkPos).has_value());
+        return applyToFound(ReplaceLink(text, mLinkPos, wanted, rules()),
+            GetLink(text, mLinkPos, rules()).has_value());
     if (markedText().empty()) return apply(SetLink(text, mLinkPos, wanted, rules()));
     linkMarkedText(wanted);
 }

@@ -28,13 +28,13 @@ struct LinkParts {
     std::size_t end = 0;
 };
 
-std::optional<LinkParts> linkFrom(std::string_view text, std::size_t from)
+std::optional<LinkParts> linkFrom(std::string_view text, std::size_t from, const OutputRules& rules)
 {
     auto start = findTagFrom(text, kLink, from);
     if (!start) return std::nullopt;
     const auto end = findTagFrom(text, kLinkEnd, start->begin);
     if (!end) return LinkParts{*start, start->end, start->end};
-    for (auto inner = start; inner && inner->begin < end->begin;
+    for (auto inner = start; rules.losesNothing() && inner && inner->begin < end->begin;
          inner = findTagFrom(text, kLink, inner->end))
         start = inner; // of links in one another it is the innermost that ends there
     return LinkParts{*start, std::max(end->begin, start->end), end->end};
@@ -178,9 +178,9 @@ bool canBecomeLink(std::string_view text, SourceRange marked, const OutputRules&
     });
 }
 
-std::optional<LinkSettings> GetLink(std::string_view text, int position)
+std::optional<LinkSettings> GetLink(std::string_view text, int position, const OutputRules& rules)
 {
-    const auto link = linkFrom(text, searchOffset(position));
+    const auto link = linkFrom(text, searchOffset(position), rules);
     if (!link) return std::nullopt;
     LinkSettings settings;
     settings.target = findAttribute(link->startTag.in(text), "href").value_or(std::string_view{});
@@ -198,7 +198,7 @@ ElementEdit SetLink(
 ElementEdit ReplaceLink(
     std::string_view text, int position, const LinkSettings& wanted, const OutputRules& rules)
 {
-    const auto old = linkFrom(text, searchOffset(position));
+    const auto old = linkFrom(text, searchOffset(position), rules);
     if (!old) return unchanged(text, position);
     if (!rules.losesNothing()) {
         const auto gone = DeleteLink(text, position, rules);
@@ -213,7 +213,7 @@ ElementEdit ReplaceLink(
 
 ElementEdit DeleteLink(std::string_view text, int position, const OutputRules& rules)
 {
-    const auto link = linkFrom(text, searchOffset(position));
+    const auto link = linkFrom(text, searchOffset(position), rules);
     if (!link) return unchanged(text, position);
     return {withPiece(text, {link->startTag.begin, link->end}, {}, rules),
         static_cast<int>(link->startTag.begin)};

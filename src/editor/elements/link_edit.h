@@ -14,8 +14,9 @@ struct LinkSettings {
 };
 
 /// The first link at or behind the position; its caption is the text outside of tags. nullopt where
-/// there is none.
-[[nodiscard]] std::optional<LinkSettings> GetLink(std::string_view text, int position);
+/// there is none. Of links in one another it is, where nothing is lost, the one that ends first.
+[[nodiscard]] std::optional<LinkSettings> GetLink(
+    std::string_view text, int position, const OutputRules& rules = OutputRules());
 
 // By the default a blank is written behind each link that is new or changed. Where nothing is lost
 // a link is "<a href="TARGET">CAPTION</a>" alone, so that "Wort." keeps its point.
