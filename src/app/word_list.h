@@ -65,6 +65,7 @@ inline constexpr WordUse kWordIds[] = {
     {word::kNoHit, 0}, {word::kOneHit, 0}, {word::kHits, 1}, {word::kHitOf, 2},
     {word::kReplaced, 1}, {word::kBadNameHint, 0}, {word::kBadFolderHint, 0},
     {word::kIsOpenHint, 0}, {word::kNoHelp, 1}, {word::kLanguage, 0},
+    {word::kOpenWithoutLoss, 1},
     {word::kAreaNeedsName, 0},
     {word::kAreaNameBadCharacter, 0},
     {word::kAreaNameBadBegin, 0},

@@ -48,7 +48,22 @@ struct CardMarker {
     std::optional<Value> title;
 };
 
-std::optional<CardMarker> cardMarkerIn(std::string_view text)
+/// The title among attributes that all have their values in double quotes, as those of a deck
+/// without loss do: `onenterforward="a?title=b"` is none.
+std::optional<Value> titleAmong(std::string_view text, std::size_t from, std::size_t limit)
+{
+    for (auto name = text.find_first_not_of(' ', from); name < limit;) {
+        const auto open = text.find('"', name);
+        const auto close = text.find('"', std::min(open, limit) + 1);
+        if (close >= limit) return std::nullopt;
+        const Value value{open + 1, close};
+        if (equalIgnoringCase(text.substr(name, open - name), kTitle)) return value;
+        name = text.find_first_not_of(' ', close + 1);
+    }
+    return std::nullopt;
+}
+
+std::optional<CardMarker> cardMarkerIn(std::string_view text, const DocumentSession& session)
 {
     const auto at = findIgnoringCase(text, kCardId);
     if (at == npos) return std::nullopt;
@@ -56,7 +71,9 @@ std::optional<CardMarker> cardMarkerIn(std::string_view text)
     if (end == npos) return std::nullopt;
     const auto id = valueOf(text, kCardId, at, end);
     if (!id) return std::nullopt;
-    return CardMarker{*id, valueOf(text, kTitle, id->end, end)};
+    return CardMarker{*id,
+        losesNothing(session) ? titleAmong(text, id->end + 1, end)
+                              : valueOf(text, kTitle, id->end, end)};
 }
 
 std::optional<std::string_view> lineWithCard(std::string_view text)
@@ -145,10 +162,10 @@ void setDoAttribute(std::string& text, AcceptDo& jump, std::string_view key, std
     jump.end = jump.end + text.size() - sizeBefore;
 }
 
-void changeJump(std::string& text, AcceptDo found, const Jump& jump)
+void changeJump(std::string& text, AcceptDo found, const Jump& jump, bool keepsName)
 {
     setDoAttribute(text, found, "label=", jump.label);
-    setDoAttribute(text, found, "name=", jump.name);
+    if (!keepsName) setDoAttribute(text, found, "name=", jump.name);
     if (const auto old = targetIn(text, found))
         text.replace(old->begin, old->end - old->begin, jump.target);
 }
@@ -172,7 +189,7 @@ CardAttributes GetCardAttributes(DocumentSession& session, std::size_t areaIndex
     const auto& area = areaRecord(session, areaIndex);
     const auto text = session.workFiles.read(area.designDir + area.designFile);
     const auto line = lineWithCard(text);
-    const auto marker = line ? cardMarkerIn(*line) : std::nullopt;
+    const auto marker = line ? cardMarkerIn(*line, session) : std::nullopt;
     if (!marker) return {};
     return {marker->id.in(*line), marker->title ? marker->title->in(*line) : std::string()};
 }
@@ -182,7 +199,7 @@ void SetCardAttributes(
 {
     const auto text = ReadDesignText(session, areaIndex);
     Rewriter changed(text);
-    if (const auto marker = cardMarkerIn(text)) {
+    if (const auto marker = cardMarkerIn(text, session)) {
         changed.drop(marker->id.begin, marker->id.end);
         changed.insert(marker->id.end, id);
         if (marker->title) {
@@ -213,7 +230,7 @@ void SetJump(DocumentSession& session, std::size_t areaIndex, const Jump& jump)
     const Jump named{
         unusedJumpName(text, jump.name, losesNothing(session)), jump.label, jump.target};
     if (const auto found = acceptDoIn(text, session))
-        changeJump(text, *found, named);
+        changeJump(text, *found, named, losesNothing(session) && jump.name.empty());
     else
         insertJump(text, named);
     WriteDesignText(session, areaIndex, text);

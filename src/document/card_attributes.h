@@ -39,7 +39,9 @@ void SetCardAttributes(
 
 /// Sets the jump of an area, and makes it behind the card marker where there is none. A do marker
 /// without a go gets none. An empty name means "Sprung"; a name that the area uses already, be it
-/// for this jump, gives way to the first of Sprung0, Sprung1, ... that it does not.
+/// for this jump, gives way to the first of Sprung0, Sprung1, ... that it does not. In a deck
+/// without loss a jump keeps with an empty name what it has, for by its name it takes the place of
+/// an action of the template.
 void SetJump(DocumentSession& session, std::size_t areaIndex, const Jump& jump);
 
 /// Whether something in the area bears the name, in any case: loading lower-cases names of do

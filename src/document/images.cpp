@@ -216,10 +216,18 @@ void ReadImageTags(DocumentSession& session)
 void CopyDeckImages(std::string_view deckText, const std::string& fromDirectory,
     const std::string& toDirectory, DocumentSession& session)
 {
+    std::vector<std::string> names;
+    for (const auto tag : imageTags(deckText))
+        names.emplace_back(trimBlanks(quotedAttribute(tag, "src=").value_or("")));
+    copyPictures(names, fromDirectory, toDirectory, session);
+}
+
+void copyPictures(std::span<const std::string> names, const std::string& fromDirectory,
+    const std::string& toDirectory, DocumentSession& session)
+{
     if (fromDirectory == toDirectory) return;
     std::unordered_set<std::string> copied;
-    for (const auto tag : imageTags(deckText)) {
-        const std::string name(trimBlanks(quotedAttribute(tag, "src=").value_or("")));
+    for (const auto& name : names) {
         if (name.empty() || isAddress(name) || !copied.insert(name).second) continue;
         copyPicture(name, fromDirectory, toDirectory, session.prompter);
     }

@@ -3,6 +3,7 @@
 #include "document/session.h"
 
 #include <cstddef>
+#include <span>
 #include <string>
 #include <string_view>
 
@@ -47,6 +48,9 @@ void ReadImageTags(DocumentSession& session);
 /// already with other bytes is asked for. Throws FileFailure; the pictures ahead of it are then
 /// copied.
 void CopyDeckImages(std::string_view deckText, const std::string& fromDirectory,
+    const std::string& toDirectory, DocumentSession& session);
+/// The same for pictures by their names.
+void copyPictures(std::span<const std::string> names, const std::string& fromDirectory,
     const std::string& toDirectory, DocumentSession& session);
 
 } // namespace quillmere

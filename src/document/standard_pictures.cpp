@@ -3,8 +3,11 @@
 #include "document/standard_pictures.h"
 
 #include "document/images.h"
+#include "document/standard/shown_text.h"
 #include "document/text/text_search.h"
 #include "document/text/windows1252.h"
+#include "document/wml/deck_bytes.h"
+#include "document/wml/wml_token.h"
 
 namespace quillmere {
 
@@ -52,6 +55,18 @@ PictureRoads pictureNames(DisplayCopyIndex& pictures, const Deck& deck)
         return deck[places.back().area].images[places.back().entry].sourceFile;
     };
     return {nullptr, name};
+}
+
+std::vector<std::string> picturesIn(const std::string& file)
+{
+    const DeckBytes deck(file);
+    std::vector<std::string> names;
+    for (const auto& token : readWmlTokens(deck.text())) {
+        if (token.element != WmlElement::Image || token.kind == WmlToken::Kind::EndTag) continue;
+        const auto source = attributeValue(token.source, "src").value_or("");
+        names.emplace_back(trimBlanks(plainValue(shownValue(deck.decoded(source)))));
+    }
+    return names;
 }
 
 } // namespace quillmere

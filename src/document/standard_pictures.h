@@ -5,6 +5,8 @@
 #include "document/standard/design_tags.h"
 
 #include <cstddef>
+#include <string>
+#include <vector>
 
 namespace quillmere {
 
@@ -15,5 +17,8 @@ namespace quillmere {
 /// The way back: of a picture that stands in several areas the last one's name counts. Both must
 /// outlive the result.
 [[nodiscard]] PictureRoads pictureNames(DisplayCopyIndex& pictures, const Deck& deck);
+
+/// The names of all pictures in a deck file, whatever its encoding and quotes.
+[[nodiscard]] std::vector<std::string> picturesIn(const std::string& file);
 
 } // namespace quillmere

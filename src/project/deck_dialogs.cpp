@@ -42,7 +42,7 @@ bool OpenDeckDialog(Session& session)
     const auto path = session.fileDialogs.openFile(deckQuestion(session, word::kOpenDeckTitle));
     if (!path) return false;
     const auto place = deckPlace(*path);
-    OpenDocument(session, place.name, place.directory);
+    if (!OpenDocument(session, place.name, place.directory)) return false;
     keepFolder(session, place);
     return true;
 }

@@ -11,6 +11,9 @@
 #include "document/platform/files.h"
 #include "document/platform/settings_store.h"
 #include "document/platform/word_ids.h"
+#include "document/standard/deck_file.h"
+#include "document/standard/standard_deck.h"
+#include "document/standard_pictures.h"
 #include "document/text/failure.h"
 #include "document/text/windows1252.h"
 #include "document/wml/deck_bytes.h"
@@ -154,6 +157,36 @@ void load(Session& session, const DeckPlace& place, const OutputRules& rules)
     building.commit();
 }
 
+/// Whether a file is one that can be opened without loss.
+bool opensWithoutLoss(const std::string& path)
+{
+    if (!regularFileExists(path)) return false;
+    try {
+        const auto file = readStandardFile(path);
+        static_cast<void>(StandardDeck(file));
+        return DeckBytes(file).text().find('\0') == std::string_view::npos;
+    } catch (const Failure&) {
+        return false;
+    }
+}
+
+/// What the default cannot open, such as a long deck, is offered to be opened without loss. False
+/// where that is not wanted, and nothing was opened.
+bool loadOrOffer(Session& session, const DeckPlace& place, const OutputRules& rules)
+{
+    try {
+        load(session, place, rules);
+        return true;
+    } catch (const Failure& failure) {
+        if (rules.losesNothing() || !opensWithoutLoss(place.path())) throw;
+        const std::array reason{coreText(QString::fromStdString(failure.utf8()))};
+        if (!session.messages.ask(word::kOpenWithoutLoss, reason, MessageIcon::Question))
+            return false;
+    }
+    load(session, place, OutputRules(true));
+    return true;
+}
+
 void requireGone(const std::string& path)
 {
     std::error_code error;
@@ -186,6 +219,16 @@ void movePictures(Deck& deck, const std::string& from, const std::string& to)
             if (image.sourceDir == from) image.sourceDir = to;
         area.imageIndex = {};
     }
+}
+
+/// The pictures that the deck names as it was saved at its new place.
+void copyPicturesAlong(DocumentSession& session, const DeckPlace& place, const std::string& from)
+{
+    const auto file = readFile(place.path());
+    if (losesNothing(session))
+        copyPictures(picturesIn(file), from, place.directory, session);
+    else
+        CopyDeckImages(textFromDeckBytes(file), from, place.directory, session);
 }
 
 void saveInPlace(Session& session)
@@ -257,16 +300,17 @@ bool CreateNewPage(Session& session, const std::string& name, const std::string&
     return true;
 }
 
-void OpenDocument(Session& session, const std::string& name, const std::string& directory,
+bool OpenDocument(Session& session, const std::string& name, const std::string& directory,
     std::optional<OutputRules> rules)
 {
     const DeckPlace place{name, NormalisePath(directory)};
     RecentDecks recent(session.settings);
     if (!fileExists(place.path())) recent.remove(place.path());
     ClearDeck(session);
-    load(session, place, rules ? *rules : rulesOfSetting(session));
+    if (!loadOrOffer(session, place, rules ? *rules : rulesOfSetting(session))) return false;
     recent.add(place.path());
     showDeck(session, false);
+    return true;
 }
 
 bool SaveProjectAs(Session& session, const std::string& name, const std::string& directory)
@@ -287,8 +331,7 @@ bool SaveProjectAs(Session& session, const std::string& name, const std::string&
         return false;
     RecentDecks(session.settings).add(place.path());
     movePictures(session.document.deck, old.directory, place.directory);
-    CopyDeckImages(textFromDeckBytes(readFile(place.path())), old.directory, place.directory,
-        session.document);
+    copyPicturesAlong(session.document, place, old.directory);
     return true;
 }
 

@@ -25,8 +25,9 @@ bool CreateNewPage(Session& session, const std::string& name, const std::string&
 
 /// Opens the deck and shows its first area. Throws FileFailure for a file that is not there, cannot
 /// be read or is no text, and RuntimeFailure for a deck that is too long or cannot be converted.
-/// The deck goes by `rules`; without them by the setting, as does the next one.
-void OpenDocument(Session& session, const std::string& name, const std::string& directory,
+/// The deck goes by `rules`; without them by the setting, as does the next one. One that only the
+/// default cannot open is offered to be opened without loss; false where that is not wanted.
+bool OpenDocument(Session& session, const std::string& name, const std::string& directory,
     std::optional<OutputRules> rules = {});
 
 /// Saves the deck under a name and goes on with it there. Its pictures are copied along; the old

@@ -218,8 +218,7 @@ void frmDeckOpen::OpenDocument()
 {
     const auto* const file = objFileList->currentItem();
     if (file == nullptr) return;
-    quillmere::OpenDocument(session(), corePath(file->text()), directory_);
-    finish(true);
+    finish(quillmere::OpenDocument(session(), corePath(file->text()), directory_));
 }
 
 void frmDeckOpen::SaveProjectAs()

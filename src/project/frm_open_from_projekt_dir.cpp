@@ -74,8 +74,7 @@ void frmOpenFromProjektDir::openSelected()
     const auto selected = lstFiles->selectedItems();
     if (selected.isEmpty()) return;
     const auto name = corePath(selected.front()->data(Qt::UserRole).toString());
-    OpenDocument(session(), name, session().document.deck.front().deckDir);
-    accept();
+    if (OpenDocument(session(), name, session().document.deck.front().deckDir)) accept();
 }
 
 } // namespace quillmere

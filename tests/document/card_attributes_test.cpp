@@ -98,6 +98,21 @@ TEST(CardAttributes, LeaveTheParametersOfAJumpAlone)
     EXPECT_EQ(jump(deck.session), "||x");
     setJump(deck.session);
     EXPECT_EQ(deck.written(), head + " name=\"n\" label=\"l\"><go href=\"#b\"" + tail + "</wml>");
+    setUnnamed(deck.session);
+    EXPECT_EQ(deck.written(), head + " name=\"n\" label=\"l\"><go href=\"#b\"" + tail + "</wml>");
+}
+
+TEST(CardAttributes, FindNoTitleInAnotherValue)
+{
+    test::SmallDeck deck(0, true);
+    const std::string event = " onenterforward=\"x?title=a\"";
+    const std::string tail = " ontimer=\"#b\"><p>t</p></card></wml>";
+    deck.load("<wml><card id=\"a\"" + event + tail);
+    EXPECT_EQ(card(deck.session), "a|");
+    setCard(deck.session);
+    EXPECT_EQ(card(deck.session), "i|t u");
+    EXPECT_EQ(deck.written(),
+        "<wml><card id=\"i\"" + event + " ontimer=\"#b\" title=\"t u\"><p>t</p></card></wml>");
 }
 
 } // namespace

@@ -1,7 +1,9 @@
 #include "project/deck_files.h"
 
 #include "document/card_attributes.h"
+#include "document/deck_store.h"
 #include "document/text/failure.h"
+#include "document/text/windows1252.h"
 #include "project/deck_dialogs.h"
 #include "project/deck_names.h"
 #include "project/recent_decks.h"
@@ -37,6 +39,15 @@ Log stateOf(DeckDesk& desk)
     return state;
 }
 
+/// A deck file in UTF-16 of these characters.
+std::string wideFile(std::string_view text)
+{
+    std::string file = "\xFF\xFE";
+    for (const char character : text)
+        file.append({character, '\0'});
+    return file;
+}
+
 TEST(OpenDocument, ShowsTheFirstAreaAndBringsItsOwnLineLayout)
 {
     DeckDesk desk;
@@ -69,16 +80,19 @@ TEST(OpenDocument, LeavesTheOpenDeckAloneWhereItFails)
         const char* name;
         const char* file;
         const char* wanted;
+        bool isOffered = false; // to be opened without loss
     };
     const std::string longText(40000, 'x');
     const Row rows[] = {
         {"missing", "keine.wml", "gibt es nicht. Es wurde nichts geändert."},
         {"too long", "lang.wml",
             "ist zu lang (Überlauf): ein Dokument kann höchstens 32767 Zeichen haben. Es wurde "
-            "nichts geändert."},
+            "nichts geändert.",
+            true},
         {"endless", "null.wml", "keine gewöhnliche Datei. Es wurde nichts geändert."},
         {"a program", "programm.wml", "keinen WML-Text, den Quillmere lesen kann."},
-        {"an open quote", "zitat.wml", "Es wurde nichts geändert."},
+        {"an open quote", "zitat.wml", "Es wurde nichts geändert.", true},
+        {"UTF-16", "breit.wml", "keinen WML-Text", true},
         {"a pipe", "rohr.wml", "keine gewöhnliche Datei"},
     };
     DeckDesk desk;
@@ -90,6 +104,7 @@ TEST(OpenDocument, LeavesTheOpenDeckAloneWhereItFails)
                     "ELF\0\0<card id=\"a\">",
             19));
     desk.folder.put("decks/zitat.wml", "<wml><card id=\"a\"><p><img src=\"x/></p></card></wml>");
+    desk.folder.put("decks/breit.wml", wideFile("<wml><card><p>breit</p></card></wml>"));
     std::filesystem::create_symlink("/dev/zero", folder + "null.wml");
     ASSERT_EQ(::mkfifo((folder + "rohr.wml").c_str(), 0600), 0);
     for (const bool hasDeck : {false, true}) {
@@ -101,17 +116,29 @@ TEST(OpenDocument, LeavesTheOpenDeckAloneWhereItFails)
             SCOPED_TRACE(row.name);
             const auto before = stateOf(desk);
             if (hasDeck) desk.messages.answers = {false}; // changes are not to be saved
+            if (row.isOffered) desk.messages.answers.push_back(false);
+            std::string told;
             try {
-                OpenDocument(desk.session, row.file, folder);
-                ADD_FAILURE() << "was opened";
+                EXPECT_FALSE(OpenDocument(desk.session, row.file, folder));
+                ASSERT_TRUE(row.isOffered) << "was opened";
+                told = toUtf8(desk.messages.log.back());
             } catch (const Failure& failure) {
-                EXPECT_NE(failure.utf8().find(row.wanted), std::string::npos) << failure.utf8();
-                EXPECT_NE(failure.utf8().find(row.file), std::string::npos) << failure.utf8();
+                told = failure.utf8();
             }
+            EXPECT_NE(told.find(row.wanted), std::string::npos) << told;
+            EXPECT_NE(told.find(row.file), std::string::npos) << told;
             EXPECT_EQ(stateOf(desk), before);
         }
     }
-    EXPECT_EQ(desk.window.shown, 1);
+    desk.messages.answers = {false, true};
+    OpenDocument(desk.session, "breit.wml", folder);
+    EXPECT_TRUE(losesNothing(desk.session.document));
+    EXPECT_NE(desk.area(0).find("breit"), std::string::npos);
+    EXPECT_FALSE(isYes(desk.settings, "StandardOutput"));
+    OpenDocument(desk.session, "gut.wml", folder); // the next one goes by the setting
+    EXPECT_FALSE(losesNothing(desk.session.document));
+    desk.type(" und neu");
+    EXPECT_EQ(desk.window.shown, 3);
     desk.window.AskAndSaveTmpWmlDocToWmlDoc(false); // and it can still be saved
     EXPECT_NE(desk.folder.get("decks/gut.wml").find("gut und neu"), std::string::npos);
 }
@@ -183,6 +210,15 @@ TEST(SaveProjectAs, GoesOnUnderTheNewNameAndCopiesThePictures)
     EXPECT_THROW(SaveProjectAs(desk.session, "x", folder + "keiner/"), FileFailure);
     EXPECT_THROW(SaveProjectAs(desk.session, "full", "/dev/full/"), FileFailure);
     EXPECT_EQ(stateOf(desk), before);
+
+    desk.settings.WriteSetting("StandardOutput", "Yes");
+    desk.folder.put("alt/breit.wml",
+        wideFile("<wml><card><p><img src='b/bild.wbmp' alt=''/></p></card></wml>"));
+    desk.folder.put("weit/da", "");
+    desk.messages.answers = {false};
+    OpenDocument(desk.session, "breit.wml", folder + "alt/");
+    EXPECT_TRUE(SaveProjectAs(desk.session, "breit.wml", folder + "weit/"));
+    EXPECT_TRUE(desk.folder.has("weit/b/bild.wbmp"));
 }
 
 TEST(DeckDialogs, AskForPathsWithTheirWordsAndKeepTheFolder)
@@ -203,7 +239,9 @@ TEST(DeckDialogs, AskForPathsWithTheirWordsAndKeepTheFolder)
 
     dialogs.paths
         = {QString::fromStdString(desk.folder.put("lang.wml", deckOf(std::string(40'000, 'x'))))};
-    EXPECT_THROW(OpenDeckDialog(desk.session), RuntimeFailure); // and the open deck stays
+    desk.messages.answers = {false};
+    EXPECT_FALSE(OpenDeckDialog(desk.session)); // and the open deck stays
+    EXPECT_EQ(desk.messages.taken().size(), 1U);
     EXPECT_EQ(desk.deck().front().deckFile, "größe.wml");
     EXPECT_EQ(desk.settings.ReadSetting("LastPath1") + "/", folder);
 

@@ -109,6 +109,7 @@ inline constexpr int kHits = 214; ///< gap: number
 inline constexpr int kHitOf = 215; ///< gaps: hit, number
 inline constexpr int kReplaced = 216; ///< gap: number
 inline constexpr int kNoHelp = 220; ///< gap: file
+inline constexpr int kOpenWithoutLoss = 222; ///< gap: why the default cannot open it
 inline constexpr int kLanguage = 221; ///< of the texts, as "de"
 
 // Hints of the deck dialogs

@@ -1,4 +1,7 @@
-// The pieces of the card as it is are written one after the other. Held by standard_road_test.cpp.
+// The pieces of the card as it is are written one after the other. Each is first held against what
+// is open by then (WrittenNesting): it may have to go (MisplacedPieces), or what is new in it may
+// have to stand elsewhere (NewContent); else it is written (PieceWriter). Held by
+// standard_road_test.cpp.
 
 #include "document/standard/card_changes.h"
 

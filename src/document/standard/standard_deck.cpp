@@ -6,6 +6,7 @@
 #include "document/standard/card_changes.h"
 #include "document/standard/new_layout.h"
 #include "document/standard/piece_alignment.h"
+#include "document/standard/renamed_cards.h"
 #include "document/standard/tag_changes.h"
 #include "document/text/limits.h"
 #include "document/wml/wml_tree.h"
@@ -86,6 +87,7 @@ private:
     const DeckOfCards& deck_;
     std::span<const std::uint32_t> cards_;
     TokenWriter result_;
+    CardRenames renames_;
     std::uint32_t copied_ = 0; ///< the token up to which all is decided
     std::uint32_t nextCard_ = 0;
 };
@@ -120,8 +122,18 @@ void DeckWriter::goToFirst(std::uint32_t card)
     copyTo(count == 0 ? placeOfFirst() : beginOf(card < count ? card : 0));
 }
 
+/// Copies what stands outside of cards. What leads to a renamed card leads to it still.
 void DeckWriter::copyTo(std::uint32_t token)
 {
+    for (auto i = copied_; i < token && !renames_.empty(); ++i) {
+        const auto& tag = deck_.tokens.tokens[i];
+        if (tag.kind != Kind::StartTag && tag.kind != Kind::EmptyTag) continue;
+        auto renamed = renamedTag(tag, renames_, deck_);
+        if (!renamed) continue;
+        result_.copy(copied_, i);
+        result_.put(std::move(*renamed));
+        copied_ = i + 1;
+    }
     if (token <= copied_) return;
     result_.copy(copied_, token);
     copied_ = token;
@@ -129,6 +141,7 @@ void DeckWriter::copyTo(std::uint32_t token)
 
 bool DeckWriter::write(std::span<const AreaText> areas)
 {
+    renames_ = renamedCards(areas);
     std::vector<std::uint32_t> order(areas.size());
     std::ranges::transform(areas, order.begin(), &AreaText::card);
     const auto inPlace = risingPart(order);

@@ -83,8 +83,35 @@ std::optional<WmlAttribute> TagReader::next()
 /// Whether the tag has no '>', so that a name alone is rather a word behind it.
 bool TagReader::isText()
 {
-    if (bracket_ < at_) bracket_ = std::min(text_.find_first_of("<>", at_), text_.size());
+    if (bracket_ < at_) bracket_ = nextBracket();
     return bracket_ == text_.size() || text_[bracket_] == '<';
+}
+
+/// That of a value is none: `<option selected title="1<2">`.
+std::size_t TagReader::nextBracket() const
+{
+    auto at = text_.find_first_of("<>=", at_);
+    while (at != kNowhere && text_[at] == '=')
+        at = text_.find_first_of("<>=", behindValue(at));
+    return std::min(at, text_.size());
+}
+
+/// Behind the closing quote of the value that a '=' begins; behind the '=' where there is none.
+std::size_t TagReader::behindValue(std::size_t equals) const
+{
+    auto begin = equals + 1;
+    while (begin < text_.size() && is(text_[begin], Space))
+        ++begin;
+    if (begin == text_.size() || (text_[begin] != '"' && text_[begin] != '\'')) return equals + 1;
+    const char stops[] = {text_[begin], '>', '<', '\0'};
+    auto end = text_.find_first_of(stops, begin + 1);
+    bool mayPassScript = true; // ahead of another '<', as takeQuotedValue() does
+    while (end != kNowhere && text_[end] == '<') {
+        const auto script = mayPassScript ? serverCodeAt(text_, end) : 0;
+        mayPassScript = script != 0;
+        end = text_.find_first_of(stops, end + std::max<std::size_t>(script, 1));
+    }
+    return end != kNowhere && text_[end] == text_[begin] ? end + 1 : equals + 1;
 }
 
 /// Goes to the next attribute; false where the tag ends ahead of it.

@@ -32,6 +32,8 @@ public:
 
 private:
     [[nodiscard]] bool isText();
+    [[nodiscard]] std::size_t nextBracket() const;
+    [[nodiscard]] std::size_t behindValue(std::size_t equals) const;
     [[nodiscard]] bool findAttribute();
     [[nodiscard]] bool endsHere(std::size_t behindLast);
     [[nodiscard]] bool endsWithSlash();

@@ -4,6 +4,7 @@
 
 #include "document/card_attributes.h"
 #include "document/complete_url.h"
+#include "document/deck_store.h"
 #include "document/platform/word_ids.h"
 #include "editor/elements/typed_values.h"
 #include "forms/text.h"
@@ -115,6 +116,7 @@ void TargetBox::showTitle()
 void TargetBox::setDefaults()
 {
     txtUrlJump->clear();
+    shownTarget_.clear();
     optShowAreaOrder[0]->setChecked(true);
     const bool isFirst = session_.document.currentArea == 0;
     cboLink->setCurrentIndex(isFirst && cboLink->count() > 1 ? 1 : 0);
@@ -122,6 +124,7 @@ void TargetBox::setDefaults()
 
 void TargetBox::setTarget(const std::string& target)
 {
+    shownTarget_ = target;
     const int index = target.starts_with('#')
         ? cboLink->findData(QByteArray::fromStdString(target.substr(1)))
         : -1;
@@ -141,6 +144,8 @@ std::string TargetBox::target()
 
 std::string TargetBox::completed(const QString& typed)
 {
+    const bool isShown = typed.toStdU16String() == typedFrom(shownTarget_);
+    if (isShown && losesNothing(session_.document)) return shownTarget_;
     auto asTyped = valueMarkup(typed.toStdU16String());
     if (typed.isEmpty() || typed.startsWith('#')) return asTyped;
     const auto& deckDir = session_.document.deck.front().deckDir;

@@ -33,8 +33,8 @@ public:
     /// address, so that it is not lost.
     void setTarget(const std::string& target);
     /// The target for the design text. An address is completed where the person assents; a file
-    /// that is there in the deck's directory is no address, and is not asked about. "" for an empty
-    /// address.
+    /// that is there in the deck's directory is no address, and is not asked about, nor is where
+    /// nothing is lost the address that was shown. "" for an empty address.
     [[nodiscard]] std::string target();
     [[nodiscard]] QLineEdit& address() const { return *txtUrlJump; }
 
@@ -46,6 +46,7 @@ private:
     [[nodiscard]] std::string completed(const QString& typed);
 
     Session& session_;
+    std::string shownTarget_; ///< as it stands in the design text
     const std::array<QRadioButton*, 2> optShowAreaOrder{
         named<QRadioButton>("optShowAreaOrder", this),
         named<QRadioButton>("optShowAreaOrder", this)};

@@ -50,9 +50,9 @@ std::string sourceOf(std::string_view tag)
 std::string imageMarkup(const ImageSettings& image, std::string_view otherAttributes = {})
 {
     auto markup = "<img src=\"" + image.source + "\" alt=\"" + image.caption + "\"";
+    if (image.hasLayout && !image.align.empty()) markup += " align=\"" + image.align + "\"";
     if (image.hasLayout)
-        markup += " align=\"" + image.align + "\" style=\"height: " + image.height
-            + "px; width: " + image.width + "px\"";
+        markup += " style=\"height: " + image.height + "px; width: " + image.width + "px\"";
     return markup.append(otherAttributes) + ">";
 }
 
@@ -62,6 +62,24 @@ std::optional<SourceRange> wholeImage(std::string_view text, int position)
     auto tag = findTagFrom(text, kImage, searchOffset(position));
     if (tag && standsAt(text, tag->end, kImageEnd)) tag->end += kImageEnd.size();
     return tag;
+}
+
+bool hasSize(std::string_view tag)
+{
+    const auto has = [tag](std::string_view name) { return findAttribute(tag, name).has_value(); };
+    return has("style") || has("height") || has("width");
+}
+
+/// A picture in the place of another one, of which stays what its dialog does not show: other
+/// attributes, its alignment where no layout is shown, and that it has none where it is the first.
+std::string changedMarkup(std::string_view tag, ImageSettings wanted)
+{
+    auto others = otherAttributes(tag, {"src", "alt", "align", "style", "height", "width"});
+    const auto align = findAttribute(tag, "align");
+    if (!align && wanted.align == imageAlign(0)) wanted.align.clear();
+    if (align && !wanted.hasLayout && !hasSize(tag))
+        others.append(" align=\"").append(*align).append("\"");
+    return imageMarkup(wanted, others);
 }
 
 std::optional<ImageSettings> startOf(std::string_view tag)
@@ -134,10 +152,7 @@ ElementEdit ReplaceImage(
     const auto old = wholeImage(text, position);
     if (!old) return unchanged(text, position);
     const auto tag = findTagFrom(text, kImage, old->begin)->in(text);
-    const auto kept = rules.losesNothing()
-        ? otherAttributes(tag, {"src", "alt", "align", "style", "height", "width"})
-        : std::string();
-    const auto markup = imageMarkup(wanted, kept);
+    const auto markup = rules.losesNothing() ? changedMarkup(tag, wanted) : imageMarkup(wanted);
     return {withPiece(text, *old, markup, rules), static_cast<int>(old->begin + markup.size())};
 }
 

@@ -37,9 +37,9 @@ struct ImageSettings {
 [[nodiscard]] ElementEdit SetImage(std::string_view text, int position, const ImageSettings& wanted,
     const OutputRules& rules = OutputRules());
 
-/// Makes the first picture at or behind the position what is wanted, in its
-/// place. Its other attributes stay where nothing is lost; by the default the tag is a new one.
-/// Without a picture the text stays as it is.
+/// Makes the first picture at or behind the position what is wanted, in its place. Where nothing is
+/// lost its other attributes stay, and it gets no alignment that its dialog only shows; by the
+/// default the tag is a new one. Without a picture the text stays as it is.
 [[nodiscard]] ElementEdit ReplaceImage(std::string_view text, int position,
     const ImageSettings& wanted, const OutputRules& rules = OutputRules());
 

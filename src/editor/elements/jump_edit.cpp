@@ -16,9 +16,9 @@ namespace {
 constexpr std::string_view kNoBegin = "0123456789-.";
 constexpr std::string_view kGermanLetters = "\xE4\xF6\xFC\xDF"; // ä ö ü ß
 
-std::string targetValue(std::string_view id)
+std::string targetValue(std::string_view id, char quote = '"')
 {
-    return std::string("=\"#").append(id).append("\"");
+    return std::string("=").append(1, quote).append("#").append(id).append(1, quote);
 }
 
 std::string cardId(std::string_view id)
@@ -63,6 +63,8 @@ std::string withTargetsRenamed(
     std::string_view text, std::string_view oldId, std::string_view newId, const OutputRules& rules)
 {
     auto renamed = replaced(text, targetValue(oldId), targetValue(newId));
+    if (rules.losesNothing()) // an element that stands whole in a marker has its own quotes
+        renamed = replaced(renamed, targetValue(oldId, '\''), targetValue(newId, '\''));
     renamed = replaced(renamed, buttonTarget(oldId), buttonTarget(newId));
     requireAddressable(renamed, rules.maxTextLength());
     return renamed;
@@ -77,7 +79,7 @@ std::string stateWithIdRenamed(std::string_view state, std::string_view oldId,
 
 bool leadsTo(std::string_view text, std::string_view id)
 {
-    return text.find(targetValue(id)) != npos;
+    return text.find(targetValue(id)) != npos || text.find(targetValue(id, '\'')) != npos;
 }
 
 CardIdFault cardIdFault(std::string_view id)

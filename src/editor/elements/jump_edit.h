@@ -14,7 +14,8 @@ namespace quillmere {
     std::string_view text, const OutputRules& rules = OutputRules());
 
 /// The text with all that leads to the card `oldId` leading to `newId`: attribute values in double
-/// quotes that are "#" and the id, and the addresses of temporary radio buttons.
+/// quotes that are "#" and the id, where nothing is lost in single ones as well, and the addresses
+/// of temporary radio buttons.
 [[nodiscard]] std::string withTargetsRenamed(std::string_view text, std::string_view oldId,
     std::string_view newId, const OutputRules& rules = OutputRules());
 
@@ -23,8 +24,7 @@ namespace quillmere {
 [[nodiscard]] std::string stateWithIdRenamed(std::string_view state, std::string_view oldId,
     std::string_view newId, const OutputRules& rules = OutputRules());
 
-/// Whether anything in the text leads to the card `id`: a value in double quotes that is "#" and
-/// it.
+/// Whether anything in the text leads to the card `id`: a value in quotes that is "#" and it.
 [[nodiscard]] bool leadsTo(std::string_view text, std::string_view id);
 
 /// What keeps a text from being a card's id, which other cards lead to by "#" and this id.

@@ -11,6 +11,7 @@
 #include "editor/elements/typed_values.h"
 #include "editor/page/attribute_values.h"
 #include "editor/page/hit_test.h"
+#include "editor/page/markup_tags.h"
 
 #include <algorithm>
 
@@ -83,6 +84,20 @@ std::size_t joinedListEnd(std::string_view text, std::size_t offset)
 {
     const auto behind = findIgnoringCase(text, kSelectEnd, offset);
     return behind != npos ? behind : findLastIgnoringCase(text, kSelectEnd);
+}
+
+/// An option with the group round it that has no other: in WML a group has an entry.
+SourceRange withEmptiedGroup(std::string_view text, SourceRange option, const OutputRules& rules)
+{
+    if (!rules.losesNothing()) return option;
+    const auto page = readSurfacePage(std::string(text), rules);
+    for (const auto& element : page.elements) { // the outermost first
+        const auto group = element.whole();
+        const bool holdsIt = group.begin < option.begin && group.end > option.end;
+        const bool isGroup = wmlElement(tagName(element.start.in(text))) == WmlElement::OptionGroup;
+        if (holdsIt && isGroup && countOptions(text, group.begin, group.end) == 1) return group;
+    }
+    return option;
 }
 
 std::size_t behindBreak(std::string_view text, std::size_t offset)
@@ -195,7 +210,8 @@ ElementEdit DeleteOption(
     if (!option) return unchanged(text, position);
     const auto list = listAround(text, option->marker.begin);
     const bool isOnly = list && countOptions(text, list->begin, list->end) == 1;
-    const auto gone = isOnly ? *list : SourceRange{option->marker.begin, option->end};
+    const SourceRange whole{option->marker.begin, option->end};
+    const auto gone = isOnly ? *list : withEmptiedGroup(text, whole, rules);
     auto changed = withPiece(text, gone, {}, rules);
     if (Replace) return {std::move(changed), static_cast<int>(gone.begin)};
     // All buttons ahead of the place keep their numbers, and with them their lengths.

@@ -44,8 +44,9 @@ struct OptionSettings {
     const OptionSettings& wanted, const OutputRules& rules = OutputRules());
 
 /// Takes out the first option at or behind the position, and with the only option of a list the
-/// list, but not the <br/> behind it. `Replace` leaves the radio buttons as they are, since another
-/// edit follows. Without an option the text stays as it is.
+/// list, but not the <br/> behind it; where nothing is lost with the only option of a group the
+/// group. `Replace` leaves the radio buttons as they are, since another edit follows. Without an
+/// option the text stays as it is.
 [[nodiscard]] ElementEdit DeleteOption(
     std::string_view text, int position, bool Replace, const OutputRules& rules = OutputRules());
 

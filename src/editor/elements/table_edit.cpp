@@ -5,6 +5,7 @@
 
 #include "document/text/limits.h"
 #include "document/text/text_search.h"
+#include "editor/elements/typed_values.h"
 #include "editor/page/attribute_values.h"
 #include "editor/page/hit_test.h"
 
@@ -66,12 +67,31 @@ void setAttribute(
         tag.insert(elseAt, " " + quoted(name, value) + " ");
 }
 
-std::string startTag(std::string tag, const TableSettings& wanted)
+/// What a change leaves alone: all but where nothing is lost, what is as the table has it.
+struct Unchanged {
+    bool title = false;
+    bool align = false;
+    bool rows = false;
+    bool columns = false;
+};
+
+Unchanged unchangedIn(
+    const TableSettings& shown, const TableSettings& wanted, const OutputRules& rules)
 {
-    setAttribute(tag, "title", wanted.title, std::string_view("<table").size());
-    const auto behindTitle = valueRange(tag, "title")->end;
-    setAttribute(tag, "align", wanted.align, behindTitle);
-    setAttribute(tag, "columns", std::to_string(wanted.columns), behindTitle);
+    if (!rules.losesNothing()) return {};
+    const bool hasAlign = !wanted.align.empty(); // of the list in another language there is none
+    return {typedFrom(shown.title) == typedFrom(wanted.title),
+        !hasAlign || tableAlignIndex(shown.align) == tableAlignIndex(wanted.align),
+        shown.rows == wanted.rows, shown.columns == wanted.columns};
+}
+
+std::string startTag(std::string tag, const TableSettings& wanted, const Unchanged& stays)
+{
+    auto place = std::string_view("<table").size();
+    if (!stays.title) setAttribute(tag, "title", wanted.title, place);
+    if (const auto title = valueRange(tag, "title")) place = title->end;
+    if (!stays.align) setAttribute(tag, "align", wanted.align, place);
+    if (!stays.columns) setAttribute(tag, "columns", std::to_string(wanted.columns), place);
     return tag;
 }
 
@@ -79,7 +99,6 @@ struct Row {
     SourceRange source;
     std::vector<SourceRange> cells;
     std::size_t behindCells = 0; ///< behind the last cell of any spelling
-    bool hasOtherCells = false;
 };
 
 /// The piece from `begin` through the first end tag `endKey` ahead of `limit`, or up to `limit`.
@@ -90,15 +109,30 @@ SourceRange through(
     return {begin, end && end->end <= limit ? end->end : limit};
 }
 
-/// The pieces from each exact `start` to its end, ahead of `within.end`.
+struct PieceKeys {
+    std::string_view start; ///< without attributes
+    std::string_view end;
+};
+constexpr PieceKeys kRowKeys{"<tr>", "</tr"};
+constexpr PieceKeys kCellKeys{"<td>", "</td"};
+
+std::size_t nextStart(
+    std::string_view text, std::string_view start, std::size_t from, const OutputRules& rules)
+{
+    if (!rules.losesNothing()) return text.find(start, from);
+    start.remove_suffix(1); // with attributes as well
+    return findIgnoringCase(text, start, from);
+}
+
+/// The pieces from each start to its end, ahead of `within.end`.
 std::vector<SourceRange> piecesOf(
-    std::string_view text, std::string_view start, std::string_view endKey, SourceRange within)
+    std::string_view text, const PieceKeys& keys, SourceRange within, const OutputRules& rules)
 {
     std::vector<SourceRange> pieces;
-    auto begin = text.find(start, within.begin);
+    auto begin = nextStart(text, keys.start, within.begin, rules);
     while (begin < within.end) {
-        const auto next = std::min(text.find(start, begin + 1), within.end);
-        pieces.push_back(through(text, endKey, begin, next));
+        const auto next = std::min(nextStart(text, keys.start, begin + 1, rules), within.end);
+        pieces.push_back(through(text, keys.end, begin, next));
         begin = next < within.end ? next : npos;
     }
     return pieces;
@@ -115,31 +149,27 @@ std::size_t countOf(std::string_view text, std::string_view key, SourceRange wit
 
 std::size_t behindCells(std::string_view text, const Row& row, std::size_t rowEnd)
 {
-    auto behind = row.cells.empty() ? row.source.begin + std::string_view("<tr>").size()
-                                    : row.cells.back().end;
+    auto behind = row.cells.empty() ? text.find('>', row.source.begin) + 1 : row.cells.back().end;
     for (auto end = findTagFrom(text, "</td", behind); end && end->end <= rowEnd;
          end = findTagFrom(text, "</td", behind))
         behind = end->end;
     return behind;
 }
 
-std::vector<Row> rowsOf(std::string_view text, SourceRange table)
+std::vector<Row> rowsOf(std::string_view text, SourceRange table, const OutputRules& rules)
 {
     std::vector<Row> rows;
-    for (const auto source : piecesOf(text, "<tr>", "</tr", table)) {
+    for (const auto source : piecesOf(text, kRowKeys, table, rules)) {
         const auto rowEnd = std::min(findIgnoringCase(text, "</tr", source.begin), source.end);
-        Row row{source, piecesOf(text, "<td>", "</td", {source.begin, rowEnd}), 0, false};
+        Row row{source, piecesOf(text, kCellKeys, {source.begin, rowEnd}, rules), 0};
         row.behindCells = behindCells(text, row, rowEnd);
-        const auto all = countOf(text, "<td", source) + countOf(text, "<th", source);
-        row.hasOtherCells = all > row.cells.size();
         rows.push_back(std::move(row));
     }
     return rows;
 }
 
-void setCells(Rewriter& result, const Row& row, int columns, const OutputRules& rules)
+void setCells(Rewriter& result, const Row& row, int columns)
 {
-    if (row.hasOtherCells && rules.losesNothing()) return;
     const auto wanted = static_cast<std::size_t>(columns);
     for (std::size_t i = wanted; i < row.cells.size(); ++i)
         result.drop(row.cells[i].begin, row.cells[i].end);
@@ -148,19 +178,19 @@ void setCells(Rewriter& result, const Row& row, int columns, const OutputRules& 
 }
 
 void setRows(Rewriter& result, const std::vector<Row>& rows, const TableSettings& wanted,
-    const OutputRules& rules)
+    const Unchanged& stays)
 {
     if (rows.empty()) return;
-    const auto count = static_cast<std::size_t>(wanted.rows);
+    const auto count = stays.rows ? rows.size() : static_cast<std::size_t>(wanted.rows);
     for (std::size_t i = 0; i < rows.size(); ++i) {
-        if (i < count)
-            setCells(result, rows[i], wanted.columns, rules);
-        else
+        if (i >= count)
             result.drop(rows[i].source.begin, rows[i].source.end);
+        else if (!stays.columns)
+            setCells(result, rows[i], wanted.columns);
     }
     if (rows.size() >= count) return;
     result.insert(rows.back().source.end,
-        times(wanted.rows - static_cast<int>(rows.size()), rowOf(wanted.columns)));
+        times(static_cast<int>(count - rows.size()), rowOf(wanted.columns)));
 }
 
 /// Behind the first cell's tag, or behind the table's where there is no cell.
@@ -225,11 +255,12 @@ ElementEdit SetTable(
 {
     const auto tag = findTagFrom(text, "<table", searchOffset(position));
     if (!tag) return unchanged(text, position);
+    const auto stays = unchangedIn(*GetTable(text, position), wanted, rules);
     Rewriter result(text);
     result.drop(tag->begin, tag->end);
-    result.insert(tag->end, startTag(std::string(tag->in(text)), wanted));
+    result.insert(tag->end, startTag(std::string(tag->in(text)), wanted, stays));
     const auto end = findIgnoringCase(text, "</table", tag->end);
-    if (end != npos) setRows(result, rowsOf(text, {tag->end, end}), wanted, rules);
+    if (end != npos) setRows(result, rowsOf(text, {tag->end, end}, rules), wanted, stays);
     auto changed = result.take();
     requireAddressable(changed, rules.maxTextLength());
     const int caret = caretInTable(changed, tag->begin);

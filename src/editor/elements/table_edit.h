@@ -36,9 +36,10 @@ struct TableSettings {
 
 /// Makes the first table at or behind the position what is wanted. Attributes that the table has
 /// not are put in; others than title, align and columns stay. Cells that stay keep their content;
-/// what is beyond the wanted number goes. Rows and cells count as "<tr>" and "<td>" in this
-/// spelling: a table without such rows keeps them. So does a row that has cells of another spelling
-/// where nothing is lost; by the default these do not count, and new cells go in behind all.
+/// what is beyond the wanted number goes. By the default rows and cells count as "<tr>" and "<td>"
+/// in this spelling: a table without such rows keeps them, and new cells go in behind all. Where
+/// nothing is lost all of them count, and what is wanted as GetTable told it stays as it is: an
+/// align of several columns, a missing title, rows of unequal length.
 /// Without a table the text stays as it is.
 [[nodiscard]] ElementEdit SetTable(std::string_view text, int position, const TableSettings& wanted,
     const OutputRules& rules = OutputRules());

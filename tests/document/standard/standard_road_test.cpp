@@ -121,6 +121,20 @@ TEST(StandardRoad, KnowsCardsAndJumpsWhereTheyAreOfOtherShapes)
         "<go href='#b'/></do><do type='accept' name='d'><prev/></do><p/></card></wml>");
 }
 
+TEST(StandardRoad, LeadsToRenamedCardsFromItsTemplate)
+{
+    const auto deckOf = [](std::string event, std::string jump, std::string a, std::string b) {
+        return "<wml><template onenterbackward='#" + event + "'><do type='options'><go href='#"
+            + jump + "'/></do></template><card id='" + a + "'><p/></card><card id='" + b
+            + "'><p/></card></wml>";
+    };
+    OpenDeck deck(deckOf("b", "a", "a", "b"));
+    SetCardAttributes(deck.session, 0, "neu", "");
+    EXPECT_EQ(deck.written(), deckOf("b", "neu", "neu", "b"));
+    SetCardAttributes(deck.session, 1, "a", ""); // to which the jump leads then
+    EXPECT_EQ(deck.written(), deckOf("a", "a", "neu", "a"));
+}
+
 TEST(StandardRoad, FindsTheCardsOfADeckAgain)
 {
     const std::string file

@@ -174,5 +174,19 @@ TEST(FrmTable, RefusesNumbersOutOfItsLimits)
     EXPECT_EQ(desk.content().find("<table"), std::string::npos);
 }
 
+TEST(FrmLinks, AsksNothingOfAnAddressThatStays)
+{
+    ElementDesk desk;
+    desk.settings.WriteSetting("StandardOutput", "Yes");
+    desk.openCards({"<a href=\"../x.php?a=1&amp;b\">Wort</a>"});
+    desk.mark("Wort");
+    desk.use("mnuContext2PrepareElement", [](QWidget& form) {
+        type(form, "txtCaption", "Neu");
+        click(form, "btnNew");
+    });
+    EXPECT_NE(desk.content().find("<a href=\"../x.php?a=1&amp;b\">Neu</a>"), std::string::npos);
+    EXPECT_TRUE(desk.messages.taken().empty());
+}
+
 } // namespace
 } // namespace quillmere::test

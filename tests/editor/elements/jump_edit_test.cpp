@@ -31,6 +31,9 @@ TEST(WithTargetsRenamed, ChangesWholeTargetsOnly)
                   "a", "neu"),
         "<!--option onpick=\"#neu\"--><input type=radio name=\"TempName1\" "
         "onclick=\"javascript:navigate('#neu')\">");
+    EXPECT_EQ(withTargetsRenamed("<!--#do &lt;do&gt;&lt;go href='#a'/&gt;&lt;/do&gt;-->", "a",
+                  "neu", OutputRules(true)),
+        "<!--#do &lt;do&gt;&lt;go href='#neu'/&gt;&lt;/do&gt;-->");
 }
 
 TEST(CardIdFault, TellsWhatNoLinkCanLeadTo)

@@ -100,6 +100,14 @@ TEST(ImageEdits, WriteBothForms)
                   {"b", "c", false, "top", "", ""}, kLossless)
                   .text,
         "<img src=\"b\" alt=\"c\" id=i localsrc=\"l\">");
+    const auto changed = [](const std::string& attributes, const ImageSettings& wanted) {
+        return ReplaceImage("<img src=\"a\" alt=\"x\"" + attributes + ">", 1, wanted, kLossless)
+            .text;
+    };
+    EXPECT_EQ(changed(" align=\"middle\"", {"a", "y", false, "middle", "", ""}),
+        "<img src=\"a\" alt=\"y\" align=\"middle\">");
+    EXPECT_EQ(changed(" style=\"height: 3px\"", {"a", "y", true, "top", "3", "4"}),
+        "<img src=\"a\" alt=\"y\" style=\"height: 3px; width: 4px\">");
     EXPECT_EQ(withCaret(DeleteImage(old, 1)), "x|y");
     EXPECT_EQ(FindImage(old), 1);
     EXPECT_EQ(FindImage(old, 3), std::nullopt);

@@ -114,6 +114,17 @@ TEST(DeleteOption, TakesTheListWithTheLastOption)
                               "onpick=#b-->y<!--/option--><!--/select-->";
     EXPECT_EQ(DeleteOption(noEnd, 1, true).text,
         "<!--select-->x<!--option onpick=#b-->y<!--/option--><!--/select-->");
+    const std::string group = "<!--optgroup title=\"g\"--><!--option-->x<!--/option-->";
+    const std::string other = "<!--option-->y<!--/option-->";
+    const auto inList = [](const std::string& content) {
+        return "<p><!--select-->" + content + "<!--/select--></p>";
+    };
+    EXPECT_EQ(
+        DeleteOption(inList(group + "<!--/optgroup-->" + other), 1, true, OutputRules(true)).text,
+        inList(other));
+    EXPECT_EQ(
+        DeleteOption(inList(group + other + "<!--/optgroup-->"), 1, true, OutputRules(true)).text,
+        inList("<!--optgroup title=\"g\"-->" + other + "<!--/optgroup-->"));
 }
 
 TEST(GetOption, ReadsAllSpellings)

@@ -72,9 +72,28 @@ TEST(SetTable, ChangesWhatIsWanted)
         auto edit = SetTable(before, 0, wanted);
         EXPECT_EQ(edit.text.insert(static_cast<std::size_t>(edit.position), "|"), after);
     }
-    const std::string capitals = "<table title=\"n\" align=\"L\" columns=\"1\"><tr><TD>a</TD></tr>";
-    EXPECT_EQ(SetTable(capitals + "</table>", 0, table("n", "L", 1, 1), OutputRules(true)).text,
-        capitals + "</table>");
+}
+
+TEST(SetTable, LeavesAloneWhatIsNotChanged)
+{
+    const OutputRules rules(true);
+    const std::string start = "<table columns=\"3\" align=\"LCR\">";
+    const std::string first = "<tr id=\"r\"><td>1</td><td class=\"z\">2</td>";
+    const std::string longer = "<tr><TD>3</TD><td>4</td><td>5</td></tr>";
+    const auto uneven = start + first + "</tr>" + longer + "</table>";
+    const std::tuple<TableSettings, std::string> cases[] = {
+        {table("", "L", 2, 2), uneven},
+        {table("", "", 2, 2), uneven},
+        {table("n", "C", 2, 2),
+            "<table title=\"n\"  columns=\"3\" align=\"C\">" + first + "</tr>" + longer
+                + "</table>"},
+        {table("", "L", 1, 3), start + first + "<td>Zelle</td></tr></table>"},
+        {table("", "L", 2, 1),
+            "<table columns=\"1\" align=\"LCR\"><tr id=\"r\"><td>1</td></tr>"
+            "<tr><TD>3</TD></tr></table>"},
+    };
+    for (const auto& [wanted, after] : cases)
+        EXPECT_EQ(SetTable(uneven, 0, wanted, rules).text, after);
 }
 
 TEST(InsertTable, PutsItInAsItIsTold)
