@@ -54,17 +54,16 @@ std::string faultOf(const std::string& deck)
     return fault ? describeFault(*fault) : "";
 }
 
-bool endsInQuotes(std::string_view tag)
+/// Whether a value that a tag opens has no closing quote so far. Stray quotes are none.
+bool endsInValue(std::string_view tag)
 {
-    char open = '\0';
-    for (const char character : tag) {
-        const bool isQuote = character == '"' || character == '\'';
-        if (open == '\0' && isQuote)
-            open = character;
-        else if (character == open)
-            open = '\0';
+    bool isOpen = false;
+    for (auto at = tag.find('='); at != npos && !isOpen; at = tag.find('=', at + 1)) {
+        const auto quote = tag.find_first_not_of(" \t\r\n", at + 1);
+        if (quote == npos || (tag[quote] != '"' && tag[quote] != '\'')) continue;
+        isOpen = tag.find(tag[quote], quote + 1) == npos;
     }
-    return open != '\0';
+    return isOpen;
 }
 
 /// Whether a '<' may stand in a value: where the tag around it ends can then be seen in two ways if
@@ -75,7 +74,7 @@ bool hasBracketInValue(std::string_view text)
     auto tag = npos; // begins ahead, without a '>' since
     for (auto at = text.find_first_of("<>"); at != npos; at = text.find_first_of("<>", at + 1)) {
         const bool begins = text[at] == '<';
-        if (begins && tag != npos && endsInQuotes(text.substr(tag, at - tag))) return true;
+        if (begins && tag != npos && endsInValue(text.substr(tag, at - tag))) return true;
         tag = begins ? at : npos;
     }
     return false;

@@ -5,6 +5,7 @@
 
 #include "document/changes/markup_document.h"
 
+#include "document/changes/doctype_head.h"
 #include "document/changes/markup_tag_reader.h"
 
 #include <algorithm>
@@ -16,6 +17,7 @@ namespace {
 
 using Kind = MarkupToken::Kind;
 constexpr auto kNowhere = std::string_view::npos;
+constexpr std::string_view kOpen = "<!DOCTYPE";
 
 class MarkupReader {
 public:
@@ -113,7 +115,6 @@ private:
     void readDoctype()
     {
         const auto begin = in_.at;
-        constexpr std::string_view kOpen = "<!DOCTYPE";
         auto stop = doctypeSeen_ ? kNowhere : doctypeEnd();
         if (!in_.text.substr(begin).starts_with(kOpen) || doctypeSeen_ || stop == kNowhere)
             in_.note(MarkupFault::BadDoctype, begin);
@@ -127,7 +128,7 @@ private:
     [[nodiscard]] std::size_t doctypeEnd() const
     {
         bool inSubset = false;
-        for (auto at = in_.at; at < in_.text.size(); ++at) {
+        for (auto at = behindHead(); at < in_.text.size(); ++at) {
             const char character = in_.text[at];
             const bool isQuote = character == '"' || character == '\'';
             if (isQuote) at = literalEnd(at, inSubset);
@@ -138,17 +139,23 @@ private:
         return kNowhere;
     }
 
-    /// The closing quote. Outside of the subset one that is missing does not reach beyond the tag:
-    /// where brackets stand ahead of the quote, the declaration must go on behind it.
+    /// Behind the name and the literals of a declaration that is right so far, else its begin.
+    [[nodiscard]] std::size_t behindHead() const
+    {
+        if (!in_.text.substr(in_.at).starts_with(kOpen)) return in_.at;
+        MarkupCursor in(in_.text);
+        in.at = in_.at + kOpen.size();
+        const bool isRight = passDoctypeHead(in) && (in.peek() == '[' || in.peek() == '>');
+        return isRight ? in.at : in_.at;
+    }
+
+    /// The closing quote. Outside of the subset one that is missing does not reach beyond the tag.
     [[nodiscard]] std::size_t literalEnd(std::size_t at, bool inSubset) const
     {
-        const auto end = in_.text.find(in_.text[at], at + 1);
-        if (inSubset || end == kNowhere) return inSubset ? end : at;
-        const auto literal = in_.text.substr(at, end - at);
-        const auto behind = in_.text.find_first_not_of(" \t\r\n", end + 1);
-        const bool goesOn
-            = behind != kNowhere && std::string_view("\"'[>").find(in_.text[behind]) != kNowhere;
-        return goesOn || literal.find_first_of("<>") == kNowhere ? end : at;
+        const char stops[] = {in_.text[at], '<', '>', '\0'};
+        if (inSubset) return in_.text.find(in_.text[at], at + 1);
+        const auto end = in_.text.find_first_of(stops, at + 1);
+        return end != kNowhere && in_.text[end] == in_.text[at] ? end : at;
     }
 
     MarkupCursor in_;

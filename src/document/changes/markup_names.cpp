@@ -40,12 +40,19 @@ bool names(std::string_view declaration, std::string_view encoding)
     return behind.find_first_of("\"'") == 0; // no ISO-8859-15
 }
 
-/// The character that `text`, which is UTF-8, begins with.
-char32_t pointAt(std::string_view text, std::size_t length)
+/// How many bytes the character of several has that begins with `lead`.
+std::size_t utf8Length(char lead)
 {
-    auto point = static_cast<char32_t>(static_cast<unsigned char>(text[0]) & (0x7FU >> length));
-    for (std::size_t i = 1; i < length; ++i)
-        point = (point << 6U) | (static_cast<unsigned char>(text[i]) & 0x3FU);
+    const auto code = static_cast<unsigned char>(lead);
+    return code >= 0xF0 ? 4 : code >= 0xE0 ? 3 : 2;
+}
+
+char32_t pointAt(std::string_view spelled)
+{
+    const auto lead = static_cast<unsigned char>(spelled.front());
+    auto point = static_cast<char32_t>(lead & (0x7FU >> spelled.size()));
+    for (const char next : spelled.substr(1))
+        point = (point << 6U) | (static_cast<unsigned char>(next) & 0x3FU);
     return point;
 }
 
@@ -67,11 +74,11 @@ MarkupBytes markupBytesOf(std::string_view text)
 std::size_t wideNameCharacter(std::string_view text, MarkupBytes bytes, bool isFirst)
 {
     if (bytes == MarkupBytes::OtherCharset) return 1;
-    const auto lead = static_cast<unsigned char>(text.front());
-    const std::size_t spelled = lead >= 0xF0 ? 4 : lead >= 0xE0 ? 3 : 2;
-    const auto length = bytes == MarkupBytes::Utf8 ? std::min(spelled, text.size()) : 1;
-    const auto point
-        = bytes == MarkupBytes::Utf8 ? pointAt(text, length) : toCodePoint(text.front());
+    const auto spelled = text.substr(0, utf8Length(text.front()));
+    const bool isUtf8 = bytes == MarkupBytes::Utf8
+        || (bytes == MarkupBytes::Undeclared && validUtf8(spelled) == spelled);
+    const auto length = isUtf8 ? spelled.size() : 1;
+    const auto point = isUtf8 ? pointAt(spelled) : toCodePoint(text.front());
     const bool isAllowed = isIn(kBeginning, point) || (!isFirst && isIn(kOnlyContinuing, point));
     return isAllowed ? length : 0;
 }

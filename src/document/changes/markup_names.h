@@ -15,7 +15,7 @@ enum class MarkupBytes : std::uint8_t {
     Utf8, ///< all of them
     Windows1252, ///< declared, or ISO-8859-1
     OtherCharset, ///< declared; which are letters is not known here, so that all may be
-    Undeclared, ///< no UTF-8, though it should be; read as Windows-1252
+    Undeclared, ///< should be UTF-8; what is none is read as Windows-1252
 };
 [[nodiscard]] MarkupBytes markupBytesOf(std::string_view text);
 

@@ -5,6 +5,7 @@
 #include "document/changes/well_formedness.h"
 
 #include "document/changes/character_references.h"
+#include "document/changes/doctype_head.h"
 #include "document/changes/markup_cursor.h"
 #include "document/changes/plain_markup.h"
 #include "document/text/windows1252.h"
@@ -20,37 +21,11 @@ using Kind = MarkupToken::Kind;
 using Form = DecodedCharacter::Form;
 constexpr auto kNowhere = std::string_view::npos;
 
-bool passWord(MarkupCursor& in, std::string_view word)
-{
-    in.skipSpace();
-    if (!in.text.substr(in.at).starts_with(word)) return false;
-    in.at += word.size();
-    return true;
-}
-
-bool passLiteral(MarkupCursor& in)
-{
-    if (!isMarkupSpace(in.peek())) return false;
-    in.skipSpace();
-    const char quote = in.peek();
-    const auto end = in.text.find(quote, std::min(in.at + 1, in.text.size()));
-    if ((quote != '"' && quote != '\'') || end == kNowhere) return false;
-    in.at = end + 1;
-    return true;
-}
-
 /// What stands between "<!DOCTYPE" and '>': a name, where its file lies, declarations in brackets.
 bool isDoctype(std::string_view content)
 {
     MarkupCursor in(content);
-    if (!isMarkupSpace(in.peek())) return false;
-    in.skipSpace();
-    if (in.takeName().empty()) return false;
-    const int literals = passWord(in, "PUBLIC") ? 2 : passWord(in, "SYSTEM") ? 1 : 0;
-    for (int i = 0; i < literals; ++i) {
-        if (!passLiteral(in)) return false;
-    }
-    in.skipSpace();
+    if (!passDoctypeHead(in)) return false;
     const auto rest = content.substr(in.at);
     const auto last = rest.find_last_not_of(" \t\r\n");
     return last == kNowhere || (rest.front() == '[' && rest[last] == ']');
