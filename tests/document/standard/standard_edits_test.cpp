@@ -60,7 +60,7 @@ template <std::size_t length> std::optional<Edit> replaceWord(const Place& place
     if (place.piece().kind != Kind::Word) return std::nullopt;
     const auto most = 8 * place.piece().text.size();
     return Edit{"replace a word", place.begin(), place.end(),
-        std::string(std::string_view("anders").substr(0, length)), most, 6};
+        std::string("anders").substr(0, length), most, 6};
 }
 
 std::optional<Edit> insertParagraph(const Place& place)

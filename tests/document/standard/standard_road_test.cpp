@@ -123,7 +123,8 @@ TEST(StandardRoad, KnowsCardsAndJumpsWhereTheyAreOfOtherShapes)
 
 TEST(StandardRoad, LeadsToRenamedCardsFromItsTemplate)
 {
-    const auto deckOf = [](std::string event, std::string jump, std::string a, std::string b) {
+    const auto deckOf = [](const std::string& event, const std::string& jump, const std::string& a,
+                            const std::string& b) {
         return "<wml><template onenterbackward='#" + event + "'><do type='options'><go href='#"
             + jump + "'/></do></template><card id='" + a + "'><p/></card><card id='" + b
             + "'><p/></card></wml>";

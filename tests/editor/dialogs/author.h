@@ -11,6 +11,7 @@
 #include <stdexcept>
 #include <string>
 #include <utility>
+#include <utility>
 
 namespace quillmere::test {
 
@@ -83,7 +84,7 @@ struct Author : ElementDesk {
     }
     void doubleClickOn(const QString& text, std::function<void(QWidget&)> form)
     {
-        withNextModal(std::move(form));
+        withNextModal(std::exchange(form, nullptr));
         auto* top = &window;
         const auto point = surface().viewport()->mapTo(top, middleOf(text));
         QTest::mouseDClick(top->windowHandle(), Qt::LeftButton, {}, point);
