@@ -11,7 +11,6 @@
 #include <stdexcept>
 #include <string>
 #include <utility>
-#include <utility>
 
 namespace quillmere::test {
 
@@ -64,7 +63,7 @@ struct Author : ElementDesk {
     /// A tool whose click opens a form.
     void tool(const char* name, std::function<void(QWidget&)> form)
     {
-        withNextModal(std::exchange(form, nullptr));
+        withNextModal(std::move(form));
         clickOn(control<QWidget>((std::string("lblButton") + name).c_str()));
         backToWindow();
     }
@@ -84,7 +83,7 @@ struct Author : ElementDesk {
     }
     void doubleClickOn(const QString& text, std::function<void(QWidget&)> form)
     {
-        withNextModal(std::exchange(form, nullptr));
+        withNextModal(std::move(form));
         auto* top = &window;
         const auto point = surface().viewport()->mapTo(top, middleOf(text));
         QTest::mouseDClick(top->windowHandle(), Qt::LeftButton, {}, point);
@@ -129,7 +128,7 @@ private:
     void chooseFromMenu(const std::vector<QString>& entries, std::function<void(QWidget&)> form)
     {
         for (const auto& entry : entries) {
-            if (entry == entries.back()) withNextModal(std::move(form));
+            if (entry == entries.back()) withNextModal(std::exchange(form, nullptr));
             auto* menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
             if (menu == nullptr) throw std::runtime_error("no menu for " + entry.toStdString());
             clickAt(*menu, menu->actionGeometry(actionOf(*menu, entry)).center());
