@@ -149,24 +149,23 @@ std::optional<AcceptDo> acceptDoIn(std::string_view text, const DocumentSession&
         begin, losesNothing(session) ? std::min(text.find("-->", begin), end) : end, end};
 }
 
-/// Sets an attribute of the jump, whose ends move with it; a missing one is put in behind the type.
-void setDoAttribute(std::string& text, AcceptDo& jump, std::string_view key, std::string_view value)
+/// Sets an attribute of the jump; a missing one is put in behind the type.
+void setDoAttribute(
+    std::string& text, const DocumentSession& session, std::string_view key, std::string_view value)
 {
-    const auto sizeBefore = text.size();
+    const auto jump = *acceptDoIn(text, session);
     if (const auto old = attributeIn(text, jump, key))
         text.replace(old->begin, old->end - old->begin, value);
     else
         text.insert(jump.begin + kAcceptDo.size(), attribute(key, value).append(" "));
-    if (jump.end == jump.begin) return;
-    jump.behindAttributes = jump.behindAttributes + text.size() - sizeBefore;
-    jump.end = jump.end + text.size() - sizeBefore;
 }
 
-void changeJump(std::string& text, AcceptDo found, const Jump& jump, bool keepsName)
+/// The end of the jump is looked for anew each time, since a value may move it.
+void changeJump(std::string& text, const DocumentSession& session, const Jump& jump, bool keepsName)
 {
-    setDoAttribute(text, found, "label=", jump.label);
-    if (!keepsName) setDoAttribute(text, found, "name=", jump.name);
-    if (const auto old = targetIn(text, found))
+    setDoAttribute(text, session, "label=", jump.label);
+    if (!keepsName) setDoAttribute(text, session, "name=", jump.name);
+    if (const auto old = targetIn(text, *acceptDoIn(text, session)))
         text.replace(old->begin, old->end - old->begin, jump.target);
 }
 
@@ -229,8 +228,8 @@ void SetJump(DocumentSession& session, std::size_t areaIndex, const Jump& jump)
     auto text = ReadDesignText(session, areaIndex);
     const Jump named{
         unusedJumpName(text, jump.name, losesNothing(session)), jump.label, jump.target};
-    if (const auto found = acceptDoIn(text, session))
-        changeJump(text, *found, named, losesNothing(session) && jump.name.empty());
+    if (acceptDoIn(text, session))
+        changeJump(text, session, named, losesNothing(session) && jump.name.empty());
     else
         insertJump(text, named);
     WriteDesignText(session, areaIndex, text);

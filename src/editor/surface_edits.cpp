@@ -17,6 +17,8 @@ namespace {
 void addSplices(SurfaceEdit& edit, SurfaceEdit further)
 {
     std::ranges::move(further.splices, std::back_inserter(edit.splices));
+    std::ranges::stable_sort(
+        edit.splices, {}, [](const auto& splice) { return splice.removed.begin; });
 }
 
 /// Where an offset of the text lies behind the edit.

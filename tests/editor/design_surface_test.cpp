@@ -134,6 +134,21 @@ TEST(DesignSurface, ChangesMarkedCellsAndNotWhatLiesBetweenThemInTheText)
     }
 }
 
+TEST(DesignSurface, PutsBehindTheTableWhatMarkedCellsCannotHold)
+{
+    ShownSurface surface;
+    surface.setRules(OutputRules(true));
+    const auto text = std::string("<p>") + kTable + "</p>";
+    surface.give(text);
+    markCells(surface, 0, 0, 1, 0);
+    surface.pasteHTML("x<!--#input y-->");
+    EXPECT_EQ(surface.told(),
+        "<p><table title=\"T\"><tr><td>x|</td><td><b>b</b></td></tr>"
+        "<tr><td></td><td><b>d</b></td></tr></table><!--#input y--></p>");
+    surface.undo();
+    EXPECT_EQ(surface.DocumentHTML(), text);
+}
+
 TEST(DesignSurface, RunsTheCommandsOfItsInterface)
 {
     ShownSurface surface;

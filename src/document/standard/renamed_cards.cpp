@@ -33,6 +33,13 @@ std::string idIn(std::string_view marker)
     return {};
 }
 
+bool leadsSomewhere(std::string_view attribute)
+{
+    constexpr std::string_view kTargets[]
+        = {"href", "onenterforward", "onenterbackward", "ontimer"};
+    return std::ranges::find(kTargets, attribute) != std::end(kTargets);
+}
+
 } // namespace
 
 CardRenames renamedCards(std::span<const AreaText> areas)
@@ -60,7 +67,7 @@ std::optional<std::string> renamedTag(
             {deck.bytes.decoded(attribute.name), shownValue(deck.bytes.decoded(attribute.value))});
     auto now = then;
     for (auto& attribute : now) {
-        if (!attribute.value.starts_with('#')) continue;
+        if (!leadsSomewhere(attribute.name) || !attribute.value.starts_with('#')) continue;
         const auto renamed = renames.find(attribute.value.substr(1));
         if (renamed != renames.end()) attribute.value = "#" + renamed->second;
     }

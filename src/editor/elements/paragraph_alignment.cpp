@@ -66,6 +66,7 @@ public:
         , wanted_(alignment)
     {
         std::tie(first_, end_) = markedLines(lines_, marked);
+        if (page.rules.losesNothing()) headEnd_ = headOf(page).end;
     }
 
     std::vector<BorderSplice> take()
@@ -110,8 +111,7 @@ private:
     void wrap(std::size_t first, std::size_t end)
     {
         auto lines = SourceRange{lines_[first].source.begin, lines_[end - 1].source.end};
-        if (page_.rules.losesNothing()) // events may stand ahead of text without a paragraph
-            lines.begin = std::min(std::max(lines.begin, headOf(page_).end), lines.end);
+        lines.begin = std::min(std::max(lines.begin, headEnd_), lines.end);
         const auto [begin, last] = page_.rules.losesNothing() ? withoutHalves(lines) : lines;
         if (begin >= last && !lines.empty()) return;
         const bool takesBreakAhead = first > 0 && begin == lines.begin && hasBreakBetween(first);
@@ -221,6 +221,7 @@ private:
     Alignment wanted_;
     std::size_t first_ = 0;
     std::size_t end_ = 0;
+    std::size_t headEnd_ = 0; // events may stand ahead of text without a paragraph
     std::vector<BorderSplice> splices_;
 };
 

@@ -4,6 +4,7 @@
 #include "editor/page/card_head.h"
 
 #include "editor/page/clip_tags.h"
+#include "editor/page/going_tags.h"
 
 #include <algorithm>
 
@@ -18,7 +19,7 @@ bool isBlank(std::string_view text)
 
 } // namespace
 
-CardHead headOf(const SurfacePage& page)
+CardHead headOf(const SurfacePage& page, std::span<const SourceRange> going)
 {
     CardHead head{page.content.begin, page.content.begin};
     bool isHead = true;
@@ -32,7 +33,10 @@ CardHead headOf(const SurfacePage& page)
         read = tag.source.end;
         if (isHead && isOfHead(element)) head.end = read;
         if (isHead && element == WmlElement::OnEvent) head.eventsEnd = read;
-        head.hasTimer |= tag.name == TagName::Atom && element == WmlElement::Timer;
+        const bool isTimer = tag.name == TagName::Atom && element == WmlElement::Timer;
+        head.hasTimer |= isTimer && std::ranges::none_of(going, [&](SourceRange piece) {
+            return lies(tag.source, piece);
+        });
     }
     return head;
 }

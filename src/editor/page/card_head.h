@@ -4,6 +4,7 @@
 #include "editor/page/surface_page.h"
 
 #include <cstddef>
+#include <span>
 
 namespace quillmere {
 
@@ -20,7 +21,8 @@ struct CardHead {
     bool hasTimer = false;
 };
 
-/// The head of a page's card. A timer counts wherever it stands.
-[[nodiscard]] CardHead headOf(const SurfacePage& page);
+/// The head of a page's card. A timer counts wherever it stands, but not in pieces that are
+/// `going`.
+[[nodiscard]] CardHead headOf(const SurfacePage& page, std::span<const SourceRange> going = {});
 
 } // namespace quillmere

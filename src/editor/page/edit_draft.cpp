@@ -13,6 +13,7 @@
 #include <iterator>
 #include <span>
 #include <utility>
+#include <vector>
 
 namespace quillmere {
 
@@ -133,10 +134,14 @@ void EditDraft::putMarkup(std::string_view markup)
     shown_.reset();
     const auto& part = parts_.front();
     FittingMarkup fitting{{{part.pasteAt, std::string(markup)}}, {}};
-    if (page_.rules.losesNothing())
-        fitting = fittingMarkup(page_, part.pasteAt, part.round, markup);
+    if (page_.rules.losesNothing()) {
+        std::vector<SourceRange> going(parts_.size());
+        std::ranges::transform(parts_, going.begin(), &RunDeletion::between);
+        fitting = fittingMarkup(page_, part.pasteAt, part.round, markup, going);
+    }
     const auto& here = fitting.here.front().markup;
-    if (standsAside() && !here.empty() && !needsNoParagraph(here, page_.rules))
+    const bool isOnePiece = fitting.here.size() == 1 && !here.empty();
+    if (standsAside() && isOnePiece && !needsNoParagraph(here, page_.rules))
         putAsParagraph(here);
     else
         for (auto& piece : fitting.here)

@@ -28,6 +28,11 @@ bool isPart(E element)
     return std::ranges::find(kParts, element) != std::end(kParts);
 }
 
+bool isOfTable(E element)
+{
+    return element == E::Row || element == E::Cell;
+}
+
 bool isParagraph(E element)
 {
     return element == E::Paragraph || element == E::Pre;
@@ -62,11 +67,11 @@ public:
     {
     }
 
-    FittingMarkup take()
+    FittingMarkup take(std::span<const SourceRange> going)
     {
         takeMarkup();
         FittingMarkup fitting{text_.here(offset_), text_.elsewhere()};
-        putHead(fitting);
+        putHead(fitting, headOf(page_, going));
         return fitting;
     }
 
@@ -81,6 +86,8 @@ private:
             read = source.end;
             if (!isLeftOut(tags_[i]))
                 takeTag(i);
+            else if (isOfTable(tags_[i].element))
+                takeText(text_.isEmpty() ? "" : " ");
             else if (tags_[i].tag.partner != kNoTag)
                 read = tags_[tags_[i].tag.partner].tag.source.end;
         }
@@ -157,10 +164,8 @@ private:
         if (element == E::Timer && timer_.empty()) timer_ = source;
     }
 
-    void putHead(FittingMarkup& fitting) const
+    void putHead(FittingMarkup& fitting, const CardHead& head) const
     {
-        if (events_.empty() && timer_.empty()) return;
-        const auto head = headOf(page_);
         const auto markup = head.hasTimer ? events_ : events_ + timer_;
         if (!markup.empty()) fitting.elsewhere.push_back({head.eventsEnd, markup});
     }
@@ -205,9 +210,10 @@ bool mayStand(const SurfacePage& page, const std::vector<std::size_t>& round, E 
 }
 
 FittingMarkup fittingMarkup(const SurfacePage& page, std::size_t offset,
-    const std::vector<std::size_t>& round, std::string_view markup)
+    const std::vector<std::size_t>& round, std::string_view markup,
+    std::span<const SourceRange> going)
 {
-    return MarkupFitter(page, offset, round, markup).take();
+    return MarkupFitter(page, offset, round, markup).take(going);
 }
 
 } // namespace quillmere

@@ -5,6 +5,7 @@
 #include "editor/page/surface_page.h"
 
 #include <cstddef>
+#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -33,10 +34,12 @@ struct FittingMarkup {
 ///   the outer one; a line break gives a blank; a list in a list gives its entries;
 /// - what else may not stand there goes behind the innermost element that it may follow. Formats
 ///   end ahead of it and begin again behind it instead;
-/// - the events and the timer of a card go to its head, a timer only where there is none;
-/// - tasks without the element that they belong to, rows and cells without their table, and tags
-///   without their other half are left out.
+/// - the events and the timer of a card go to its head, a timer only where none stays: the pieces
+///   `going` are taken out of the text by the same edit;
+/// - rows and cells without their table give their text; tasks without the element that they belong
+///   to, and tags without their other half, are left out.
 [[nodiscard]] FittingMarkup fittingMarkup(const SurfacePage& page, std::size_t offset,
-    const std::vector<std::size_t>& round, std::string_view markup);
+    const std::vector<std::size_t>& round, std::string_view markup,
+    std::span<const SourceRange> going = {});
 
 } // namespace quillmere

@@ -44,8 +44,8 @@ void FittingText::close()
     const auto closed = levels_.close();
     auto& text = textOf(closed.sink);
     text += written(closed, closed.end);
-    beginFormats(text, closed.reopened);
     text += closed.behind;
+    beginFormats(text, closed.reopened);
 }
 
 /// Makes a place behind formats one in the innermost level, where they end; returns the tags that

@@ -76,6 +76,11 @@ TEST(FittingMarkup, GoesWhereWmlAllowsIt)
         {"an event stays in its own entry", "<p>o|n</p>",
             "<!--select--><!--option-->x" + event + "<!--/option--><!--/select-->",
             "<p>o<!--select--><!--option-->x" + event + "|<!--/option--><!--/select-->n</p>"},
+        {"behind it formats begin again", "<p><b>on|e</b></p>",
+            "<!--select--><!--option-->x" + field + "<!--/option--><!--/select-->",
+            "<p><b>on</b>" + kList + field + "|<b>e</b></p>"},
+        {"cells without a table give their text", "<p>o|n</p>", "<tr><td>a</td><td>b</td></tr>",
+            "<p>oa b|n</p>"},
         {"halves of pairs are left out", "<p>o|n</p>", "a</b></a><i>b", "<p>oab|n</p>"},
         {"a paragraph is a line", "<p>o|n</p>", "<p>a</p><p>b</p>", "<p>oa<br/>b|n</p>"},
         {"what fits comes as it is", "<p>o|n</p>",
@@ -84,6 +89,15 @@ TEST(FittingMarkup, GoesWhereWmlAllowsIt)
     };
     for (const auto& row : rows)
         EXPECT_EQ(pasted(row.content, row.clip), row.wanted) << row.name;
+}
+
+TEST(FittingMarkup, BringsATimerInPlaceOfOneThatGoes)
+{
+    const auto text = "<!--card--><BODY>" + std::string(kTimer) + "<p>one</p></BODY>";
+    const auto page = readSurfacePage(text, kRules);
+    const PagePlace end{page.blocks.size() - 1, 3};
+    const auto edit = pasteMarkup(page, {0, 0}, end, "<!--#timer new--><p>x</p>");
+    EXPECT_EQ(edited(text, edit, kRules), "<!--card--><BODY><!--#timer new--><p>x</p></BODY>");
 }
 
 TEST(FittingMarkup, IsAskedByElementsFromTheClipboardToo)
