@@ -22,7 +22,7 @@ constexpr auto kPause = std::chrono::milliseconds(30);
 std::string outputOf(const std::string& command)
 {
     std::string output;
-    auto* pipe = ::popen(command.c_str(), "r");
+    auto* pipe = ::popen(command.c_str(), "r"); // NOLINT(cert-env33-c): of the tests' own words
     if (pipe == nullptr) throw std::runtime_error("no shell");
     std::array<char, 4096> part{};
     for (std::size_t count = 0; (count = ::fread(part.data(), 1, part.size(), pipe)) > 0;)
@@ -67,16 +67,17 @@ Desktop::Desktop()
 
 Desktop::Programs::~Programs()
 {
-    for (auto id = ids.rbegin(); id != ids.rend(); ++id) {
-        ::kill(*id, SIGKILL);
-        ::waitpid(*id, nullptr, 0);
-    }
+    std::for_each(ids.rbegin(), ids.rend(), [](pid_t id) {
+        ::kill(id, SIGKILL);
+        ::waitpid(id, nullptr, 0);
+    });
 }
 
 pid_t Desktop::start(const std::vector<std::string>& words)
 {
     std::vector<std::string> copies = words;
     std::vector<char*> arguments;
+    arguments.reserve(copies.size() + 1);
     for (auto& word : copies)
         arguments.push_back(word.data());
     arguments.push_back(nullptr);
@@ -133,7 +134,7 @@ std::string Desktop::window(const std::string& title) const
     return linesOf(tell("search --onlyvisible --name '" + title + "'")).front();
 }
 
-void Desktop::waitUntil(const std::string& what, const std::function<bool()>& holds) const
+void Desktop::waitUntil(const std::string& what, const std::function<bool()>& holds)
 {
     const auto until = std::chrono::steady_clock::now() + kPatience;
     while (!holds()) {

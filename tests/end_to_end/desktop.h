@@ -30,7 +30,7 @@ public:
     std::string window(const std::string& title) const;
     /// How many windows are seen with this in their title.
     std::size_t windows(const std::string& title) const;
-    void waitUntil(const std::string& what, const std::function<bool()>& holds) const;
+    static void waitUntil(const std::string& what, const std::function<bool()>& holds);
     /// Brings a window to the front and waits until it has the keyboard.
     void focus(const std::string& window) const;
 

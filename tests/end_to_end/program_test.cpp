@@ -34,11 +34,11 @@ struct WholeProgram : testing::Test {
         std::string text = kDeck;
         return text.insert(text.find("Guten"), "neu ");
     }
-    std::string saved() { return desktop.folder.get("meine decks/index.wml"); }
+    std::string saved() const { return desktop.folder.get("meine decks/index.wml"); }
     pid_t open() { return desktop.start({QUILLMERE, deck}); }
     static void rest() { std::this_thread::sleep_for(std::chrono::milliseconds(500)); }
     /// The main window with the deck in it, in front.
-    std::string mainWindow()
+    std::string mainWindow() const
     {
         auto window = desktop.window("index.wml.* MORVANE Quillmere");
         desktop.focus(window);
@@ -53,7 +53,7 @@ struct WholeProgram : testing::Test {
             "mark of a change", [this] { return desktop.windows("[*].*Quillmere") == 1; });
     }
     void type() { typeAt("ctrl+Home", "neu "); }
-    void press(const char* key) { (void)desktop.tell(std::string("key ") + key); }
+    void press(const char* key) const { (void)desktop.tell(std::string("key ") + key); }
     /// Saves the deck, which is then this, and ends the program.
     void saveAndEnd(pid_t program, const std::string& wanted)
     {
@@ -93,7 +93,7 @@ struct WholeProgram : testing::Test {
         (void)mainWindow();
         return program;
     }
-    void setting(const std::string& line)
+    void setting(const std::string& line) const
     {
         (void)desktop.folder.put("config/MORVANE/Quillmere.conf", "[General]\n" + line + "\n");
     }
@@ -121,8 +121,8 @@ TEST_F(WholeProgram, ASecondStartBringsTheFirstToTheFrontAndLeaves)
 TEST_F(WholeProgram, ASecondStartDuringTheSplashDoesNotDisturbTheFirst)
 {
     const auto program = open();
-    desktop.waitUntil(
-        "splash", [this] { return desktop.tell("search --onlyvisible --class quillmere") != ""; });
+    desktop.waitUntil("splash",
+        [this] { return !desktop.tell("search --onlyvisible --class quillmere").empty(); });
     EXPECT_EQ(desktop.waitForEnd(open()), 0);
     (void)mainWindow(); // with the deck in it
     press("Escape");

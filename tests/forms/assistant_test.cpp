@@ -19,7 +19,7 @@ struct Assistant : testing::Test {
     {
         const auto note = [this](const char* name) {
             return [this, name] {
-                log.push_back(QApplication::activeModalWidget() == nullptr ? name : "too early");
+                log.emplace_back(QApplication::activeModalWidget() == nullptr ? name : "too early");
             };
         };
         withNextModal(use);
@@ -27,7 +27,7 @@ struct Assistant : testing::Test {
             program.session, {note("new"), note("open"), note("templates")}, nullptr);
         return std::exchange(log, {});
     }
-    std::string shows() { return program.settings.ReadSetting("ShowStartDialog"); }
+    std::string shows() const { return program.settings.ReadSetting("ShowStartDialog"); }
 };
 
 TEST_F(Assistant, LeadsToWhatIsChosenByMouseOrKeyboard)

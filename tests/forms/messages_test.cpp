@@ -44,7 +44,10 @@ struct Notes : testing::Test {
         const auto wanted = messageIcon(icon, activeTheme(program.session.skins), 1);
         return dynamic_cast<QMessageBox&>(box).iconPixmap().toImage() == wanted.toImage();
     }
-    std::string setting(const NoteCase& note) { return program.settings.ReadSetting(note.setting); }
+    std::string setting(const NoteCase& note) const
+    {
+        return program.settings.ReadSetting(note.setting);
+    }
 };
 
 TEST_F(Notes, ShowTheirTextAndWriteTheirSettingOnOkOnly)

@@ -146,7 +146,7 @@ TEST(ApplyEditorSkin, AnySkinFileLeavesAWindow)
     for (int i = 450; i < wild.size(); i += 7)
         wild[i] = char(i * 31);
     const QByteArray kFiles[] = {"", "x", good.left(20167), good.left(30000), good + "rest", wild,
-        QByteArray(20168, '\0'), QByteArray(3 * 20168, ' '), QByteArray(20168, '\xFF')};
+        QByteArray(20168, '\0'), QByteArray(60504, ' '), QByteArray(20168, '\xFF')};
     // the index of the telephone: where there is no editor skin that of the spare record, or beyond
     for (int i = 0; i < 2 * int(std::size(kFiles)); ++i) {
         SCOPED_TRACE(i);

@@ -69,8 +69,7 @@ struct Program {
 /// Ends the program but leaves its directory, as a crash does. Returns that.
 std::string crash(std::unique_ptr<Program> program)
 {
-    const auto directory
-        = program->files.directory().substr(0, program->files.directory().size() - 1);
+    auto directory = program->files.directory().substr(0, program->files.directory().size() - 1);
     std::filesystem::rename(directory, directory + "-hidden");
     program.reset();
     std::filesystem::rename(directory + "-hidden", directory);
@@ -154,7 +153,7 @@ TEST(Recovery, WithoutLossGoesOnWhereTheRunWas)
     const std::string file = "<wml>\n<card id='a'><p>eins <b>zwei</p></card>\n"
                              "<card id='b'><p  >drei<timer value='1'/> vier "
                              "<img alt=\"\" src='x.wbmp' width='9'/></p></card></wml>\n";
-    const auto with = [&](std::string before, const std::string& after) {
+    const auto with = [&](const std::string& before, const std::string& after) {
         auto text = file;
         return text.replace(text.find(before), before.size(), after);
     };
@@ -296,7 +295,7 @@ TEST(Recovery, LosesNothingHoweverOftenTheProgramIsKilled)
         whole = withoutNumbers(program.written());
         (void)folder.put("deck/index.wml", program.written());
     }
-    std::mt19937 random(20260);
+    std::mt19937 random(20260); // NOLINT(cert-msc32-c,cert-msc51-cpp): the same each time
     int longestUs = 50'000; // grows where the machine is too slow to save anything in that time
     int saved = 0;
     int recovered = 0;

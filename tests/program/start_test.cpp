@@ -118,6 +118,7 @@ TEST(CommandLine, GivesABareNameTheDirectoryThatItWasTypedIn)
     (void)folder.put("meine seite.wml", "");
     const auto line = [&](std::vector<std::string> arguments) {
         std::vector<char*> pointers;
+        pointers.reserve(arguments.size());
         for (auto& argument : arguments)
             pointers.push_back(argument.data());
         return commandLineOf(pointers, folder.path());

@@ -34,7 +34,7 @@ Log stateOf(DeckDesk& desk)
         const auto pristine = deck.front().pristineDir + deck.front().pristineFile;
         if (!pristine.empty()) state.push_back(desk.workFiles.read(pristine));
     }
-    state.push_back(desk.window.isChanged ? "changed" : "");
+    state.emplace_back(desk.window.isChanged ? "changed" : "");
     state.push_back(std::to_string(desk.session.document.currentArea));
     return state;
 }

@@ -109,7 +109,7 @@ TEST(HitTest, AgreesWithTheRuleWordForWord)
     constexpr std::string_view kTokens[] = {"<a>", "<A", "</a>", "x", ">"};
     test::forEachSequence(kTokens, 5, [](const std::string& text) {
         for (std::size_t at = 0; at <= text.size(); ++at) {
-            for (const std::size_t length : {0, 1}) {
+            for (const std::size_t length : {0U, 1U}) {
                 if (at + length > text.size()) continue;
                 SurfaceSelection selection;
                 selection.marked = {at, at + length};

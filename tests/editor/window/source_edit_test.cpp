@@ -29,7 +29,7 @@ std::string runsOf(const QString& source)
         std::string letters(static_cast<std::size_t>(line.size()), '.');
         for (const auto& run : runs)
             for (int i = 0; i < run.length; ++i)
-                letters.at(static_cast<std::size_t>(run.begin + i))
+                letters.at(static_cast<std::size_t>(run.begin) + static_cast<std::size_t>(i))
                     = kLetters.at(static_cast<std::size_t>(run.token));
         result += letters + '\n';
     }

@@ -50,18 +50,18 @@ struct Desk {
     {
         return *edit.findChild<Control*>(QLatin1String(name));
     }
-    void key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
+    static void key(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier)
     {
         QTest::keyClick(QApplication::focusWidget(), static_cast<Qt::Key>(key), modifiers);
     }
-    void type(const char* text)
+    static void type(const char* text)
     {
         QTest::keyClicks(QApplication::focusWidget(), QString::fromUtf8(text));
     }
     void click(const char* name) { QTest::mouseClick(&control<QWidget>(name), Qt::LeftButton); }
     std::string told() { return control<QLabel>("lblHits").text().toStdString(); }
     int caret() { return edit.textCursor().selectionStart(); }
-    std::string focus() { return QApplication::focusWidget()->objectName().toStdString(); }
+    static std::string focus() { return QApplication::focusWidget()->objectName().toStdString(); }
 };
 
 TEST(SourceSearchBar, GoesFromHitToHitWithTheKeyboard)
