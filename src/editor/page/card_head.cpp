@@ -34,8 +34,9 @@ CardHead headOf(const SurfacePage& page, std::span<const SourceRange> going)
         if (isHead && isOfHead(element)) head.end = read;
         if (isHead && element == WmlElement::OnEvent) head.eventsEnd = read;
         const bool isTimer = tag.name == TagName::Atom && element == WmlElement::Timer;
-        head.hasTimer |= isTimer && std::ranges::none_of(going, [&](SourceRange piece) {
-            return lies(tag.source, piece);
+        const auto source = tag.source;
+        head.hasTimer |= isTimer && std::ranges::none_of(going, [source](SourceRange piece) {
+            return lies(source, piece);
         });
     }
     return head;
